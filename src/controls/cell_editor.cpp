@@ -1,0 +1,105 @@
+#include "controls/cell_editor.h"
+
+#include "controls/form.h"
+#include "runtime/text.h"
+
+namespace terravane {
+
+CellEditor::CellEditor(Form& owner, std::string name, TextGrid& grid, std::function<CellRange()> range,
+                       CommitRule commit)
+    : TextControl(owner, std::move(name)), grid_(grid), range_(std::move(range)), commit_(std::move(commit))
+{
+    SetVisible(false);
+    grid.SetEditor(this);
+}
+
+void CellEditor::SetText(std::string_view text)
+{
+    if (text_ == text) return;
+    text_ = text;
+    Changed();
+}
+
+bool CellEditor::OpenAt(int row, int column)
+{
+    HideSiblings();
+    if (!Range().Holds(row, column)) {
+        Hide();
+        return false;
+    }
+    grid_.Select(row, column);
+    SetText(grid_(row, column));
+    SetVisible(true);
+    SetFocus();
+    Changed();  // the cell may be another though text and state are the same
+    return true;
+}
+
+void CellEditor::Commit()
+{
+    const int row = grid_.Row(), column = grid_.Column();
+    std::string text(Trim(text_));
+    grid_(row, column) = commit_ ? commit_(row, column, std::move(text)) : text;
+}
+
+bool CellEditor::PressKey(Key key)
+{
+    Raise("KeyDown", [&] {
+        if (key == Key::Esc) return HideEditors(Owner());
+        if (key == Key::Enter) Commit();
+        Walk(key);
+        if (key == Key::Enter) SelectAll();
+    });
+    return true;
+}
+
+void CellEditor::PressLeft(int row, int column)
+{
+    if (OpenAt(row, column)) SelectAll();
+}
+
+CellEditor::Place CellEditor::Next(Key key) const
+{
+    const CellRange range = Range();
+    const int row = grid_.Row(), column = grid_.Column();
+    switch (key) {
+        case Key::Up:
+            return row > range.firstRow ? Place{row - 1, column} : Place{row, column};
+        case Key::Down:
+            return row < range.lastRow ? Place{row + 1, column} : Place{row, column};
+        case Key::Left:
+            return column > range.firstColumn ? Place{row, column - 1} : Place{row, column};
+        case Key::Enter:
+            if (row < range.lastRow) return {row + 1, column};
+            return column < range.lastColumn ? Place{range.firstRow, column + 1} : Place{row, column};
+        case Key::Right:
+        case Key::Tab:
+            if (column < range.lastColumn) return {row, column + 1};
+            return row < range.lastRow ? Place{row + 1, range.firstColumn} : Place{row, column};
+        case Key::Esc:
+            break;
+    }
+    return {row, column};
+}
+
+void CellEditor::Walk(Key key)
+{
+    const Place next = Next(key);
+    OpenAt(next.row, next.column);
+}
+
+void CellEditor::HideSiblings()
+{
+    for (Control* control : Owner().Controls()) {
+        if (auto* other = dynamic_cast<CellEditor*>(control); other && other != this) other->Hide();
+    }
+}
+
+void HideEditors(Form& form)
+{
+    for (Control* control : form.Controls()) {
+        if (auto* editor = dynamic_cast<CellEditor*>(control)) editor->Hide();
+    }
+}
+
+}  // namespace terravane

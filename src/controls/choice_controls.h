@@ -1,0 +1,71 @@
+/// Controls that are pressed or switched.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "controls/control.h"
+
+namespace terravane {
+
+/// A push button. '&' in its caption marks the key that presses it with Alt.
+class CommandButton : public Control {
+  public:
+    using Control::Control;
+
+    /// The user's press; nothing happens where the button is disabled.
+    void Press();
+
+    Handler Click;
+};
+
+/// One of several that exclude each other: those of the same group name on the form.
+class OptionButton : public Control {
+  public:
+    OptionButton(Form& owner, std::string name, std::string caption, std::string group, bool value = false);
+
+    bool Value() const { return value_; }
+    const std::string& Group() const { return group_; }
+    /// Chooses this one: the others of the group go off, and Click runs if it was not chosen before.
+    void Choose();
+    /// Takes the choice away without choosing another; runs no event.
+    void Release();
+
+    Handler Click;
+
+  private:
+    std::string group_;
+    bool value_;
+};
+
+class CheckBox : public Control {
+  public:
+    CheckBox(Form& owner, std::string name, std::string caption, bool value = false);
+
+    bool Value() const { return value_; }
+    /// Click runs where the state changes, whoever changes it.
+    void SetValue(bool value);
+
+    Handler Click;
+
+  private:
+    bool value_;
+};
+
+/// A list of which any number of entries may be selected.
+class ListBox : public Control {
+  public:
+    ListBox(Form& owner, std::string name, std::vector<std::string> list);
+
+    const std::vector<std::string>& List() const { return list_; }
+    bool Selected(std::size_t index) const { return selected_.at(index); }
+    void SetSelected(std::size_t index, bool selected);
+
+    Handler Click;
+
+  private:
+    std::vector<std::string> list_;
+    std::vector<bool> selected_;
+};
+
+}  // namespace terravane

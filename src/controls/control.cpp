@@ -1,0 +1,91 @@
+#include "controls/control.h"
+
+#include "controls/form.h"
+
+namespace terravane {
+
+Control::Control(Form& owner, std::string name, std::string caption)
+    : owner_(owner), name_(std::move(name)), caption_(std::move(caption))
+{
+    owner.Register(*this);
+}
+
+namespace {
+
+/// Sets and tells, where there is anything new to tell.
+template <class T>
+bool Assign(T& member, T value)
+{
+    if (member == value) return false;
+    member = std::move(value);
+    return true;
+}
+
+}  // namespace
+
+void Control::SetCaption(std::string caption)
+{
+    if (Assign(caption_, std::move(caption))) Changed();
+}
+
+void Control::SetToolTip(std::string toolTip)
+{
+    if (Assign(toolTip_, std::move(toolTip))) Changed();
+}
+
+void Control::SetEnabled(bool enabled)
+{
+    if (Assign(enabled_, enabled)) Changed();
+}
+
+void Control::SetVisible(bool visible)
+{
+    if (Assign(visible_, visible)) Changed();
+}
+
+void Control::SetBackColor(std::optional<Colour> colour)
+{
+    if (Assign(backColour_, colour)) Changed();
+}
+
+void Control::SetForeColor(std::optional<Colour> colour)
+{
+    if (Assign(foreColour_, colour)) Changed();
+}
+
+void Control::SetFocus()
+{
+    owner_.MoveFocus(*this);
+}
+
+bool Control::HasFocus() const
+{
+    return owner_.ActiveControl() == this;
+}
+
+void Control::SelectAll()
+{
+    ++selectAllRequests_;
+    Changed();
+}
+
+bool Control::PressKey(Key key)
+{
+    if (!KeyPress) return false;
+    bool taken = false;
+    Raise("KeyPress", [&] { taken = KeyPress(key); });
+    return taken;
+}
+
+Subscription Control::Show(std::function<void()> view)
+{
+    view();
+    return changes_.Listen(std::move(view));
+}
+
+void Control::Raise(std::string_view event, const Handler& handler)
+{
+    if (handler) owner_.RunEvent(name_ + "_" + std::string(event), handler);
+}
+
+}  // namespace terravane

@@ -1,0 +1,91 @@
+/// A control without a window: text and state that handlers read and write, events that a view, a script or a
+/// test sets off. Knows no project, no report and no toolkit.
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "controls/subscription.h"
+#include "drawing/display_list.h"
+
+namespace terravane {
+
+class Form;
+
+/// The keys that handlers know; what a key types is the view's.
+enum class Key { Enter, Esc, Up, Down, Left, Right, Tab };
+
+/// A handler of an event of one control, set by the form that owns the control.
+using Handler = std::function<void()>;
+
+/// A control is a member of its form, found by handlers as that member and by everyone else by its name. It
+/// registers itself with the form and lives exactly as long.
+class Control {
+  public:
+    Control(Form& owner, std::string name, std::string caption = {});
+    virtual ~Control() = default;
+    Control(const Control&) = delete;
+    Control& operator=(const Control&) = delete;
+
+    const std::string& Name() const { return name_; }
+    Form& Owner() const { return owner_; }
+
+    /// What the control shows as its text: a box's content, a button's or a label's caption.
+    virtual std::string Text() const { return caption_; }
+
+    const std::string& Caption() const { return caption_; }
+    void SetCaption(std::string caption);
+    const std::string& ToolTip() const { return toolTip_; }
+    void SetToolTip(std::string toolTip);
+
+    bool Enabled() const { return enabled_; }
+    void SetEnabled(bool enabled);
+    bool Visible() const { return visible_; }
+    void SetVisible(bool visible);
+
+    /// Empty where the platform's own colour holds.
+    std::optional<Colour> BackColor() const { return backColour_; }
+    void SetBackColor(std::optional<Colour> colour);
+    std::optional<Colour> ForeColor() const { return foreColour_; }
+    void SetForeColor(std::optional<Colour> colour);
+
+    /// Gives the control the form's focus: the control that had it is told first, then this one. A view calls
+    /// it when the user enters the control; nothing happens where it has the focus already.
+    void SetFocus();
+    bool HasFocus() const;
+    /// Bumped each time a handler wants the text selected whole; a view compares it with the last it saw.
+    int SelectAllRequests() const { return selectAllRequests_; }
+    void SelectAll();
+
+    /// A key pressed in the control. True where a handler took it, so that it does nothing else.
+    virtual bool PressKey(Key key);
+
+    /// Runs `view` now and after every change of what is to be seen.
+    Subscription Show(std::function<void()> view);
+    /// Tells the views; for state that a derived control keeps.
+    void Changed() { changes_.Announce(); }
+
+    /// Events; empty ones do nothing.
+    Handler GotFocus;
+    Handler LostFocus;
+    Handler MouseMove;
+    std::function<bool(Key)> KeyPress;
+
+  protected:
+    /// Runs a handler inside the program's event boundary under the name "control_Event".
+    void Raise(std::string_view event, const Handler& handler);
+
+  private:
+    friend class Form;
+
+    Form& owner_;
+    std::string name_, caption_, toolTip_;
+    bool enabled_ = true, visible_ = true;
+    std::optional<Colour> backColour_, foreColour_;
+    int selectAllRequests_ = 0;
+    Announcement changes_;
+};
+
+}  // namespace terravane

@@ -1,0 +1,81 @@
+/// A form without a window: controls as members, handlers as members, everything findable by name.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "controls/control.h"
+
+namespace terravane {
+
+/// The one place where a failing command is caught. Program implements it; a test may use a plain one.
+class EventBoundary {
+  public:
+    virtual ~EventBoundary() = default;
+
+    /// Runs a handler. The outermost call catches what it throws, shows it and leaves the form as it stands;
+    /// a call from inside a running handler lets it through, since a command that fails, fails as a whole.
+    virtual void Run(std::string_view event, const std::function<void()>& handler) = 0;
+};
+
+class Form {
+  public:
+    /// name  of the form in code, script and file, "frmCompaction"
+    Form(EventBoundary& boundary, std::string name, std::string caption);
+    virtual ~Form() = default;
+    Form(const Form&) = delete;
+    Form& operator=(const Form&) = delete;
+
+    const std::string& Name() const { return name_; }
+    const std::string& Caption() const { return caption_; }
+    void SetCaption(std::string caption);
+
+    /// Twips on the screen; only forms that place themselves set them.
+    double Left = 0, Top = 0, Width = 0, Height = 0;
+
+    /// The form's own events, run by whoever loads, shows and unloads forms.
+    virtual void Form_Load() {}
+    virtual void Form_Activate() {}
+    virtual void Form_Unload() {}
+
+    /// The control of that name, without regard to case; none: nullptr.
+    Control* Find(std::string_view name) const;
+    /// The same as a control of kind T; error 424 names form and control where there is none of that kind.
+    template <class T>
+    T& Get(std::string_view name) const;
+
+    /// In order of declaration.
+    const std::vector<Control*>& Controls() const { return controls_; }
+
+    Control* ActiveControl() const { return active_; }
+
+    /// Runs `view` after a change of the caption or of the control that has the focus.
+    Subscription Show(std::function<void()> view);
+
+    /// Runs a handler of this form inside the event boundary; the event is named "form.control_Event" in
+    /// errors.
+    void RunEvent(std::string_view event, const Handler& handler);
+
+  private:
+    friend class Control;
+    void Register(Control& control) { controls_.push_back(&control); }
+    void MoveFocus(Control& control);
+    [[noreturn]] void FailMissing(std::string_view name) const;
+
+    EventBoundary& boundary_;
+    std::string name_, caption_;
+    std::vector<Control*> controls_;
+    Control* active_ = nullptr;
+    Announcement changes_;
+};
+
+template <class T>
+T& Form::Get(std::string_view name) const
+{
+    if (auto* control = dynamic_cast<T*>(Find(name))) return *control;
+    FailMissing(name);
+}
+
+}  // namespace terravane

@@ -1,0 +1,22 @@
+/// A control that is drawn on and keeps its drawing.
+#pragma once
+
+#include "controls/control.h"
+#include "drawing/drawing_surface.h"
+
+namespace terravane {
+
+/// The surface's sizes are the box's own, in twips; a window shows them through a scale and never changes
+/// them. The view is told once a command, by Changed(), not at every stroke.
+class PictureBox : public Control, public DrawingSurface {
+  public:
+    PictureBox(Form& owner, std::string name, double left, double top, double width, double height)
+        : Control(owner, std::move(name)), DrawingSurface(width, height), Left(left), Top(top)
+    {}
+
+    using DrawingSurface::ForeColor;  // the pen's; a picture box has no other
+
+    double Left, Top;  // twips, in the box's container
+};
+
+}  // namespace terravane

@@ -1,0 +1,129 @@
+#include "controls/text_grid.h"
+
+#include "runtime/runtime_error.h"
+
+namespace terravane {
+
+namespace {
+
+/// A table that grows past this comes of a slip of the pen, such as a step of 0.0000001: it fails before it
+/// takes the machine's memory.
+constexpr int kMostRows = 1'000'000;
+
+}  // namespace
+
+Cell& Cell::operator=(std::string_view text)
+{
+    grid_.Set(row_, column_, text);
+    return *this;
+}
+
+const std::string& Cell::Text() const
+{
+    return grid_.cells_[grid_.Index(row_, column_)];
+}
+
+TextGrid::TextGrid(Form& owner, std::string name, int rows, int columns)
+    : Control(owner, std::move(name)),
+      rows_(rows),
+      columns_(columns),
+      cells_(static_cast<std::size_t>(rows * columns)),
+      calculated_(cells_.size(), false),
+      columnWidths_(static_cast<std::size_t>(columns), 0)
+{}
+
+void TextGrid::SetRows(int rows)
+{
+    rows_ = rows;
+    cells_.resize(static_cast<std::size_t>(rows * columns_));
+    calculated_.resize(cells_.size(), false);
+    if (row_ >= rows) row_ = 0;
+    Changed();
+}
+
+Cell TextGrid::operator()(int row, int column)
+{
+    Index(row, column);
+    return {*this, row, column};
+}
+
+const std::string& TextGrid::operator()(int row, int column) const
+{
+    return cells_[Index(row, column)];
+}
+
+void TextGrid::AppendRow(std::vector<std::string> cells)
+{
+    if (rows_ >= kMostRows) throw RuntimeError(error::kOutOfMemory);
+    cells.resize(static_cast<std::size_t>(columns_));
+    for (auto& cell : cells) cells_.push_back(std::move(cell));
+    ++rows_;
+    calculated_.resize(cells_.size(), false);
+    Changed();
+}
+
+void TextGrid::SetRowTitles(const std::vector<std::string_view>& titles)
+{
+    for (std::size_t row = 0; row < titles.size(); ++row) Set(static_cast<int>(row), 0, titles[row]);
+}
+
+void TextGrid::SetColumnTitles(const std::vector<std::string_view>& titles)
+{
+    for (std::size_t column = 0; column < titles.size(); ++column)
+        Set(0, static_cast<int>(column), titles[column]);
+}
+
+void TextGrid::MarkCalculatedRow(int row, int firstColumn)
+{
+    for (int column = firstColumn; column < columns_; ++column) MarkCalculated(row, column);
+}
+
+void TextGrid::MarkCalculated(int row, int column)
+{
+    calculated_[Index(row, column)] = true;
+    Changed();
+}
+
+bool TextGrid::IsCalculated(int row, int column) const
+{
+    return calculated_[Index(row, column)];
+}
+
+void TextGrid::SetColumnWidth(int column, double twips)
+{
+    columnWidths_.at(static_cast<std::size_t>(column)) = twips;
+    Changed();
+}
+
+void TextGrid::Select(int row, int column)
+{
+    Index(row, column);
+    if (row == row_ && column == column_) return;
+    row_ = row;
+    column_ = column;
+    Changed();
+}
+
+void TextGrid::PressMouse(MouseButton button, int row, int column)
+{
+    Index(row, column);
+    if (MouseDown) Raise("MouseDown", [&] { MouseDown(button, row, column); });
+}
+
+std::size_t TextGrid::Index(int row, int column) const
+{
+    if (row < 0 || row >= rows_ || column < 0 || column >= columns_) {
+        throw RuntimeError(error::kSubscriptOutOfRange);
+    }
+    return static_cast<std::size_t>(row * columns_ + column);
+}
+
+void TextGrid::Set(int row, int column, std::string_view text)
+{
+    auto& cell = cells_[Index(row, column)];
+    if (cell == text) return;
+    cell = text;
+    Changed();
+}
+
+}  // namespace terravane

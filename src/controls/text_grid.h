@@ -1,0 +1,98 @@
+/// A grid of texts addressed by (row, column): the working memory of a test. Row 0 and column 0 hold titles
+/// unless the grid's owner says otherwise.
+#pragma once
+
+#include <ostream>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "controls/control.h"
+
+namespace terravane {
+
+class CellEditor;
+class TextGrid;
+
+enum class MouseButton { Left, Right };
+
+/// One cell: reads as its text, takes a text.
+class Cell {
+  public:
+    Cell(TextGrid& grid, int row, int column) : grid_(grid), row_(row), column_(column) {}
+    Cell(const Cell&) = default;
+    Cell& operator=(std::string_view text);
+    Cell& operator=(const Cell& other) { return *this = std::string_view(other); }
+
+    operator std::string_view() const { return Text(); }
+    const std::string& Text() const;
+    friend bool operator==(const Cell& cell, std::string_view text) { return cell.Text() == text; }
+    friend std::ostream& operator<<(std::ostream& out, const Cell& cell)
+    {
+        return out << '"' << cell.Text() << '"';
+    }
+
+  private:
+    TextGrid& grid_;
+    int row_, column_;
+};
+
+class TextGrid : public Control {
+  public:
+    TextGrid(Form& owner, std::string name, int rows, int columns);
+
+    int Rows() const { return rows_; }
+    int Columns() const { return columns_; }
+    /// Keeps the rows that stay; new ones are empty.
+    void SetRows(int rows);
+
+    /// Error 9 "Subscript out of range" outside the grid.
+    Cell operator()(int row, int column);
+    const std::string& operator()(int row, int column) const;
+    /// A whole row appended; missing cells are empty. Error 7 past a million rows.
+    void AppendRow(std::vector<std::string> cells);
+
+    /// The first cell of each row from the first, or of each column: titles.
+    void SetRowTitles(const std::vector<std::string_view>& titles);
+    void SetColumnTitles(const std::vector<std::string_view>& titles);
+
+    /// Rows whose cells are worked out, not typed (button-face colour), in all columns from 1 unless
+    /// `firstColumn` says.
+    void MarkCalculatedRow(int row, int firstColumn = 1);
+    void MarkCalculated(int row, int column);
+    bool IsCalculated(int row, int column) const;
+    int HeadRows() const { return headRows_; }
+    void SetHeadRows(int rows) { headRows_ = rows; }
+
+    /// Width of a column and height of a row in twips, as the sheet lays them out; 0: an even share.
+    double ColumnWidth(int column) const { return columnWidths_.at(static_cast<std::size_t>(column)); }
+    void SetColumnWidth(int column, double twips);
+
+    /// The current cell.
+    int Row() const { return row_; }
+    int Column() const { return column_; }
+    void Select(int row, int column);
+
+    /// The user's press on a cell.
+    void PressMouse(MouseButton button, int row, int column);
+    std::function<void(MouseButton button, int row, int column)> MouseDown;
+
+    /// The editor that floats over this grid, if any. Several may share a grid's cells by column; the form
+    /// chooses.
+    CellEditor* Editor() const { return editor_; }
+    void SetEditor(CellEditor* editor) { editor_ = editor; }
+
+  private:
+    friend class Cell;
+    std::size_t Index(int row, int column) const;
+    void Set(int row, int column, std::string_view text);
+
+    int rows_, columns_, headRows_ = 1;
+    int row_ = 0, column_ = 0;
+    std::vector<std::string> cells_;
+    std::vector<bool> calculated_;
+    std::vector<double> columnWidths_;
+    CellEditor* editor_ = nullptr;
+};
+
+}  // namespace terravane

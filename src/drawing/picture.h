@@ -1,0 +1,31 @@
+/// Picture files, taken by what is inside them whatever their names say.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "runtime/file_system.h"
+
+namespace terravane {
+
+enum class PictureFormat { Jpeg, Png, Bmp, Gif, Ico };
+
+/// name    the file's name, as in answers ("dep_logo.jpg")
+/// width, height  pixels, from the file's own header
+/// bytes   the file as it is; decoding is the renderer's
+struct Picture {
+    std::string name;
+    PictureFormat format = PictureFormat::Jpeg;
+    int width = 0, height = 0;
+    Bytes bytes;
+    bool operator==(const Picture&) const = default;
+};
+
+/// Reads a picture's header. Error 481 "Invalid picture" (the name in the description) for bytes of no known
+/// format, for a size of zero and for one above 100 million pixels.
+std::shared_ptr<const Picture> ReadPicture(std::string name, Bytes bytes);
+
+/// The same from a file; error 53 names the path where there is none.
+std::shared_ptr<const Picture> LoadPicture(const FileSystem& files, const std::string& path);
+
+}  // namespace terravane

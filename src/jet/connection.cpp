@@ -1,0 +1,151 @@
+#include "jet/connection.h"
+
+#include <functional>
+#include <string>
+#include <utility>
+#include <variant>
+
+#include "jet/header_page.h"
+
+namespace terravane::jet {
+
+namespace {
+
+constexpr std::string_view kExtension = ".mdb";
+
+std::string Quoted(const std::string& path)
+{
+    return "'" + path + "'";
+}
+
+/// What a statement does to a database.
+struct Executor {
+    Database& database;
+
+    Recordset operator()(const SelectStatement& select) const { return Recordset(database.Select(select)); }
+    Recordset operator()(const UpdateStatement& update) const
+    {
+        return Recordset::Affected(database.Update(update));
+    }
+    Recordset operator()(const InsertStatement& insert) const
+    {
+        return Recordset::Affected(database.Insert(insert));
+    }
+    Recordset operator()(const CreateTableStatement& create) const
+    {
+        database.Create(create);
+        return {};
+    }
+};
+
+Recordset ExecuteOn(Database& database, std::string_view statement)
+{
+    return std::visit(Executor{database}, ReadStatement(statement));
+}
+
+Database OpenBytes(Bytes bytes, const std::string& path)
+try {
+    if (!HasSignature(bytes))
+        throw RuntimeError(engine::kFile, "Unrecognized database format " + Quoted(path) + ".");
+    return Database(std::move(bytes));
+} catch (const RuntimeError& error) {
+    if (error.Description().find(path) != std::string::npos) throw;
+    throw RuntimeError(error.Number(), error.Description() + " The file is " + Quoted(path) + ".");
+}
+
+/// The lock file that other programs keep beside a database while they have it open.
+std::string LockFileOf(const std::string& path)
+{
+    const bool hasExtension = path.size() > kExtension.size() && path[path.size() - kExtension.size()] == '.';
+    return (hasExtension ? path.substr(0, path.size() - kExtension.size()) : path) + ".ldb";
+}
+
+}  // namespace
+
+Fingerprint Fingerprint::Of(ByteView bytes)
+{
+    const std::string_view characters(reinterpret_cast<const char*>(bytes.data()), bytes.size());
+    return {bytes.size(), std::hash<std::string_view>{}(characters)};
+}
+
+void Connection::Open(FileSystem& files, const std::string& path)
+{
+    FlushOrGiveUp();
+    if (!files.Exists(path)) throw RuntimeError(engine::kFile, "Could not find file " + Quoted(path) + ".");
+    Bytes bytes = files.Read(path);
+    const Fingerprint read = Fingerprint::Of(bytes);
+    database_.emplace(OpenBytes(std::move(bytes), path));
+    files_ = &files;
+    path_ = path;
+    onDisk_ = read;
+}
+
+void Connection::FlushOrGiveUp()
+try {
+    Flush();
+} catch (...) {
+    database_.reset();
+    throw;
+}
+
+Recordset Connection::Execute(std::string_view statement)
+{
+    if (!database_) throw RuntimeError(engine::kFile, "No database is open.");
+    return ExecuteOn(*database_, statement);
+}
+
+void Connection::CheckDisk() const
+{
+    if (!files_->Exists(path_))
+        throw Refused("Could not find file " + Quoted(path_) + "; nothing was saved.");
+    if (files_->Exists(LockFileOf(path_))) {
+        throw Refused("The file " + Quoted(path_) + " is open in another program (" +
+                      Quoted(LockFileOf(path_)) + " says so); nothing was saved.");
+    }
+    const Fingerprint found = Fingerprint::Of(files_->Read(path_));
+    // Our own bytes are there already when the folder could not be synced behind the last writing.
+    if (found == onDisk_ || found == Fingerprint::Of(database_->Content())) return;
+    throw Refused("The file " + Quoted(path_) +
+                  " was changed by another program since it was opened; nothing was saved.");
+}
+
+void Connection::Flush()
+{
+    if (!HasChanges()) return;
+    CheckDisk();
+    files_->ReplaceWhole(path_, database_->Content());
+    onDisk_ = Fingerprint::Of(database_->Content());
+    database_->MarkSaved();
+}
+
+NewDatabase::NewDatabase(FileSystem& files, std::string path, double created)
+    : files_(files), path_(std::move(path)), database_(Database::New(created))
+{
+    CheckFree();
+    const std::string folder = FolderOf(path_);
+    if (!folder.empty() && !files_.IsFolder(folder)) {
+        throw RuntimeError(engine::kPathNotValid, Quoted(path_) + " is not a valid path.");
+    }
+}
+
+void NewDatabase::CheckFree() const
+{
+    if (files_.Exists(path_)) {
+        throw RuntimeError(engine::kDatabaseExists, "Database already exists: " + Quoted(path_) + ".");
+    }
+}
+
+void NewDatabase::Execute(std::string_view statement)
+{
+    ExecuteOn(database_, statement);
+}
+
+void NewDatabase::Close()
+{
+    if (closed_) return;
+    CheckFree();
+    files_.ReplaceWhole(path_, database_.Content());
+    closed_ = true;
+}
+
+}  // namespace terravane::jet

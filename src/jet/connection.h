@@ -1,0 +1,80 @@
+/// Database files: one opened and changed by statements, one made anew. Both reach the disk as a whole, or
+/// not at all.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "jet/database.h"
+#include "jet/recordset.h"
+#include "runtime/file_system.h"
+
+namespace terravane::jet {
+
+/// Length and hash of a file's bytes: whether it is still the one that was read.
+struct Fingerprint {
+    std::size_t length = 0;
+    std::size_t hash = 0;
+
+    static Fingerprint Of(ByteView bytes);
+    friend bool operator==(const Fingerprint&, const Fingerprint&) = default;
+};
+
+/// One open database file. Statements are applied in memory and stay there until Flush; one that fails
+/// changes nothing, those before it stay.
+class Connection {
+  public:
+    /// Nothing open; the destructor writes nothing.
+    Connection() = default;
+
+    /// Flushes what an earlier open left unwritten, then reads and checks the file. Where the earlier file
+    /// can't be written any more, that error is thrown and its changes are given up, so that the next Open
+    /// goes through. Errors engine::kFile: "Could not find file 'path'.", "Unrecognized database format
+    /// 'path'.", a damaged file; the file system's own numbers for what can't be read.
+    void Open(FileSystem& files, const std::string& path);
+
+    bool IsOpen() const { return database_.has_value(); }
+    const std::string& Path() const { return path_; }
+
+    /// Error engine::kFile without an open file, else those of ReadStatement and Database.
+    Recordset Execute(std::string_view statement);
+
+    bool HasChanges() const { return database_ && database_->HasChanges(); }
+
+    /// Writes the file where anything was changed. Error engine::kFile, and nothing written, where the file
+    /// on the disk is no longer the one that was read or another program holds it open; after an error the
+    /// changes are still there and a second Flush tries again.
+    void Flush();
+
+  private:
+    void FlushOrGiveUp();
+    void CheckDisk() const;
+
+    FileSystem* files_ = nullptr;
+    std::string path_;
+    std::optional<Database> database_;
+    Fingerprint onDisk_;
+};
+
+/// A new file, made by CREATE TABLE and insert statements in memory and written by Close.
+class NewDatabase {
+  public:
+    /// Error 3204 where the file exists, 3044 where its folder doesn't. created: days since 1899-12-30.
+    NewDatabase(FileSystem& files, std::string path, double created = LocalNow());
+
+    void Execute(std::string_view statement);
+
+    /// Writes the file; error 3204 where one has come there in the meantime. A second call does nothing.
+    void Close();
+
+  private:
+    void CheckFree() const;
+
+    FileSystem& files_;
+    std::string path_;
+    Database database_;
+    bool closed_ = false;
+};
+
+}  // namespace terravane::jet

@@ -1,0 +1,12 @@
+/// Long values: what columns of type memo and long binary hold outside their row. They are read, never
+/// written.
+#pragma once
+
+#include "jet/image.h"
+
+namespace terravane::jet {
+
+/// The whole value that the bytes in the row stand for; error engine::kFile where its pieces don't add up.
+Bytes ReadLongValue(const Image& image, ByteView inRow);
+
+}  // namespace terravane::jet

@@ -1,0 +1,142 @@
+#include "program/program.h"
+
+#include <algorithm>
+#include <ranges>
+
+#include "runtime/text.h"
+
+namespace terravane {
+
+Program::Program(Surroundings& surroundings, FileSystem& files, std::string applicationPath,
+                 std::string brandPath)
+    : surroundings_(surroundings),
+      files_(files),
+      applicationPath_(std::move(applicationPath)),
+      brandPath_(std::move(brandPath))
+{}
+
+Program::~Program() = default;
+
+std::string Program::BrandFolderNow() const
+{
+    if (!brandPath_.empty()) return brandPath_;
+    std::string folder = applicationPath_;
+    if (!folder.ends_with(kFolderMark)) folder += kFolderMark;
+    return folder + "BrandList" + kFolderMark;
+}
+
+void Program::AddForm(const std::string& name, FormMaker maker)
+{
+    makers_[name] = std::move(maker);
+}
+
+Form& Program::Load(std::string_view name)
+{
+    if (Form* present = Loaded(name)) return *present;
+    const auto maker = makers_.find(name);
+    if (maker == makers_.end()) FailMissing(name);
+    loaded_.push_back(maker->second(*this));
+    Form& form = *loaded_.back();
+    try {
+        form.Form_Load();
+    } catch (...) {
+        Unload(name);
+        throw;
+    }
+    formsChanged_.Announce();
+    return form;
+}
+
+Form* Program::Loaded(std::string_view name) const
+{
+    const auto found =
+        std::ranges::find_if(loaded_, [name](const auto& form) { return SameName(form->Name(), name); });
+    return found == loaded_.end() ? nullptr : found->get();
+}
+
+Form& Program::Show(std::string_view name, Modality modality)
+{
+    Form& form = Load(name);
+    std::erase_if(shown_, [&form](const ShownForm& shown) { return shown.form == &form; });
+    shown_.push_back({&form, modality});
+    formsChanged_.Announce();
+    form.Form_Activate();
+    return form;
+}
+
+void Program::Unload(std::string_view name)
+{
+    const auto found =
+        std::ranges::find_if(loaded_, [name](const auto& form) { return SameName(form->Name(), name); });
+    if (found == loaded_.end()) return;
+    unloaded_.push_back(std::move(*found));
+    loaded_.erase(found);
+    Form& form = *unloaded_.back();
+    std::erase_if(shown_, [&form](const ShownForm& shown) { return shown.form == &form; });
+    form.Form_Unload();
+    formsChanged_.Announce();
+    if (depth_ == 0) unloaded_.clear();
+}
+
+std::vector<Form*> Program::LoadedForms() const
+{
+    std::vector<Form*> forms;
+    for (const auto& form : loaded_) forms.push_back(form.get());
+    return forms;
+}
+
+Subscription Program::ShowForms(std::function<void()> listener)
+{
+    return formsChanged_.Listen(std::move(listener));
+}
+
+void Program::Run(std::string_view event, const std::function<void()>& handler)
+{
+    if (depth_ > 0) return handler();
+    const std::string name(event);
+    RunOutermost(name, handler);
+    RunOutermost(name, [this] { FlushStores(); });
+    unloaded_.clear();
+}
+
+void Program::RunOutermost(const std::string& event, const std::function<void()>& step)
+{
+    ++depth_;
+    try {
+        step();
+    } catch (const RuntimeError& error) {
+        surroundings_.Fail(event, error);
+    } catch (const std::exception& unexpected) {
+        surroundings_.Fail(event, RuntimeError(error::kInternal, unexpected.what()));
+    }
+    --depth_;
+}
+
+namespace {
+
+/// What can't be written is dropped: the form still shows it and the file keeps what it had. Kept, it would
+/// make every later command fail for the sake of this one.
+void FlushOrDrop(jet::Connection& connection)
+{
+    try {
+        connection.Flush();
+    } catch (...) {
+        connection = jet::Connection();
+        throw;
+    }
+}
+
+}  // namespace
+
+void Program::FlushStores()
+{
+    FlushOrDrop(ProjectConnection);
+    FlushOrDrop(BrandConnection);
+}
+
+void Program::FailMissing(std::string_view name)
+{
+    throw RuntimeError(error::kObjectRequired, "There is no open form of that name: " + std::string(name));
+}
+
+}  // namespace terravane

@@ -1,0 +1,76 @@
+#include "render/decoded_pictures.h"
+
+#include <QBuffer>
+#include <QByteArray>
+#include <QImageReader>
+#include <algorithm>
+#include <mutex>
+#include <utility>
+#include <vector>
+
+namespace terravane {
+
+namespace {
+
+constexpr int kLongestSide = 4096;
+constexpr int kMostMegabytes = 512;  // while decoding: the largest picture that ReadPicture takes needs 400
+
+const char* QtFormat(PictureFormat format)
+{
+    switch (format) {
+        case PictureFormat::Jpeg:
+            return "jpeg";
+        case PictureFormat::Png:
+            return "png";
+        case PictureFormat::Bmp:
+            return "bmp";
+        case PictureFormat::Gif:
+            return "gif";
+        case PictureFormat::Ico:
+            return "ico";
+    }
+    return "";
+}
+
+QImage Decode(const Picture& picture)
+{
+    QByteArray bytes = QByteArray::fromRawData(reinterpret_cast<const char*>(picture.bytes.data()),
+                                               static_cast<qsizetype>(picture.bytes.size()));
+    QBuffer buffer(&bytes);
+    QImageReader::setAllocationLimit(kMostMegabytes);
+    QImageReader reader(&buffer, QtFormat(picture.format));
+    const QSize size(picture.width, picture.height);
+    if (std::max(size.width(), size.height()) > kLongestSide)
+        reader.setScaledSize(size.scaled(kLongestSide, kLongestSide, Qt::KeepAspectRatio).expandedTo({1, 1}));
+    return reader.read();
+}
+
+/// Remembers by the picture's identity, and forgets with its last user.
+class DecodedPictures {
+  public:
+    QImage Find(const std::shared_ptr<const Picture>& picture)
+    {
+        const std::scoped_lock lock(mutex_);
+        const auto known = std::find_if(entries_.begin(), entries_.end(),
+                                        [&](const Entry& entry) { return entry.first.lock() == picture; });
+        if (known != entries_.end()) return known->second;
+        std::erase_if(entries_, [](const Entry& entry) { return entry.first.expired(); });
+        return entries_.emplace_back(picture, Decode(*picture)).second;
+    }
+
+  private:
+    using Entry = std::pair<std::weak_ptr<const Picture>, QImage>;
+
+    std::mutex mutex_;
+    std::vector<Entry> entries_;
+};
+
+}  // namespace
+
+QImage Decoded(const std::shared_ptr<const Picture>& picture)
+{
+    static DecodedPictures pictures;
+    return pictures.Find(picture);
+}
+
+}  // namespace terravane

@@ -1,0 +1,91 @@
+#include "reports/head_block.h"
+
+#include <array>
+#include <string_view>
+
+#include "reports/open_sheet.h"
+#include "reports/page_text.h"
+
+namespace terravane {
+
+namespace {
+
+constexpr double kHeadSize = 14;      // points
+constexpr double kBelowFactor = 200;  // twips between the factor's height and the first row
+constexpr std::string_view kColon = " : ";
+
+/// Height of the first row, as a multiple of the width of "D".
+struct HeadPlace {
+    std::string_view sheet;
+    PerMedium<double> factor;
+    bool hasPosition = false;
+};
+
+constexpr std::array kHeadPlaces{
+    HeadPlace{"frmCompaction", {20.5, 20.5}}, HeadPlace{"frmDensity", {20.5, 20.5}, true},
+    HeadPlace{"frmSpecific", {20.5, 23.5}},   HeadPlace{"frmAtterberg", {20.5, 22}},
+    HeadPlace{"frmSieve", {21.5, 22}},        HeadPlace{"frmCBR", {20.5, 20.5}},
+};
+
+/// A label and the control that its value comes from; no label, nothing is drawn.
+struct HeadField {
+    std::string_view label, control;
+};
+
+struct HeadRow {
+    HeadField left, right;
+};
+
+constexpr std::array kHeadRows{
+    HeadRow{{"Client Name ", "txtClient"}, {"Report No.", "txtID"}},
+    HeadRow{{"Project Name ", "txtProject"}, {"Date of Test", "DTPDate"}},
+    HeadRow{{"Location", "txtLocation"}, {"Sample", "txtSoil"}},
+};
+
+constexpr HeadRow kPositionRow{{"Position", "txtPosition"}, {}};
+
+/// Left edges of a label and of its value.
+struct HeadColumn {
+    double label, value;
+};
+
+HeadColumn LeftColumn(const DrawingSurface& page)
+{
+    return {kLeft, kLeft + page.TextWidth("Project Name : ")};
+}
+
+HeadColumn RightColumn(const DrawingSurface& page)
+{
+    const double label = 3500 + (page.ScaleWidth - 3000 - 500) / 6 * 3 + 200;
+    return {label, label + page.TextWidth("Date of Test : ")};
+}
+
+void PrintField(const TestSheet& sheet, DrawingSurface& page, const HeadField& field,
+                const HeadColumn& column)
+{
+    if (field.label.empty()) return;
+    PrintFrom(page, column.label, field.label);
+    PrintFrom(page, column.value, kColon);
+    page.PrintOn(TextOf(sheet, field.control));
+}
+
+void PrintRow(const TestSheet& sheet, DrawingSurface& page, const HeadRow& row)
+{
+    PrintField(sheet, page, row.left, LeftColumn(page));
+    PrintField(sheet, page, row.right, RightColumn(page));
+    page.Print();
+}
+
+}  // namespace
+
+void DrawHeadBlock(const TestSheet& sheet, DrawingSurface& page, Medium medium)
+{
+    const HeadPlace& place = RowOfSheet(kHeadPlaces, sheet.Name());
+    page.FontSize = kHeadSize;
+    page.FontBold = false;
+    page.CurrentY = page.TextWidth("D") * place.factor.On(medium) + kBelowFactor;
+    for (const HeadRow& row : kHeadRows) PrintRow(sheet, page, row);
+    if (place.hasPosition) PrintRow(sheet, page, kPositionRow);
+}
+
+}  // namespace terravane

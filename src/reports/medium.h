@@ -1,0 +1,23 @@
+/// Where a report page goes. Printer and preview share every routine; what differs between them stands in
+/// tables.
+#pragma once
+
+namespace terravane {
+
+enum class Medium { Printer, Preview };
+
+constexpr Medium TheOther(Medium medium)
+{
+    return medium == Medium::Printer ? Medium::Preview : Medium::Printer;
+}
+
+/// A fact of the layout that printer and preview may have differently.
+template <class Fact>
+struct PerMedium {
+    Fact printer;
+    Fact preview;
+
+    constexpr const Fact& On(Medium medium) const { return medium == Medium::Printer ? printer : preview; }
+};
+
+}  // namespace terravane

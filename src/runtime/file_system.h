@@ -1,0 +1,80 @@
+/// The disk as the program sees it: every byte the program reads or writes goes through here, so that a test can make
+/// any step of it fail.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace terravane {
+
+using Bytes = std::vector<std::uint8_t>;
+
+/// Failures are RuntimeErrors whose description names the path: 53 no such file, 76 no such folder, 70 or 75 not
+/// allowed, 61 disk full, 57 any other device failure.
+class FileSystem {
+ public:
+    virtual ~FileSystem() = default;
+
+    virtual bool Exists(const std::string& path) const = 0;
+    virtual bool IsFolder(const std::string& path) const = 0;
+    /// Whether files can be made in the folder.
+    virtual bool IsWritableFolder(const std::string& path) const = 0;
+    /// Names (not paths) of what a folder holds, in no order.
+    virtual std::vector<std::string> Names(const std::string& folder) const = 0;
+    virtual void MakeFolders(const std::string& path) = 0;
+
+    /// The whole file; refused above 2 GiB.
+    virtual Bytes Read(const std::string& path) const = 0;
+
+    /// Old content or new, never a mixture: a temporary file in the same folder with the old one's mode, written,
+    /// synced, renamed over the target, the folder synced. A failure before the rename removes the temporary file.
+    /// The sequence is fixed here and its steps are the virtual ones below, so that the path that ships is tested.
+    void ReplaceWhole(const std::string& path, std::span<const std::uint8_t> content);
+
+    /// Copies a whole file over the target, by ReplaceWhole.
+    void Copy(const std::string& source, const std::string& target);
+
+ protected:
+    /// Makes a new file with the mode of `like` where that exists; nothing is on the disk for sure before SyncFile.
+    virtual void WriteNew(const std::string& path, std::span<const std::uint8_t> content, const std::string& like) = 0;
+    virtual void SyncFile(const std::string& path) = 0;
+    virtual void Rename(const std::string& from, const std::string& to) = 0;
+    virtual void SyncFolder(const std::string& folder) = 0;
+    virtual void Remove(const std::string& path) noexcept = 0;
+
+    /// Where a file's content stands: the path itself, or what it leads to where it is a link.
+    virtual std::string Target(const std::string& path) const { return path; }
+};
+
+/// The machine's own disk.
+class DiskFileSystem : public FileSystem {
+ public:
+    bool Exists(const std::string& path) const override;
+    bool IsFolder(const std::string& path) const override;
+    bool IsWritableFolder(const std::string& path) const override;
+    std::vector<std::string> Names(const std::string& folder) const override;
+    void MakeFolders(const std::string& path) override;
+    Bytes Read(const std::string& path) const override;
+
+ protected:
+    void WriteNew(const std::string& path, std::span<const std::uint8_t> content, const std::string& like) override;
+    void SyncFile(const std::string& path) override;
+    void Rename(const std::string& from, const std::string& to) override;
+    void SyncFolder(const std::string& folder) override;
+    void Remove(const std::string& path) noexcept override;
+    std::string Target(const std::string& path) const override;
+};
+
+/// The folder of a path with its mark at the end ("" for a bare name), and the name behind it.
+std::string FolderOf(std::string_view path);
+std::string NameOf(std::string_view path);
+
+/// The path of a folder's entry whose name equals `name` without regard to case; the plain join where there is none.
+/// For stores that were made where "Logo.mdb" and "logo.mdb" are one file.
+std::string FindWithoutCase(const FileSystem& files, const std::string& folder, std::string_view name);
+
+}  // namespace terravane

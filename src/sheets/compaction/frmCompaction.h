@@ -1,0 +1,153 @@
+/// The compaction sheet: trials of one sample at rising water contents, in a mould, and the curve through
+/// them, whose top is the optimum moisture content and the maximum dry density. Standard and modified test,
+/// soil and crushed rock differ in the table that is loaded, in nothing else: mould, hammer, layers and blows
+/// are whatever was used.
+#pragma once
+
+#include <vector>
+
+#include "controls/text_grid.h"
+#include "sheets/pattern/test_sheet.h"
+
+namespace terravane {
+
+/// Rows of MSHWt; columns 1 to 6 are the trials. Masses in g.
+namespace wt {
+enum Row { Sample, CanNumber, WetAndCan, DryAndCan, Can, Water, DrySoil, WaterContent, kRows };
+}
+
+/// Rows of MSHDensity, which has no heads; column i is the trial of MSHWt's column i. Masses in g, densities
+/// in g/cm³.
+namespace density {
+enum Row { AssumedWater, WetAndMould, Mould, WaterContent, WetSoil, WetDensity, DryDensity, kRows };
+}
+
+/// Columns of MSH2, the work grid of the spline; row i is point i.
+namespace spline {
+enum Column { Before, Diagonal, After, RightSide, Moment, kColumns };
+}
+
+inline constexpr int kTrials = 6;
+
+/// One accepted trial: water content in percent, dry density in g/cm³, as they stand on the sheet.
+struct CompactionPoints {
+    std::vector<double> water;
+    std::vector<double> density;
+    int Count() const { return static_cast<int>(water.size()); }
+};
+
+/// The top of a curve.
+struct CompactionPeak {
+    double water = 0;    // %
+    double density = 0;  // g/cm³
+};
+
+/// How water content and density map to the plot: the density in thirteen ticks from the bottom, the water
+/// content in whole percents from the left. Twips, percent, g/cm³.
+struct CompactionScale {
+    double width, height;
+    double lowestDensity;  // at the bottom
+    double densityStep;    // from tick to tick
+    double tickHeight;
+    double firstWater;  // at the left, whole percent
+    double percents;    // whole percents across
+    double percentWidth;
+
+    double TickDensity(int tick) const { return lowestDensity + tick * densityStep; }
+    double X(double water) const { return (water - firstWater) * percentWidth; }
+    /// Error 11 or 6 where the densities lie too close together for a step of two decimals.
+    double Y(double density) const;
+};
+
+struct frmCompaction : TestSheet {
+    explicit frmCompaction(Program& program);
+
+    TextBox txtDia{*this, "txtDia", "Dia. of Mold (cm)"};
+    TextBox txtHeight{*this, "txtHeight", "Ht. of Mold (cm)"};
+    ComboBox cboWt{*this, "cboWt", "Wt. Hammer", {"2.5 kg", "4.5 kg"}};
+    ComboBox cboBlow{*this, "cboBlow", "Blows/Layer", {"25", "56"}};
+    ComboBox cboLayer{*this, "cboLayer", "No.Layers", {"3", "5"}};
+
+    Frame FraWt{*this, "FraWt", "Water Content Determination"};
+    TextGrid MSHWt{*this, "MSHWt", wt::kRows, kTrials + 1};
+    Frame fraDensity{*this, "fraDensity", "Dry Density Determination"};
+    TextGrid MSHDensity{*this, "MSHDensity", density::kRows, kTrials + 1};
+    CellEditor txtData;   // over MSHWt
+    CellEditor txtData1;  // over MSHDensity
+
+    OptionButton optInt{*this, "optInt", "Interpolation", "method", true};
+    OptionButton optFit{*this, "optFit", "Curve Fitting", "method"};
+    CommandButton cmdOMC{*this, "cmdOMC", "Compaction Curve"};
+    TextBox txtOMC{*this, "txtOMC", "OMC"};
+    TextBox txtDmax{*this, "txtDmax", "MDD"};
+    TextGrid MSHData{*this, "MSHData", 1, 2};
+    CheckBox chkSatLine{*this, "chkSatLine", "AV Line"};
+    TextBox txtGs{*this, "txtGs", "Gs"};
+    ComboBox cboSr{*this, "cboSr", "Air Voids", {"0%", "20%", "40%", "60%", "80%"}, "0%"};
+
+    // The work area: the spline by hand.
+    CommandButton Command5{*this, "Command5", "&Derivative"};
+    CommandButton Command6{*this, "Command6", "&SPline"};
+    TextBox Text6{*this, "Text6", "Interval", "0.01"};
+    OptionButton optWholeCurve{*this, "optWholeCurve", "Whole Curve", "evaluation", true};
+    OptionButton Option2{*this, "Option2", "One Point", "evaluation"};
+    TextBox Text4{*this, "Text4", "Input   X"};
+    TextBox Text5{*this, "Text5", "Result Y"};
+    TextGrid MSH2{*this, "MSH2", 1, spline::kColumns};
+    TextGrid MSH3{*this, "MSH3", 1, 2};
+
+    PictureBox picgraph1{*this, "picgraph1", 60, 0, 7100, 5300};   // tick labels and axis titles
+    PictureBox picGraph{*this, "picGraph", 960, 450, 5450, 4000};  // the plot, standing on it
+
+    void Form_Load() override;
+
+    /// Calculate: water contents and densities, each stage from the rounded text of the one before. Masses in
+    /// g, mould in cm, densities in g/cm³. Error 11 or 6 where the mould has no volume; the cells before it
+    /// stand.
+    void cmdCal_Click() override;
+    /// Compaction Curve: points, curve, peak, plot and posting. Fails where it stands, with the picture half
+    /// drawn, for fewer than three points or equal water contents under Interpolation and for densities of
+    /// nearly one value.
+    void cmdOMC_Click();
+    /// The spline's second derivatives into MSH2, from the points in MSHData.
+    void Command5_Click();
+    /// The spline's table into MSH3, or one point of it into Text5.
+    void Command6_Click();
+    /// The specific gravity of the saved test of the same material, for the air-void line.
+    void chkSatLine_Click();
+    void MSHWt_MouseDown(MouseButton button, int row, int column);
+    void MSHDensity_MouseDown(MouseButton button, int row, int column);
+    void SSTData_Click(int previousTab);
+
+    std::span<const TablePass> TablePasses() const override;
+    bool TrimsLists() const override { return true; }
+
+  private:
+    void BuildGrids();
+    void WireEvents();
+
+    void BlankCalculatedRows();
+    void WaterContentOf(int trial);
+    void DensityOf(int trial);
+    double MouldVolume() const;
+    void EraseTrial(int trial);
+
+    void FillPoints();
+    CompactionPoints Points() const;
+    void TabulateSpline(const CompactionPoints& points);
+    void EvaluateOnePoint(const CompactionPoints& points);
+    std::vector<double> FitCurve(const CompactionPoints& points);
+
+    void DrawAxes();
+    CompactionScale ScaleOf(const CompactionPoints& points) const;
+    void DrawTicks(const CompactionScale& scale);
+    CompactionPeak DrawSpline(const CompactionScale& scale);
+    CompactionPeak DrawFit(const CompactionScale& scale, const CompactionPoints& points);
+    void MarkPoints(const CompactionScale& scale, const CompactionPoints& points);
+    void DrawGuides(const CompactionScale& scale, CompactionPeak peak);
+    void DrawAirVoidLine(const CompactionScale& scale);
+    void CaptionAirVoidLine();
+    void PostPeak();
+};
+
+}  // namespace terravane

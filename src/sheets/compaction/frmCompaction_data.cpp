@@ -1,0 +1,78 @@
+// Calculate: from weighings to water contents and densities.
+#include <cmath>
+
+#include "runtime/numbers.h"
+#include "sheets/compaction/frmCompaction.h"
+#include "sheets/pattern/masks.h"
+
+namespace terravane {
+
+namespace {
+
+constexpr std::string_view kBlank =
+    "     ";  // what a calculated cell shows while nothing is worked out for it
+
+}  // namespace
+
+/// A stage reads back the text that the stage before it wrote, because the two decimals on the sheet are the
+/// ones that count: they are the figures of the printed report.
+void frmCompaction::cmdCal_Click()
+{
+    BlankCalculatedRows();
+    for (int trial = 1; trial <= kTrials; ++trial) WaterContentOf(trial);
+    for (int trial = 1; trial <= kTrials; ++trial) DensityOf(trial);
+    SSTData.SetTabEnabled(1, true);
+}
+
+void frmCompaction::BlankCalculatedRows()
+{
+    for (int trial = 1; trial <= kTrials; ++trial) {
+        for (int row = wt::Water; row <= wt::WaterContent; ++row) MSHWt(row, trial) = kBlank;
+        for (int row = density::WaterContent; row <= density::DryDensity; ++row)
+            MSHDensity(row, trial) = kBlank;
+    }
+}
+
+void frmCompaction::WaterContentOf(int trial)
+{
+    const auto cell = [&](wt::Row row) { return MSHWt(row, trial); };
+    const auto value = [&](wt::Row row) { return Val(cell(row)); };
+
+    if (value(wt::WetAndCan) != 0) {
+        cell(wt::Water) = Format(value(wt::WetAndCan) - value(wt::DryAndCan), kTwoDecimals);
+    }
+    if (value(wt::DryAndCan) != 0) {
+        cell(wt::DrySoil) = Format(value(wt::DryAndCan) - value(wt::Can), kTwoDecimals);
+    }
+    if (value(wt::DrySoil) != 0) {
+        cell(wt::WaterContent) = Format(Divide(value(wt::Water), value(wt::DrySoil)) * 100, kTwoDecimals);
+    }
+}
+
+void frmCompaction::DensityOf(int trial)
+{
+    const auto cell = [&](density::Row row) { return MSHDensity(row, trial); };
+    const auto value = [&](density::Row row) { return Val(cell(row)); };
+    if (value(density::Mould) == 0) return;  // no mould weighed, no trial in this column
+
+    cell(density::WaterContent) = Format(Val(MSHWt(wt::WaterContent, trial)), kTwoDecimals);
+    cell(density::WetSoil) = Format(value(density::WetAndMould) - value(density::Mould), kTwoDecimals);
+    cell(density::WetDensity) = Format(Divide(value(density::WetSoil), MouldVolume()), kTwoDecimals);
+    cell(density::DryDensity) =
+        Format(Divide(value(density::WetDensity), 1 + value(density::WaterContent) / 100), kTwoDecimals);
+}
+
+/// cm³, of a mould in cm; pi from the arctangent.
+double frmCompaction::MouldVolume() const
+{
+    const double height = Val(txtHeight.Text()), diameter = Val(txtDia.Text());
+    return height * 4 * std::atan(1.0) * (diameter * diameter) / 4;
+}
+
+void frmCompaction::EraseTrial(int trial)
+{
+    for (int row = wt::CanNumber; row < wt::kRows; ++row) MSHWt(row, trial) = "";
+    for (int row = 0; row < density::kRows; ++row) MSHDensity(row, trial) = "";
+}
+
+}  // namespace terravane

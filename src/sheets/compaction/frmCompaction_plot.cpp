@@ -1,0 +1,271 @@
+// Compaction Curve: the plot of the trials with the curve through them, its top and the air-void line, drawn
+// into the sheet's two picture boxes from where the report copies it.
+#include <algorithm>
+#include <cmath>
+
+#include "numeric/polynomial_fit.h"
+#include "runtime/numbers.h"
+#include "runtime/runtime_error.h"
+#include "runtime/text.h"
+#include "sheets/compaction/frmCompaction.h"
+#include "sheets/pattern/masks.h"
+
+namespace terravane {
+
+namespace {
+
+constexpr std::string_view kTickFont = "MS Sans Serif";
+constexpr double kTickSize = 8.25;  // points
+constexpr std::string_view kAxisFont = "Times New Roman";
+constexpr double kAxisSize = 14;
+
+constexpr int kTicks = 13;
+constexpr double kNothingYet = 9999;  // above every density and water content
+constexpr double kFitStep = 0.001;    // percent of water
+constexpr double kMarkRadius = 40;    // twips
+constexpr double kMostSteps = 5e6;    // more would be no plot but a slip of the pen: refused as out of memory
+
+/// The plot's place on the frame around it.
+struct Inset {
+    double left, top;
+};
+
+Inset InsetOf(const PictureBox& plot, const PictureBox& frame)
+{
+    return {plot.Left - frame.Left, plot.Top - frame.Top};
+}
+
+void SetFont(DrawingSurface& surface, std::string_view name, double size)
+{
+    surface.FontName = name;
+    surface.FontSize = size;
+}
+
+void PrintAt(DrawingSurface& surface, double x, double y, std::string_view text)
+{
+    surface.CurrentX = x;
+    surface.CurrentY = y;
+    surface.Print(text);
+}
+
+/// Tells the views when the command ends, however it ends: a plot that failed shows what was drawn.
+struct ShownAtEnd {
+    PictureBox& box;
+    ~ShownAtEnd() { box.Changed(); }
+};
+
+/// The digits of a step from its decimal point on; whole units are dropped.
+double StepOf(double rawStep)
+{
+    const std::string text = Format(rawStep, kTwoDecimals);
+    return Val(std::string_view(text).substr(text.find('.')));
+}
+
+/// Every percent is labelled up to ten of them, every second up to twenty, then every fourth.
+bool HasLabel(int percent, double percents)
+{
+    if (percents > 20) return percent % 4 == 0;
+    return percents <= 10 || percent % 2 == 0;
+}
+
+/// Each curve's top and the captions of the guide lines.
+struct PeakCaptions {
+    std::string_view density, water;
+};
+constexpr PeakCaptions kSplineCaptions{"MDD = ", "OMC = "};
+constexpr PeakCaptions kFitCaptions{"M.D.D. = ", "O.M.C.= "};
+
+void RefuseEndless(double steps)
+{
+    if (steps > kMostSteps) throw RuntimeError(error::kOutOfMemory);
+}
+
+}  // namespace
+
+double CompactionScale::Y(double value) const
+{
+    return height - Divide(value - lowestDensity, densityStep) * tickHeight;
+}
+
+void frmCompaction::cmdOMC_Click()
+{
+    const ShownAtEnd frameShown{picgraph1}, plotShown{picGraph};
+    picGraph.Cls();
+    picgraph1.Cls();
+    DrawAxes();
+    FillPoints();
+    const CompactionPoints points = Points();
+    const CompactionScale scale = ScaleOf(points);
+    DrawTicks(scale);
+
+    const CompactionPeak peak = optInt.Value() ? DrawSpline(scale) : DrawFit(scale, points);
+    txtOMC.SetText(Format(peak.water, kOneDecimal));
+    txtDmax.SetText(Format(peak.density, kTwoDecimals));
+    MarkPoints(scale, points);
+    DrawGuides(scale, peak);
+    if (chkSatLine.Value()) {
+        DrawAirVoidLine(scale);
+        CaptionAirVoidLine();
+    }
+    PostPeak();
+}
+
+void frmCompaction::DrawAxes()
+{
+    const auto [left, top] = InsetOf(picGraph, picgraph1);
+    constexpr std::string_view kWaterTitle = "Water Content , %";
+    constexpr std::string_view kDensityTitle = "Dry Density , g/cm^3";
+    SetFont(picgraph1, kAxisFont, kAxisSize);
+    const double titleHeight = picgraph1.TextHeight(kWaterTitle);
+    PrintAt(picgraph1, left + (picGraph.Width - picgraph1.TextWidth(kWaterTitle)) / 2,
+            picgraph1.Height - 80 - titleHeight - 60, kWaterTitle);
+    picgraph1.PrintTurned(kDensityTitle, (left - titleHeight) / 2,
+                          top + (picGraph.Height + picgraph1.TextWidth(kDensityTitle)) / 2);
+    SetFont(picgraph1, kTickFont, kTickSize);
+    SetFont(picGraph, kTickFont, kTickSize);
+
+    picGraph.DrawWidth = 1;
+    picGraph.ForeColor = kBlack;
+    picGraph.Box(0, 0, picGraph.Width - 50, picGraph.Height - 50);
+    picgraph1.DrawWidth = 2;
+    picgraph1.Box(10, 10, picgraph1.Width - 80, picgraph1.Height - 80);
+    picgraph1.DrawWidth = 1;
+}
+
+CompactionScale frmCompaction::ScaleOf(const CompactionPoints& points) const
+{
+    double highest = 0, lowest = kNothingYet, wettest = 0, driest = kNothingYet;
+    for (const double density : points.density) {
+        highest = std::max(highest, density);
+        if (density != 0) lowest = std::min(lowest, density);
+    }
+    for (const double water : points.water) {
+        wettest = std::max(wettest, water);
+        if (water != 0) driest = std::min(driest, water);
+    }
+    CompactionScale scale{};
+    scale.width = picGraph.Width;
+    scale.height = picGraph.Height;
+    scale.lowestDensity = lowest - 0.01;
+    scale.densityStep = StepOf((highest - scale.lowestDensity) / 8);
+    scale.tickHeight = scale.height / kTicks;
+    scale.firstWater = Int(driest);
+    scale.percents = Int(wettest) - scale.firstWater + 2;
+    scale.percentWidth = Divide(scale.width, scale.percents);
+    return scale;
+}
+
+void frmCompaction::DrawTicks(const CompactionScale& scale)
+{
+    const auto [left, top] = InsetOf(picGraph, picgraph1);
+    const double lineHeight = picgraph1.TextHeight("W");
+    for (int tick = 0; tick <= kTicks; ++tick) {
+        const double y = scale.height - tick * scale.tickHeight;
+        picGraph.Line(0, y, scale.width, y, kGridGrey);
+        const std::string label = Format(scale.TickDensity(tick), kTwoDecimals);
+        PrintAt(picgraph1, picgraph1.Width - 200 - picgraph1.TextWidth(label), top + y - lineHeight / 2,
+                label);
+    }
+    RefuseEndless(scale.percents);
+    for (int percent = 1; percent <= scale.percents; ++percent) {
+        if (!HasLabel(percent, scale.percents)) continue;
+        const double x = percent * scale.percentWidth;
+        picGraph.Line(x, 0, x, scale.height, kGridGrey);
+        const std::string label = NumberText(scale.firstWater + percent);
+        PrintAt(picgraph1, left + x - picgraph1.TextWidth(label) / 2, top + scale.height + 40, label);
+    }
+}
+
+/// The highest row of the spline's table; of equal ones the last.
+CompactionPeak frmCompaction::DrawSpline(const CompactionScale& scale)
+{
+    Command5_Click();
+    Command6_Click();
+    CompactionPeak peak;
+    std::vector<DrawnPoint> curve;
+    for (int row = 1; row < MSH3.Rows(); ++row) {
+        const double x = Val(MSH3(row, 0)), y = Val(MSH3(row, 1));
+        curve.push_back({scale.X(x), scale.Y(y)});
+        if (y >= peak.density) peak = {x, y};
+    }
+    picGraph.Polyline(curve, kBlue);
+    return peak;
+}
+
+/// The sweep begins one step above the first point and ends past the last. It is not rounded, as the spline's
+/// table is.
+CompactionPeak frmCompaction::DrawFit(const CompactionScale& scale, const CompactionPoints& points)
+{
+    const auto coefficients = FitCurve(points);
+    const double first = Val(MSHData(1, 0));
+    const double steps = Int((points.water.back() - first) / kFitStep) + 2;
+    RefuseEndless(steps);
+    CompactionPeak peak;
+    std::vector<DrawnPoint> curve;
+    for (int k = 1; k <= steps; ++k) {
+        const double x = first + k * kFitStep;
+        const double y = EvaluatePolynomial(coefficients, x);
+        curve.push_back({scale.X(x), scale.Y(y)});
+        if (peak.density <= y) peak = {x, y};
+    }
+    picGraph.Polyline(curve, kBlue);
+    return peak;
+}
+
+void frmCompaction::MarkPoints(const CompactionScale& scale, const CompactionPoints& points)
+{
+    picGraph.ForeColor = kBlack;
+    picGraph.FillSolid = true;
+    picGraph.FillColor = kWhite;
+    for (std::size_t i = 0; i < points.water.size(); ++i) {
+        const double x = scale.X(points.water[i]), y = scale.Y(points.density[i]);
+        picGraph.PSet(x, y, kBlack);
+        picGraph.Circle(x, y, kMarkRadius);
+    }
+    picGraph.FillSolid = false;
+}
+
+void frmCompaction::DrawGuides(const CompactionScale& scale, CompactionPeak peak)
+{
+    const double x = scale.X(peak.water), y = scale.Y(peak.density);
+    picGraph.Line(x, y, x, scale.height, kRed);
+    picGraph.Line(x, y, 0, y, kRed);
+
+    const auto& captions = optInt.Value() ? kSplineCaptions : kFitCaptions;
+    const double lineHeight = picGraph.TextHeight("W");
+    PrintAt(picGraph, 30, y - lineHeight,
+            std::string(captions.density) + Format(peak.density, kTwoDecimals) + " g/cm^3");
+    PrintAt(picGraph, x + 30, scale.height - 30 - lineHeight,
+            std::string(captions.water) + Format(peak.water, kOneDecimal) + " %");
+}
+
+/// Where soil of this specific gravity would have the chosen air voids: a row of dots, close enough to read
+/// as a line. The walk goes on below the plot, out of sight.
+void frmCompaction::DrawAirVoidLine(const CompactionScale& scale)
+{
+    const double gravity = Val(txtGs.Text());
+    const std::string voids = cboSr.Text();
+    const auto percentSign = voids.find('%');
+    if (percentSign == std::string::npos) throw RuntimeError(error::kInvalidProcedureCall);
+    const double saturation = (100 - Val(voids.substr(0, percentSign))) / 100;
+    const double high = scale.TickDensity(kTicks), low = scale.TickDensity(1);
+    const double dots = Int((high - low) / 0.0001);
+    for (int k = 1; k <= dots; ++k) {
+        const double dryDensity = high - (high - low) * k / 1000;
+        const double water = 100 * (Divide(saturation, dryDensity) - Divide(saturation, gravity));
+        picGraph.PSet(scale.X(water), scale.Y(dryDensity), kMagenta);
+    }
+}
+
+/// The caption is centred by a text with one blank more than the one that is printed.
+void frmCompaction::CaptionAirVoidLine()
+{
+    const auto [left, top] = InsetOf(picGraph, picgraph1);
+    const std::string voids(Trim(cboSr.Text()));
+    const std::string name = voids == "0%" ? "Zero" : cboSr.Text();
+    const double measured = picgraph1.TextWidth(name + " Air Void  Line (Gs = ");
+    PrintAt(picgraph1, left + (picGraph.Width - measured) / 2, (top - picgraph1.TextHeight("Z")) / 2,
+            name + " Air Void Line (Gs = " + txtGs.Text() + ")");
+}
+
+}  // namespace terravane

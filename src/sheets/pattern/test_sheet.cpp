@@ -1,0 +1,87 @@
+#include "sheets/pattern/test_sheet.h"
+
+#include <utility>
+
+#include "runtime/text.h"
+#include "sheets/pattern/masks.h"
+#include "store/statements.h"
+
+namespace terravane {
+
+TestSheet::TestSheet(Program& owner, std::string name, std::string caption, std::vector<std::string> tabs)
+    : Form(owner, std::move(name), std::move(caption)),
+      program(owner),
+      SSTData(*this, "SSTData", std::move(tabs))
+{
+    tblMenu.ButtonClick = [this](int number) { tblMenu_ButtonClick(number); };
+    Timer1.Ticked = [this] { Timer1_Timer(); };
+    Command(cmdCal, [this] { cmdCal_Click(); });
+    Command(cmdView, [this] { cmdView_Click(); });
+    RestoreCommandColours();
+    DTPDate.GotFocus = [this] { HideEditors(*this); };
+}
+
+void TestSheet::Form_Load()
+{
+    DTPDate.SetText(Format(program.Ask().Now(), kLongDate));
+    FillNameLists(program, cboTest, cboCheck);
+}
+
+void TestSheet::cmdView_Click()
+{
+    program.Show("frmPreview", Modality::Modal);
+}
+
+void TestSheet::tblMenu_ButtonClick(int number)
+{
+    if (number == 1) SaveTestSheet(*this);
+    if (number == 2) program.Unload(Name());
+}
+
+void TestSheet::Timer1_Timer()
+{
+    stbDes.SetPanel(2, Format(program.Ask().Now(), kClock));
+}
+
+void TestSheet::RestoreCommandColours()
+{
+    cmdCal.SetBackColor(kCommandColour);
+    cmdView.SetBackColor(kCommandColour);
+}
+
+void TestSheet::ChainFocus(std::span<const FocusStep> steps)
+{
+    for (const FocusStep& step : steps) {
+        auto& from = Get<TextControl>(step.from);
+        auto& to = Get<TextControl>(step.to);
+        from.KeyPress = [&to](Key key) {
+            if (key != Key::Enter) return false;
+            to.SetFocus();
+            to.SelectAll();
+            return true;
+        };
+        from.GotFocus = to.GotFocus = [this] { HideEditors(*this); };
+    }
+}
+
+void TestSheet::Command(CommandButton& button, Handler handler)
+{
+    button.Click = std::move(handler);
+    button.MouseMove = [&button] { button.SetBackColor(kCommandHover); };
+}
+
+void FillNameLists(Program& program, ComboBox& testerBox, ComboBox& checkerBox)
+{
+    program.BrandFolder = program.BrandFolderNow();
+    OpenBrandConnection(program);
+    testerBox.Clear();
+    checkerBox.Clear();
+    auto& persons = Query(program, program.BrandConnection, SelectAll("PERSON"));
+    for (int row = 1; row <= kPersons; ++row, persons.MoveNext()) {
+        const auto position = Trim(persons.Fields("person_position"));
+        if (position == "Tester") testerBox.AddItem(persons.Fields("person_name"));
+        if (position == "Checker") checkerBox.AddItem(persons.Fields("person_name"));
+    }
+}
+
+}  // namespace terravane

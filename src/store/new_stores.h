@@ -1,0 +1,22 @@
+/// Making project files and brand stores: all tables with all their rows, since nothing is ever inserted
+/// later.
+#pragma once
+
+#include <string>
+
+#include "runtime/file_system.h"
+
+namespace terravane {
+
+/// A project file with its sixteen tables, seeded. The engine's error 3204 where the file exists; it stays as
+/// it is.
+void CreateProjectFile(FileSystem& files, const std::string& path);
+
+/// A brand store with an empty LOGO row and fifteen empty persons. Error 3204 where the file exists.
+void CreateBrandStore(FileSystem& files, const std::string& path);
+
+/// Puts what a new installation shows into the brand folder: an empty "logo.mdb" and three pictures. What is
+/// there already stays as it is.
+void WriteFirstContent(FileSystem& files, const std::string& brandFolder);
+
+}  // namespace terravane

@@ -1,0 +1,75 @@
+#include "store/statements.h"
+
+#include "runtime/text.h"
+
+namespace terravane {
+
+namespace {
+
+std::string Quoted(std::string_view value)
+{
+    return "'" + std::string(value) + "'";
+}
+
+const TableSchema& SummaryTable()
+{
+    return ProjectTables().back();
+}
+
+}  // namespace
+
+std::string SelectAll(std::string_view table)
+{
+    return "SELECT * from " + std::string(table) + "'";
+}
+
+std::string UpdateHead(std::string_view client, std::string_view project, std::string_view location,
+                       std::string_view number)
+{
+    return "UPDATE HEAD Set Project_Client =" + Quoted(client) + ",  Project_Name =" + Quoted(project) +
+           ",  Project_Location =" + Quoted(location) + ",  Project_Number = " + Quoted(number);
+}
+
+std::string UpdateRow(const TableSchema& table, const std::vector<Assignment>& assignments, int row)
+{
+    std::string statement = "UPDATE " + std::string(table.name) + " Set";
+    std::string_view separator = " ";
+    for (const Assignment& assignment : assignments) {
+        statement.append(separator).append(assignment.column).append(" =").append(Quoted(assignment.value));
+        separator = ",  ";
+    }
+    return statement + " Where " + table.KeyName() + " =" + Quoted(RowKey(row));
+}
+
+void OpenProjectConnection(Program& program)
+{
+    program.ProjectConnection.Open(program.Files(), program.CurrentProjectPath);
+}
+
+void OpenBrandConnection(Program& program)
+{
+    program.BrandConnection.Open(program.Files(),
+                                 FindWithoutCase(program.Files(), program.BrandFolder, "Logo.mdb"));
+}
+
+jet::Recordset& Query(Program& program, jet::Connection& connection, std::string statement)
+{
+    program.CurrentSql = std::move(statement);
+    program.CurrentRecordset = connection.Execute(program.CurrentSql);
+    return program.CurrentRecordset;
+}
+
+void Execute(Program& program, jet::Connection& connection, std::string statement)
+{
+    program.CurrentSql = std::move(statement);
+    connection.Execute(program.CurrentSql);
+}
+
+void PostSummary(Program& program, const std::vector<Assignment>& results)
+{
+    OpenProjectConnection(program);
+    const int row = program.CurrentMaterial == Material::Crush ? 2 : 1;
+    Execute(program, program.ProjectConnection, UpdateRow(SummaryTable(), results, row));
+}
+
+}  // namespace terravane
