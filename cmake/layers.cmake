@@ -15,7 +15,8 @@ function(terravane_layer name)
   endif()
 endfunction()
 
-# A program: one main.cpp over layers.
+# A program: one main.cpp over layers. The target `programs` builds them all, without the tests.
+add_custom_target(programs)
 function(terravane_program name)
   cmake_parse_arguments(program "" "MAIN" "USES;LINKS" ${ARGN})
   if(NOT EXISTS ${CMAKE_SOURCE_DIR}/${program_MAIN})
@@ -24,4 +25,5 @@ function(terravane_program name)
   list(TRANSFORM program_USES PREPEND terravane_)
   add_executable(${name} ${program_MAIN})
   target_link_libraries(${name} PRIVATE ${program_USES} ${program_LINKS})
+  add_dependencies(programs ${name})
 endfunction()

@@ -15,8 +15,7 @@ const jet::Recordset& OpenLogoRow(Program& program);
 
 /// Loads a picture of the brand folder; where the preview is open, its holder of that name keeps it. Error 53
 /// names a missing file, 481 one that is no picture.
-std::shared_ptr<const Picture> LoadBrandPicture(Program& program, std::string_view holder,
-                                                std::string_view file);
+std::shared_ptr<const Picture> LoadBrandPicture(Program& program, std::string_view holder, std::string_view file);
 
 /// Reads PERSON and leaves the first approver's trimmed name in ApproverName. Where none is found the name
 /// stays as it was.

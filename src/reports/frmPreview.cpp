@@ -54,7 +54,6 @@ void frmPreview::ShowSecondPage(const Report& report)
 {
     BeginPage(report.secondOnItsSide);
     report.showSecond(program, picView);
-    CentreAcross(picView);
     SetScrollMaxima(picView.Width, picView.Height);
 }
 
@@ -169,15 +168,18 @@ void frmPreview::ResizeViewport(double width, double height)
 void frmPreview::cmdNext_Click()
 {
     const Report& report = ReportOf(program.CurrentTest);
-    if (cmdNext.Caption() == kBack) {
+    const bool isSecond = cmdNext.Caption() == kBack;
+    if (isSecond) {
         cmdNext.SetCaption(std::string(kNext));
         ShowFirstPage(report);
-        picView.Top = 0;
-        CentreAcross(picView);
     } else {
         ShowSecondPage(report);
-        cmdNext.SetCaption(std::string(kBack));
     }
+    VScroll1.SetValue(0);
+    HScroll1.SetValue(0);
+    picView.Top = 0;
+    CentreAcross(picView);
+    if (!isSecond) cmdNext.SetCaption(std::string(kBack));
     TellViews();
 }
 

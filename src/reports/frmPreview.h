@@ -18,9 +18,8 @@ struct frmPreview : Form {
 
     Program& program;
 
-    Toolbar Toolbar1{*this,
-                     "Toolbar1",
-                     {{"mn2", "Print", "Print the report", {}}, {"mn3", "Close", "Close the preview", {}}}};
+    Toolbar Toolbar1{
+        *this, "Toolbar1", {{"mn2", "Print", "Print the report", {}}, {"mn3", "Close", "Close the preview", {}}}};
     ComboBox cboScale{*this, "cboScale", "Preview Scale", {"50%", "75%", "100%"}};
     CommandButton cmdNext{*this, "cmdNext", "Next>>"};
     PictureBox Picture1{*this, "Picture1", 0, 0, 11000, 7500};      // the viewport

@@ -1,6 +1,7 @@
 /// The sheet that a report is about. A report follows the current test, never the sheet that asked for it.
 #pragma once
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 
@@ -22,8 +23,8 @@ std::string TextOf(const TestSheet& sheet, std::string_view control);
 template <class Table>
 const auto& RowOfSheet(const Table& table, std::string_view sheetName)
 {
-    const auto* row = table.data();
-    while (row->sheet != sheetName) ++row;
+    const auto row = std::ranges::find_if(table, [&](const auto& each) { return each.sheet == sheetName; });
+    if (row == table.end()) throw RuntimeError(error::kInternal, "No report row: " + std::string(sheetName));
     return *row;
 }
 
