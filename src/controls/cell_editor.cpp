@@ -23,7 +23,7 @@ void CellEditor::SetText(std::string_view text)
 bool CellEditor::OpenAt(int row, int column)
 {
     HideSiblings();
-    if (!Range().Holds(row, column)) {
+    if (!Range().Holds(row, column) || grid_.IsCalculated(row, column)) {
         Hide();
         return false;
     }
@@ -58,10 +58,10 @@ void CellEditor::PressLeft(int row, int column)
     if (OpenAt(row, column)) SelectAll();
 }
 
-CellEditor::Place CellEditor::Next(Key key) const
+CellEditor::Place CellEditor::Next(Key key, Place from) const
 {
     const CellRange range = Range();
-    const int row = grid_.Row(), column = grid_.Column();
+    const auto [row, column] = from;
     switch (key) {
         case Key::Up:
             return row > range.firstRow ? Place{row - 1, column} : Place{row, column};
@@ -82,9 +82,16 @@ CellEditor::Place CellEditor::Next(Key key) const
     return {row, column};
 }
 
+/// Where there is no cell to type in on that way the editor stays.
 void CellEditor::Walk(Key key)
 {
-    const Place next = Next(key);
+    const Place here{grid_.Row(), grid_.Column()};
+    Place next = Next(key, here), last = here;
+    while (!(next == last) && grid_.IsCalculated(next.row, next.column)) {
+        last = next;
+        next = Next(key, next);
+    }
+    if (next == last) next = here;
     OpenAt(next.row, next.column);
 }
 

@@ -30,13 +30,13 @@ using CommitRule = std::function<std::string(int row, int column, std::string te
 ///   Up, Down, Left  one cell on within the range
 ///   Right  one column on; from the last column to the first of the next row; stays at the last cell
 ///   Tab    as Right
+/// Calculated cells inside the range are stepped over and can't be opened.
 /// Only Enter commits. After any move the cell's text stands in the editor, after Enter and the mouse
 /// selected whole.
 class CellEditor : public TextControl {
   public:
     /// The range is asked at each use, since grids grow.
-    CellEditor(Form& owner, std::string name, TextGrid& grid, std::function<CellRange()> range,
-               CommitRule commit = {});
+    CellEditor(Form& owner, std::string name, TextGrid& grid, std::function<CellRange()> range, CommitRule commit = {});
 
     std::string Text() const override { return text_; }
     void SetText(std::string_view text) override;
@@ -59,8 +59,9 @@ class CellEditor : public TextControl {
   private:
     struct Place {
         int row, column;
+        bool operator==(const Place&) const = default;
     };
-    Place Next(Key key) const;
+    Place Next(Key key, Place from) const;
     void Walk(Key key);
     void HideSiblings();
 

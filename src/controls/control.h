@@ -70,7 +70,8 @@ class Control {
     /// Events; empty ones do nothing.
     Handler GotFocus;
     Handler LostFocus;
-    Handler MouseMove;
+    Handler MouseMove;   // the mouse comes over the control
+    Handler MouseLeave;  // and goes on over the form
     std::function<bool(Key)> KeyPress;
 
   protected:

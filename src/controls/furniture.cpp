@@ -62,7 +62,7 @@ bool Toolbar::PressItem(std::string_view key)
     for (const ToolButton& button : buttons_) {
         const auto item = std::ranges::find(button.items, key, &ToolButton::key);
         if (item == button.items.end()) continue;
-        if (Enabled() && ItemClick) Raise("ButtonMenuClick", [&] { ItemClick(item->key); });
+        if (Enabled() && button.enabled && ItemClick) Raise("ButtonMenuClick", [&] { ItemClick(item->key); });
         return true;
     }
     return false;

@@ -17,6 +17,11 @@ class PictureBox : public Control, public DrawingSurface {
     using DrawingSurface::ForeColor;  // the pen's; a picture box has no other
 
     double Left, Top;  // twips, in the box's container
+    /// The picture box that this one stands in; none where both stand in the same container.
+    const PictureBox* Container = nullptr;
+
+    /// Runs when the box's window gives it another size, in twips; empty where the size is fixed.
+    std::function<void(double width, double height)> ViewResized;
 };
 
 }  // namespace terravane

@@ -6,8 +6,10 @@ namespace terravane {
 
 void TextControl::Type(std::string_view text)
 {
-    SetText(text);
-    Raise("Change", Change);
+    Raise("Change", [&] {
+        SetText(text);
+        if (Change) Change();
+    });
 }
 
 void TextControl::SetLocked(bool locked)
@@ -27,8 +29,7 @@ void TextBox::SetText(std::string_view text)
     Changed();
 }
 
-ComboBox::ComboBox(Form& owner, std::string name, std::string caption, std::vector<std::string> list,
-                   std::string text)
+ComboBox::ComboBox(Form& owner, std::string name, std::string caption, std::vector<std::string> list, std::string text)
     : TextControl(owner, std::move(name), std::move(caption)), text_(std::move(text)), list_(std::move(list))
 {}
 

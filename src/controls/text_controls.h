@@ -17,7 +17,8 @@ class TextControl : public Control {
 
     /// Puts a text into the control, as a handler does; runs no event but those that the kind states.
     virtual void SetText(std::string_view text) = 0;
-    /// The user's typing: SetText, and the control's Change event.
+    /// The user's typing: SetText, and the control's Change event; a text that the control refuses fails as the event
+    /// does.
     void Type(std::string_view text);
 
     bool Locked() const { return locked_; }

@@ -107,7 +107,7 @@ void TextGrid::Select(int row, int column)
 void TextGrid::PressMouse(MouseButton button, int row, int column)
 {
     Index(row, column);
-    if (MouseDown) Raise("MouseDown", [&] { MouseDown(button, row, column); });
+    if (Enabled() && MouseDown) Raise("MouseDown", [&] { MouseDown(button, row, column); });
 }
 
 std::size_t TextGrid::Index(int row, int column) const

@@ -61,8 +61,11 @@ class TextGrid : public Control {
     void MarkCalculatedRow(int row, int firstColumn = 1);
     void MarkCalculated(int row, int column);
     bool IsCalculated(int row, int column) const;
+    /// How many rows at the top are heads and whether the first column holds titles: one of each unless set.
     int HeadRows() const { return headRows_; }
     void SetHeadRows(int rows) { headRows_ = rows; }
+    int TitleColumns() const { return titleColumns_; }
+    void SetTitleColumns(int columns) { titleColumns_ = columns; }
 
     /// Width of a column and height of a row in twips, as the sheet lays them out; 0: an even share.
     double ColumnWidth(int column) const { return columnWidths_.at(static_cast<std::size_t>(column)); }
@@ -87,7 +90,7 @@ class TextGrid : public Control {
     std::size_t Index(int row, int column) const;
     void Set(int row, int column, std::string_view text);
 
-    int rows_, columns_, headRows_ = 1;
+    int rows_, columns_, headRows_ = 1, titleColumns_ = 1;
     int row_ = 0, column_ = 0;
     std::vector<std::string> cells_;
     std::vector<bool> calculated_;

@@ -42,8 +42,7 @@ std::uint16_t WeightOf(char character)
 {
     if (character >= 'a' && character <= 'z') return kLetters[static_cast<std::size_t>(character - 'a')];
     if (character >= 'A' && character <= 'Z') return kLetters[static_cast<std::size_t>(character - 'A')];
-    if (character >= '0' && character <= '9')
-        return static_cast<std::uint16_t>(kFirstDigit + 2 * (character - '0'));
+    if (character >= '0' && character <= '9') return static_cast<std::uint16_t>(kFirstDigit + 2 * (character - '0'));
     const auto sign = std::ranges::find(kSigns, character, &Weight::character);
     return sign == kSigns.end() ? std::uint16_t{0} : sign->value;
 }
@@ -96,8 +95,7 @@ void WriteLeaf(MutableBytes page, PageNumber owner, std::vector<Bytes> entries)
     Put<std::uint32_t>(page, 4, owner);
     std::size_t end = kEntriesAt;
     for (const Bytes& entry : entries) {
-        if (entry.size() > kPageSize - end)
-            throw Refused("The database has too many tables for one index page.");
+        if (entry.size() > kPageSize - end) throw Refused("The database has too many tables for one index page.");
         std::ranges::copy(entry, page.begin() + static_cast<std::ptrdiff_t>(end));
         end += entry.size();
         WriteBit(page.subspan(kBitsAt), end - kEntriesAt, true);
@@ -108,9 +106,10 @@ void WriteLeaf(MutableBytes page, PageNumber owner, std::vector<Bytes> entries)
 std::size_t DifferentKeys(std::vector<Bytes> entries)
 {
     std::ranges::sort(entries);
-    const auto repeated = std::ranges::unique(
-        entries, [](const Bytes& a, const Bytes& b) { return std::ranges::equal(KeyOf(a), KeyOf(b)); });
-    return entries.size() - repeated.size();
+    // std::unique, not its ranges form: Clang 14 can't compile that one's result.
+    const auto end = std::unique(entries.begin(), entries.end(),
+                                 [](const Bytes& a, const Bytes& b) { return std::ranges::equal(KeyOf(a), KeyOf(b)); });
+    return static_cast<std::size_t>(end - entries.begin());
 }
 
 }  // namespace terravane::jet

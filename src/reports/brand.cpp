@@ -24,8 +24,7 @@ const jet::Recordset& OpenLogoRow(Program& program)
     return OpenBrandTable(program, "LOGO");
 }
 
-std::shared_ptr<const Picture> LoadBrandPicture(Program& program, std::string_view holder,
-                                                std::string_view file)
+std::shared_ptr<const Picture> LoadBrandPicture(Program& program, std::string_view holder, std::string_view file)
 {
     auto picture = LoadPicture(program.Files(), program.BrandFolderNow() + std::string(file));
     if (const Form* preview = program.Loaded("frmPreview")) preview->Get<Image>(holder).SetContent(picture);

@@ -18,15 +18,13 @@ constexpr double kLabelWidth = 2500;
 constexpr double kBoxInset = 60;  // the frame's own place in the sheet's container
 
 constexpr std::array kWaterLabels{
-    "Moisture Can No."sv,   "Mass of Can + Wet Soil, (g)"sv, "Mass of Can + Dry Soil, (g)"sv,
-    "Mass of Can, (g)"sv,   "Mass of Water, (g)"sv,          "Mass of Dry Soil, (g)"sv,
-    "Water Content, (%)"sv,
+    "Moisture Can No."sv,   "Mass of Can + Wet Soil, (g)"sv, "Mass of Can + Dry Soil, (g)"sv, "Mass of Can, (g)"sv,
+    "Mass of Water, (g)"sv, "Mass of Dry Soil, (g)"sv,       "Water Content, (%)"sv,
 };
 
 constexpr std::array kDensityLabels{
-    "Assumed Water Content, (%)"sv, "Mass of Soil + Mold, (g)"sv,  "Mass of Mold, (g)"sv,
-    "Water Content, (g)"sv,         "Mass of Soil in Mold, (g)"sv, "Wet Density, (g/cm^3)"sv,
-    "Dry Density, (g/cm^3)"sv,
+    "Assumed Water Content, (%)"sv, "Mass of Soil + Mold, (g)"sv, "Mass of Mold, (g)"sv,     "Water Content, (g)"sv,
+    "Mass of Soil in Mold, (g)"sv,  "Wet Density, (g/cm^3)"sv,    "Dry Density, (g/cm^3)"sv,
 };
 
 /// The page being drawn: its rows from the body's top, its six sample columns.

@@ -39,8 +39,7 @@ void PaintLogo(Program& program, Printer& printer)
 {
     const auto logo = LoadBrandPicture(program, "Image6", kCoverLogo);
     const double scale = kLogoWidth / logo->width;
-    printer.PaintPicture(logo, printer.Width / 2 - kLogoWidth / 2, kLogoTop, kLogoWidth,
-                         logo->height * scale);
+    printer.PaintPicture(logo, printer.Width / 2 - kLogoWidth / 2, kLogoTop, kLogoWidth, logo->height * scale);
 }
 
 /// Centred on the sheet, ending the line.

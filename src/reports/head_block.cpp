@@ -60,8 +60,7 @@ HeadColumn RightColumn(const DrawingSurface& page)
     return {label, label + page.TextWidth("Date of Test : ")};
 }
 
-void PrintField(const TestSheet& sheet, DrawingSurface& page, const HeadField& field,
-                const HeadColumn& column)
+void PrintField(const TestSheet& sheet, DrawingSurface& page, const HeadField& field, const HeadColumn& column)
 {
     if (field.label.empty()) return;
     PrintFrom(page, column.label, field.label);

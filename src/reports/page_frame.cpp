@@ -27,8 +27,7 @@ constexpr double kBoxLines = 3.5;
 constexpr double kNameLines = 1.6;  // the part of the box above its inner rule
 constexpr double kLogoCellLines = 3.5;
 
-constexpr std::string_view kBanner =
-    "Terravane Program for Road Construction Materials 2022 (Terravane Version 1.0)";
+constexpr std::string_view kBanner = "Terravane Program for Road Construction Materials 2022 (Terravane Version 1.0)";
 
 /// What printer and preview have differently. On the printer the banner is centred by a text one blank
 /// shorter.
@@ -62,9 +61,7 @@ constexpr std::array kTitles{
           {"การทดสอบความหนาแน่นของดินในสนามด้วยวิธีกรวยทราย", "การทดสอบหาความหนาแน่นของดินในสนามด้วยวิธีกรวยทราย"},
           "Field Density Test by Sand Cone Method",
           true},
-    Title{Test::SpcSoil,
-          {"การทดสอบหาความถ่วงจำเพาะของดิน", "การทดสอบหาความความถ่วงจำเพาะของดิน"},
-          "Specific Gravity Test"},
+    Title{Test::SpcSoil, {"การทดสอบหาความถ่วงจำเพาะของดิน", "การทดสอบหาความความถ่วงจำเพาะของดิน"}, "Specific Gravity Test"},
     SameOnBoth(Test::AttSoil, "การทดสอบหาขีดจำกัดอัตเทอร์เบิร์ก", "Atterberg Limits Test"),
     SameOnBoth(Test::SieSoil, "การทดสอบหาขนาดเม็ดดินด้วยวิธีร่อนผ่านตะแกรงมาตรฐาน", "Sieve Analysis Test"),
     SameOnBoth(Test::CBRSoil, "การทดสอบหาค่า ซี.บี.อาร์.", "California Bearing Ratio Test"),

@@ -47,8 +47,7 @@ void PrintCells(DrawingSurface& page, const PageLines& y, const PageColumns& col
     for (int row = part.firstRow; row <= part.lastRow; ++row) {
         page.CurrentY = y(first + row - part.firstRow);
         for (int column = part.firstColumn; column <= part.lastColumn; ++column)
-            PrintCentred(page, columns.Left(column - part.firstColumn + 1), columns.width,
-                         Trim(grid(row, column)));
+            PrintCentred(page, columns.Left(column - part.firstColumn + 1), columns.width, Trim(grid(row, column)));
     }
 }
 

@@ -74,6 +74,12 @@ double Int(double value) noexcept
     return std::floor(value);
 }
 
+float ToSingle(double value)
+{
+    if (!(std::abs(value) <= std::numeric_limits<float>::max())) throw RuntimeError(error::kOverflow);
+    return static_cast<float>(value);
+}
+
 std::int16_t ToInteger(double value)
 {
     using Limits = std::numeric_limits<std::int16_t>;

@@ -44,6 +44,9 @@ double Log(double value);
 /// The largest whole number not above the value.
 double Int(double value) noexcept;
 
+/// Rounds to single precision; error 6 outside its range.
+float ToSingle(double value);
+
 /// Rounds to 16 bits, halves to even; error 6 outside -32768 to 32767.
 std::int16_t ToInteger(double value);
 

@@ -11,7 +11,7 @@
 #include "jet/connection.h"
 #include "support/memory_file_system.h"
 
-namespace terravane::testing {
+namespace terravane::support {
 
 inline constexpr std::size_t kPage = 4096;
 inline constexpr double kCreated = 36526;  // 2000-01-01
@@ -252,4 +252,4 @@ Failure FailureOf(Call call)
     return {};
 }
 
-}  // namespace terravane::testing
+}  // namespace terravane::support

@@ -10,7 +10,7 @@
 #include "runtime/file_system.h"
 #include "runtime/runtime_error.h"
 
-namespace terravane::testing {
+namespace terravane::support {
 
 /// Files by their path; folders exist once MakeFolders named them, or when a file was Put into them.
 ///
@@ -124,4 +124,4 @@ class MemoryFileSystem : public FileSystem {
     mutable int reads_ = 0;
 };
 
-}  // namespace terravane::testing
+}  // namespace terravane::support

@@ -59,7 +59,7 @@ frmCompaction::frmCompaction(Program& owner)
 void frmCompaction::WireEvents()
 {
     Command(cmdOMC, [this] { cmdOMC_Click(); });
-    cmdOMC.MouseMove = {};  // takes the hand, keeps its colour
+    cmdOMC.MouseMove = [] {};  // takes the hand, keeps its colour
     Command5.Click = [this] { Command5_Click(); };
     Command6.Click = [this] { Command6_Click(); };
     chkSatLine.Click = [this] { chkSatLine_Click(); };
@@ -96,6 +96,7 @@ void frmCompaction::BuildGrids()
          {density::WaterContent, density::WetSoil, density::WetDensity, density::DryDensity}) {
         MSHDensity.MarkCalculatedRow(row);
     }
+    MSHData.SetTitleColumns(0);
     MSHData.SetColumnTitles({"wc\n  \n(%)", "Dry Density\n  \n(g/cm^3)"});
     MSHData.SetColumnWidth(0, kPointWidth);
 }

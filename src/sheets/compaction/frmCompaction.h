@@ -141,6 +141,7 @@ struct frmCompaction : TestSheet {
     void DrawAxes();
     CompactionScale ScaleOf(const CompactionPoints& points) const;
     void DrawTicks(const CompactionScale& scale);
+    void DrawCurve(const std::vector<DrawnPoint>& curve);
     CompactionPeak DrawSpline(const CompactionScale& scale);
     CompactionPeak DrawFit(const CompactionScale& scale, const CompactionPoints& points);
     void MarkPoints(const CompactionScale& scale, const CompactionPoints& points);

@@ -21,11 +21,12 @@ double SevenDecimals(double value)
     return RoundedToPlaces(value, 7);
 }
 
-/// The grid's rows as the spline knows them, read back from their texts.
-std::vector<SplineRow> RowsOf(TextGrid& grid)
+/// The grid's rows as the spline knows them, read back from their texts. Error 9 where the spline was not set up for
+/// that many points.
+std::vector<SplineRow> RowsOf(TextGrid& grid, const CompactionPoints& points)
 {
     std::vector<SplineRow> rows;
-    for (int row = 1; row < grid.Rows(); ++row) {
+    for (int row = 1; row <= points.Count(); ++row) {
         rows.push_back({.after = Val(grid(row, spline::After)), .moment = Val(grid(row, spline::Moment))});
     }
     return rows;
@@ -62,8 +63,7 @@ void frmCompaction::Command5_Click()
     MSH2.SetRows(MSHData.Rows());
     NaturalSpline(points.water, points.density, SevenDecimals,
                   [this](std::size_t point, SplineColumn column, double value) {
-                      MSH2(static_cast<int>(point) + 1, static_cast<int>(column)) =
-                          Format(value, kSevenDecimals);
+                      MSH2(static_cast<int>(point) + 1, static_cast<int>(column)) = Format(value, kSevenDecimals);
                   });
 }
 
@@ -85,7 +85,7 @@ void frmCompaction::EvaluateOnePoint(const CompactionPoints& points)
     for (std::size_t i = 0; i + 1 < water.size(); ++i) {
         const auto [low, high] = std::minmax(water[i], water[i + 1]);
         if (at < low || at > high) continue;
-        Text5.SetText(Format(SplineValue(RowsOf(MSH2), water, points.density, i, at), kSevenDecimals));
+        Text5.SetText(Format(SplineValue(RowsOf(MSH2, points), water, points.density, i, at), kSevenDecimals));
         return;
     }
 }
@@ -96,7 +96,7 @@ void frmCompaction::EvaluateOnePoint(const CompactionPoints& points)
 void frmCompaction::TabulateSpline(const CompactionPoints& points)
 {
     const auto& water = points.water;
-    const auto rows = RowsOf(MSH2);
+    const auto rows = RowsOf(MSH2, points);
     const double step = Val(Text6.Text());
     double x = Val(MSHData(1, 0));
     int row = 1;

@@ -9,50 +9,18 @@
 #include "runtime/text.h"
 #include "sheets/compaction/frmCompaction.h"
 #include "sheets/pattern/masks.h"
+#include "sheets/pattern/plot.h"
 
 namespace terravane {
 
 namespace {
 
-constexpr std::string_view kTickFont = "MS Sans Serif";
-constexpr double kTickSize = 8.25;  // points
-constexpr std::string_view kAxisFont = "Times New Roman";
-constexpr double kAxisSize = 14;
+constexpr double kAxisSize = 14;  // points
 
 constexpr int kTicks = 13;
 constexpr double kNothingYet = 9999;  // above every density and water content
 constexpr double kFitStep = 0.001;    // percent of water
-constexpr double kMarkRadius = 40;    // twips
-constexpr double kMostSteps = 5e6;    // more would be no plot but a slip of the pen: refused as out of memory
-
-/// The plot's place on the frame around it.
-struct Inset {
-    double left, top;
-};
-
-Inset InsetOf(const PictureBox& plot, const PictureBox& frame)
-{
-    return {plot.Left - frame.Left, plot.Top - frame.Top};
-}
-
-void SetFont(DrawingSurface& surface, std::string_view name, double size)
-{
-    surface.FontName = name;
-    surface.FontSize = size;
-}
-
-void PrintAt(DrawingSurface& surface, double x, double y, std::string_view text)
-{
-    surface.CurrentX = x;
-    surface.CurrentY = y;
-    surface.Print(text);
-}
-
-/// Tells the views when the command ends, however it ends: a plot that failed shows what was drawn.
-struct ShownAtEnd {
-    PictureBox& box;
-    ~ShownAtEnd() { box.Changed(); }
-};
+constexpr int kCurveWidth = 2;        // the curve is what the eye shall find first
 
 /// The digits of a step from its decimal point on; whole units are dropped.
 double StepOf(double rawStep)
@@ -74,11 +42,6 @@ struct PeakCaptions {
 };
 constexpr PeakCaptions kSplineCaptions{"MDD = ", "OMC = "};
 constexpr PeakCaptions kFitCaptions{"M.D.D. = ", "O.M.C.= "};
-
-void RefuseEndless(double steps)
-{
-    if (steps > kMostSteps) throw RuntimeError(error::kOutOfMemory);
-}
 
 }  // namespace
 
@@ -112,24 +75,8 @@ void frmCompaction::cmdOMC_Click()
 
 void frmCompaction::DrawAxes()
 {
-    const auto [left, top] = InsetOf(picGraph, picgraph1);
-    constexpr std::string_view kWaterTitle = "Water Content , %";
-    constexpr std::string_view kDensityTitle = "Dry Density , g/cm^3";
-    SetFont(picgraph1, kAxisFont, kAxisSize);
-    const double titleHeight = picgraph1.TextHeight(kWaterTitle);
-    PrintAt(picgraph1, left + (picGraph.Width - picgraph1.TextWidth(kWaterTitle)) / 2,
-            picgraph1.Height - 80 - titleHeight - 60, kWaterTitle);
-    picgraph1.PrintTurned(kDensityTitle, (left - titleHeight) / 2,
-                          top + (picGraph.Height + picgraph1.TextWidth(kDensityTitle)) / 2);
-    SetFont(picgraph1, kTickFont, kTickSize);
-    SetFont(picGraph, kTickFont, kTickSize);
-
-    picGraph.DrawWidth = 1;
-    picGraph.ForeColor = kBlack;
-    picGraph.Box(0, 0, picGraph.Width - 50, picGraph.Height - 50);
-    picgraph1.DrawWidth = 2;
-    picgraph1.Box(10, 10, picgraph1.Width - 80, picgraph1.Height - 80);
-    picgraph1.DrawWidth = 1;
+    PrintAxisTitles(picgraph1, picGraph, "Water Content , %", "Dry Density , g/cm^3", kAxisSize);
+    DrawPlotBoxes(picgraph1, picGraph);
 }
 
 CompactionScale frmCompaction::ScaleOf(const CompactionPoints& points) const
@@ -176,6 +123,13 @@ void frmCompaction::DrawTicks(const CompactionScale& scale)
     }
 }
 
+void frmCompaction::DrawCurve(const std::vector<DrawnPoint>& curve)
+{
+    picGraph.DrawWidth = kCurveWidth;
+    picGraph.Polyline(curve, kBlue);
+    picGraph.DrawWidth = 1;
+}
+
 /// The highest row of the spline's table; of equal ones the last.
 CompactionPeak frmCompaction::DrawSpline(const CompactionScale& scale)
 {
@@ -188,7 +142,7 @@ CompactionPeak frmCompaction::DrawSpline(const CompactionScale& scale)
         curve.push_back({scale.X(x), scale.Y(y)});
         if (y >= peak.density) peak = {x, y};
     }
-    picGraph.Polyline(curve, kBlue);
+    DrawCurve(curve);
     return peak;
 }
 
@@ -208,21 +162,16 @@ CompactionPeak frmCompaction::DrawFit(const CompactionScale& scale, const Compac
         curve.push_back({scale.X(x), scale.Y(y)});
         if (peak.density <= y) peak = {x, y};
     }
-    picGraph.Polyline(curve, kBlue);
+    DrawCurve(curve);
     return peak;
 }
 
 void frmCompaction::MarkPoints(const CompactionScale& scale, const CompactionPoints& points)
 {
-    picGraph.ForeColor = kBlack;
-    picGraph.FillSolid = true;
-    picGraph.FillColor = kWhite;
-    for (std::size_t i = 0; i < points.water.size(); ++i) {
-        const double x = scale.X(points.water[i]), y = scale.Y(points.density[i]);
-        picGraph.PSet(x, y, kBlack);
-        picGraph.Circle(x, y, kMarkRadius);
-    }
-    picGraph.FillSolid = false;
+    std::vector<DrawnPoint> marks;
+    for (std::size_t i = 0; i < points.water.size(); ++i)
+        marks.push_back({scale.X(points.water[i]), scale.Y(points.density[i])});
+    DrawMarks(picGraph, marks);
 }
 
 void frmCompaction::DrawGuides(const CompactionScale& scale, CompactionPeak peak)

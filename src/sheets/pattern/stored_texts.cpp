@@ -56,10 +56,32 @@ void LoadRecord(TestSheet& sheet, const TablePass& pass, const jet::Recordset& r
         const std::string& stored = records.Fields(table.ColumnName(place.suffix));
         if (IsHead(place)) {
             if (record == 1) LoadHead(sheet, place, stored);
-        } else if (place.loaded) {
+        } else if (place.loaded && record >= place.firstLoaded) {
             CellOf(sheet, place, record) = sheet.TrimsLists() ? Trim(stored) : std::string_view(stored);
         }
     }
+}
+
+/// Whether a growing list ends before this record.
+bool IsListEnd(const TestSheet& sheet, const TablePass& pass, const jet::Recordset& records)
+{
+    if (pass.list.empty()) return false;
+    return Trim(records.Fields(TableOf(sheet).ColumnName(pass.places.front().suffix))).empty();
+}
+
+void LoadPass(TestSheet& sheet, const TablePass& pass, jet::Recordset& records)
+{
+    records.MoveFirst();
+    for (int record = 1; record <= pass.records; ++record, records.MoveNext()) {
+        if (IsListEnd(sheet, pass, records)) return;
+        if (!pass.list.empty()) sheet.Get<TextGrid>(pass.list).SetRows(record);
+        LoadRecord(sheet, pass, records, record);
+    }
+}
+
+int RecordsToSave(const TestSheet& sheet, const TablePass& pass)
+{
+    return pass.list.empty() ? pass.records : sheet.Get<TextGrid>(pass.list).Rows();
 }
 
 std::string SavedText(TestSheet& sheet, const ColumnPlace& place, int record)
@@ -87,12 +109,7 @@ void LoadTestSheet(TestSheet& sheet)
     OpenProjectConnection(program);
     LoadHeadings(sheet);
     auto& records = Query(program, program.ProjectConnection, SelectAll(TableOf(sheet).name));
-    for (const TablePass& pass : sheet.TablePasses()) {
-        records.MoveFirst();
-        for (int record = 1; record <= pass.records; ++record, records.MoveNext()) {
-            LoadRecord(sheet, pass, records, record);
-        }
-    }
+    for (const TablePass& pass : sheet.TablePasses()) LoadPass(sheet, pass, records);
     records.MoveFirst();
     sheet.LoadChoices(records);
 }
@@ -105,7 +122,8 @@ void SaveTestSheet(TestSheet& sheet)
             UpdateHead(sheet.txtClient.Text(), sheet.txtProject.Text(), sheet.txtLocation.Text(),
                        sheet.txtID.Text()));
     for (const TablePass& pass : sheet.TablePasses()) {
-        for (int record = 1; record <= pass.records; ++record) SaveRecord(sheet, pass, record);
+        const int records = RecordsToSave(sheet, pass);
+        for (int record = 1; record <= records; ++record) SaveRecord(sheet, pass, record);
     }
 }
 

@@ -68,6 +68,7 @@ void TestSheet::Command(CommandButton& button, Handler handler)
 {
     button.Click = std::move(handler);
     button.MouseMove = [&button] { button.SetBackColor(kCommandHover); };
+    button.MouseLeave = [this] { Form_MouseMove(); };
 }
 
 void FillNameLists(Program& program, ComboBox& testerBox, ComboBox& checkerBox)

@@ -31,13 +31,17 @@ struct ColumnPlace {
     int line = 0;
     bool loaded = true;  // results are saved only
     int rowShift = 0;
+    int firstLoaded = 1;  // records before this one are the grid's titles: saved with it, kept when it is loaded
 };
 
 /// The columns that are saved by one statement a record and loaded in one walk over the records.
-/// records  how many, from the first row of the table
+/// records  how many, from the first row of the table; of a list the most that the table takes
+/// list     the grid whose rows are the records, if it grows and shrinks with them: as many are saved as it has rows;
+///          loading ends at the first record whose first column is blank, and leaves a row a record
 struct TablePass {
     int records;
     std::span<const ColumnPlace> places;
+    std::string_view list = {};
 };
 
 /// One step of the way that Enter takes through the fields outside the grids.

@@ -1,0 +1,27 @@
+/// The About box.
+#pragma once
+
+#include "controls/choice_controls.h"
+#include "controls/furniture.h"
+#include "program/program.h"
+
+namespace terravane {
+
+struct frmAbout : Form {
+    explicit frmAbout(Program& program);
+
+    Program& program;
+
+    Image imgMark{*this, "imgMark"};
+    Image imgRoad{*this, "imgRoad"};
+    Label lblName{*this, "lblName", "Terravane"};
+    Label lblVersion{*this, "lblVersion", "Version 1.0"};
+    Label lblInstitution{*this, "lblInstitution", "For laboratories that test road materials"};
+    Label lblDepartment{*this, "lblDepartment", "Soil, crushed rock and field control sections"};
+    Label lblDeveloper{*this, "lblDeveloper", "Written by the Terravane developers"};
+    CommandButton cmdClose{*this, "cmdClose", "Close"};
+
+    void cmdClose_Click() { program.Unload(Name()); }
+};
+
+}  // namespace terravane

@@ -1,0 +1,32 @@
+#include "app/frmProject.h"
+
+#include "app/mdiBack.h"
+#include "store/statements.h"
+
+namespace terravane {
+
+namespace {
+
+constexpr double kWidth = 6600, kHeight = 3600;  // twips
+
+}  // namespace
+
+frmProject::frmProject(Program& owner) : Form(owner, "frmProject", "General Data"), program(owner)
+{
+    Width = kWidth;
+    Height = kHeight;
+    cmdOK.Click = [this] { cmdOK_Click(); };
+}
+
+void frmProject::cmdOK_Click()
+{
+    OpenProjectConnection(program);
+    Execute(program, program.ProjectConnection,
+            UpdateHead(txtClient.Text(), txtProject.Text(), txtLocation.Text(), txtID.Text()));
+    program.FlushStores();  // while the texts still stand here: a disk may refuse them
+    program.Get<mdiBack>(kFrameName).ShowProjectChosen();
+    program.Unload("frmCBR");
+    program.Unload(Name());
+}
+
+}  // namespace terravane

@@ -1,0 +1,32 @@
+/// The splash: stands for three seconds or until a key is pressed, then gives way to the frame.
+#pragma once
+
+#include "controls/furniture.h"
+#include "controls/text_controls.h"
+#include "program/program.h"
+
+namespace terravane {
+
+struct frmTitle : Form {
+    explicit frmTitle(Program& program);
+
+    Program& program;
+
+    Image Image1{*this, "Image1"};
+    Label lblName{*this, "lblName", "Terravane"};
+    Label lblSubject{*this, "lblSubject", "Materials for Road Construction"};
+    Label lblVersion{*this, "lblVersion", "Version 1.0"};
+    Label lblPress{*this, "lblPress", "Press any key"};
+    TextBox txtLoad{*this, "txtLoad"};  // takes the key that ends the splash
+    Timer Timer1{*this, "Timer1", std::chrono::milliseconds(3000)};
+
+    void Form_Activate() override { txtLoad.SetFocus(); }
+
+    void txtLoad_KeyPress() { ShowFrame(); }
+    void Timer1_Timer() { ShowFrame(); }
+
+  private:
+    void ShowFrame();
+};
+
+}  // namespace terravane

@@ -1,0 +1,286 @@
+#include "app/mdiBack.h"
+
+#include <algorithm>
+#include <array>
+
+#include "runtime/text.h"
+#include "store/new_stores.h"
+#include "store/statements.h"
+
+namespace terravane {
+
+namespace {
+
+constexpr std::string_view kRecentFile = "FileRecent.txt";
+constexpr std::string_view kPrefix = "TRVN_";
+constexpr std::string_view kFilter = "Terravane File(*.mdb)|TRVN*.mdb";
+
+/// The order in which the sheets are closed by the commands that choose a file, and by those that go on in a
+/// copy or open another sheet.
+constexpr std::array<std::string_view, 6> kSheets{"frmAtterberg", "frmCBR",   "frmCompaction",
+                                                  "frmDensity",   "frmSieve", "frmSpecific"};
+constexpr std::array<std::string_view, 6> kSheetsOfTests{"frmDensity", "frmCompaction", "frmCBR",
+                                                         "frmSieve",   "frmSpecific",   "frmAtterberg"};
+
+/// What an earlier choice left unsaid: Save File As and To work on the file of the recent entry.
+const Message kNoFileYet{"Please select menu of New File or Open File before.", "Warning", MessageStyle::Information,
+                         MessageButtons::Ok};
+
+ToolButton TestButton(std::string caption, std::string key, const std::string& stem)
+{
+    return {
+        std::move(key), std::move(caption), "", {{stem + "1", "Soil", "", {}}, {stem + "2", "Crushed Rock", "", {}}}};
+}
+
+std::vector<ToolButton> TestButtons()
+{
+    return {
+        TestButton("Atterberg Limits", "mnuAtt", "mnuAtt"),
+        TestButton("Sieve Analysis", "mnuSei", "mnuSie"),  // the button's key alone is spelled so
+        TestButton("Specific Gravity", "mnuSpe", "mnuSpe"),
+        TestButton("Std. Compaction", "mnuStd", "mnuStd"),
+        TestButton("Mod. Compaction", "mnuMod", "mnuMod"),
+        TestButton("CBR", "mnuCBR", "mnuCBR"),
+        TestButton("Field Density", "mnuDen", "mnuDen"),
+    };
+}
+
+/// A command that traps everything and ends without a word.
+template <class Command>
+void TrapSilently(Command command)
+{
+    try {
+        command();
+    } catch (const RuntimeError&) {
+    }
+}
+
+/// What stands before the first line end, CR LF or LF.
+std::string FirstLine(const Bytes& content)
+{
+    const auto end = std::ranges::find_if(content, [](auto byte) { return byte == '\r' || byte == '\n'; });
+    return {content.begin(), end};
+}
+
+}  // namespace
+
+std::string ProjectPathFor(std::string_view fileName, std::string_view fileTitle)
+{
+    const auto mark = fileName.rfind(kFolderMark);
+    const auto folder = mark == std::string_view::npos ? std::string_view() : fileName.substr(0, mark + 1);
+    return std::string(folder).append(kPrefix).append(fileTitle);
+}
+
+mdiBack::mdiBack(Program& owner)
+    : Form(owner, std::string(kFrameName), "Terravane Program : Version 1.0 -  [Materials for Road Construction]"),
+      program(owner),
+      tbrLab(*this, "tbrLab", TestButtons())
+{
+    tbrLab.SetEnabled(false);
+    SetRecentCaption("");
+    WireEvents();
+}
+
+void mdiBack::WireEvents()
+{
+    mnuNew.Click = [this] { mnuNew_Click(); };
+    mnuOpen.Click = [this] { mnuOpen_Click(); };
+    mnuAs.Click = [this] { mnuAs_Click(); };
+    mnuTo.Click = [this] { mnuTo_Click(); };
+    mnuSum.Click = [this] { mnuSum_Click(); };
+    mnuRecent.Click = [this] { mnuRecent_Click(); };
+    mnuExit.Click = [this] { mnuExit_Click(); };
+    mnuLogoT.Click = [this] { mnuLogoT_Click(); };
+    mnuLogoC.Click = [this] { mnuLogoC_Click(); };
+    mnuOpr.Click = [this] { mnuOpr_Click(); };
+    mnuManual.Click = [this] { mnuManual_Click(); };
+    mnuAbout.Click = [this] { mnuAbout_Click(); };
+    tbrLab.ItemClick = [this](const std::string& key) { tbrLab_ButtonMenuClick(key); };
+}
+
+void mdiBack::Form_Load()
+{
+    StatusBar1.SetBackColor(kNoProjectColour);
+    TrapSilently([this] { ReadRecentLine(); });  // a first start has no such file
+}
+
+/// AppFolder stays empty where the application's path ends in a mark already: the assignment belongs to the
+/// mark's being missing.
+void mdiBack::ReadRecentLine()
+{
+    const std::string& path = program.ApplicationPath();
+    if (!path.ends_with(kFolderMark)) program.AppFolder = path + kFolderMark;
+    recentLine_ = FirstLine(program.Files().Read(program.AppFolder + std::string(kRecentFile)));
+    SetRecentCaption(recentLine_);
+}
+
+void mdiBack::SetRecentCaption(const std::string& path)
+{
+    mnuRecent.SetCaption(path);
+    mnuRecent.SetVisible(!path.empty());
+    mnuDot.SetVisible(!path.empty());
+}
+
+void mdiBack::ShowRecentEntry()
+{
+    SetRecentCaption(program.CurrentProjectPath);
+}
+
+void mdiBack::ShowProjectChosen()
+{
+    StatusBar1.SetBackColor(kProjectColour);
+    tbrLab.SetEnabled(true);
+}
+
+void mdiBack::Unload(std::span<const std::string_view> sheets)
+{
+    for (const auto sheet : sheets) program.Unload(sheet);
+}
+
+void mdiBack::UnloadAllSheets()
+{
+    Unload(kSheets);
+}
+
+void mdiBack::UnloadSheetsOfTests()
+{
+    Unload(kSheetsOfTests);
+}
+
+void mdiBack::ReportFailure(const RuntimeError& error)
+{
+    program.Ask().Show({error.Description(), "Error", MessageStyle::Critical, MessageButtons::Ok});
+}
+
+CommonDialog mdiBack::ProjectDialog(const std::string& title) const
+{
+    CommonDialog dialog(program.Ask());
+    dialog.DialogTitle = title;
+    dialog.Filter = kFilter;
+    dialog.FilterIndex = 2;  // behind the only entry: the last one is meant
+    dialog.CancelError = true;
+    return dialog;
+}
+
+void mdiBack::mnuNew_Click()
+try {
+    CommonDialog dialog = ProjectDialog("New File");
+    dialog.ShowSave();
+    program.CurrentProjectPath = ProjectPathFor(dialog.FileName, dialog.FileTitle);
+    CreateProjectFile(program.Files(), program.CurrentProjectPath);
+    program.Show("frmProject");
+    ShowRecentEntry();
+    UnloadAllSheets();
+} catch (const RuntimeError& error) {
+    ReportFailure(error);  // Cancel too: its error is not told apart
+}
+
+void mdiBack::mnuOpen_Click()
+{
+    TrapSilently([this] {
+        CommonDialog dialog = ProjectDialog("Open File");
+        dialog.ShowOpen();
+        program.CurrentProjectPath = dialog.FileName;  // whether it is a project file is found out by a sheet
+        ChooseProject();
+    });
+}
+
+void mdiBack::mnuRecent_Click()
+try {
+    program.CurrentProjectPath = mnuRecent.Caption();
+    OpenProjectConnection(program);
+    ChooseProject();
+} catch (const RuntimeError& error) {
+    ReportFailure(error);
+}
+
+void mdiBack::ChooseProject()
+{
+    ShowProjectChosen();
+    ShowRecentEntry();
+    UnloadAllSheets();
+}
+
+void mdiBack::mnuExit_Click()
+{
+    RememberProject();
+    program.Unload(Name());
+}
+
+void mdiBack::Form_Unload()
+{
+    program.Ask().End();  // first: a disk that takes no more must not keep a program without its frame alive
+    RememberProject();
+}
+
+void mdiBack::RememberProject()
+{
+    if (program.CurrentProjectPath.empty()) return;
+    const std::string line = program.CurrentProjectPath + "\r\n";
+    program.Files().ReplaceWhole(program.AppFolder + std::string(kRecentFile), Bytes(line.begin(), line.end()));
+}
+
+void mdiBack::mnuSum_Click()
+{
+    TrapSilently([this] { program.Show("frmSummary", Modality::Modal); });
+}
+
+void mdiBack::ShowPreferences(int tab)
+{
+    program.Load("frmPreferences").Get<TabControl>("sstPreference").SetTab(tab);
+    program.Show("frmPreferences", Modality::Modal);
+}
+
+void mdiBack::mnuManual_Click()
+{
+    std::string path = program.ApplicationPath();
+    if (!path.ends_with(kFolderMark)) path += kFolderMark;
+    program.Ask().OpenDocument(path + kFolderMark + "BrandList" + kFolderMark + "UserGuide.pdf");
+}
+
+void mdiBack::mnuAbout_Click()
+{
+    program.Show("frmAbout", Modality::Modal);
+}
+
+/// False, and said so, where no file was ever chosen. The recent entry's file counts, also when nothing was
+/// opened since the program started.
+bool mdiBack::TakeRecentAsSource()
+{
+    const auto source = Trim(mnuRecent.Caption());
+    if (source.empty()) {
+        program.Ask().Show(kNoFileYet);
+        return false;
+    }
+    program.CurrentProjectPath = source;
+    return true;
+}
+
+void mdiBack::mnuAs_Click()
+{
+    TrapSilently([this] {
+        if (!TakeRecentAsSource()) return;
+        program.CurrentProjectPath = CopyProject("Save File As...");
+        ShowRecentEntry();
+        UnloadSheetsOfTests();
+    });
+}
+
+void mdiBack::mnuTo_Click()
+{
+    TrapSilently([this] {
+        if (TakeRecentAsSource()) CopyProject("Save File To...");
+    });
+}
+
+/// Copies the current project file; returns the copy's path.
+std::string mdiBack::CopyProject(const std::string& dialogTitle)
+{
+    CommonDialog dialog = ProjectDialog(dialogTitle);
+    dialog.ShowSave();
+    std::string target = ProjectPathFor(dialog.FileName, dialog.FileTitle);
+    program.Files().Copy(program.CurrentProjectPath, target);
+    return target;
+}
+
+}  // namespace terravane

@@ -1,0 +1,104 @@
+/// The main frame: the menu, the toolbar of the tests and the commands that choose the project file and the
+/// test. It holds no test data.
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "controls/form.h"
+#include "controls/furniture.h"
+#include "program/common_dialog.h"
+#include "program/program.h"
+
+namespace terravane {
+
+inline constexpr std::string_view kFrameName = "mdiBack";
+
+/// The strip under the menu tells whether a project is chosen; once green it stays green.
+inline constexpr Colour kNoProjectColour{255, 0, 0};
+inline constexpr Colour kProjectColour{50, 205, 50};
+
+/// The banner's ground on a sheet.
+inline constexpr Colour kSoilColour{0, 0, 192};
+inline constexpr Colour kCrushedRockColour{128, 0, 128};
+
+/// The path of new files and copies: the folder of what was chosen, "TRVN_", its title. The prefix is added
+/// also where the title has it already.
+std::string ProjectPathFor(std::string_view fileName, std::string_view fileTitle);
+
+struct mdiBack : Form {
+    explicit mdiBack(Program& program);
+
+    Program& program;
+
+    MenuEntry mnuFile{*this, "mnuFile", "File"};
+    MenuEntry mnuNew{*this, "mnuNew", "New File", "mnuFile"};
+    MenuEntry mnuOpen{*this, "mnuOpen", "Open File", "mnuFile"};
+    MenuEntry mnuDash1{*this, "mnuDash1", "-", "mnuFile"};
+    MenuEntry mnuAs{*this, "mnuAs", "Save File As...", "mnuFile"};
+    MenuEntry mnuTo{*this, "mnuTo", "Save File To...", "mnuFile"};
+    MenuEntry mnuD1{*this, "mnuD1", "-", "mnuFile"};
+    MenuEntry mnuSum{*this, "mnuSum", "Overall Results", "mnuFile"};
+    MenuEntry mnuD{*this, "mnuD", "-", "mnuFile"};
+    MenuEntry mnuRecent{*this, "mnuRecent", "", "mnuFile"};  // its caption is the last project's path
+    MenuEntry mnuDot{*this, "mnuDot", "-", "mnuFile"};       // comes and goes with it
+    MenuEntry mnuExit{*this, "mnuExit", "Exit", "mnuFile"};
+    MenuEntry mnuData{*this, "mnuData", "Setting"};
+    MenuEntry mnuLogoT{*this, "mnuLogoT", "Head Logo and Name", "mnuData"};
+    MenuEntry mnuLogoC{*this, "mnuLogoC", "Cover Logo and Name", "mnuData"};
+    MenuEntry mnuDott{*this, "mnuDott", "-", "mnuData"};
+    MenuEntry mnuOpr{*this, "mnuOpr", "Personnel Name", "mnuData"};
+    MenuEntry mnuUtility{*this, "mnuUtility", "Help"};
+    MenuEntry mnuManual{*this, "mnuManual", "User's Guide", "mnuUtility"};
+    MenuEntry mnuDash2{*this, "mnuDash2", "-", "mnuUtility"};
+    MenuEntry mnuAbout{*this, "mnuAbout", "About Terravane", "mnuUtility"};
+
+    Frame CoolBar1{*this, "CoolBar1"};  // StatusBar1 in its first band, tbrLab in its second
+    StatusBar StatusBar1{*this, "StatusBar1", 0};
+    Toolbar tbrLab;  // seven drop-down buttons of two items each; disabled until a project is chosen
+
+    void Form_Load() override;
+    /// The frame closed in any way: the project is remembered and the program ends.
+    void Form_Unload() override;
+
+    void mnuNew_Click();
+    void mnuOpen_Click();
+    void mnuAs_Click();
+    void mnuTo_Click();
+    void mnuSum_Click();
+    void mnuRecent_Click();
+    void mnuExit_Click();
+    void mnuLogoT_Click() { ShowPreferences(0); }
+    void mnuLogoC_Click() { ShowPreferences(1); }
+    void mnuOpr_Click() { ShowPreferences(2); }
+    void mnuManual_Click();
+    void mnuAbout_Click();
+    /// Opens the sheet of an item, "mnuStd1", and fills it from the project file. The sheet that was open is
+    /// closed without a question. Errors of the sheet's load and of the store; an unknown key closes only.
+    void tbrLab_ButtonMenuClick(std::string_view key);
+
+    /// Makes the recent entry the current project's.
+    void ShowRecentEntry();
+    /// The strip turns green and the tests can be opened.
+    void ShowProjectChosen();
+    void UnloadAllSheets();
+
+  private:
+    void WireEvents();
+    void ReadRecentLine();
+    void RememberProject();
+    void SetRecentCaption(const std::string& path);
+    void ChooseProject();
+    CommonDialog ProjectDialog(const std::string& title) const;
+    bool TakeRecentAsSource();
+    std::string CopyProject(const std::string& dialogTitle);
+    void Unload(std::span<const std::string_view> sheets);
+    void UnloadSheetsOfTests();
+    void ShowPreferences(int tab);
+    void ReportFailure(const RuntimeError& error);
+
+    std::string recentLine_;  // of FileRecent.txt
+};
+
+}  // namespace terravane

@@ -1,0 +1,256 @@
+#include "desktop/bindings.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDateEdit>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScrollBar>
+#include <QSignalBlocker>
+#include <QStatusBar>
+#include <QStyle>
+#include <QTabWidget>
+#include <QTimer>
+#include <QToolBar>
+#include <QToolButton>
+
+#include "controls/form.h"
+#include "desktop/looks.h"
+
+namespace terravane {
+
+namespace {
+
+QString ToQt(const std::string& text) { return QString::fromStdString(text); }
+
+/// Selects the view's text when a handler asked for it since the last look.
+template <class View>
+auto SelectsWhenAsked(const Control& control, View& view)
+{
+    return [&control, &view, seen = control.SelectAllRequests()]() mutable {
+        if (control.SelectAllRequests() == seen) return;
+        seen = control.SelectAllRequests();
+        view.selectAll();
+    };
+}
+
+void ShowText(QLineEdit& edit, const std::string& text)
+{
+    if (const auto shown = ToQt(text); shown != edit.text()) edit.setText(shown);
+}
+
+void ShowList(QComboBox& view, const std::vector<std::string>& list)
+{
+    QStringList items;
+    for (const auto& item : list) items << ToQt(item);
+    QStringList present;
+    for (int i = 0; i < view.count(); ++i) present << view.itemText(i);
+    if (items == present) return;
+    view.clear();
+    view.addItems(items);
+}
+
+QIcon IconOf(const QToolBar& view, const std::string& caption)
+{
+    if (caption.starts_with("Save")) return view.style()->standardIcon(QStyle::SP_DialogSaveButton);
+    if (caption.starts_with("Exit") || caption.starts_with("Close")) {
+        return view.style()->standardIcon(QStyle::SP_DialogCloseButton);
+    }
+    if (caption.starts_with("Print")) return view.style()->standardIcon(QStyle::SP_FileDialogDetailedView);
+    return {};
+}
+
+QToolButton* MakeToolButton(Toolbar& bar, int number, QToolBar& view)
+{
+    const ToolButton& button = bar.Button(number);
+    auto* tool = new QToolButton(&view);
+    tool->setText(ToQt(button.caption));
+    tool->setToolTip(ToQt(button.toolTip.empty() ? button.caption : button.toolTip));
+    tool->setAccessibleName(ToQt(button.caption));
+    tool->setIcon(IconOf(view, button.caption));
+    tool->setToolButtonStyle(tool->icon().isNull() ? Qt::ToolButtonTextOnly : Qt::ToolButtonTextBesideIcon);
+    tool->setFocusPolicy(Qt::TabFocus);
+    if (button.items.empty()) {
+        QObject::connect(tool, &QToolButton::clicked, &view, [&bar, number] { bar.Press(number); });
+        return tool;
+    }
+    auto* menu = new QMenu(tool);
+    for (const ToolButton& item : button.items) {
+        menu->addAction(ToQt(item.caption), &view, [&bar, key = item.key] { bar.PressItem(key); });
+    }
+    tool->setMenu(menu);
+    tool->setPopupMode(QToolButton::InstantPopup);
+    return tool;
+}
+
+}  // namespace
+
+QString PlainCaption(const Control& control) { return ToQt(control.Caption()).remove('&'); }
+
+Subscription BindFurniture(Control& control, QWidget& view)
+{
+    const QString caption = PlainCaption(control);
+    view.setAccessibleName(caption.isEmpty() ? ToQt(control.Name()) : caption);
+    view.setObjectName(ToQt(control.Name()));
+    return control.Show([&control, &view] {
+        view.setEnabled(control.Enabled());
+        view.setVisible(control.Visible());
+        if (!control.ToolTip().empty()) view.setToolTip(ToQt(control.ToolTip()));
+        const auto ground = control.BackColor();
+        if (ground) looks::SetGround(view, looks::ToQt(*ground));
+    });
+}
+
+Subscription Bind(TextBox& box, QLineEdit& edit)
+{
+    QObject::connect(&edit, &QLineEdit::textEdited, &edit,  // the user's typing only, never setText
+                     [&box](const QString& text) { box.Type(text.toStdString()); });
+    return box.Show([&box, &edit, select = SelectsWhenAsked(box, edit)]() mutable {
+        ShowText(edit, box.Text());
+        edit.setReadOnly(box.Locked());
+        select();
+    });
+}
+
+Subscription Bind(ComboBox& combo, QComboBox& view)
+{
+    view.setEditable(true);
+    view.setInsertPolicy(QComboBox::NoInsert);
+    view.setCompleter(nullptr);
+    QObject::connect(view.lineEdit(), &QLineEdit::textEdited, &view,
+                     [&combo](const QString& text) { combo.Type(text.toStdString()); });
+    QObject::connect(&view, &QComboBox::activated, &view,
+                     [&combo](int index) { combo.Choose(static_cast<std::size_t>(index)); });
+    return combo.Show([&combo, &view, select = SelectsWhenAsked(combo, *view.lineEdit())]() mutable {
+        const QSignalBlocker quiet(view);
+        ShowList(view, combo.List());
+        ShowText(*view.lineEdit(), combo.Text());
+        select();
+    });
+}
+
+Subscription Bind(DatePicker& picker, QDateEdit& edit)
+{
+    edit.setCalendarPopup(true);
+    edit.setDisplayFormat("dd/MM/yyyy");
+    QObject::connect(&edit, &QDateEdit::userDateChanged, &edit,
+                     [&picker](QDate date) { picker.Type(date.toString(Qt::ISODate).toStdString()); });
+    return picker.Show([&picker, &edit] {
+        const QSignalBlocker quiet(edit);
+        edit.setDate(QDate::fromString(ToQt(picker.Text()), "dd/MM/yyyy"));
+    });
+}
+
+Subscription Bind(CommandButton& button, QPushButton& view)
+{
+    QObject::connect(&view, &QPushButton::clicked, &view, [&button] { button.Press(); });
+    return button.Show([&button, &view] { view.setText(ToQt(button.Caption())); });
+}
+
+Subscription Bind(OptionButton& option, QRadioButton& view)
+{
+    view.setAutoExclusive(false);  // the controls know their groups
+    QObject::connect(&view, &QRadioButton::clicked, &view, [&option, &view] {
+        option.Choose();
+        view.setChecked(option.Value());
+    });
+    return option.Show([&option, &view] {
+        view.setText(ToQt(option.Caption()));
+        view.setChecked(option.Value());
+    });
+}
+
+Subscription Bind(CheckBox& box, QCheckBox& view)
+{
+    QObject::connect(&view, &QCheckBox::clicked, &view, [&box](bool checked) { box.SetValue(checked); });
+    return box.Show([&box, &view] {
+        view.setText(ToQt(box.Caption()));
+        view.setChecked(box.Value());
+    });
+}
+
+Subscription Bind(ListBox& list, QListWidget& view)
+{
+    view.setSelectionMode(QAbstractItemView::MultiSelection);
+    for (const auto& entry : list.List()) view.addItem(ToQt(entry).trimmed());
+    QObject::connect(&view, &QListWidget::itemSelectionChanged, &view, [&list, &view] {
+        for (int i = 0; i < view.count(); ++i) {
+            list.SetSelected(static_cast<std::size_t>(i), view.item(i)->isSelected());
+        }
+    });
+    return list.Show([&list, &view] {
+        const QSignalBlocker quiet(view);
+        for (int i = 0; i < view.count(); ++i) view.item(i)->setSelected(list.Selected(static_cast<std::size_t>(i)));
+    });
+}
+
+Subscription Bind(Label& label, QLabel& view)
+{
+    return label.Show([&label, &view] { view.setText(ToQt(label.Caption())); });
+}
+
+Subscription Bind(TabControl& tabs, QTabWidget& view)
+{
+    QObject::connect(&view, &QTabWidget::currentChanged, &view, [&tabs](int tab) {
+        if (tab >= 0) tabs.SetTab(tab);
+    });
+    return tabs.Show([&tabs, &view] {
+        for (int tab = 0; tab < view.count(); ++tab) {
+            view.setTabEnabled(tab, tabs.TabEnabled(tab));
+            view.setTabToolTip(tab, tabs.TabEnabled(tab) ? QString() : ToQt(tabs.ToolTip()));
+        }
+        if (view.currentIndex() != tabs.Tab()) view.setCurrentIndex(tabs.Tab());
+    });
+}
+
+Subscription Bind(Toolbar& bar, QToolBar& view)
+{
+    std::vector<QToolButton*> tools;
+    for (int number = 1; number <= static_cast<int>(bar.Buttons().size()); ++number) {
+        tools.push_back(MakeToolButton(bar, number, view));
+        view.addWidget(tools.back());
+    }
+    return bar.Show([&bar, tools] {
+        for (std::size_t i = 0; i < tools.size(); ++i) tools[i]->setEnabled(bar.Enabled() && bar.Buttons()[i].enabled);
+    });
+}
+
+Subscription Bind(StatusBar& bar, QStatusBar& view)
+{
+    view.setSizeGripEnabled(false);
+    std::vector<QLabel*> panels;
+    for (std::size_t number = 1; number <= bar.PanelCount(); ++number) {
+        panels.push_back(new QLabel(&view));
+        view.addWidget(panels.back(), number == 1 ? 1 : 0);
+    }
+    return bar.Show([&bar, panels] {
+        for (std::size_t i = 0; i < panels.size(); ++i) panels[i]->setText(ToQt(bar.Panel(i + 1)));
+    });
+}
+
+Subscription Bind(ScrollBar& bar, QScrollBar& view)
+{
+    QObject::connect(&view, &QScrollBar::valueChanged, &view, [&bar](int value) { bar.SetValue(value); });
+    return bar.Show([&bar, &view] {
+        const QSignalBlocker quiet(view);
+        view.setRange(0, std::max(0, bar.Maximum()));
+        view.setSingleStep(300);
+        view.setPageStep(3000);
+        view.setValue(bar.Value());
+        view.setEnabled(bar.Maximum() > 0);
+    });
+}
+
+Subscription Bind(Timer& timer, QTimer& clock)
+{
+    QObject::connect(&clock, &QTimer::timeout, &clock, [&timer] { timer.Tick(); });
+    clock.start(timer.Interval());
+    return timer.Show([] {});
+}
+
+}  // namespace terravane

@@ -1,0 +1,92 @@
+#include "desktop/desktop.h"
+
+#include <algorithm>
+
+#include "desktop/preview_window.h"
+
+namespace terravane {
+
+namespace {
+
+/// The form dies when the running command has ended, its window as soon as no event of its own runs any more: in
+/// between nothing of the window may reach a control.
+void LetGo(QWidget& window)
+{
+    for (QObject* part : window.findChildren<QObject*>()) part->blockSignals(true);
+    for (FormView* view : window.findChildren<FormView*>()) view->LetGo();
+    window.hide();
+    window.setEnabled(false);
+    window.deleteLater();
+}
+
+}  // namespace
+
+Desktop::Desktop(Program& program, QtSurroundings& surroundings)
+    : program_(program), surroundings_(surroundings), following_(program.ShowForms([this] { Follow(); }))
+{
+    Follow();
+}
+
+Desktop::~Desktop()
+{
+    following_ = {};
+    for (const auto& [form, window] : windows_) {
+        if (!dynamic_cast<FrameWindow*>(window)) delete window;
+    }
+    delete FrameOpen();
+}
+
+QWidget* Desktop::WindowOf(const Form& form) const
+{
+    const auto found = windows_.find(&form);
+    return found == windows_.end() ? nullptr : found->second;
+}
+
+void Desktop::Follow()
+{
+    TakeAwayClosed();
+    for (const auto& shown : program_.ShownForms()) {
+        QWidget*& window = windows_[shown.form];
+        if (!window) window = Open(shown);
+    }
+}
+
+void Desktop::TakeAwayClosed()
+{
+    std::erase_if(windows_, [this](const auto& entry) {
+        const auto& [form, window] = entry;
+        const auto& shown = program_.ShownForms();
+        if (std::ranges::find(shown, form, &Program::ShownForm::form) != shown.end()) return false;
+        LetGo(*window);
+        return true;
+    });
+}
+
+FrameWindow* Desktop::FrameOpen() const
+{
+    for (const auto& [form, window] : windows_) {
+        if (auto* frame = dynamic_cast<FrameWindow*>(window)) return frame;
+    }
+    return nullptr;
+}
+
+QWidget* Desktop::Open(const Program::ShownForm& shown)
+{
+    Form& form = *shown.form;
+    QWidget* window = nullptr;
+    if (form.Name() == "mdiBack") {
+        window = new FrameWindow(program_, form);
+    } else if (form.Name() == "frmTitle") {
+        window = new SplashWindow(form);
+    } else if (form.Name() == "frmPreview") {
+        window = new PreviewWindow(program_, surroundings_, form, FrameOpen());
+    } else if (form.Find("tblMenu")) {
+        return FrameOpen()->ShowSheet(form);
+    } else {
+        window = new DialogWindow(program_, form, shown.modality, FrameOpen());
+    }
+    window->show();
+    return window;
+}
+
+}  // namespace terravane

@@ -1,0 +1,33 @@
+/// Keeps a window for every form that the program shows, and takes it away with the form.
+#pragma once
+
+#include <QWidget>
+#include <map>
+
+#include "desktop/qt_surroundings.h"
+#include "desktop/windows.h"
+#include "program/program.h"
+
+namespace terravane {
+
+class Desktop {
+ public:
+    Desktop(Program& program, QtSurroundings& surroundings);
+    ~Desktop();
+
+    /// The window of a shown form; nullptr where it has none.
+    QWidget* WindowOf(const Form& form) const;
+
+ private:
+    void Follow();
+    void TakeAwayClosed();
+    QWidget* Open(const Program::ShownForm& shown);
+    FrameWindow* FrameOpen() const;
+
+    Program& program_;
+    QtSurroundings& surroundings_;
+    std::map<const Form*, QWidget*> windows_;
+    Subscription following_;
+};
+
+}  // namespace terravane

@@ -1,0 +1,313 @@
+#include "desktop/form_view.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDateEdit>
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScrollArea>
+#include <QTabWidget>
+#include <QTimer>
+#include <QVBoxLayout>
+#include <optional>
+
+#include "controls/picture_box.h"
+#include "desktop/grid_view.h"
+#include "desktop/looks.h"
+#include "desktop/plot_view.h"
+
+namespace terravane {
+
+namespace {
+
+std::optional<Key> KeyOf(int key)
+{
+    switch (key) {
+        case Qt::Key_Return:
+        case Qt::Key_Enter: return Key::Enter;
+        case Qt::Key_Escape: return Key::Esc;
+        case Qt::Key_Up: return Key::Up;
+        case Qt::Key_Down: return Key::Down;
+        case Qt::Key_Left: return Key::Left;
+        case Qt::Key_Right: return Key::Right;
+        case Qt::Key_Tab: return Key::Tab;
+        default: return std::nullopt;
+    }
+}
+
+QLabel* MakeCaption(const Control& control, QWidget* buddy, QWidget* parent)
+{
+    auto* label = new QLabel(PlainCaption(control), parent);
+    label->setBuddy(buddy);
+    return label;
+}
+
+}  // namespace
+
+FormView::FormView(Form& form, const Place& layout, QWidget* parent) : QWidget(parent), form_(form)
+{
+    auto* box = new QVBoxLayout(this);
+    box->setContentsMargins(looks::kMargin, looks::kMargin, looks::kMargin, looks::kMargin);
+    box->setSpacing(looks::kGap);
+    box->addWidget(Make(layout), 1);
+    for (Control* control : form.Controls()) {
+        auto* timer = dynamic_cast<Timer*>(control);
+        if (!timer) continue;
+        bindings_.push_back(Bind(*timer, *new QTimer(this)));
+        timer->Tick();  // the clock is right from the start
+    }
+    bindings_.push_back(form.Show([this] { FollowFocus(); }));
+}
+
+FormView::~FormView() = default;
+
+void FormView::LetGo()
+{
+    bindings_.clear();
+    controls_.clear();
+    views_.clear();
+}
+
+QWidget* FormView::ViewOf(const Control& control) const
+{
+    const auto found = views_.find(&control);
+    return found == views_.end() ? nullptr : found->second;
+}
+
+QWidget* FormView::Make(const Place& place)
+{
+    switch (place.kind) {
+        case Place::Kind::Row:
+        case Place::Kind::Column:
+        case Place::Kind::Fields: return MakeBox(place);
+        case Place::Kind::Group: return MakeGroup(place);
+        case Place::Kind::Tabs: return MakeTabs(place);
+        case Place::Kind::Scroll: return MakeScroll(place);
+        case Place::Kind::Field: return MakeField(place);
+        case Place::Kind::Result: return MakeResult(place);
+        case Place::Kind::Banner: return MakeBanner(place);
+        case Place::Kind::Plot: return MakePlot(place);
+        case Place::Kind::Control: return MakeControl(form_.Get<Control>(place.control));
+        case Place::Kind::Space: break;
+    }
+    return new QWidget(this);
+}
+
+void FormView::Add(QBoxLayout& box, const Place& place)
+{
+    if (place.kind == Place::Kind::Space) return box.addStretch(place.stretch);
+    box.addWidget(Make(place), place.stretch);
+}
+
+void FormView::AddAll(QBoxLayout& box, const std::vector<Place>& parts)
+{
+    box.setContentsMargins(0, 0, 0, 0);
+    box.setSpacing(box.direction() == QBoxLayout::LeftToRight ? looks::kWideGap : looks::kGap);
+    for (const Place& part : parts) Add(box, part);
+}
+
+QWidget* FormView::MakeBox(const Place& place)
+{
+    auto* widget = new QWidget(this);
+    if (place.kind == Place::Kind::Fields) {
+        auto* fields = new QFormLayout(widget);
+        fields->setContentsMargins(0, 0, 0, 0);
+        fields->setSpacing(looks::kGap);
+        fields->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+        for (const Place& part : place.parts) AddFieldRow(*fields, part);
+        return widget;
+    }
+    const bool isRow = place.kind == Place::Kind::Row;
+    auto* box = new QBoxLayout(isRow ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom, widget);
+    AddAll(*box, place.parts);
+    return widget;
+}
+
+void FormView::AddFieldRow(QFormLayout& fields, const Place& place)
+{
+    auto& control = form_.Get<Control>(place.control);
+    QWidget* view = MakeControl(control);
+    fields.addRow(MakeCaption(control, view, this), view);
+}
+
+QWidget* FormView::MakeGroup(const Place& place)
+{
+    auto& frame = form_.Get<Control>(place.control);
+    auto* group = new QGroupBox(PlainCaption(frame), this);
+    auto* box = new QVBoxLayout(group);
+    AddAll(*box, place.parts);
+    box->setContentsMargins(looks::kGap, looks::kGap, looks::kGap, looks::kGap);
+    bindings_.push_back(BindFurniture(frame, *group));
+    views_[&frame] = group;
+    return group;
+}
+
+QWidget* FormView::MakeTabs(const Place& place)
+{
+    auto& control = form_.Get<TabControl>(place.control);
+    auto* tabs = new QTabWidget(this);
+    for (std::size_t i = 0; i < place.parts.size(); ++i) {
+        auto* page = new QWidget(tabs);
+        auto* box = new QVBoxLayout(page);
+        box->setContentsMargins(looks::kMargin, looks::kMargin, looks::kMargin, looks::kMargin);
+        box->addWidget(Make(place.parts[i]));
+        tabs->addTab(page, QString::fromStdString(control.TabCaption(static_cast<int>(i))));
+    }
+    bindings_.push_back(Bind(control, *tabs));
+    Watch(control, *tabs);
+    return tabs;
+}
+
+QWidget* FormView::MakeScroll(const Place& place)
+{
+    auto* area = new QScrollArea(this);
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    auto* inside = new QWidget(area);
+    auto* box = new QVBoxLayout(inside);
+    AddAll(*box, place.parts);
+    area->setWidget(inside);
+    return area;
+}
+
+QWidget* FormView::MakeField(const Place& place)
+{
+    auto& control = form_.Get<Control>(place.control);
+    auto* widget = new QWidget(this);
+    auto* box = new QHBoxLayout(widget);
+    box->setContentsMargins(0, 0, 0, 0);
+    box->setSpacing(looks::kGap);
+    QWidget* view = MakeControl(control);
+    box->addWidget(MakeCaption(control, view, this));
+    box->addWidget(view, 1);
+    return widget;
+}
+
+QWidget* FormView::MakeResult(const Place& place)
+{
+    auto& box = form_.Get<TextBox>(place.control);
+    auto* widget = new QWidget(this);
+    auto* column = new QVBoxLayout(widget);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(2);
+    QWidget* figure = MakeControl(box);
+    figure->setFont(looks::Scaled(figure->font(), looks::kFigureSize, true));
+    auto* caption = MakeCaption(box, figure, this);
+    caption->setFont(looks::Scaled(caption->font(), looks::kCaptionSize));
+    column->addWidget(caption);
+    auto* row = new QHBoxLayout;
+    row->setSpacing(looks::kGap);
+    row->addWidget(figure, 1);
+    row->addWidget(new QLabel(QString::fromUtf8(place.text.data(), static_cast<qsizetype>(place.text.size())), this));
+    column->addLayout(row);
+    return widget;
+}
+
+/// The test's Thai and English names in white on the material's colour.
+QWidget* FormView::MakeBanner(const Place& place)
+{
+    auto& box = form_.Get<TextBox>(place.control);
+    auto* banner = new QLabel(this);
+    banner->setAlignment(Qt::AlignCenter);
+    banner->setFont(looks::Scaled(banner->font(), looks::kBannerSize, true));
+    banner->setContentsMargins(looks::kMargin, 6, looks::kMargin, 6);
+    banner->setMinimumHeight(2 * QFontMetrics(banner->font()).lineSpacing() + 20);
+    bindings_.push_back(BindFurniture(box, *banner));
+    bindings_.push_back(
+        box.Show([&box, banner] { banner->setText(QString::fromStdString(box.Text()).remove('\r')); }));
+    views_[&box] = banner;
+    return banner;
+}
+
+QWidget* FormView::MakePlot(const Place& place)
+{
+    auto& frame = form_.Get<PictureBox>(place.control);
+    PictureBox* plot = place.text.empty() ? nullptr : &form_.Get<PictureBox>(place.text);
+    auto* view = new PlotView(frame, plot, this);
+    views_[&frame] = view;
+    if (plot) views_[plot] = view;
+    return view;
+}
+
+/// A picture of the control's own, else the program's mark.
+QWidget* FormView::MakeImage(Image& image)
+{
+    auto* view = new QLabel(this);
+    view->setPixmap(looks::ProgramIcon().pixmap(96, 96));
+    bindings_.push_back(BindFurniture(image, *view));
+    views_[&image] = view;
+    return view;
+}
+
+template <class View, class Kind>
+QWidget* FormView::MakeBound(Kind& control)
+{
+    auto* view = new View(this);
+    bindings_.push_back(BindFurniture(control, *view));
+    bindings_.push_back(Bind(control, *view));
+    Watch(control, *view);
+    return view;
+}
+
+QWidget* FormView::MakeControl(Control& control)
+{
+    if (auto* box = dynamic_cast<TextBox*>(&control)) return MakeBound<QLineEdit>(*box);
+    if (auto* combo = dynamic_cast<ComboBox*>(&control)) return MakeBound<QComboBox>(*combo);
+    if (auto* picker = dynamic_cast<DatePicker*>(&control)) return MakeBound<QDateEdit>(*picker);
+    if (auto* button = dynamic_cast<CommandButton*>(&control)) return MakeBound<QPushButton>(*button);
+    if (auto* option = dynamic_cast<OptionButton*>(&control)) return MakeBound<QRadioButton>(*option);
+    if (auto* check = dynamic_cast<CheckBox*>(&control)) return MakeBound<QCheckBox>(*check);
+    if (auto* list = dynamic_cast<ListBox*>(&control)) return MakeBound<QListWidget>(*list);
+    if (auto* label = dynamic_cast<Label*>(&control)) return MakeBound<QLabel>(*label);
+    if (auto* image = dynamic_cast<Image*>(&control)) return MakeImage(*image);
+    auto& grid = form_.Get<TextGrid>(control.Name());
+    auto* view = new GridView(grid, this);
+    bindings_.push_back(BindFurniture(grid, *view));
+    Watch(grid, *view);
+    if (view->EditorBox()) Watch(*grid.Editor(), *view->EditorBox());
+    return view;
+}
+
+void FormView::Watch(Control& control, QWidget& view)
+{
+    views_[&control] = &view;
+    for (QWidget* child : view.findChildren<QWidget*>()) {
+        if (child->focusProxy() != &view && !dynamic_cast<QLineEdit*>(child)) continue;
+        controls_[child] = &control;
+        child->installEventFilter(this);
+    }
+    controls_[&view] = &control;
+    view.installEventFilter(this);
+    view.setMouseTracking(true);
+}
+
+bool FormView::eventFilter(QObject* watched, QEvent* event)
+{
+    const auto found = controls_.find(watched);
+    if (found == controls_.end()) return false;
+    Control& control = *found->second;
+    if (event->type() == QEvent::FocusIn) control.SetFocus();
+    if (event->type() == QEvent::Enter && control.MouseMove) control.MouseMove();
+    if (event->type() == QEvent::Leave && control.MouseMove && control.MouseLeave) control.MouseLeave();
+    if (event->type() != QEvent::KeyPress) return false;
+    const auto* press = static_cast<QKeyEvent*>(event);
+    const auto key = press->modifiers() & (Qt::ControlModifier | Qt::AltModifier) ? std::nullopt : KeyOf(press->key());
+    return key && control.PressKey(*key);
+}
+
+void FormView::FollowFocus()
+{
+    Control* active = form_.ActiveControl();
+    QWidget* view = active ? ViewOf(*active) : nullptr;
+    if (!view || !view->isVisible() || view->isAncestorOf(focusWidget()) || view->hasFocus()) return;
+    view->setFocus(Qt::OtherFocusReason);
+}
+
+}  // namespace terravane

@@ -1,0 +1,59 @@
+/// A form shown by its layout: makes a widget for every place, binds it to its control, forwards keys and focus.
+#pragma once
+
+#include <QWidget>
+#include <unordered_map>
+
+#include "controls/form.h"
+#include "desktop/bindings.h"
+#include "desktop/layout.h"
+
+class QBoxLayout;
+class QFormLayout;
+
+namespace terravane {
+
+class FormView : public QWidget {
+ public:
+    FormView(Form& form, const Place& layout, QWidget* parent = nullptr);
+    ~FormView() override;
+
+    Form& Shown() const { return form_; }
+    /// Ends all traffic with the form, which may go away from now on.
+    void LetGo();
+
+    /// The widget of a control; nullptr where it has no place.
+    QWidget* ViewOf(const Control& control) const;
+
+ protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+    void Add(QBoxLayout& box, const Place& place);
+    void AddAll(QBoxLayout& box, const std::vector<Place>& parts);
+    void AddFieldRow(QFormLayout& fields, const Place& place);
+    QWidget* MakeBox(const Place& place);
+    QWidget* MakeGroup(const Place& place);
+    QWidget* MakeTabs(const Place& place);
+    QWidget* MakeScroll(const Place& place);
+    QWidget* MakeField(const Place& place);
+    QWidget* MakeResult(const Place& place);
+    QWidget* MakeBanner(const Place& place);
+    QWidget* MakePlot(const Place& place);
+    QWidget* MakeImage(class Image& image);
+    QWidget* MakeControl(Control& control);
+    QWidget* Make(const Place& place);
+
+    template <class View, class Kind>
+    QWidget* MakeBound(Kind& control);
+
+    void Watch(Control& control, QWidget& view);
+    void FollowFocus();
+
+    Form& form_;
+    std::unordered_map<const Control*, QWidget*> views_;
+    std::unordered_map<const QObject*, Control*> controls_;
+    Bindings bindings_;
+};
+
+}  // namespace terravane

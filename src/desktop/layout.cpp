@@ -1,0 +1,80 @@
+#include "desktop/layout.h"
+
+#include <map>
+
+#include "desktop/layouts.h"
+#include "runtime/runtime_error.h"
+
+namespace terravane {
+
+namespace layout {
+
+Place Row(std::vector<Place> parts, int stretch) { return {Place::Kind::Row, {}, std::move(parts), {}, stretch}; }
+
+Place Column(std::vector<Place> parts, int stretch)
+{
+    return {Place::Kind::Column, {}, std::move(parts), {}, stretch};
+}
+
+Place Fields(std::vector<std::string_view> controls, int stretch)
+{
+    Place fields{Place::Kind::Fields, {}, {}, {}, stretch};
+    for (const auto control : controls) fields.parts.push_back(One(control));
+    return fields;
+}
+
+Place Group(std::string_view frame, std::vector<Place> parts, int stretch)
+{
+    return {Place::Kind::Group, frame, std::move(parts), {}, stretch};
+}
+
+Place Tabs(std::string_view control, std::vector<Place> pages)
+{
+    return {Place::Kind::Tabs, control, std::move(pages), {}, 1};
+}
+
+Place One(std::string_view control, int stretch) { return {Place::Kind::Control, control, {}, {}, stretch}; }
+
+Place Field(std::string_view control, int stretch) { return {Place::Kind::Field, control, {}, {}, stretch}; }
+
+Place Result(std::string_view control, std::string_view unit) { return {Place::Kind::Result, control, {}, unit, 0}; }
+
+Place Banner(std::string_view control) { return {Place::Kind::Banner, control, {}, {}, 0}; }
+
+Place Plot(std::string_view frame, std::string_view plot, int stretch)
+{
+    return {Place::Kind::Plot, frame, {}, plot, stretch};
+}
+
+Place Scroll(std::vector<Place> parts) { return {Place::Kind::Scroll, {}, std::move(parts), {}, 1}; }
+
+Place Space() { return {Place::Kind::Space, {}, {}, {}, 1}; }
+
+Place GeneralData()
+{
+    return Group("fraGeneral", {Row({Fields({"txtClient", "txtProject", "txtLocation"}, 5),
+                                     Fields({"txtID", "txtSoil", "DTPDate"}, 3), Fields({"cboTest", "cboCheck"}, 4)})});
+}
+
+}  // namespace layout
+
+const Place& LayoutOf(std::string_view form)
+{
+    static const std::map<std::string_view, Place> layouts = AllLayouts();
+    const auto found = layouts.find(form);
+    if (found != layouts.end()) return found->second;
+    throw RuntimeError(error::kObjectRequired, "The form " + std::string(form) + " has no window.");
+}
+
+std::vector<std::string> PlacedControls(const Place& place)
+{
+    std::vector<std::string> names;
+    if (!place.control.empty()) names.emplace_back(place.control);
+    if (place.kind == Place::Kind::Plot && !place.text.empty()) names.emplace_back(place.text);
+    for (const Place& part : place.parts) {
+        for (auto& name : PlacedControls(part)) names.push_back(std::move(name));
+    }
+    return names;
+}
+
+}  // namespace terravane

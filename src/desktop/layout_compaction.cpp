@@ -1,0 +1,42 @@
+// The compaction sheet: readings on the first tab, the curve on the second.
+#include "desktop/layouts.h"
+
+namespace terravane {
+
+using namespace layout;
+
+namespace {
+
+Place ReadingsTab()
+{
+    return Column({
+        Row({Field("txtDia"), Field("txtHeight"), Field("cboWt"), Field("cboBlow"), Field("cboLayer"), Space()}),
+        Group("FraWt", {One("MSHWt", 1)}, 8),
+        Group("fraDensity", {One("MSHDensity", 1)}, 7),
+        Row({Space(), One("cmdCal"), One("cmdView")}),
+    });
+}
+
+Place CurveTab()
+{
+    return Row({
+        Plot("picgraph1", "picGraph", 3),
+        Column({Row({One("optInt"), One("optFit"), Space()}),
+                Row({Result("txtOMC", "%"), Result("txtDmax", "g/cm^3")}),
+                One("MSHData", 1),
+                Row({One("chkSatLine"), Field("txtGs"), Field("cboSr")}),
+                Row({One("optWholeCurve"), One("Option2"), Space()}),
+                Row({Field("Text6"), Field("Text4"), Field("Text5")}),
+                Row({One("Command5"), One("Command6"), Space(), One("cmdOMC")})},
+               2),
+    });
+}
+
+}  // namespace
+
+Place CompactionLayout()
+{
+    return Column({Banner("txtLabName"), GeneralData(), Tabs("SSTData", {ReadingsTab(), CurveTab()})});
+}
+
+}  // namespace terravane

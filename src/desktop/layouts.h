@@ -1,0 +1,18 @@
+/// Every window's layout. A new window is one more function here, in a file of its own.
+#pragma once
+
+#include <map>
+#include <string_view>
+
+#include "desktop/layout.h"
+
+namespace terravane {
+
+Place CompactionLayout();
+Place GeneralDataLayout();
+Place AboutLayout();
+
+/// By the name of the form.
+std::map<std::string_view, Place> AllLayouts();
+
+}  // namespace terravane

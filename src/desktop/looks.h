@@ -1,0 +1,39 @@
+/// How windows look: measures, colours that are given, type by role. Everything else is the platform's palette, so that
+/// dark and high-contrast themes work.
+#pragma once
+
+#include <QColor>
+#include <QFont>
+#include <QPushButton>
+
+#include "drawing/display_list.h"
+
+namespace terravane {
+
+/// Device-independent pixels.
+namespace looks {
+inline constexpr int kMargin = 12;
+inline constexpr int kGap = 8;
+inline constexpr int kWideGap = 16;
+inline constexpr int kGridRowHeight = 28;
+inline constexpr int kEditorBorder = 2;
+inline constexpr double kTwipsPerPixel = 15;
+
+inline constexpr double kBannerSize = 1.3;
+inline constexpr double kFigureSize = 1.2;
+inline constexpr double kCaptionSize = 0.9;
+
+QColor ToQt(Colour colour);
+/// Black or white, whichever reads better on the colour.
+QColor InkOn(const QColor& ground);
+/// The platform's font at a multiple of its size.
+QFont Scaled(QFont font, double factor, bool bold = false);
+/// Gives a widget its own ground, with readable ink; an invalid colour restores the platform's.
+void SetGround(QWidget& widget, const QColor& ground);
+/// The program's own mark.
+QIcon ProgramIcon();
+/// The mark as a drawing, in twips: a compaction curve over a soil profile.
+DisplayList ProgramMark();
+}  // namespace looks
+
+}  // namespace terravane

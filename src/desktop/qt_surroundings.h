@@ -1,0 +1,34 @@
+/// The surroundings of the forms as windows: message boxes, the platform's file and print dialogs, the machine's clock.
+#pragma once
+
+#include <QPointer>
+#include <QWidget>
+
+#include "program/surroundings.h"
+#include "runtime/file_system.h"
+
+namespace terravane {
+
+class QtSurroundings : public Surroundings {
+ public:
+    explicit QtSurroundings(FileSystem& files) : files_(files) {}
+
+    MessageAnswer Show(const Message& message) override;
+    std::optional<std::string> AskFile(const FileQuestion& question) override;
+    std::optional<PrintTarget> AskPrinter() override;
+    Moment Now() const override;
+    void OpenDocument(const std::string& path) override;
+    void Fail(const std::string& event, const RuntimeError& error) override;
+    void End() override;
+
+    /// The next print command asks for a PDF file in place of a printer.
+    void PrintIntoFileNext() { intoFile_ = true; }
+
+ private:
+    std::optional<PrintTarget> AskPdfFile();
+
+    FileSystem& files_;
+    bool intoFile_ = false;
+};
+
+}  // namespace terravane

@@ -1,0 +1,188 @@
+#include "desktop/windows.h"
+
+#include <QCloseEvent>
+#include <QCursor>
+#include <QLabel>
+#include <QMdiArea>
+#include <QMenuBar>
+#include <QPainter>
+#include <QStatusBar>
+#include <QTimer>
+#include <QToolBar>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include "desktop/looks.h"
+#include "render/painter.h"
+
+namespace terravane {
+
+namespace {
+
+QString ToQt(const std::string& text) { return QString::fromStdString(text); }
+
+QToolBar* MakeBar(QWidget* parent)
+{
+    auto* bar = new QToolBar(parent);
+    bar->setMovable(false);
+    bar->setFloatable(false);
+    bar->setContextMenuPolicy(Qt::PreventContextMenu);
+    return bar;
+}
+
+}  // namespace
+
+void CloseForm(Program& program, const Form& form)
+{
+    program.Run(form.Name() + ".Close", [&program, name = form.Name()] { program.Unload(name); });
+}
+
+FrameWindow::FrameWindow(Program& program, Form& frame) : program_(program), form_(frame), area_(new QMdiArea(this))
+{
+    setWindowTitle(ToQt(frame.Caption()));
+    setWindowIcon(looks::ProgramIcon());
+    setAttribute(Qt::WA_DeleteOnClose, false);
+    setMinimumSize(1024, 680);
+    resize(1280, 720);
+    area_->setBackground(palette().brush(QPalette::Mid));
+    area_->setAccessibleName(tr("Test sheets"));
+    setCentralWidget(area_);
+    BuildMenu();
+    BuildBands();
+}
+
+void FrameWindow::BuildMenu()
+{
+    std::unordered_map<std::string, QMenu*> menus;
+    for (Control* control : form_.Controls()) {
+        auto* entry = dynamic_cast<MenuEntry*>(control);
+        if (!entry) continue;
+        if (entry->Parent().empty()) {
+            menus[entry->Name()] = menuBar()->addMenu(ToQt(entry->Caption()));
+            continue;
+        }
+        QAction* action = menus.at(entry->Parent())->addAction(ToQt(entry->Caption()));
+        action->setSeparator(entry->IsSeparator());
+        action->setObjectName(ToQt(entry->Name()));
+        connect(action, &QAction::triggered, this, [entry] { entry->Press(); });
+        bindings_.push_back(entry->Show([entry, action] {
+            action->setText(ToQt(entry->Caption()));
+            action->setVisible(entry->Visible() && !entry->Caption().empty());
+            action->setEnabled(entry->Enabled());
+        }));
+    }
+}
+
+/// The coloured strip above the buttons of the tests, as two bands.
+void FrameWindow::BuildBands()
+{
+    auto& strip = form_.Get<StatusBar>("StatusBar1");
+    auto* stripView = new QLabel(this);
+    stripView->setFixedHeight(10);
+    bindings_.push_back(BindFurniture(strip, *stripView));
+    bindings_.push_back(strip.Show([&strip, stripView] {
+        stripView->setToolTip(ToQt(strip.ToolTip()));
+        stripView->setAccessibleName(ToQt(strip.ToolTip()));
+    }));
+    auto* band = MakeBar(this);
+    stripView->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    band->addWidget(stripView);
+    addToolBar(Qt::TopToolBarArea, band);
+    addToolBarBreak(Qt::TopToolBarArea);
+    auto* tests = MakeBar(this);
+    tests->setObjectName("tbrLab");
+    bindings_.push_back(Bind(form_.Get<Toolbar>("tbrLab"), *tests));
+    addToolBar(Qt::TopToolBarArea, tests);
+}
+
+QWidget* FrameWindow::ShowSheet(Form& sheet)
+{
+    auto* window = new SheetWindow(program_, sheet);
+    area_->addSubWindow(window);
+    window->move(static_cast<int>(sheet.Left / looks::kTwipsPerPixel),
+                 static_cast<int>(sheet.Top / looks::kTwipsPerPixel));
+    window->showMaximized();
+    return window;
+}
+
+void FrameWindow::closeEvent(QCloseEvent* event)
+{
+    event->ignore();
+    CloseForm(program_, form_);
+}
+
+SheetWindow::SheetWindow(Program& program, Form& sheet) : program_(program), form_(sheet)
+{
+    setWindowTitle(ToQt(sheet.Caption()));
+    setWindowIcon(looks::ProgramIcon());
+    auto* content = new QWidget(this);
+    auto* column = new QVBoxLayout(content);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    auto* bar = MakeBar(content);
+    bar->setObjectName("tblMenu");
+    bindings_.push_back(Bind(sheet.Get<Toolbar>("tblMenu"), *bar));
+    column->addWidget(bar);
+    column->addWidget(new FormView(sheet, LayoutOf(sheet.Name()), content), 1);
+    auto* status = new QStatusBar(content);
+    status->setObjectName("stbDes");
+    bindings_.push_back(Bind(sheet.Get<StatusBar>("stbDes"), *status));
+    column->addWidget(status);
+    setWidget(content);
+}
+
+void SheetWindow::closeEvent(QCloseEvent* event)
+{
+    event->ignore();
+    CloseForm(program_, form_);
+}
+
+DialogWindow::DialogWindow(Program& program, Form& form, Modality modality, QWidget* parent)
+    : QDialog(parent), program_(program), form_(form)
+{
+    setWindowTitle(ToQt(form.Caption()));
+    setWindowIcon(looks::ProgramIcon());
+    if (modality == Modality::Modal) setWindowModality(Qt::ApplicationModal);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(new FormView(form, LayoutOf(form.Name()), this));
+    resize(sizeHint().expandedTo({480, 200}));
+}
+
+void DialogWindow::reject() { CloseForm(program_, form_); }
+
+SplashWindow::SplashWindow(Form& form) : QWidget(nullptr, Qt::SplashScreen), form_(form)
+{
+    setWindowTitle(ToQt(form.Caption()));
+    setWindowIcon(looks::ProgramIcon());
+    setAttribute(Qt::WA_DeleteOnClose, false);
+    setFixedSize(560, 320);
+    for (Control* control : form.Controls()) {
+        if (auto* timer = dynamic_cast<Timer*>(control)) bindings_.push_back(Bind(*timer, *new QTimer(this)));
+    }
+}
+
+void SplashWindow::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillRect(rect(), palette().window());
+    painter.save();
+    painter.translate(looks::kMargin * 2, (height() - 240) / 2);
+    const DisplayList mark = looks::ProgramMark();
+    painter.scale(240 / mark.width, 240 / mark.height);
+    PaintList(painter, mark);
+    painter.restore();
+    painter.setPen(palette().color(QPalette::WindowText));
+    painter.setFont(looks::Scaled(font(), 2.6, true));
+    painter.drawText(QRect(288, 96, 260, 56), Qt::AlignLeft | Qt::AlignVCenter, "Terravane");
+    painter.setFont(looks::Scaled(font(), 1.1));
+    painter.drawText(QRect(288, 152, 260, 28), Qt::AlignLeft | Qt::AlignVCenter,
+                     tr("Materials for Road Construction"));
+    painter.setFont(font());
+    painter.drawText(QRect(288, 184, 260, 24), Qt::AlignLeft | Qt::AlignVCenter, tr("Version 1.0"));
+}
+
+void SplashWindow::keyPressEvent(QKeyEvent*) { form_.Get<Control>("txtLoad").PressKey(Key::Enter); }
+
+}  // namespace terravane

@@ -1,0 +1,79 @@
+/// The windows around the forms' views: the frame with its area of sheets, sheets, dialogs, the splash.
+#pragma once
+
+#include <QDialog>
+#include <QMainWindow>
+#include <QMdiSubWindow>
+
+#include "desktop/form_view.h"
+#include "program/program.h"
+
+class QMdiArea;
+
+namespace terravane {
+
+/// Asks the program to take a form away, as the form's title bar does.
+void CloseForm(Program& program, const Form& form);
+
+/// The main window: menu, the two bands, the area of sheets.
+class FrameWindow : public QMainWindow {
+ public:
+    FrameWindow(Program& program, Form& frame);
+
+    /// Puts a sheet into the area.
+    QWidget* ShowSheet(Form& sheet);
+
+ protected:
+    void closeEvent(QCloseEvent* event) override;
+
+ private:
+    void BuildMenu();
+    void BuildBands();
+
+    Program& program_;
+    Form& form_;
+    QMdiArea* area_;
+    Bindings bindings_;
+};
+
+/// A test sheet: its toolbar, its view, its status bar.
+class SheetWindow : public QMdiSubWindow {
+ public:
+    SheetWindow(Program& program, Form& sheet);
+
+ protected:
+    void closeEvent(QCloseEvent* event) override;
+
+ private:
+    Program& program_;
+    Form& form_;
+    Bindings bindings_;
+};
+
+/// A form of its own above the frame.
+class DialogWindow : public QDialog {
+ public:
+    DialogWindow(Program& program, Form& form, Modality modality, QWidget* parent);
+
+    void reject() override;
+
+ private:
+    Program& program_;
+    Form& form_;
+};
+
+/// The program's name over its mark until the time is up or a key is pressed.
+class SplashWindow : public QWidget {
+ public:
+    explicit SplashWindow(Form& form);
+
+ protected:
+    void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+    Form& form_;
+    Bindings bindings_;
+};
+
+}  // namespace terravane

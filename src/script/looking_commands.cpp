@@ -1,0 +1,111 @@
+// What a person sees: texts, states, cells, forms, drawings. Nothing is changed by looking.
+#include <algorithm>
+#include <array>
+
+#include "controls/picture_box.h"
+#include "render/png.h"
+#include "reports/print_report.h"
+#include "runtime/numbers.h"
+#include "script/commands.h"
+#include "script/item_answers.h"
+#include "script/script_controls.h"
+
+namespace terravane {
+
+namespace {
+
+void GetCell(Session& session, Words words)
+{
+    const auto& grid = ControlNamed<TextGrid>(session.program, words[0], "be asked for a cell");
+    const int row = WholeNumber(words[1], "a row"), column = WholeNumber(words[2], "a column");
+    session.answers.Write(CellAnswer(words[0], row, column, grid(row, column)));
+}
+
+void GetProperty(Session& session, Words words)
+{
+    const auto [control, property] = PropertyNamed(session.program, words[0]);
+    if (property.empty()) return session.answers.Write(TextAnswer(words[0], control.Text()));
+    const int index = words.size() > 1 ? WholeNumber(words[1], "an entry") : 0;
+    const auto value = ReadProperty(control, property, index);
+    if (!value) throw LineFault("\"" + control.Name() + "\" has no property \"" + property + "\".");
+    session.answers.Write(ValueAnswer(Joined(words), *value));
+}
+
+void RunGet(Session& session, Words words)
+{
+    words.size() == 3 ? GetCell(session, words) : GetProperty(session, words);
+}
+
+void RunDump(Session& session, Words words)
+{
+    const auto& grid = ControlNamed<TextGrid>(session.program, words[0], "be dumped");
+    for (int row = 0; row < grid.Rows(); ++row) session.answers.Write(GridRowAnswer(words[0], grid, row));
+}
+
+/// Those that are only loaded come first, then those shown, the one shown last at the end.
+void RunForms(Session& session, Words)
+{
+    const auto& shown = session.program.ShownForms();
+    Json names = Json::array();
+    for (const Form* form : session.program.LoadedForms()) {
+        const bool isShown = std::ranges::any_of(shown, [form](const auto& one) { return one.form == form; });
+        if (!isShown) names.push_back(form->Name());
+    }
+    for (const auto& one : shown) names.push_back(one.form->Name());
+    session.answers.Write({{"forms", std::move(names)}});
+}
+
+void RunPicture(Session& session, Words words)
+{
+    const auto& box = ControlNamed<PictureBox>(session.program, words[0], "be looked at as a picture");
+    WriteItems(session.answers, *box.Image());
+}
+
+/// Error 424 where no preview is open.
+const PictureBox& PreviewPage(const Program& program)
+{
+    return program.Get<Form>("frmPreview").Get<PictureBox>("picView");
+}
+
+void WritePrintedPage(Session& session, int number)
+{
+    const auto pages = PagesOfReport(session.program);
+    if (number < 1 || number > static_cast<int>(pages.size())) {
+        throw RuntimeError(error::kInvalidProcedureCall, "There is no page " + std::to_string(number));
+    }
+    WriteItems(session.answers, pages[static_cast<std::size_t>(number - 1)]);
+}
+
+void RunPage(Session& session, Words words)
+{
+    if (words[0] == "preview" && words.size() == 1) {
+        return WriteItems(session.answers, *PreviewPage(session.program).Image());
+    }
+    if (words[0] != "print" || words.size() != 2) {
+        throw LineFault("A page is \"preview\" or \"print\" and its number.");
+    }
+    WritePrintedPage(session, WholeNumber(words[1], "a page"));
+}
+
+void RunRender(Session& session, Words words)
+{
+    if (words[0] != "preview") throw LineFault("Only the preview's page can be rendered.");
+    if (words.size() > 2 && !IsNumber(words[2])) throw LineFault("\"" + words[2] + "\" is no percentage.");
+    const double percent = words.size() > 2 ? Val(words[2]) : 100;
+    const auto page = PreviewPage(session.program).Image();
+    WritePng(session.program.Files(), FullPath(words[1]), *page, percent);
+}
+
+constexpr std::array kLookingCommands{
+    Command{"get", 1, 3, RunGet},         Command{"dump", 1, 1, RunDump}, Command{"forms", 0, 0, RunForms},
+    Command{"picture", 1, 1, RunPicture}, Command{"page", 1, 2, RunPage}, Command{"render", 2, 3, RunRender},
+};
+
+}  // namespace
+
+std::span<const Command> LookingCommands()
+{
+    return kLookingCommands;
+}
+
+}  // namespace terravane

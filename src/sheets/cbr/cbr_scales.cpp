@@ -1,0 +1,91 @@
+#include "sheets/cbr/cbr_scales.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "runtime/numbers.h"
+#include "sheets/pattern/plot.h"
+
+namespace terravane::cbr {
+
+namespace {
+
+constexpr double kRadius = 30;
+constexpr double kHalfSquare = 25;
+constexpr double kLabelGap = 50;  // between an axis and its labels
+constexpr int kDashed = 1;
+
+/// Every label, or every second, third ... so that they do not run into each other.
+int LabelEvery(double spacing, double needed)
+{
+    return spacing >= needed ? 1 : static_cast<int>(std::ceil(needed / spacing));
+}
+
+}  // namespace
+
+/// Whole divisions count the greatest value rounded to a whole number first.
+RisingAxis AxisFor(double greatest, std::span<const AxisStep> steps, double height)
+{
+    const double step = std::ranges::find_if(steps, [&](const AxisStep& row) { return greatest < row.below; })->step;
+    const double divisions = step < 1 ? greatest / step + 1 : Int(std::nearbyint(greatest) / step) + 1;
+    RefuseEndless(divisions);
+    return {height, step, divisions};
+}
+
+void DrawRisingAxis(PictureBox& frame, PictureBox& plot, const RisingAxis& axis)
+{
+    const auto [left, top] = InsetOf(plot, frame);
+    const double line = frame.TextHeight("0");
+    const int every = LabelEvery(axis.height / axis.divisions, line);
+    for (int division = 0; division <= axis.divisions; ++division) {
+        const double value = division * axis.step, y = axis.Y(value);
+        plot.Line(0, y, plot.Width - kPlotMargin, y, kGridGrey);
+        if (division % every != 0) continue;
+        const std::string label = NumberText(value);
+        PrintAt(frame, left - kLabelGap - frame.TextWidth(label), top + y - line / 2, label);
+    }
+}
+
+void DrawTick(PictureBox& frame, PictureBox& plot, double x, std::string_view label)
+{
+    const auto [left, top] = InsetOf(plot, frame);
+    plot.Line(x, 0, x, plot.Height - kPlotMargin, kGridGrey);
+    PrintAt(frame, left + x - frame.TextWidth(label) / 2, top + plot.Height, label);
+}
+
+void DrawMark(DrawingSurface& surface, Mark mark, double x, double y)
+{
+    surface.ForeColor = kBlack;
+    if (mark == Mark::Square) {
+        surface.FilledBox(x - kHalfSquare, y - kHalfSquare, x + kHalfSquare, y + kHalfSquare, kWhite);
+        surface.Box(x - kHalfSquare, y - kHalfSquare, x + kHalfSquare, y + kHalfSquare);
+        return;
+    }
+    surface.FillSolid = true;
+    surface.FillColor = mark == Mark::FilledCircle ? kBlack : kWhite;
+    surface.Circle(x, y, kRadius);
+    surface.FillSolid = false;
+}
+
+void DrawKey(PictureBox& frame, double top, std::span<const KeyEntry> entries)
+{
+    const double line = frame.TextHeight("0");
+    const double width = (frame.Width - 2 * kLabelGap) / static_cast<double>(entries.size());
+    double left = kLabelGap;
+    for (const KeyEntry& entry : entries) {
+        const double inset = (width - frame.TextWidth(entry.name) - 3 * kRadius) / 2;
+        DrawMark(frame, entry.mark, left + inset, top + line / 2);
+        PrintAt(frame, left + inset + 3 * kRadius, top, entry.name);
+        left += width;
+    }
+}
+
+void DrawGuides(DrawingSurface& plot, double x, double y, double bottom)
+{
+    plot.DrawStyle = kDashed;
+    plot.Line(x, bottom, x, y, kBlue);
+    plot.Line(x, y, 0, y, kBlue);
+    plot.DrawStyle = 0;
+}
+
+}  // namespace terravane::cbr

@@ -1,0 +1,72 @@
+/// How readings map to the sheet's two plots, and the marks on them. Lengths are twips.
+#pragma once
+
+#include <span>
+#include <string_view>
+
+#include "controls/picture_box.h"
+
+namespace terravane::cbr {
+
+/// Room that the plots' boxes leave at right and bottom.
+inline constexpr double kPlotMargin = 50;
+
+/// A row of a step table: the first whose bound the greatest value stays below gives the step. The last bound is
+/// infinite.
+struct AxisStep {
+    double below, step;
+};
+
+/// An axis from 0 at the bottom, in equal divisions of one step.
+struct RisingAxis {
+    double height;  // of all divisions together
+    double step;
+    double divisions;
+
+    double Y(double value) const { return height - value / (step * divisions) * height; }
+};
+
+/// The axis for values up to `greatest`. One division more than whole steps fit; steps of less than one are not
+/// counted whole. Error 7 for more divisions than a plot can have.
+RisingAxis AxisFor(double greatest, std::span<const AxisStep> steps, double height);
+
+/// Penetration (in) across, stress (lb/in²) upwards.
+struct LoadScale {
+    double divisions;  // of 0.1 in
+    double divisionWidth;
+    RisingAxis stress;
+
+    double X(double penetration) const { return penetration / 0.1 * divisionWidth; }
+    double Y(double value) const { return stress.Y(value); }
+};
+
+/// Dry density (g/cm³) across, bearing ratio (%) upwards.
+struct DensityScale {
+    double width;
+    double first, last;  // g/cm³
+    RisingAxis ratio;
+
+    double X(double density) const { return (density - first) / (last - first) * width; }
+    double Y(double value) const { return ratio.Y(value); }
+};
+
+/// Grid lines of an axis on the plot, their labels at its left on the frame, as many as stand apart.
+void DrawRisingAxis(PictureBox& frame, PictureBox& plot, const RisingAxis& axis);
+
+/// A vertical grid line and its label below the plot.
+void DrawTick(PictureBox& frame, PictureBox& plot, double x, std::string_view label);
+
+enum class Mark { OpenCircle, FilledCircle, Square };
+void DrawMark(DrawingSurface& surface, Mark mark, double x, double y);
+
+/// Marks and their names along the top of the frame.
+struct KeyEntry {
+    Mark mark;
+    std::string_view name;
+};
+void DrawKey(PictureBox& frame, double top, std::span<const KeyEntry> entries);
+
+/// Dashed lines from the bottom axis up to a point of the curve and across to the other axis.
+void DrawGuides(DrawingSurface& plot, double x, double y, double bottom);
+
+}  // namespace terravane::cbr

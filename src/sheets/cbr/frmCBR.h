@@ -1,0 +1,250 @@
+/// The bearing ratio sheet: up to three moulds at their densities, soaked, unsoaked or one of each; water contents,
+/// densities, swelling while soaking, and the load on a piston pressed into each mould. The curves of stress against
+/// penetration give each mould's bearing ratio, the curve of ratio against density the one of the design. Masses in
+/// g, lengths in cm, swelling in mm, penetration in inches, loads in lb.
+#pragma once
+
+#include <array>
+#include <string_view>
+#include <vector>
+
+#include "controls/text_grid.h"
+#include "sheets/cbr/cbr_scales.h"
+#include "sheets/pattern/test_sheet.h"
+
+namespace terravane {
+
+namespace cbr {
+
+inline constexpr int kMoulds = 3;
+inline constexpr int kColumns = 6;  // cans and moulds: three before soaking, three after
+inline constexpr int kMostPenetrations = 20;
+inline constexpr int kValueTab = 3;  // of SSTData
+
+/// Rows of MSHWater; columns 1 to 6 are the cans. Masses in g.
+namespace water {
+enum Row { Condition, CanNumber, WetAndCan, DryAndCan, Can, WaterContent, kRows };
+}
+
+/// Rows of MSHCompaction; column i is the mould of MSHWater's column i. Lengths in cm, masses in g, densities in g/cm³.
+namespace density {
+enum Row { Condition, Mould, Blows, Diameter, Height, MouldAndSoil, JustMould, WetDensity, DryDensity, kRows };
+}
+
+/// MSHSwell: three rows of heads, the first reading, four later ones. A mould's dial (mm) has its percentage beside it.
+namespace swell {
+enum Row { Moulds, Heads, Units, First, Second, Last = 7, kRows };
+enum Column { Date, Time, Elapsed, FirstDial, kColumns = 9 };
+constexpr int Dial(int mould)
+{
+    return FirstDial + 2 * (mould - 1);
+}
+}  // namespace swell
+
+/// Columns of MSHPenetrate1, which has no heads, and of MSHPenetrate, which is its heads.
+namespace penetration {
+enum Column { Depth, FirstDial, kColumns = 10 };
+inline constexpr int kHeadRows = 4;
+constexpr int Dial(int mould)
+{
+    return FirstDial + 3 * (mould - 1);
+}
+constexpr int Load(int mould)
+{
+    return Dial(mould) + 1;
+}
+constexpr int Stress(int mould)
+{
+    return Dial(mould) + 2;
+}
+}  // namespace penetration
+
+/// Rows of mshLPC; column i is the mould.
+namespace result {
+enum Row { Mould, DryDensity, At01, At02, kRows };
+}
+
+/// The readings of one mould: penetrations in inches, stresses in lb/in².
+struct Curve {
+    std::vector<double> penetration, stress;
+};
+
+/// The last point of a curve's beginning whose slope still rose: where the tangent of the correction touches.
+struct TangentPoint {
+    double x = 0;      // in
+    double y = 0;      // lb/in²
+    double slope = 0;  // lb/in² a inch
+};
+
+/// Two stresses of neighbouring points as the correction takes them: a negative first one counts as 0, the second too
+/// where both are negative.
+struct StressPair {
+    double a, b;
+};
+constexpr StressPair PulledUp(double a, double b)
+{
+    return a < 0 ? StressPair{0, b < 0 ? 0 : b} : StressPair{a, b};
+}
+
+/// What the command for all moulds and the label of each do differently.
+struct MouldTask {
+    bool pullsCurveUp;  // the curve is drawn along the axis where it goes below
+    bool alwaysShifts;  // zero shift and tangent also without the tick
+    bool writesZero;    // a bearing ratio of zero is written too
+};
+
+}  // namespace cbr
+
+struct frmCBR : TestSheet {
+    explicit frmCBR(Program& program);
+
+    OptionButton optUnsoak{*this, "optUnsoak", "Unsoaked", "condition"};
+    OptionButton optSoak{*this, "optSoak", "Soaked", "condition"};
+    OptionButton optBoth{*this, "optBoth", "Both", "condition"};
+
+    Frame fraCompaction{*this, "fraCompaction", "Compaction Parameters"};
+    OptionButton optStd{*this, "optStd", "Standard Proctor", "compaction"};
+    OptionButton optMod{*this, "optMod", "Modified Proctor", "compaction"};
+    TextBox txtCompaction{*this, "txtCompaction", "Type of Compaction"};
+    TextBox txtOMC{*this, "txtOMC", "OMC"};
+    TextBox txtMDD{*this, "txtMDD", "MDD"};
+    TextBox txtOMC1{*this, "txtOMC1", "Optimum Moisture Content (OMC)"};
+    TextBox txtMDD1{*this, "txtMDD1", "Maximum Dry Density (MDD)"};
+    TextBox txtK{*this, "txtK", "K Constant"};  // lb/div
+    TextBox txtWeight{*this, "txtWeight", "Surcharge"};
+
+    Frame fraWater{*this, "fraWater", "Water Content Determination"};
+    TextGrid MSHWater{*this, "MSHWater", cbr::water::kRows, cbr::kColumns + 1};
+    Frame fraDensity{*this, "fraDensity", "Dry Density Determination"};
+    TextGrid MSHCompaction{*this, "MSHCompaction", cbr::density::kRows, cbr::kColumns + 1};
+    Frame fraSwell{*this, "fraSwell", "Swelling Data"};
+    TextGrid MSHSwell{*this, "MSHSwell", cbr::swell::kRows, cbr::swell::kColumns};
+    DatePicker dtpSwell{*this, "dtpSwell", "Date"};  // over the date cells of MSHSwell
+    Frame fraPenetrate{*this, "fraPenetrate", "Penetration Data"};
+    CommandButton cmdPen{*this, "cmdPen", "Penetration Intervals"};
+    TextGrid MSHPenetrate{*this, "MSHPenetrate", cbr::penetration::kHeadRows, cbr::penetration::kColumns};
+    TextGrid MSHPenetrate1{*this, "MSHPenetrate1", 1, cbr::penetration::kColumns};
+    CellEditor txtData;   // over MSHWater
+    CellEditor txtData1;  // over MSHCompaction
+    CellEditor txtData2;  // over MSHSwell
+    CellEditor txtData3;  // over MSHPenetrate1
+
+    CommandButton cmdLPen{*this, "cmdLPen", "Load-Penetration Curve"};
+    TextGrid mshLPC{*this, "mshLPC", cbr::result::kRows, cbr::kMoulds + 1};
+    Frame fraCorrection{*this, "fraCorrection", "Correction of Curves"};
+    CheckBox chkMold1{*this, "chkMold1", "Mold No.1"};
+    CheckBox chkMold2{*this, "chkMold2", "Mold No.2"};
+    CheckBox chkMold3{*this, "chkMold3", "Mold No.3"};
+    Label lblMold1{*this, "lblMold1", "Mold No.1"};
+    Label lblMold2{*this, "lblMold2", "Mold No.2"};
+    Label lblMold3{*this, "lblMold3", "Mold No.3"};
+    PictureBox picGraph{*this, "picGraph", 0, 0, 3600, 4400};        // tick labels, axis titles and key
+    PictureBox picgraph1{*this, "picgraph1", 800, 550, 2600, 3100};  // stress against penetration, standing on it
+
+    CommandButton cmdCBR{*this, "cmdCBR", "CBR Value from Graph"};
+    ComboBox cboCBR{*this, "cboCBR", "CBR at", {"90%", "95%", "98%", "100%"}, "95%"};
+    TextBox txtCBR{*this, "txtCBR", "of MDD is"};  // %
+    Label lbl01{*this, "lbl01", "CBR at 0.1 in."};
+    Label lbl02{*this, "lbl02", "CBR at 0.2 in."};
+    PictureBox picGraph2{*this, "picGraph2", 0, 0, 3600, 4400};
+    PictureBox picGraph3{*this, "picGraph3", 800, 550, 2600, 3100};  // bearing ratio against density, standing on it
+
+    int FitMold = 1;                               // which mould the next fit reads
+    std::array<double, 6> FitCoef{};               // c0 to c5 of the last fit; c0 stays 0
+    double FitR2 = 0;                              // its coefficient of determination
+    std::array<double, cbr::kMoulds> ZeroShift{};  // the corrected origin of each mould, in
+    std::array<double, 3> DensityCoef{};           // c0 to c2 of the last density fit
+    double DensityR2 = 0;
+
+    void Form_Load() override;
+
+    void optUnsoak_Click();
+    void optSoak_Click();
+    void optBoth_Click();
+    /// The parameters that Save stored with the compaction test of the same material.
+    void optStd_Click();
+    void optMod_Click();
+    void cmdPen_Click();
+    /// Calculate: water contents, densities, swelling, loads and stresses. What fails is told in a box of its own and
+    /// leaves the cells worked out before it.
+    void cmdCal_Click() override;
+    /// Load-Penetration Curve: the three moulds' curves, zero shifts and bearing ratios. Error 6 where fewer than five
+    /// different penetrations were typed.
+    void cmdLPen_Click();
+    void lblMold1_Click();
+    void lblMold2_Click();
+    void lblMold3_Click();
+    /// CBR Value from Graph: both curves against density, the value at the chosen share of the maximum density from
+    /// that at 0.2 in. Error 6 with fewer than three different densities.
+    void cmdCBR_Click();
+    void lbl01_Click();
+    void lbl02_Click();
+    void MSHSwell_MouseDown(MouseButton button, int row, int column);
+    void MSHPenetrate1_MouseDown(MouseButton button, int row, int column);
+    void dtpSwell_Change();
+    void SSTData_Click(int previousTab);
+
+    /// The stress and penetration curve of FitMold into FitCoef and FitR2.
+    void FitPenetrationCurve();
+    /// Bearing ratios at 0.1 in, or at 0.2 in, against densities into DensityCoef and DensityR2.
+    void FitDensityCurve01();
+    void FitDensityCurve02();
+
+    std::span<const TablePass> TablePasses() const override;
+    void LoadChoices(const jet::Recordset& records) override;
+    std::string SavedChoice(std::string_view suffix) const override;
+
+  private:
+    void BuildGrids();
+    void WireEvents();
+    void WriteConditions(std::string_view first, std::string_view second,
+                         const std::array<std::string_view, 3>& moulds);
+    void FetchCompaction(Test test, std::string_view name);
+    bool AsksToErase();
+
+    void ShapePenetrations(int rows);
+    void ErasePenetration(int row);
+    void EraseSwelling(int row);
+    void ShowSwellDate(int row);
+    bool dtpSwell_KeyPress(Key key);
+    std::string CommitPenetration(int row, int column, std::string text);
+    void DropSpareRow();
+
+    void Calculate();
+    void WaterContents(int firstColumn);
+    void Densities(int firstColumn);
+    void DensityOf(int column);
+    void TakeBothConditions();
+    void Swelling();
+    void SwellingOf(int row);
+    void LoadsAndStresses();
+
+    cbr::Curve CurveOf(int mould) const;
+    double LastPenetration() const;
+    double Stress(double penetration) const;
+    bool IsTicked(int mould) const;
+    cbr::LoadScale ScaleOfLoads() const;
+    void DrawLoadAxes(const cbr::LoadScale& scale);
+    void MarkReadings(const cbr::LoadScale& scale);
+    void DoMould(int mould, const cbr::MouldTask& task);
+    cbr::TangentPoint ScanCurve() const;
+    void DrawCurve(const cbr::LoadScale& scale, const cbr::MouldTask& task);
+    void ShiftZero(int mould, const cbr::TangentPoint& tangent);
+    void DrawTangent(const cbr::LoadScale& scale, int mould, const cbr::TangentPoint& tangent);
+    void ReadValues(const cbr::LoadScale& scale, int mould, const cbr::MouldTask& task);
+    void MarkStress(const cbr::LoadScale& scale, double penetration, double stress);
+    void DrawLabelled(int mould, bool pullsCurveUp);
+    void PostSingleMould();
+
+    void FitDensityCurve(cbr::result::Row row);
+    double RatioAt(double density) const;
+    cbr::DensityScale ScaleOfDensities() const;
+    void DrawDensityAxes(const cbr::DensityScale& scale);
+    void DrawRatios(const cbr::DensityScale& scale, cbr::result::Row row);
+    void DrawOnly(cbr::result::Row row);
+    void ReadDesignValue(const cbr::DensityScale& scale);
+
+    int spareRow_ = 0;  // of MSHPenetrate1, appended by its editor; 0: none
+};
+
+}  // namespace terravane

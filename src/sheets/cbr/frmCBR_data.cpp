@@ -1,0 +1,148 @@
+// Penetration Intervals and Calculate: from weighings and dials to water contents, densities, swelling, loads and
+// stresses. A stage reads back the text that the stage before it wrote: the figures of the sheet are those of the
+// printed report.
+#include <cmath>
+
+#include "runtime/dates.h"
+#include "runtime/numbers.h"
+#include "runtime/runtime_error.h"
+#include "runtime/text.h"
+#include "sheets/cbr/frmCBR.h"
+#include "sheets/pattern/masks.h"
+
+namespace terravane {
+
+namespace {
+
+using namespace cbr;
+
+constexpr int kIntervals = 9;
+constexpr double kInterval = 0.025;  // in
+constexpr std::string_view kPenetrationMask = "0.000";
+constexpr double kPistonArea = 3;    // in²
+constexpr double kMillimetres = 10;  // percent of a height in cm, of a dial in mm
+
+bool IsEmpty(std::string_view text)
+{
+    return Trim(text).empty();
+}
+
+}  // namespace
+
+void frmCBR::cmdPen_Click()
+{
+    HideEditors(*this);
+    ShapePenetrations(kIntervals);
+    for (int row = 0; row < kIntervals; ++row)
+        MSHPenetrate1(row, penetration::Depth) = Format(kInterval * row, kPenetrationMask);
+}
+
+void frmCBR::cmdCal_Click()
+{
+    DropSpareRow();
+    if (IsEmpty(txtK.Text())) {
+        program.Ask().Show({"Please input K-constant before calculation", "Warning", MessageStyle::Information});
+        return;
+    }
+    try {
+        Calculate();
+    } catch (const RuntimeError& error) {
+        program.Ask().Show({error.Description(), "Error Warning", MessageStyle::Critical});
+    }
+}
+
+void frmCBR::Calculate()
+{
+    for (const int first : {1, 1 + kMoulds}) WaterContents(first);
+    for (const int first : {1, 1 + kMoulds}) Densities(first);
+    if (optBoth.Value()) TakeBothConditions();
+    if (optSoak.Value() || optBoth.Value()) Swelling();
+    LoadsAndStresses();
+    cmdLPen.SetEnabled(true);
+}
+
+/// The three cans of one condition, up to the first without a number.
+void frmCBR::WaterContents(int firstColumn)
+{
+    for (int column = firstColumn; column < firstColumn + kMoulds; ++column) {
+        const auto value = [&](water::Row row) { return Val(MSHWater(row, column)); };
+        if (IsEmpty(MSHWater(water::CanNumber, column))) return;
+        const double wetLoss = value(water::WetAndCan) - value(water::DryAndCan);
+        const double drySoil = value(water::DryAndCan) - value(water::Can);
+        MSHWater(water::WaterContent, column) = Format(Divide(wetLoss, drySoil) * 100, kTwoDecimals);
+    }
+}
+
+/// The three moulds of one condition, up to the first without blows. The later condition overwrites the earlier one's
+/// densities in mshLPC.
+void frmCBR::Densities(int firstColumn)
+{
+    for (int mould = 1; mould <= kMoulds; ++mould) {
+        const int column = firstColumn + mould - 1;
+        if (IsEmpty(MSHCompaction(density::Blows, column))) return;
+        DensityOf(column);
+        mshLPC(result::DryDensity, mould) = MSHCompaction(density::DryDensity, column);
+    }
+}
+
+void frmCBR::DensityOf(int column)
+{
+    const auto cell = [&](density::Row row) { return MSHCompaction(row, column); };
+    const auto value = [&](density::Row row) { return Val(cell(row)); };
+    const double diameter = value(density::Diameter);
+    const double volume = 4 * std::atan(1.0) * diameter * diameter / 4 * value(density::Height);
+    const double soil = value(density::MouldAndSoil) - value(density::JustMould);
+    cell(density::WetDensity) = Format(Divide(soil, volume), kTwoDecimals);
+    const double water = Val(MSHWater(water::WaterContent, column));
+    cell(density::DryDensity) = Format(Divide(value(density::WetDensity), 1 + water / 100), kTwoDecimals);
+}
+
+/// Of a test of both conditions only the first mould of each goes on.
+void frmCBR::TakeBothConditions()
+{
+    mshLPC(result::DryDensity, 1) = MSHCompaction(density::DryDensity, 1);
+    mshLPC(result::DryDensity, 2) = MSHCompaction(density::DryDensity, 1 + kMoulds);
+}
+
+void frmCBR::Swelling()
+{
+    for (int row = swell::Second; row <= swell::Last; ++row) {
+        if (IsEmpty(MSHSwell(row, swell::Date))) return;
+        SwellingOf(row);
+    }
+}
+
+/// Hours by the calendar and the typed hours of the day; swelling in percent of the mould's height.
+void frmCBR::SwellingOf(int row)
+{
+    const auto date = [&](int at) { return ParseDate(MSHSwell(at, swell::Date)); };
+    const auto value = [&](int at, int column) { return Val(MSHSwell(at, column)); };
+    const double days = static_cast<double>(HoursBetween(date(swell::First), date(row)));
+    const double hours = Int(value(row, swell::Time) - value(swell::First, swell::Time));
+    MSHSwell(row, swell::Elapsed) = NumberText(days + hours);
+    for (int mould = 1; mould <= kMoulds; ++mould) {
+        const double height = Val(MSHCompaction(density::Height, mould));
+        if (height == 0) continue;
+        const int dial = swell::Dial(mould);
+        const double rise = value(row, dial) - value(swell::First, dial);
+        MSHSwell(row, dial + 1) = Format(rise / height * kMillimetres, kTwoDecimals);
+        MSHSwell(swell::First, dial + 1) = "0.00";
+    }
+    MSHSwell(swell::First, swell::Elapsed) = "0";
+}
+
+void frmCBR::LoadsAndStresses()
+{
+    const double constant = Val(txtK.Text());
+    for (int row = 0; row < MSHPenetrate1.Rows(); ++row) {
+        for (int mould = 1; mould <= kMoulds; ++mould) {
+            const auto dial = MSHPenetrate1(row, penetration::Dial(mould));
+            const auto load = MSHPenetrate1(row, penetration::Load(mould));
+            if (IsEmpty(dial)) continue;
+            MSHPenetrate1(row, penetration::Load(mould)) = Format(constant * Val(dial), kOneDecimal);
+            MSHPenetrate1(row, penetration::Stress(mould)) = Format(Val(load) / kPistonArea, kTwoDecimals);
+        }
+    }
+}
+
+}  // namespace terravane

@@ -1,0 +1,121 @@
+// The plot of stress against penetration: drawn into the sheet's two picture boxes, from where the report copies it.
+#include <array>
+#include <cmath>
+#include <limits>
+
+#include "runtime/numbers.h"
+#include "runtime/text.h"
+#include "sheets/cbr/frmCBR.h"
+#include "sheets/pattern/masks.h"
+#include "sheets/pattern/plot.h"
+
+namespace terravane {
+
+namespace {
+
+using namespace cbr;
+
+constexpr double kTitleSize = 11;       // points
+constexpr double kScanStep = 0.001;     // in
+constexpr double kTickDistance = 0.1;   // in
+constexpr double kTangentLength = 0.6;  // in
+constexpr Colour kTangentColour{192, 0, 192};
+constexpr double kHalfPoint = 30;  // twips
+
+constexpr std::array kStressSteps{
+    AxisStep{25, 10},
+    AxisStep{50, 20},
+    AxisStep{250, 25},
+    AxisStep{500, 50},
+    AxisStep{1000, 100},
+    AxisStep{5000, 500},
+    AxisStep{std::numeric_limits<double>::infinity(), 1000},
+};
+
+constexpr std::array kKey{
+    KeyEntry{Mark::OpenCircle, "Mold No.1"},
+    KeyEntry{Mark::FilledCircle, "Mold No.2"},
+    KeyEntry{Mark::Square, "Mold No.3"},
+};
+
+}  // namespace
+
+LoadScale frmCBR::ScaleOfLoads() const
+{
+    double greatest = 0;
+    for (int mould = 1; mould <= kMoulds; ++mould) {
+        for (const double stress : CurveOf(mould).stress) greatest = std::max(greatest, stress);
+    }
+    LoadScale scale{};
+    scale.divisions = LastPenetration() / kTickDistance + 1;
+    scale.divisionWidth = Divide(picgraph1.ScaleWidth, scale.divisions);
+    scale.stress = AxisFor(greatest, kStressSteps, picgraph1.ScaleHeight - kPlotMargin);
+    return scale;
+}
+
+void frmCBR::DrawLoadAxes(const LoadScale& scale)
+{
+    picGraph.Cls();
+    picgraph1.Cls();
+    PrintAxisTitles(picGraph, picgraph1, "Penetration, in", "Resistance of Penetration, lb/in^2", kTitleSize);
+    DrawRisingAxis(picGraph, picgraph1, scale.stress);
+    RefuseEndless(scale.divisions);
+    for (int tick = 0; tick <= scale.divisions; ++tick) {
+        const double penetration = tick * kTickDistance;
+        DrawTick(picGraph, picgraph1, scale.X(penetration), Format(penetration, kOneDecimal));
+    }
+    DrawPlotBoxes(picGraph, picgraph1);
+    DrawKey(picGraph, (picgraph1.Top - picGraph.TextHeight("M")) / 2, kKey);
+}
+
+/// A reading that was not taken has no mark.
+void frmCBR::MarkReadings(const LoadScale& scale)
+{
+    for (int row = 0; row < MSHPenetrate1.Rows(); ++row) {
+        const double x = scale.X(Val(MSHPenetrate1(row, penetration::Depth)));
+        for (int mould = 1; mould <= kMoulds; ++mould) {
+            const auto stress = MSHPenetrate1(row, penetration::Stress(mould));
+            if (Trim(stress).empty()) continue;
+            DrawMark(picgraph1, kKey[static_cast<std::size_t>(mould - 1)].mark, x, scale.Y(Val(stress)));
+        }
+    }
+}
+
+/// From the third thousandth of an inch on, joined wherever an end is the next beginning.
+void frmCBR::DrawCurve(const LoadScale& scale, const MouldTask& task)
+{
+    const double steps = Int(LastPenetration() / kScanStep);
+    RefuseEndless(steps);
+    std::vector<DrawnPoint> run;
+    for (int i = 3; i <= steps; ++i) {
+        const double xa = (i - 1) * kScanStep, xb = i * kScanStep;
+        StressPair y{Stress(xa), Stress(xb)};
+        if (task.pullsCurveUp) y = PulledUp(y.a, y.b);
+        const DrawnPoint from{scale.X(xa), scale.Y(y.a)}, to{scale.X(xb), scale.Y(y.b)};
+        if (!run.empty() && !(run.back() == from)) {
+            picgraph1.Polyline(run, kRed);
+            run.clear();
+        }
+        if (run.empty()) run.push_back(from);
+        run.push_back(to);
+    }
+    picgraph1.Polyline(run, kRed);
+}
+
+void frmCBR::DrawTangent(const LoadScale& scale, int mould, const TangentPoint& tangent)
+{
+    const double origin = ZeroShift[static_cast<std::size_t>(mould - 1)];
+    const double rise = Divide(kTangentLength * tangent.y, tangent.x - origin);
+    picgraph1.Line(scale.X(origin), scale.Y(0), scale.X(origin + kTangentLength), scale.Y(rise), kTangentColour);
+}
+
+/// Guides, a small square on the curve and the stress beside it.
+void frmCBR::MarkStress(const LoadScale& scale, double penetration, double stress)
+{
+    const double x = scale.X(penetration), y = scale.Y(stress);
+    DrawGuides(picgraph1, x, y, scale.Y(0));
+    picgraph1.FilledBox(x - kHalfPoint, y - kHalfPoint, x + kHalfPoint, y + kHalfPoint, kBlue);
+    PrintAt(picgraph1, x, y - picgraph1.TextHeight("0"), " " + Format(stress, kTwoDecimals));
+}
+
+}  // namespace terravane

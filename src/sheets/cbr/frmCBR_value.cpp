@@ -1,0 +1,188 @@
+// CBR Value from Graph: the parabolas of bearing ratio against dry density and the design value at a share of the
+// maximum density.
+#include <algorithm>
+#include <array>
+#include <limits>
+
+#include "numeric/polynomial_fit.h"
+#include "numeric/power_fit.h"
+#include "runtime/numbers.h"
+#include "runtime/text.h"
+#include "sheets/cbr/frmCBR.h"
+#include "sheets/pattern/masks.h"
+#include "sheets/pattern/plot.h"
+#include "store/statements.h"
+
+namespace terravane {
+
+namespace {
+
+using namespace cbr;
+
+constexpr double kTitleSize = 11;        // points
+constexpr double kDensityStep = 0.001;   // g/cm³, of the curve
+constexpr double kTickDistance = 0.1;    // g/cm³
+constexpr double kTickRoom = 300;        // twips that a tick's label needs
+constexpr std::size_t kDigits = 3;       // characters of a density that give the axis its end
+constexpr std::size_t kShareDigits = 2;  // characters of the share that are read: "100%" reads 10
+constexpr double kHalfMark = 45;         // twips, of the triangle at the design value
+
+constexpr std::array kRatioSteps{
+    AxisStep{5, 0.5},
+    AxisStep{10, 1},
+    AxisStep{50, 5},
+    AxisStep{100, 10},
+    AxisStep{250, 25},
+    AxisStep{500, 50},
+    AxisStep{std::numeric_limits<double>::infinity(), 100},
+};
+
+/// How each of the two curves is marked.
+struct RatioCurve {
+    result::Row row;
+    Mark mark;
+    std::string_view name;
+};
+constexpr std::array kCurves{
+    RatioCurve{result::At01, Mark::OpenCircle, "CBR at 0.1 in."},
+    RatioCurve{result::At02, Mark::FilledCircle, "CBR at 0.2 in."},
+};
+constexpr std::array kKey{
+    KeyEntry{kCurves[0].mark, kCurves[0].name},
+    KeyEntry{kCurves[1].mark, kCurves[1].name},
+};
+
+/// A density cut to its first characters, so to one decimal.
+double Cut(double density)
+{
+    return Val(Left(NumberText(density), kDigits));
+}
+
+void DrawTriangle(DrawingSurface& plot, double x, double y)
+{
+    const std::array corners{DrawnPoint{x, y - kHalfMark}, DrawnPoint{x + kHalfMark, y + kHalfMark},
+                             DrawnPoint{x - kHalfMark, y + kHalfMark}, DrawnPoint{x, y - kHalfMark}};
+    plot.Polyline(corners, kBlue);
+}
+
+}  // namespace
+
+void frmCBR::cmdCBR_Click()
+{
+    const ShownAtEnd frameShown{picGraph2}, plotShown{picGraph3};
+    const DensityScale scale = ScaleOfDensities();
+    DrawDensityAxes(scale);
+    for (const RatioCurve& curve : kCurves) DrawRatios(scale, curve.row);
+    txtCBR.SetText("");
+    if (!Trim(cboCBR.Text()).empty() && !Trim(txtMDD.Text()).empty()) ReadDesignValue(scale);
+    PostSummary(program, {{"sum_CBR", txtCBR.Text()}});
+}
+
+void frmCBR::lbl01_Click()
+{
+    DrawOnly(result::At01);
+}
+
+void frmCBR::lbl02_Click()
+{
+    DrawOnly(result::At02);
+}
+
+void frmCBR::DrawOnly(result::Row row)
+{
+    const ShownAtEnd frameShown{picGraph2}, plotShown{picGraph3};
+    const DensityScale scale = ScaleOfDensities();
+    DrawDensityAxes(scale);
+    DrawRatios(scale, row);
+}
+
+void frmCBR::FitDensityCurve01()
+{
+    FitDensityCurve(result::At01);
+}
+
+void frmCBR::FitDensityCurve02()
+{
+    FitDensityCurve(result::At02);
+}
+
+void frmCBR::FitDensityCurve(result::Row row)
+{
+    std::vector<double> density, ratio;
+    for (int mould = 1; mould <= kMoulds; ++mould) {
+        density.push_back(Val(mshLPC(result::DryDensity, mould)));
+        ratio.push_back(Val(mshLPC(row, mould)));
+    }
+    std::ranges::copy(FitPowers(density, ratio, 0, 2), DensityCoef.begin());
+    DensityR2 = Determination(density, ratio, DensityCoef);
+}
+
+/// Percent, of the curve fitted last.
+double frmCBR::RatioAt(double density) const
+{
+    return EvaluatePolynomial(DensityCoef, density);
+}
+
+DensityScale frmCBR::ScaleOfDensities() const
+{
+    double greatest = 0, lowest = Val(mshLPC(result::DryDensity, 1)), highest = lowest;
+    for (int mould = 1; mould <= kMoulds; ++mould) {
+        const double density = Val(mshLPC(result::DryDensity, mould));
+        lowest = std::min(lowest, density);
+        highest = std::max(highest, density);
+        for (const RatioCurve& curve : kCurves) greatest = std::max(greatest, Val(mshLPC(curve.row, mould)));
+    }
+    const RisingAxis ratio = AxisFor(greatest, kRatioSteps, picGraph3.ScaleHeight - kPlotMargin);
+    return {picGraph3.ScaleWidth - kPlotMargin, Cut(lowest), Cut(highest) + kTickDistance, ratio};
+}
+
+void frmCBR::DrawDensityAxes(const DensityScale& scale)
+{
+    picGraph2.Cls();
+    picGraph3.Cls();
+    PrintAxisTitles(picGraph2, picGraph3, "Dry Density, g/cm^3", "California Bearing Ratio, %", kTitleSize);
+    DrawRisingAxis(picGraph2, picGraph3, scale.ratio);
+    const double divisions = Int((scale.last - scale.first) / kTickDistance + 0.5);
+    const double most = Int(scale.width / kTickRoom);
+    const double every = Int(divisions / most) + 1;
+    for (double tick = 0; tick <= divisions; tick += every) {
+        const double density = scale.first + tick * kTickDistance;
+        DrawTick(picGraph2, picGraph3, scale.X(density), Format(density, kOneDecimal));
+    }
+    DrawPlotBoxes(picGraph2, picGraph3);
+    DrawKey(picGraph2, (picGraph3.Top - picGraph2.TextHeight("M")) / 2, kKey);
+}
+
+/// The three points of a row and the parabola through them, from the first mould's density to the third's.
+void frmCBR::DrawRatios(const DensityScale& scale, result::Row row)
+{
+    const auto curve = std::ranges::find(kCurves, row, &RatioCurve::row);
+    const auto density = [this](int mould) { return Val(mshLPC(result::DryDensity, mould)); };
+    for (int mould = 1; mould <= kMoulds; ++mould)
+        DrawMark(picGraph3, curve->mark, scale.X(density(mould)), scale.Y(Val(mshLPC(row, mould))));
+    row == result::At01 ? FitDensityCurve01() : FitDensityCurve02();
+    const double steps = (density(kMoulds) - density(1)) / kDensityStep;
+    RefuseEndless(steps);
+    std::vector<DrawnPoint> points;
+    for (int k = 0; k <= steps; ++k) {
+        const double x = density(1) + k * kDensityStep;
+        points.push_back({scale.X(x), scale.Y(RatioAt(x))});
+    }
+    picGraph3.Polyline(points, kRed);
+}
+
+/// The value comes from the curve fitted last, that at 0.2 in.
+void frmCBR::ReadDesignValue(const DensityScale& scale)
+{
+    const double density = Val(txtMDD.Text()) * Val(Left(cboCBR.Text(), kShareDigits)) / 100;
+    const double ratio = RatioAt(density);
+    txtCBR.SetText(Format(ratio, kOneDecimal));
+    const double x = scale.X(density), y = scale.Y(ratio);
+    DrawGuides(picGraph3, x, y, scale.Y(0));
+    DrawTriangle(picGraph3, x, y);
+    const std::string caption = "CBR Value = " + txtCBR.Text() + "%";
+    PrintAt(picGraph3, std::max(x - picGraph3.TextWidth(caption) - kHalfMark, 0.0), y - picGraph3.TextHeight("C"),
+            caption);
+}
+
+}  // namespace terravane

@@ -1,0 +1,70 @@
+#include "sheets/pattern/plot.h"
+
+#include "runtime/runtime_error.h"
+
+namespace terravane {
+
+namespace {
+
+constexpr double kMarkRadius = 40;
+
+}  // namespace
+
+Inset InsetOf(const PictureBox& plot, const PictureBox& frame)
+{
+    if (plot.Container == &frame) return {plot.Left, plot.Top};
+    return {plot.Left - frame.Left, plot.Top - frame.Top};
+}
+
+void SetFont(DrawingSurface& surface, std::string_view name, double size)
+{
+    surface.FontName = name;
+    surface.FontSize = size;
+}
+
+void PrintAt(DrawingSurface& surface, double x, double y, std::string_view text)
+{
+    surface.CurrentX = x;
+    surface.CurrentY = y;
+    surface.Print(text);
+}
+
+void PrintAxisTitles(PictureBox& frame, PictureBox& plot, std::string_view below, std::string_view beside, double size)
+{
+    const auto [left, top] = InsetOf(plot, frame);
+    SetFont(frame, kAxisFont, size);
+    const double height = frame.TextHeight(below);
+    PrintAt(frame, left + (plot.Width - frame.TextWidth(below)) / 2, frame.Height - 80 - height - 60, below);
+    frame.PrintTurned(beside, (left - height) / 2, top + (plot.Height + frame.TextWidth(beside)) / 2);
+    SetFont(frame, kTickFont, kTickSize);
+    SetFont(plot, kTickFont, kTickSize);
+}
+
+void DrawPlotBoxes(PictureBox& frame, PictureBox& plot)
+{
+    plot.DrawWidth = 1;
+    plot.ForeColor = kBlack;
+    plot.Box(0, 0, plot.Width - 50, plot.Height - 50);
+    frame.DrawWidth = 2;
+    frame.Box(10, 10, frame.Width - 80, frame.Height - 80);
+    frame.DrawWidth = 1;
+}
+
+void DrawMarks(DrawingSurface& plot, std::span<const DrawnPoint> points)
+{
+    plot.ForeColor = kBlack;
+    plot.FillSolid = true;
+    plot.FillColor = kWhite;
+    for (const DrawnPoint& point : points) {
+        plot.PSet(point.x, point.y, kBlack);
+        plot.Circle(point.x, point.y, kMarkRadius);
+    }
+    plot.FillSolid = false;
+}
+
+void RefuseEndless(double steps)
+{
+    if (steps > kMostSteps) throw RuntimeError(error::kOutOfMemory);
+}
+
+}  // namespace terravane

@@ -1,0 +1,52 @@
+/// What the plots of all sheets share: a plot standing on a frame that holds its tick labels and axis titles. Knows no
+/// scale: how a reading maps to the plot is the sheet's. Lengths are twips.
+#pragma once
+
+#include <span>
+#include <string_view>
+
+#include "controls/picture_box.h"
+
+namespace terravane {
+
+inline constexpr std::string_view kTickFont = "MS Sans Serif";
+inline constexpr double kTickSize = 8.25;  // points
+inline constexpr std::string_view kAxisFont = "Times New Roman";
+
+/// A curve's steps past this are no plot but a slip of the pen.
+inline constexpr double kMostSteps = 5e6;
+
+/// The plot's place on the frame around it.
+struct Inset {
+    double left, top;
+};
+
+/// The two boxes stand side by side in one container, or the plot stands in the frame.
+Inset InsetOf(const PictureBox& plot, const PictureBox& frame);
+
+void SetFont(DrawingSurface& surface, std::string_view name, double size);
+
+/// One text with its upper left corner at (x, y).
+void PrintAt(DrawingSurface& surface, double x, double y, std::string_view text);
+
+/// Prints the axis titles on the frame: one below the plot, centred, the other turned, left of it. Both boxes have the
+/// font of the tick labels afterwards.
+/// size  points
+void PrintAxisTitles(PictureBox& frame, PictureBox& plot, std::string_view below, std::string_view beside, double size);
+
+/// The boxes around plot and frame; the plot's is thin, the frame's thick.
+void DrawPlotBoxes(PictureBox& frame, PictureBox& plot);
+
+/// A dot with a white circle around it at each point, black; what lies below is hidden.
+void DrawMarks(DrawingSurface& plot, std::span<const DrawnPoint> points);
+
+/// Error 7 for a curve or an axis of more than kMostSteps steps.
+void RefuseEndless(double steps);
+
+/// Tells the views when the command ends, however it ends: a plot that failed shows what was drawn.
+struct ShownAtEnd {
+    PictureBox& box;
+    ~ShownAtEnd() { box.Changed(); }
+};
+
+}  // namespace terravane

@@ -1,0 +1,33 @@
+#include "sheets/pattern/spline_grid.h"
+
+#include "runtime/numbers.h"
+#include "sheets/pattern/masks.h"
+
+namespace terravane {
+
+namespace {
+
+double SevenDecimals(double value)
+{
+    return RoundedToPlaces(value, 7);
+}
+
+}  // namespace
+
+void SolveSpline(std::span<const double> x, std::span<const double> y, TextGrid& work)
+{
+    NaturalSpline(x, y, SevenDecimals, [&work](std::size_t point, SplineColumn column, double value) {
+        work(static_cast<int>(point) + 1, static_cast<int>(column)) = Format(value, kSevenDecimals);
+    });
+}
+
+std::vector<SplineRow> SplineRowsOf(const TextGrid& work)
+{
+    std::vector<SplineRow> rows;
+    for (int row = 1; row < work.Rows(); ++row) {
+        rows.push_back({.after = Val(work(row, spline::After)), .moment = Val(work(row, spline::Moment))});
+    }
+    return rows;
+}
+
+}  // namespace terravane

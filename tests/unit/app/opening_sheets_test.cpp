@@ -1,0 +1,137 @@
+// What an item of the tests' toolbar does.
+#include <gtest/gtest.h>
+
+#include "sheets/compaction/frmCompaction.h"
+#include "unit/app/app_bench.h"
+
+namespace terravane::testing {
+namespace {
+
+/// The frame with a fresh project chosen.
+mdiBack& OpenRoad(AppBench& bench)
+{
+    CreateProjectFile(bench.files, "/work/TRVN_road.mdb");
+    mdiBack& frame = bench.ShowFrame();
+    bench.Press(frame.mnuOpen, "/work/TRVN_road.mdb");
+    return frame;
+}
+
+struct Opening {
+    std::string stem, form;
+    Test test;
+    std::string banner;
+};
+
+const std::vector<Opening> kOpenings{
+    {"mnuStd", "frmCompaction", Test::StdSoil, "การทดสอบการบดอัดแบบมาตรฐาน\r\nStandard Compaction Test"},
+    {"mnuMod", "frmCompaction", Test::ModSoil, "การทดสอบการบดอัดแบบสูงกว่ามาตรฐาน\r\nModified Compaction Test"},
+    {"mnuDen", "frmDensity", Test::DenSoil,
+     "การทดสอบหาความหนาแน่นของดินในสนามด้วยวิธีกรวยทราย\r\nField Density Test by Sand Cone Method"},
+    {"mnuSpe", "frmSpecific", Test::SpcSoil, "การทดสอบหาความถ่วงจำเพาะของดิน\r\nSpecific Gravity Test"},
+    {"mnuAtt", "frmAtterberg", Test::AttSoil, "การทดสอบหาขีดจำกัดอัตเทอร์เบิร์ก\r\nAtterberg Limits Test"},
+    {"mnuSie", "frmSieve", Test::SieSoil, "การทดสอบหาขนาดเม็ดดินด้วยวิธีร่อนผ่านตะแกรงมาตรฐาน\r\nSieve Analysis Test"},
+    {"mnuCBR", "frmCBR", Test::CBRSoil, "การทดสอบหาค่า ซี.บี.อาร์.\r\nCalifornia Bearing Ratio Test"},
+};
+
+TEST(OpeningASheet, EachItemShowsItsFormItsBannerAndItsColour)
+{
+    for (const Opening& opening : kOpenings) {
+        for (const bool isRock : {false, true}) {
+            AppBench bench;
+            bench.NoteSheets();
+            mdiBack& frame = OpenRoad(bench);
+            ASSERT_TRUE(frame.tbrLab.PressItem(opening.stem + (isRock ? "2" : "1")));
+            auto* sheet = dynamic_cast<NotedSheet*>(bench.program.Loaded(opening.form));
+            ASSERT_NE(sheet, nullptr) << opening.stem;
+            EXPECT_EQ(bench.program.CurrentTest, opening.test);
+            EXPECT_EQ(bench.program.CurrentMaterial, isRock ? Material::Crush : Material::Soil);
+            EXPECT_EQ(sheet->testAtLoad, terravane::Test::None)
+                << "The load runs while the test is still the last sheet's.";
+            EXPECT_EQ(sheet->txtLabName.Text(), opening.banner);
+            EXPECT_EQ(sheet->txtLabName.BackColor(), (isRock ? Colour{128, 0, 128} : Colour{0, 0, 192}));
+            EXPECT_EQ(sheet->stbDes.Panel(1), "Database File is /work/TRVN_road.mdb");
+            EXPECT_TRUE(sheet->tblMenu.Button(1).enabled);
+            EXPECT_EQ(sheet->txtClient.Text(), "   ") << "LoadTestSheet fills the headings from the file.";
+        }
+    }
+}
+
+TEST(OpeningASheet, ClosesTheOpenOneFirstWithoutAQuestion)
+{
+    AppBench bench;
+    bench.NoteSheets();
+    mdiBack& frame = OpenRoad(bench);
+    frame.tbrLab.PressItem("mnuAtt1");
+    frame.tbrLab.PressItem("mnuSie2");
+    EXPECT_EQ(bench.log, (std::vector<std::string>{"+frmAtterberg", "-frmAtterberg", "+frmSieve"}));
+    EXPECT_TRUE(bench.surroundings.messages.empty());
+}
+
+TEST(OpeningASheet, ClosesAllSheetsInItsOrder)
+{
+    AppBench bench;
+    OpenRoad(bench);
+    bench.LoadNotedSheets();
+    bench.Frame().tbrLab.PressItem("mnuCBR1");
+    EXPECT_EQ(bench.log, (std::vector<std::string>{"-frmDensity", "-frmCompaction", "-frmCBR", "-frmSieve",
+                                                   "-frmSpecific", "-frmAtterberg", "+frmCBR"}));
+}
+
+TEST(OpeningASheet, UnknownKeyOnlyClosesTheSheets)
+{
+    for (const std::string key : {"mnuSei1", "mnuStd3", "mnuStd", "1", ""}) {
+        AppBench bench;
+        OpenRoad(bench);
+        bench.LoadNotedSheets();
+        bench.Frame().tbrLab_ButtonMenuClick(key);
+        EXPECT_EQ(bench.log.size(), 6U) << key;
+        EXPECT_EQ(bench.program.CurrentTest, terravane::Test::None);
+    }
+}
+
+TEST(OpeningASheet, NothingHappensWhileNoProjectIsChosen)
+{
+    AppBench bench;
+    bench.NoteSheets();
+    bench.ShowFrame().tbrLab.PressItem("mnuStd1");
+    EXPECT_EQ(bench.log, std::vector<std::string>{});
+}
+
+TEST(OpeningASheet, FileThatIsNoProjectIsFoundOutNow)
+{
+    AppBench bench;
+    bench.files.Put("/work/letter.txt", "Dear Sir");
+    mdiBack& frame = bench.ShowFrame();
+    bench.Press(frame.mnuOpen, "/work/letter.txt");
+    EXPECT_TRUE(bench.surroundings.failures.empty());
+    frame.tbrLab.PressItem("mnuStd1");
+    ASSERT_EQ(bench.surroundings.failures.size(), 1U);
+    EXPECT_EQ(bench.surroundings.failures.front().Description(), "Unrecognized database format '/work/letter.txt'.");
+    EXPECT_NE(bench.program.Loaded("frmCompaction"), nullptr) << "The sheet stands as the error left it.";
+}
+
+TEST(OpeningASheet, MissingBrandStoreLeavesNoSheet)
+{
+    AppBench bench;
+    mdiBack& frame = OpenRoad(bench);
+    bench.files.TakeAway("/home/BrandList/logo.mdb");
+    frame.tbrLab.PressItem("mnuStd1");
+    ASSERT_EQ(bench.surroundings.failures.size(), 1U);
+    EXPECT_EQ(bench.program.Loaded("frmCompaction"), nullptr);
+}
+
+// A second command that chooses a file goes back to "project chosen": the sheet and what was typed are gone.
+TEST(ChoosingAFile, ClosesTheOpenSheetAndItsUnsavedReadings)
+{
+    AppBench bench;
+    mdiBack& frame = OpenRoad(bench);
+    frame.tbrLab.PressItem("mnuStd1");
+    bench.program.Get<frmCompaction>("frmCompaction").txtSoil.Type("Sample 3");
+    bench.Press(frame.mnuRecent);
+    EXPECT_EQ(bench.program.Loaded("frmCompaction"), nullptr);
+    EXPECT_EQ(bench.Stored("/work/TRVN_road.mdb", "STDSOIL", "std_soil"), "   ");
+    EXPECT_TRUE(frame.tbrLab.Enabled());
+}
+
+}  // namespace
+}  // namespace terravane::testing

@@ -1,0 +1,109 @@
+#include "reports/cover_page.h"
+
+#include <gtest/gtest.h>
+
+#include "support/report_bench.h"
+#include "unit/runtime/raises.h"
+
+namespace terravane {
+namespace {
+
+using namespace support;
+
+constexpr double kTwip = 0.1;
+constexpr double kLine = 574.2;  // size 22
+
+std::vector<DrawnItem> CoverOf(ReportBench& bench)
+{
+    Printer printer;
+    PrintCoverPage(bench.program, printer);
+    return printer.Items();
+}
+
+struct CoverCase {
+    Test test;
+    std::string sheet, title;
+};
+
+class CoverTitle : public ::testing::TestWithParam<CoverCase> {};
+
+TEST_P(CoverTitle, GoesByTheCurrentTestAlone)
+{
+    ReportBench bench;
+    bench.Open(GetParam().test, GetParam().sheet, "Modified Compaction Test");
+    const TextItem title = TextOn(CoverOf(bench), GetParam().title);
+    EXPECT_NEAR(title.y, 4000, kTwip);
+    EXPECT_EQ(title.font, (Font{"DilleniaUPC", 28, true, false}));
+    EXPECT_NEAR(title.x + TextWidth(title.font, title.text) / 2, 5953, kTwip);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Tests, CoverTitle,
+    ::testing::Values(CoverCase{terravane::Test::StdSoil, "frmCompaction", "ผลทดสอบการบดอัดดินแบบมาตรฐาน"},
+                      CoverCase{terravane::Test::ModSoil, "frmCompaction", "ผลทดสอบการบดอัดดินแบบสูงกว่ามาตรฐาน"},
+                      CoverCase{terravane::Test::CBRSoil, "frmCBR", "ผลทดสอบการหาค่าซี.บี.อาร์."},
+                      CoverCase{terravane::Test::DenSoil, "frmDensity",
+                                "ผลทดสอบการหาค่าความหนาแน่นของดินในสนามด้วยวิธีกรวยทราย"},
+                      CoverCase{terravane::Test::SieSoil, "frmSieve", "ผลทดสอบหาขนาดเม็ดดินด้วยวิธีร่อนผ่านตะแกรงมาตรฐาน"},
+                      CoverCase{terravane::Test::AttSoil, "frmAtterberg", "ผลทดสอบหาขีดจำกัดอัตเทอร์เบิร์ก"},
+                      CoverCase{terravane::Test::SpcSoil, "frmSpecific", "ผลทดสอบหาความถ่วงจำเพาะของดิน"}));
+
+// The title's line is 26.1 × 28 = 730.8; all below are lines of 574.2: one blank, two texts, four blanks, "เสนอ", the
+// client, four blanks, "โดย", three names.
+TEST(CoverPage, PartsFollowEachOtherByLines)
+{
+    ReportBench bench;
+    bench.OpenCompaction();
+    const auto items = CoverOf(bench);
+    const double below = 4730.8;
+    EXPECT_NEAR(TextOn(items, "Bypass Road").y, below + kLine, kTwip);
+    EXPECT_NEAR(TextOn(items, "Km 12+400").y, below + 2 * kLine, kTwip);
+    EXPECT_NEAR(TextOn(items, "เสนอ").y, below + 7 * kLine, kTwip);
+    EXPECT_NEAR(TextOn(items, "Highway Department").y, below + 8 * kLine, kTwip);
+    EXPECT_NEAR(TextOn(items, "โดย").y, below + 13 * kLine, kTwip);
+    EXPECT_NEAR(TextOn(items, "First Reporter").y, below + 14 * kLine, kTwip);
+    EXPECT_NEAR(TextOn(items, "Second Reporter").y, below + 15 * kLine, kTwip);
+    EXPECT_TRUE(TextOn(items, "โดย").font.bold);
+    EXPECT_FALSE(TextOn(items, "First Reporter").font.bold);
+    EXPECT_EQ(ItemsOf<TextItem>(items).size(), 8u) << "the third name is blank: an empty line";
+}
+
+TEST(CoverPage, EmptyClientLeavesItsLine)
+{
+    ReportBench bench;
+    bench.OpenCompaction().txtClient.SetText("");
+    const auto items = CoverOf(bench);
+    EXPECT_NEAR(TextOn(items, "โดย").y - TextOn(items, "เสนอ").y, 6 * kLine, kTwip);
+}
+
+/// A picture of 200 by 100: the head of a GIF file is all that is read here.
+Bytes WideGif()
+{
+    return {'G', 'I', 'F', '8', '9', 'a', 200, 0, 100, 0, 0, 0, 0, ';'};
+}
+
+TEST(CoverPage, LogoKeepsItsProportions)
+{
+    ReportBench bench;
+    bench.OpenCompaction();
+    bench.files.Put(std::string(kBrandFolder) + "cov_logo.jpg", WideGif());
+    const auto pictures = ItemsOf<PictureItem>(CoverOf(bench));
+    ASSERT_EQ(pictures.size(), 1u);
+    EXPECT_EQ(pictures.front().name, "cov_logo.jpg");
+    EXPECT_NEAR(pictures.front().x, 5953 - 710, kTwip);
+    EXPECT_EQ(pictures.front().y, 1200);
+    EXPECT_NEAR(pictures.front().width, 1420, kTwip);
+    EXPECT_NEAR(pictures.front().height, 710, kTwip);
+}
+
+TEST(CoverPage, MissingLogoIsNamed)
+{
+    ReportBench bench;
+    bench.OpenCompaction();
+    bench.files.TakeAway(std::string(kBrandFolder) + "cov_logo.jpg");
+    EXPECT_EQ(ErrorOf([&] { CoverOf(bench); }), error::kFileNotFound);
+    EXPECT_NE(DescriptionOf([&] { CoverOf(bench); }).find("cov_logo.jpg"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace terravane
