@@ -3,6 +3,7 @@
 #include <array>
 #include <string>
 
+#include "reports/copied_plot.h"
 #include "reports/open_sheet.h"
 #include "reports/report_table.h"
 #include "reports/signature_block.h"
@@ -15,7 +16,6 @@ using namespace std::string_view_literals;
 
 constexpr int kSamples = 6;
 constexpr double kLabelWidth = 2500;
-constexpr double kBoxInset = 60;  // the frame's own place in the sheet's container
 
 constexpr std::array kWaterLabels{
     "Moisture Can No."sv,   "Mass of Can + Wet Soil, (g)"sv, "Mass of Can + Dry Soil, (g)"sv, "Mass of Can, (g)"sv,
@@ -137,17 +137,6 @@ void DrawDensities(const CompactionPage& of)
     PrintCells(of.page, of.y, of.samples, 12, of.sheet.Get<TextGrid>("MSHDensity"), {0, 6, 1, kSamples});
 }
 
-/// The sheet's two boxes as they stand, the plot on top of its frame.
-void CopyCurve(const CompactionPage& of)
-{
-    const auto& frame = of.sheet.Get<PictureBox>("picgraph1");
-    const auto& plot = of.sheet.Get<PictureBox>("picGraph");
-    const double top = of.y(20);
-    of.page.PaintPicture(frame.Name(), frame.Image(), kLeft, top, frame.Width, frame.Height);
-    of.page.PaintPicture(plot.Name(), plot.Image(), kLeft + plot.Left - kBoxInset, top + plot.Top, plot.Width,
-                         plot.Height);
-}
-
 void DrawCompaction(Program& program, DrawingSurface& page, Medium medium)
 {
     page.FontSize = kBodySize;
@@ -159,7 +148,7 @@ void DrawCompaction(Program& program, DrawingSurface& page, Medium medium)
     PrintResults(of);
     DrawWaterContents(of);
     DrawDensities(of);
-    CopyCurve(of);
+    CopyPlot(page, of.sheet.Get<PictureBox>("picgraph1"), of.sheet.Get<PictureBox>("picGraph"), kLeft, of.y(20));
     DrawSignatures(program, page, medium);
 }
 

@@ -19,6 +19,7 @@ frmPreview::frmPreview(Program& owner) : Form(owner, "frmPreview", "Report Previ
     cmdNext.Click = [this] { cmdNext_Click(); };
     HScroll1.Change = [this] { HScroll1_Change(); };
     VScroll1.Change = [this] { VScroll1_Change(); };
+    Picture1.ViewResized = [this](double width, double height) { ResizeViewport(width, height); };
     Toolbar1.ButtonClick = [this](int number) { Toolbar1_ButtonClick(number); };
 }
 

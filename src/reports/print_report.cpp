@@ -3,9 +3,13 @@
 #include <algorithm>
 #include <array>
 
+#include "reports/atterberg_report.h"
+#include "reports/cbr_report.h"
 #include "reports/compaction_report.h"
 #include "reports/open_sheet.h"
 #include "reports/page_frame.h"
+#include "reports/sieve_report.h"
+#include "reports/specific_gravity_report.h"
 #include "runtime/text.h"
 
 namespace terravane {
@@ -15,6 +19,10 @@ namespace {
 constexpr std::array kReports{
     Report{Test::StdSoil, PrintCompaction, ShowCompaction},
     Report{Test::ModSoil, PrintCompaction, ShowCompaction},
+    Report{Test::SpcSoil, PrintSpecificGravity, ShowSpecificGravity},
+    Report{Test::AttSoil, PrintAtterberg, ShowAtterberg},
+    Report{Test::CBRSoil, PrintCBR, ShowCBRPage1, ShowCBRPage2},
+    Report{Test::SieSoil, PrintSieve, ShowSievePage1, ShowSievePage2, true},
 };
 
 }  // namespace

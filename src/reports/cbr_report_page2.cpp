@@ -1,0 +1,189 @@
+// Page 2: the penetrations, the curves as they stand on the sheet, the ratios of one mould or of both conditions.
+#include <array>
+#include <string>
+#include <string_view>
+
+#include "reports/cbr_report_pages.h"
+#include "reports/report_table.h"
+
+namespace terravane {
+
+namespace {
+
+using namespace cbr;
+
+constexpr double kTableTop = 3000;
+constexpr int kHeadLines = 4;
+constexpr int kColumnsAcross = penetration::kColumns;
+constexpr int kGroup = 3;              // columns of a mould
+constexpr double kCurvesBelow = 400;   // the table
+constexpr double kSummaryBelow = 500;  // the table
+constexpr double kSummarySize = 15;    // points
+constexpr double kSummaryGap = 80;     // between the left curve and the summary
+
+/// The page being drawn: the table's lines and its ten columns.
+struct CbrTable {
+    const frmCBR& sheet;
+    DrawingSurface& page;
+    PageLines y;
+    PageColumns columns;
+    double right;
+    int bottom;  // line
+
+    CbrTable(const frmCBR& open, DrawingSurface& surface)
+        : sheet(open),
+          page(surface),
+          y(surface, kTableTop),
+          columns{kLeft, (RightEdge(surface) - kLeft) / kColumnsAcross},
+          right(RightEdge(surface)),
+          bottom(kHeadLines + open.MSHPenetrate1.Rows())
+    {}
+
+    /// The columns of a grid count from 0, those of the page from 1.
+    double Left(int gridColumn) const { return columns.Left(gridColumn + 1); }
+};
+
+void DrawTableRules(const CbrTable& of)
+{
+    of.page.DrawWidth = kThickRule;
+    of.page.Box(kLeft, of.y(0), of.right, of.y(of.bottom));
+    DrawRows(of.page, of.y, kLeft, of.right, kHeadLines, 1);
+    for (int mould = 1; mould <= kMoulds; ++mould) {
+        const double x = of.Left(penetration::Dial(mould));
+        of.page.Line(x, of.y(0), x, of.y(of.bottom));
+    }
+    of.page.DrawWidth = kThinRule;
+    for (int mould = 1; mould <= kMoulds; ++mould) {
+        for (const int column : {penetration::Load(mould), penetration::Stress(mould)})
+            of.page.Line(of.Left(column), of.y(1), of.Left(column), of.y(of.bottom));
+    }
+    DrawRows(of.page, of.y, kLeft, of.right, 1, 1);
+    DrawRows(of.page, of.y, kLeft, of.right, kHeadLines + 1, of.bottom - kHeadLines - 1);
+}
+
+/// The moulds' numbers stand in the first line, since the heads fill the three below; with both conditions the first
+/// two make room for the condition.
+void PrintMouldHeads(const CbrTable& of)
+{
+    constexpr std::array<std::string_view, kMoulds> kConditions{"Unsoaked", "Soaked", ""};
+    const double group = of.columns.width * kGroup;
+    of.page.CurrentY = of.y(0);
+    PrintCentred(of.page, kLeft, of.columns.width, "Mold No.");
+    for (int mould = 1; mould <= kMoulds; ++mould) {
+        const double left = of.Left(penetration::Dial(mould));
+        const std::string& number = of.sheet.MSHPenetrate(0, penetration::Load(mould));
+        const auto condition = kConditions[static_cast<std::size_t>(mould - 1)];
+        if (!of.sheet.optBoth.Value() || condition.empty()) {
+            PrintCentred(of.page, left, group, number);
+            continue;
+        }
+        PrintCentred(of.page, left, group, condition);
+        PrintCentred(of.page, left, of.columns.width, number);
+    }
+}
+
+void PrintHeads(const CbrTable& of)
+{
+    constexpr std::array<std::string_view, 2> kDepthHeads{"Penetration", "(in)"};
+    constexpr std::array<std::array<std::string_view, kGroup>, 3> kGroupHeads{{
+        {"Load Dial", "Load", "Stress"},
+        {"Reading", "P", "P/A"},
+        {"(div)", "(lb)", "(lb/in^2)"},
+    }};
+    PrintMouldHeads(of);
+    double line = 1.5;  // two lines in the height of three
+    for (const auto head : kDepthHeads) {
+        of.page.CurrentY = of.y(line++);
+        PrintCentred(of.page, kLeft, of.columns.width, head);
+    }
+    line = 1;
+    for (const auto& heads : kGroupHeads) {
+        of.page.CurrentY = of.y(line++);
+        for (int column = 1; column < kColumnsAcross; ++column) {
+            const auto& head = heads[static_cast<std::size_t>((column - 1) % kGroup)];
+            PrintCentred(of.page, of.Left(column), of.columns.width, head);
+        }
+    }
+}
+
+void PrintReadings(const CbrTable& of)
+{
+    const TextGrid& grid = of.sheet.MSHPenetrate1;
+    PrintCells(of.page, of.y, of.columns, kHeadLines, grid, {0, grid.Rows() - 1, 0, kColumnsAcross - 1});
+}
+
+/// A frame as it stands on the sheet, its plot on top.
+void CopyPlot(DrawingSurface& page, const PictureBox& frame, const PictureBox& plot, double x, double y)
+{
+    page.PaintPicture(frame.Name(), frame.Image(), x, y, frame.Width, frame.Height);
+    page.PaintPicture(plot.Name(), plot.Image(), x + plot.Left, y + plot.Top, plot.Width, plot.Height);
+}
+
+void CopyCurves(const CbrTable& of)
+{
+    const frmCBR& sheet = of.sheet;
+    const double top = of.y(of.bottom) + kCurvesBelow;
+    CopyPlot(of.page, sheet.picGraph, sheet.picgraph1, kLeft, top);
+    CopyPlot(of.page, sheet.picGraph2, sheet.picGraph3, of.right - sheet.picGraph2.Width, top);
+}
+
+void PrintValuesOf(const CbrTable& of, double x, int mould)
+{
+    struct Line {
+        std::string_view label;
+        result::Row row;
+        std::string_view unit;
+    };
+    constexpr std::array kLines{
+        Line{"Dry Density is ", result::DryDensity, "g/cm^3"},
+        Line{"CBR Value at 0.1 in. Penetration is ", result::At01, "%"},
+        Line{"CBR Value at 0.2 in. Penetration is ", result::At02, "%"},
+    };
+    for (const Line& line : kLines) {
+        PrintFrom(of.page, x, line.label);
+        of.page.PrintOn(of.sheet.mshLPC(line.row, mould));
+        of.page.Print(line.unit);
+    }
+}
+
+void PrintConditionOf(const CbrTable& of, double x, std::string_view caption, int mould)
+{
+    of.page.FontBold = true;
+    PrintLineFrom(of.page, x, caption);
+    of.page.FontBold = false;
+    PrintValuesOf(of, x, mould);
+}
+
+/// Between the two curves.
+void PrintSummary(const CbrTable& of)
+{
+    of.page.FontSize = kSummarySize;
+    const bool isBoth = of.sheet.optBoth.Value();
+    const double x = kLeft + of.sheet.picGraph.Width + kSummaryGap;
+    of.page.CurrentY = of.y(of.bottom) + kSummaryBelow + LineHeight(of.page) * (isBoth ? 2 : 4);
+    if (isBoth) {
+        PrintConditionOf(of, x, "Unsoaked CBR", 1);
+        PrintConditionOf(of, x, "Soaked CBR", 2);
+    } else {
+        PrintValuesOf(of, x, 1);
+    }
+    of.page.FontSize = kBodySize;
+}
+
+}  // namespace
+
+void DrawCbrPage2(const frmCBR& sheet, DrawingSurface& page)
+{
+    page.FontSize = kBodySize;
+    page.FontTransparent = true;
+    const CbrTable of(sheet, page);
+    DrawTableRules(of);
+    page.FontBold = true;
+    PrintHeads(of);
+    page.FontBold = false;
+    PrintReadings(of);
+    CopyCurves(of);
+    PrintSummary(of);
+}
+
+}  // namespace terravane
