@@ -5,7 +5,11 @@
 #include "app/frmTitle.h"
 #include "app/mdiBack.h"
 #include "reports/frmPreview.h"
+#include "sheets/atterberg/frmAtterberg.h"
+#include "sheets/cbr/frmCBR.h"
 #include "sheets/compaction/frmCompaction.h"
+#include "sheets/sieve/frmSieve.h"
+#include "sheets/specific/frmSpecific.h"
 
 namespace terravane {
 
@@ -25,7 +29,11 @@ void AddForms(Program& program)
     Add<mdiBack>(program, std::string(kFrameName));
     Add<frmProject>(program, "frmProject");
     Add<frmAbout>(program, "frmAbout");
+    Add<frmCBR>(program, "frmCBR");
     Add<frmCompaction>(program, "frmCompaction");
+    Add<frmSieve>(program, "frmSieve");
+    Add<frmAtterberg>(program, "frmAtterberg");
+    Add<frmSpecific>(program, "frmSpecific");
     Add<frmPreview>(program, "frmPreview");
 }
 

@@ -148,7 +148,9 @@ void RunType(Session& session, Words words)
 {
     TextGrid& grid = GridNamed(session, words[0]);
     const int row = WholeNumber(words[1], "a row"), column = WholeNumber(words[2], "a column");
-    auto* editor = EditorOver(grid, [&](const CellEditor& over) { return over.Range().Holds(row, column); });
+    auto* editor = EditorOver(grid, [&](const CellEditor& over) {
+        return over.Range().Holds(row, column) && !grid.IsCalculated(row, column);
+    });
     const bool isOpen = !WhyUnusable(session.program, grid);
     if (isOpen && (!editor || editor->Locked())) return Refuse(session, words[0], "locked");
     Use(session, words[0], grid, [&] {
