@@ -4,7 +4,7 @@
 
 #include <benchmark/benchmark.h>
 
-#include "../tests/support/jet_files.h"
+#include "support/jet_files.h"
 
 namespace terravane {
 namespace {

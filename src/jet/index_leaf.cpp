@@ -89,7 +89,7 @@ Bytes LeafEntry(Bytes key, RowPointer row)
 
 void WriteLeaf(MutableBytes page, PageNumber owner, std::vector<Bytes> entries)
 {
-    std::ranges::sort(entries);
+    std::ranges::sort(entries, std::ranges::lexicographical_compare);
     std::ranges::fill(page, std::uint8_t{0});
     Put<std::uint16_t>(page, 0, 0x0104);
     Put<std::uint32_t>(page, 4, owner);
@@ -105,7 +105,7 @@ void WriteLeaf(MutableBytes page, PageNumber owner, std::vector<Bytes> entries)
 
 std::size_t DifferentKeys(std::vector<Bytes> entries)
 {
-    std::ranges::sort(entries);
+    std::ranges::sort(entries, std::ranges::lexicographical_compare);
     // std::unique, not its ranges form: Clang 14 can't compile that one's result.
     const auto end = std::unique(entries.begin(), entries.end(),
                                  [](const Bytes& a, const Bytes& b) { return std::ranges::equal(KeyOf(a), KeyOf(b)); });

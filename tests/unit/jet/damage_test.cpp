@@ -42,21 +42,21 @@ TEST(Damage, CutFilesAreRefused)
     }
 }
 
-// Every 211th byte of the file takes four other values: some 5,000 files, most of them readable, since most bytes of
+// Every 419th byte of the file takes four other values: some 2,500 files, most of them readable, since most bytes of
 // a file are texts or nothing.
 TEST(Damage, ChangedBytesGiveAnErrorOrRows)
 {
     const Bytes whole = NewFile(SampleStatements());
     Tally tally;
     Bytes damaged = whole;
-    for (std::size_t at = 0; at < whole.size(); at += 211) {
+    for (std::size_t at = 0; at < whole.size(); at += 419) {
         for (const unsigned value : {0x00U, 0xFFU, whole[at] ^ 0x01U, whole[at] + 0x40U}) {
             damaged[at] = static_cast<std::uint8_t>(value);
             OpenAndSave(damaged, tally);
         }
         damaged[at] = whole[at];
     }
-    EXPECT_GT(tally.refused, 100);
+    EXPECT_GT(tally.refused, 50);
     EXPECT_GT(tally.read, 1000);
 }
 
