@@ -26,7 +26,10 @@ namespace terravane {
 
 namespace {
 
-QString ToQt(const std::string& text) { return QString::fromStdString(text); }
+QString ToQt(const std::string& text)
+{
+    return QString::fromStdString(text);
+}
 
 /// Selects the view's text when a handler asked for it since the last look.
 template <class View>
@@ -90,7 +93,10 @@ QToolButton* MakeToolButton(Toolbar& bar, int number, QToolBar& view)
 
 }  // namespace
 
-QString PlainCaption(const Control& control) { return ToQt(control.Caption()).remove('&'); }
+QString PlainCaption(const Control& control)
+{
+    return ToQt(control.Caption()).remove('&');
+}
 
 Subscription BindFurniture(Control& control, QWidget& view)
 {

@@ -12,8 +12,10 @@ namespace {
 /// between nothing of the window may reach a control.
 void LetGo(QWidget& window)
 {
-    for (QObject* part : window.findChildren<QObject*>()) part->blockSignals(true);
-    for (FormView* view : window.findChildren<FormView*>()) view->LetGo();
+    for (QObject* part : window.findChildren<QObject*>()) {
+        part->blockSignals(true);
+        if (auto* view = dynamic_cast<FormView*>(part)) view->LetGo();
+    }
     window.hide();
     window.setEnabled(false);
     window.deleteLater();

@@ -11,14 +11,14 @@
 namespace terravane {
 
 class Desktop {
- public:
+  public:
     Desktop(Program& program, QtSurroundings& surroundings);
     ~Desktop();
 
     /// The window of a shown form; nullptr where it has none.
     QWidget* WindowOf(const Form& form) const;
 
- private:
+  private:
     void Follow();
     void TakeAwayClosed();
     QWidget* Open(const Program::ShownForm& shown);

@@ -15,6 +15,7 @@
 #include <QTabWidget>
 #include <QTimer>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <optional>
 
 #include "controls/picture_box.h"
@@ -30,16 +31,59 @@ std::optional<Key> KeyOf(int key)
 {
     switch (key) {
         case Qt::Key_Return:
-        case Qt::Key_Enter: return Key::Enter;
-        case Qt::Key_Escape: return Key::Esc;
-        case Qt::Key_Up: return Key::Up;
-        case Qt::Key_Down: return Key::Down;
-        case Qt::Key_Left: return Key::Left;
-        case Qt::Key_Right: return Key::Right;
-        case Qt::Key_Tab: return Key::Tab;
-        default: return std::nullopt;
+        case Qt::Key_Enter:
+            return Key::Enter;
+        case Qt::Key_Escape:
+            return Key::Esc;
+        case Qt::Key_Up:
+            return Key::Up;
+        case Qt::Key_Down:
+            return Key::Down;
+        case Qt::Key_Left:
+            return Key::Left;
+        case Qt::Key_Right:
+            return Key::Right;
+        case Qt::Key_Tab:
+            return Key::Tab;
+        default:
+            return std::nullopt;
     }
 }
+
+/// Its parts above each other where the height allows it, else beside each other: a screen of 720 lines shows two
+/// grids without scrolling, a taller one shows the trials in line.
+class PairBox : public QWidget {
+  public:
+    explicit PairBox(QWidget* parent) : QWidget(parent), box_(new QBoxLayout(QBoxLayout::LeftToRight, this))
+    {
+        box_->setSizeConstraint(QLayout::SetNoConstraint);
+    }
+
+    QBoxLayout* Box() const { return box_; }
+    QSize minimumSizeHint() const override { return Beside(&QWidget::minimumSizeHint); }
+    QSize sizeHint() const override { return Beside(&QWidget::sizeHint); }
+
+  protected:
+    void resizeEvent(QResizeEvent*) override
+    {
+        int needed = 0;
+        for (int i = 0; i < box_->count(); ++i) needed += box_->itemAt(i)->widget()->sizeHint().height() + looks::kGap;
+        box_->setDirection(needed <= height() ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    }
+
+  private:
+    QSize Beside(QSize (QWidget::*hint)() const) const
+    {
+        QSize size(0, 0);
+        for (int i = 0; i < box_->count(); ++i) {
+            const QSize part = (box_->itemAt(i)->widget()->*hint)();
+            size = {size.width() + part.width() + looks::kGap, std::max(size.height(), part.height())};
+        }
+        return size;
+    }
+
+    QBoxLayout* box_;
+};
 
 QLabel* MakeCaption(const Control& control, QWidget* buddy, QWidget* parent)
 {
@@ -85,16 +129,28 @@ QWidget* FormView::Make(const Place& place)
     switch (place.kind) {
         case Place::Kind::Row:
         case Place::Kind::Column:
-        case Place::Kind::Fields: return MakeBox(place);
-        case Place::Kind::Group: return MakeGroup(place);
-        case Place::Kind::Tabs: return MakeTabs(place);
-        case Place::Kind::Scroll: return MakeScroll(place);
-        case Place::Kind::Field: return MakeField(place);
-        case Place::Kind::Result: return MakeResult(place);
-        case Place::Kind::Banner: return MakeBanner(place);
-        case Place::Kind::Plot: return MakePlot(place);
-        case Place::Kind::Control: return MakeControl(form_.Get<Control>(place.control));
-        case Place::Kind::Space: break;
+        case Place::Kind::Fields:
+            return MakeBox(place);
+        case Place::Kind::Pair:
+            return MakePair(place);
+        case Place::Kind::Group:
+            return MakeGroup(place);
+        case Place::Kind::Tabs:
+            return MakeTabs(place);
+        case Place::Kind::Scroll:
+            return MakeScroll(place);
+        case Place::Kind::Field:
+            return MakeField(place);
+        case Place::Kind::Result:
+            return MakeResult(place);
+        case Place::Kind::Banner:
+            return MakeBanner(place);
+        case Place::Kind::Plot:
+            return MakePlot(place);
+        case Place::Kind::Control:
+            return MakeControl(form_.Get<Control>(place.control));
+        case Place::Kind::Space:
+            break;
     }
     return new QWidget(this);
 }
@@ -127,6 +183,14 @@ QWidget* FormView::MakeBox(const Place& place)
     auto* box = new QBoxLayout(isRow ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom, widget);
     AddAll(*box, place.parts);
     return widget;
+}
+
+QWidget* FormView::MakePair(const Place& place)
+{
+    auto* pair = new PairBox(this);
+    AddAll(*pair->Box(), place.parts);
+    pair->Box()->setSpacing(looks::kGap);
+    return pair;
 }
 
 void FormView::AddFieldRow(QFormLayout& fields, const Place& place)
@@ -220,8 +284,7 @@ QWidget* FormView::MakeBanner(const Place& place)
     banner->setContentsMargins(looks::kMargin, 6, looks::kMargin, 6);
     banner->setMinimumHeight(2 * QFontMetrics(banner->font()).lineSpacing() + 20);
     bindings_.push_back(BindFurniture(box, *banner));
-    bindings_.push_back(
-        box.Show([&box, banner] { banner->setText(QString::fromStdString(box.Text()).remove('\r')); }));
+    bindings_.push_back(box.Show([&box, banner] { banner->setText(QString::fromStdString(box.Text()).remove('\r')); }));
     views_[&box] = banner;
     return banner;
 }

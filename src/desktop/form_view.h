@@ -14,7 +14,7 @@ class QFormLayout;
 namespace terravane {
 
 class FormView : public QWidget {
- public:
+  public:
     FormView(Form& form, const Place& layout, QWidget* parent = nullptr);
     ~FormView() override;
 
@@ -25,14 +25,15 @@ class FormView : public QWidget {
     /// The widget of a control; nullptr where it has no place.
     QWidget* ViewOf(const Control& control) const;
 
- protected:
+  protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
- private:
+  private:
     void Add(QBoxLayout& box, const Place& place);
     void AddAll(QBoxLayout& box, const std::vector<Place>& parts);
     void AddFieldRow(QFormLayout& fields, const Place& place);
     QWidget* MakeBox(const Place& place);
+    QWidget* MakePair(const Place& place);
     QWidget* MakeGroup(const Place& place);
     QWidget* MakeTabs(const Place& place);
     QWidget* MakeScroll(const Place& place);

@@ -13,6 +13,7 @@ namespace terravane {
 
 namespace {
 
+constexpr int kLeastRowsShown = 4;
 constexpr int kMostRowsUnscrolled = 12;
 constexpr int kLeastColumnWidth = 56;
 
@@ -23,7 +24,7 @@ bool IsHead(const TextGrid& grid, int row, int column)
 
 /// Heads in the palette's mid-light, calculated cells in the button face with quieter ink, thin lines.
 class CellPainter : public QStyledItemDelegate {
- public:
+  public:
     CellPainter(const TextGrid& grid, QObject* parent) : QStyledItemDelegate(parent), grid_(grid) {}
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
@@ -41,7 +42,7 @@ class CellPainter : public QStyledItemDelegate {
         painter->drawText(option.rect.adjusted(6, 0, -6, 0), side | Qt::AlignVCenter, index.data().toString());
     }
 
- private:
+  private:
     const TextGrid& grid_;
 };
 
@@ -49,7 +50,7 @@ class CellPainter : public QStyledItemDelegate {
 
 /// The grid's texts as Qt's views ask for them.
 class GridModel : public QAbstractTableModel {
- public:
+  public:
     GridModel(TextGrid& grid, QObject* parent) : QAbstractTableModel(parent), grid_(grid), rows_(grid.Rows()) {}
 
     int rowCount(const QModelIndex& = {}) const override { return rows_; }
@@ -78,13 +79,12 @@ class GridModel : public QAbstractTableModel {
         return true;
     }
 
- private:
+  private:
     TextGrid& grid_;
     int rows_;
 };
 
-GridView::GridView(TextGrid& grid, QWidget* parent)
-    : QTableView(parent), grid_(grid), model_(new GridModel(grid, this))
+GridView::GridView(TextGrid& grid, QWidget* parent) : QTableView(parent), grid_(grid), model_(new GridModel(grid, this))
 {
     setModel(model_);
     setItemDelegate(new CellPainter(grid, this));
@@ -143,15 +143,22 @@ int GridView::LeastRowHeight(int row) const
     return std::max(looks::kGridRowHeight, static_cast<int>(lines) * fontMetrics().height() + 8);
 }
 
-QSize GridView::minimumSizeHint() const
+QSize GridView::SizeFor(int mostRows) const
 {
     int height = 2 * frameWidth();
-    const int rows = std::min(grid_.Rows(), kMostRowsUnscrolled);
-    for (int row = 0; row < rows; ++row) height += LeastRowHeight(row);
-    return {kLeastColumnWidth * grid_.Columns(), height};
+    for (int row = 0; row < std::min(grid_.Rows(), mostRows); ++row) height += LeastRowHeight(row);
+    return {kLeastColumnWidth * grid_.Columns() + (grid_.TitleColumns() > 0 ? 2 * kLeastColumnWidth : 0), height};
 }
 
-QSize GridView::sizeHint() const { return minimumSizeHint(); }
+QSize GridView::minimumSizeHint() const
+{
+    return SizeFor(kLeastRowsShown);
+}
+
+QSize GridView::sizeHint() const
+{
+    return SizeFor(kMostRowsUnscrolled);
+}
 
 void GridView::resizeEvent(QResizeEvent* event)
 {

@@ -14,18 +14,18 @@ namespace terravane {
 class GridModel;
 
 class GridView : public QTableView {
- public:
+  public:
     GridView(TextGrid& grid, QWidget* parent);
 
     TextGrid& Grid() const { return grid_; }
     /// The box of the grid's editor; nullptr where the grid is only read.
     QLineEdit* EditorBox() const { return box_; }
 
-    /// The height that shows all rows at the least, as far as they shall be shown without scrolling.
+    /// A few rows at the least; all of them, up to a dozen, where there is room.
     QSize minimumSizeHint() const override;
     QSize sizeHint() const override;
 
- protected:
+  protected:
     void resizeEvent(QResizeEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent*) override {}
@@ -34,7 +34,8 @@ class GridView : public QTableView {
     void focusInEvent(QFocusEvent* event) override;
     void scrollContentsBy(int dx, int dy) override;
 
- private:
+  private:
+    QSize SizeFor(int mostRows) const;
     void ShareRoom();
     void ShowEditor();
     int LeastRowHeight(int row) const;

@@ -9,11 +9,19 @@ namespace terravane {
 
 namespace layout {
 
-Place Row(std::vector<Place> parts, int stretch) { return {Place::Kind::Row, {}, std::move(parts), {}, stretch}; }
+Place Row(std::vector<Place> parts, int stretch)
+{
+    return {Place::Kind::Row, {}, std::move(parts), {}, stretch};
+}
 
 Place Column(std::vector<Place> parts, int stretch)
 {
     return {Place::Kind::Column, {}, std::move(parts), {}, stretch};
+}
+
+Place Pair(std::vector<Place> parts, int stretch)
+{
+    return {Place::Kind::Pair, {}, std::move(parts), {}, stretch};
 }
 
 Place Fields(std::vector<std::string_view> controls, int stretch)
@@ -33,22 +41,40 @@ Place Tabs(std::string_view control, std::vector<Place> pages)
     return {Place::Kind::Tabs, control, std::move(pages), {}, 1};
 }
 
-Place One(std::string_view control, int stretch) { return {Place::Kind::Control, control, {}, {}, stretch}; }
+Place One(std::string_view control, int stretch)
+{
+    return {Place::Kind::Control, control, {}, {}, stretch};
+}
 
-Place Field(std::string_view control, int stretch) { return {Place::Kind::Field, control, {}, {}, stretch}; }
+Place Field(std::string_view control, int stretch)
+{
+    return {Place::Kind::Field, control, {}, {}, stretch};
+}
 
-Place Result(std::string_view control, std::string_view unit) { return {Place::Kind::Result, control, {}, unit, 0}; }
+Place Result(std::string_view control, std::string_view unit)
+{
+    return {Place::Kind::Result, control, {}, unit, 0};
+}
 
-Place Banner(std::string_view control) { return {Place::Kind::Banner, control, {}, {}, 0}; }
+Place Banner(std::string_view control)
+{
+    return {Place::Kind::Banner, control, {}, {}, 0};
+}
 
 Place Plot(std::string_view frame, std::string_view plot, int stretch)
 {
     return {Place::Kind::Plot, frame, {}, plot, stretch};
 }
 
-Place Scroll(std::vector<Place> parts) { return {Place::Kind::Scroll, {}, std::move(parts), {}, 1}; }
+Place Scroll(std::vector<Place> parts)
+{
+    return {Place::Kind::Scroll, {}, std::move(parts), {}, 1};
+}
 
-Place Space() { return {Place::Kind::Space, {}, {}, {}, 1}; }
+Place Space()
+{
+    return {Place::Kind::Space, {}, {}, {}, 1};
+}
 
 Place GeneralData()
 {

@@ -12,6 +12,7 @@ struct Place {
     enum class Kind {
         Row,      // parts beside each other
         Column,   // parts above each other
+        Pair,     // parts above each other where the height allows it, else beside each other
         Fields,   // parts are Controls, each with its caption at its left, aligned
         Group,    // a captioned frame around the parts; control is the form's Frame
         Tabs,     // parts are the pages; control is the tab control
@@ -34,6 +35,7 @@ namespace layout {
 
 Place Row(std::vector<Place> parts, int stretch = 0);
 Place Column(std::vector<Place> parts, int stretch = 0);
+Place Pair(std::vector<Place> parts, int stretch = 1);
 Place Fields(std::vector<std::string_view> controls, int stretch = 0);
 Place Group(std::string_view frame, std::vector<Place> parts, int stretch = 0);
 Place Tabs(std::string_view control, std::vector<Place> pages);

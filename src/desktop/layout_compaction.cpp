@@ -11,8 +11,7 @@ Place ReadingsTab()
 {
     return Column({
         Row({Field("txtDia"), Field("txtHeight"), Field("cboWt"), Field("cboBlow"), Field("cboLayer"), Space()}),
-        Group("FraWt", {One("MSHWt", 1)}, 8),
-        Group("fraDensity", {One("MSHDensity", 1)}, 7),
+        Pair({Group("FraWt", {One("MSHWt", 1)}, 8), Group("fraDensity", {One("MSHDensity", 1)}, 7)}),
         Row({Space(), One("cmdCal"), One("cmdView")}),
     });
 }
@@ -21,13 +20,10 @@ Place CurveTab()
 {
     return Row({
         Plot("picgraph1", "picGraph", 3),
-        Column({Row({One("optInt"), One("optFit"), Space()}),
-                Row({Result("txtOMC", "%"), Result("txtDmax", "g/cm^3")}),
-                One("MSHData", 1),
-                Row({One("chkSatLine"), Field("txtGs"), Field("cboSr")}),
-                Row({One("optWholeCurve"), One("Option2"), Space()}),
-                Row({Field("Text6"), Field("Text4"), Field("Text5")}),
-                Row({One("Command5"), One("Command6"), Space(), One("cmdOMC")})},
+        Column({Row({One("optInt"), One("optFit"), Space()}), Row({Result("txtOMC", "%"), Result("txtDmax", "g/cm^3")}),
+                One("MSHData", 1), Row({One("chkSatLine"), Field("txtGs"), Field("cboSr")}),
+                Row({One("optWholeCurve"), One("Option2"), Field("Text6")}),
+                Row({Field("Text4"), Field("Text5"), One("Command5"), One("Command6")}), Row({Space(), One("cmdOMC")})},
                2),
     });
 }

@@ -44,7 +44,10 @@ std::vector<DrawnPoint> CurveOverProfile()
 
 }  // namespace
 
-QColor ToQt(Colour colour) { return {colour.red, colour.green, colour.blue}; }
+QColor ToQt(Colour colour)
+{
+    return {colour.red, colour.green, colour.blue};
+}
 
 QColor InkOn(const QColor& ground)
 {

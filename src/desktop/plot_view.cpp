@@ -22,7 +22,10 @@ QSize PlotView::sizeHint() const
             static_cast<int>(frame_.Height / looks::kTwipsPerPixel * 1.25)};
 }
 
-QSize PlotView::minimumSizeHint() const { return sizeHint() * 0.55; }
+QSize PlotView::minimumSizeHint() const
+{
+    return sizeHint() * 0.55;
+}
 
 void PlotView::paintEvent(QPaintEvent*)
 {

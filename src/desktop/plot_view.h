@@ -10,17 +10,17 @@
 namespace terravane {
 
 class PlotView : public QWidget {
- public:
+  public:
     /// frame  the outer box; plot stands on it where its Left and Top say, and may be nothing
     PlotView(PictureBox& frame, PictureBox* plot, QWidget* parent);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
- protected:
+  protected:
     void paintEvent(QPaintEvent* event) override;
 
- private:
+  private:
     PictureBox& frame_;
     PictureBox* plot_;
     Bindings bindings_;

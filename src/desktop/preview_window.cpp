@@ -164,6 +164,9 @@ void PreviewWindow::SaveAsPdf()
     form_.Get<Toolbar>("Toolbar1").Press(kPrintButton);
 }
 
-void PreviewWindow::reject() { CloseForm(program_, form_); }
+void PreviewWindow::reject()
+{
+    CloseForm(program_, form_);
+}
 
 }  // namespace terravane

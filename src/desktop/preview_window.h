@@ -18,15 +18,15 @@ class QtSurroundings;
 
 /// The viewport: shows whichever of the two pages is in view, where the form put it.
 class PageView : public QWidget {
- public:
+  public:
     PageView(Form& preview, QWidget* parent);
 
- protected:
+  protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
 
- private:
+  private:
     void PaintPage(QPainter& painter, const PictureBox& page);
 
     Form& form_;
@@ -35,7 +35,7 @@ class PageView : public QWidget {
 };
 
 class PreviewWindow : public QDialog {
- public:
+  public:
     PreviewWindow(Program& program, QtSurroundings& surroundings, Form& preview, QWidget* parent);
 
     void reject() override;
@@ -43,7 +43,7 @@ class PreviewWindow : public QDialog {
     /// Asks for a file and prints the report into it, without a printer.
     void SaveAsPdf();
 
- private:
+  private:
     void BuildBar(class QToolBar& bar);
     QComboBox* MakeScaleBox();
 

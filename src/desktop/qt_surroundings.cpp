@@ -20,15 +20,22 @@ namespace terravane {
 
 namespace {
 
-QString ToQt(const std::string& text) { return QString::fromStdString(text); }
+QString ToQt(const std::string& text)
+{
+    return QString::fromStdString(text);
+}
 
 QMessageBox::Icon IconOf(MessageStyle style)
 {
     switch (style) {
-        case MessageStyle::Information: return QMessageBox::Information;
-        case MessageStyle::Critical: return QMessageBox::Critical;
-        case MessageStyle::Question: return QMessageBox::Question;
-        case MessageStyle::Plain: break;
+        case MessageStyle::Information:
+            return QMessageBox::Information;
+        case MessageStyle::Critical:
+            return QMessageBox::Critical;
+        case MessageStyle::Question:
+            return QMessageBox::Question;
+        case MessageStyle::Plain:
+            break;
     }
     return QMessageBox::NoIcon;
 }
@@ -36,9 +43,12 @@ QMessageBox::Icon IconOf(MessageStyle style)
 QMessageBox::StandardButtons ButtonsOf(MessageButtons buttons)
 {
     switch (buttons) {
-        case MessageButtons::Ok: return QMessageBox::Ok;
-        case MessageButtons::OkCancel: return QMessageBox::Ok | QMessageBox::Cancel;
-        case MessageButtons::YesNo: break;
+        case MessageButtons::Ok:
+            return QMessageBox::Ok;
+        case MessageButtons::OkCancel:
+            return QMessageBox::Ok | QMessageBox::Cancel;
+        case MessageButtons::YesNo:
+            break;
     }
     return QMessageBox::Yes | QMessageBox::No;
 }
@@ -59,7 +69,10 @@ QString FilterOf(const std::string& filter)
     return parts[0].section('(', 0, 0).trimmed() + " (" + patterns.replace(';', ' ') + ")";
 }
 
-QWidget* Above() { return QApplication::activeWindow(); }
+QWidget* Above()
+{
+    return QApplication::activeWindow();
+}
 
 }  // namespace
 
@@ -133,6 +146,9 @@ void QtSurroundings::Fail(const std::string& event, const RuntimeError& error)
     box.exec();
 }
 
-void QtSurroundings::End() { QCoreApplication::quit(); }
+void QtSurroundings::End()
+{
+    QCoreApplication::quit();
+}
 
 }  // namespace terravane

@@ -10,7 +10,7 @@
 namespace terravane {
 
 class QtSurroundings : public Surroundings {
- public:
+  public:
     explicit QtSurroundings(FileSystem& files) : files_(files) {}
 
     MessageAnswer Show(const Message& message) override;
@@ -24,7 +24,7 @@ class QtSurroundings : public Surroundings {
     /// The next print command asks for a PDF file in place of a printer.
     void PrintIntoFileNext() { intoFile_ = true; }
 
- private:
+  private:
     std::optional<PrintTarget> AskPdfFile();
 
     FileSystem& files_;

@@ -6,6 +6,8 @@
 #include <QMdiArea>
 #include <QMenuBar>
 #include <QPainter>
+#include <QPushButton>
+#include <QScreen>
 #include <QStatusBar>
 #include <QTimer>
 #include <QToolBar>
@@ -19,7 +21,10 @@ namespace terravane {
 
 namespace {
 
-QString ToQt(const std::string& text) { return QString::fromStdString(text); }
+QString ToQt(const std::string& text)
+{
+    return QString::fromStdString(text);
+}
 
 QToolBar* MakeBar(QWidget* parent)
 {
@@ -27,6 +32,7 @@ QToolBar* MakeBar(QWidget* parent)
     bar->setMovable(false);
     bar->setFloatable(false);
     bar->setContextMenuPolicy(Qt::PreventContextMenu);
+    bar->setIconSize({18, 18});
     return bar;
 }
 
@@ -147,9 +153,13 @@ DialogWindow::DialogWindow(Program& program, Form& form, Modality modality, QWid
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(new FormView(form, LayoutOf(form.Name()), this));
     resize(sizeHint().expandedTo({480, 200}));
+    if (auto* command = findChild<QPushButton*>()) command->setDefault(true);
 }
 
-void DialogWindow::reject() { CloseForm(program_, form_); }
+void DialogWindow::reject()
+{
+    CloseForm(program_, form_);
+}
 
 SplashWindow::SplashWindow(Form& form) : QWidget(nullptr, Qt::SplashScreen), form_(form)
 {
@@ -157,6 +167,7 @@ SplashWindow::SplashWindow(Form& form) : QWidget(nullptr, Qt::SplashScreen), for
     setWindowIcon(looks::ProgramIcon());
     setAttribute(Qt::WA_DeleteOnClose, false);
     setFixedSize(560, 320);
+    move(screen()->geometry().center() - rect().center());
     for (Control* control : form.Controls()) {
         if (auto* timer = dynamic_cast<Timer*>(control)) bindings_.push_back(Bind(*timer, *new QTimer(this)));
     }
@@ -177,12 +188,14 @@ void SplashWindow::paintEvent(QPaintEvent*)
     painter.setFont(looks::Scaled(font(), 2.6, true));
     painter.drawText(QRect(288, 96, 260, 56), Qt::AlignLeft | Qt::AlignVCenter, "Terravane");
     painter.setFont(looks::Scaled(font(), 1.1));
-    painter.drawText(QRect(288, 152, 260, 28), Qt::AlignLeft | Qt::AlignVCenter,
-                     tr("Materials for Road Construction"));
+    painter.drawText(QRect(288, 152, 260, 28), Qt::AlignLeft | Qt::AlignVCenter, tr("Materials for Road Construction"));
     painter.setFont(font());
     painter.drawText(QRect(288, 184, 260, 24), Qt::AlignLeft | Qt::AlignVCenter, tr("Version 1.0"));
 }
 
-void SplashWindow::keyPressEvent(QKeyEvent*) { form_.Get<Control>("txtLoad").PressKey(Key::Enter); }
+void SplashWindow::keyPressEvent(QKeyEvent*)
+{
+    form_.Get<Control>("txtLoad").PressKey(Key::Enter);
+}
 
 }  // namespace terravane

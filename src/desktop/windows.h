@@ -17,16 +17,16 @@ void CloseForm(Program& program, const Form& form);
 
 /// The main window: menu, the two bands, the area of sheets.
 class FrameWindow : public QMainWindow {
- public:
+  public:
     FrameWindow(Program& program, Form& frame);
 
     /// Puts a sheet into the area.
     QWidget* ShowSheet(Form& sheet);
 
- protected:
+  protected:
     void closeEvent(QCloseEvent* event) override;
 
- private:
+  private:
     void BuildMenu();
     void BuildBands();
 
@@ -38,13 +38,13 @@ class FrameWindow : public QMainWindow {
 
 /// A test sheet: its toolbar, its view, its status bar.
 class SheetWindow : public QMdiSubWindow {
- public:
+  public:
     SheetWindow(Program& program, Form& sheet);
 
- protected:
+  protected:
     void closeEvent(QCloseEvent* event) override;
 
- private:
+  private:
     Program& program_;
     Form& form_;
     Bindings bindings_;
@@ -52,26 +52,26 @@ class SheetWindow : public QMdiSubWindow {
 
 /// A form of its own above the frame.
 class DialogWindow : public QDialog {
- public:
+  public:
     DialogWindow(Program& program, Form& form, Modality modality, QWidget* parent);
 
     void reject() override;
 
- private:
+  private:
     Program& program_;
     Form& form_;
 };
 
 /// The program's name over its mark until the time is up or a key is pressed.
 class SplashWindow : public QWidget {
- public:
+  public:
     explicit SplashWindow(Form& form);
 
- protected:
+  protected:
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
- private:
+  private:
     Form& form_;
     Bindings bindings_;
 };
