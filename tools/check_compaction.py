@@ -22,10 +22,11 @@ import subprocess
 import sys
 import tempfile
 from decimal import ROUND_HALF_UP, Decimal
+from fractions import Fraction
 
 TRIALS = 6
 MOST_ROWS = 1_000_000  # of a grid, its head among them; one more is error 7
-NUMBER = re.compile(r"[+-]?(\d+\.?\d*|\.\d+)([eE][+-]?\d+)?")
+NUMBER = re.compile(r"[+-]?(\d+\.?\d*|\.\d+)([eE][+-]?\d+)?", re.ASCII)
 METHODS = {"optInt": "Interpolation", "optFit": "Curve Fitting"}
 
 
@@ -105,14 +106,14 @@ class Sheet:
         kept = itertools.takewhile(lambda i: val(self.density[2][i]) != 0, range(1, TRIALS + 1))
         return [(val(self.density[3][i]), val(self.density[6][i])) for i in kept]
 
-    def curve(self, method):
-        """OMC and MDD as the boxes show them, with the exact place of the peak."""
+    def curve(self, method, number=float):
+        """OMC and MDD as the boxes show them, with the exact place of the peak; the fit in numbers of that kind."""
         points = self.points()
         step = tick_step(points)
         if method == "optInt":
             table = spline_table(points, val(self.interval))
         else:
-            table = fit_table(points)
+            table = fit_table(points, number)
         if table and step == 0:
             raise RuntimeFailure(11)
         best, bestx = 0.0, 0.0
@@ -187,13 +188,14 @@ def spline_table(points, step):
     return rows
 
 
-def coefficients(points):
+def coefficients(points, number):
     """The least-squares cubic, or quartic from five points on: normal equations, Gauss-Jordan inversion."""
+    points = [(number(x), number(y)) for x, y in points]
     degree = 3 if len(points) < 5 else 4
     size = degree + 1
     sums = [sum(x**k for x, _ in points) for k in range(2 * degree + 1)]
     right = [sum(x**k * y for x, y in points) for k in range(size)]
-    a = [[float(sums[r + c]) for c in range(size)] + [float(r == c) for c in range(size)] for r in range(size)]
+    a = [[number(sums[r + c]) for c in range(size)] + [number(r == c) for c in range(size)] for r in range(size)]
     for p in range(size):
         if a[p][p] == 0:
             below = [r for r in range(p + 1, size) if a[r][p] != 0]
@@ -205,21 +207,24 @@ def coefficients(points):
             if r != p:
                 factor = a[r][p]
                 a[r] = [entry - factor * upper for entry, upper in zip(a[r], a[p])]
-    return [sum(a[r][size + c] * right[c] for c in range(size)) for r in range(size)]
+    return [float(sum(a[r][size + c] * right[c] for c in range(size))) for r in range(size)]
 
 
-def is_determined(points):
-    """Whether there are points enough for the fit; with fewer it fails or means nothing, as its rounding wills."""
-    return len({x for x, _ in points}) > (3 if len(points) < 5 else 4)
-
-
-def fit_table(points):
+def fit_table(points, number=float):
     """The walk along the fit, from one step above the first point."""
-    a = coefficients(points)
+    a = coefficients(points, number)
     x1, xn = points[0][0], points[-1][0]
     steps = math.floor((xn - x1) / 0.001) + 2
     sweep = (x1 + k * 0.001 for k in range(1, steps + 1))
     return [(x, sum(c * x**power for power, c in enumerate(a))) for x in sweep]
+
+
+def fit_is_sound(sheet):
+    """Whether doubles give what fractions give. Too few points, or one far off, and the result is its rounding's."""
+    try:
+        return sheet.curve("optFit")[:2] == sheet.curve("optFit", Fraction)[:2]
+    except RuntimeFailure:
+        return not sheet.points()
 
 
 def worked(readings):
@@ -230,7 +235,7 @@ def worked(readings):
         sheet.calculate()
     except RuntimeFailure as failure:
         out["error"] = failure.number
-    out["determined"] = is_determined(sheet.points())
+    out["sound"] = fit_is_sound(sheet)
     out["water"], out["density"] = [row[1:] for row in sheet.water], [row[1:] for row in sheet.density]
     for method in METHODS:
         try:
@@ -310,7 +315,7 @@ def differences(name, readings, seen):
     if mine["error"] and seen["error"]:
         return [f"{name}: {line}" for line in found]  # tab 1 is shut, the curve has not been drawn
     for method in METHODS:
-        if method == "optFit" and not mine["determined"]:
+        if method == "optFit" and not mine["sound"]:
             continue
         a, b = mine[method], seen[method]
         if "error" in a or "error" in b:

@@ -17,8 +17,7 @@ void OptionButton::Choose()
 {
     if (value_) return;
     for (Control* control : Owner().Controls()) {
-        if (auto* other = dynamic_cast<OptionButton*>(control); other && other->group_ == group_)
-            other->Release();
+        if (auto* other = dynamic_cast<OptionButton*>(control); other && other->group_ == group_) other->Release();
     }
     value_ = true;
     Changed();

@@ -30,8 +30,7 @@ std::string ColourAnswer(const std::optional<Colour>& colour)
 
 Answer ValueOf(const Control& control, int)
 {
-    if (auto answer = Of<OptionButton>(control, [](const auto& option) { return option.Value(); }))
-        return answer;
+    if (auto answer = Of<OptionButton>(control, [](const auto& option) { return option.Value(); })) return answer;
     if (auto answer = Of<CheckBox>(control, [](const auto& box) { return box.Value(); })) return answer;
     if (auto answer = Of<ScrollBar>(control, [](const auto& bar) { return bar.Value(); })) return answer;
     return Of<DatePicker>(control, [](const auto& picker) { return picker.Text(); });
@@ -76,23 +75,17 @@ constexpr std::array kProperties{
     Property{"Visible", [](const Control& control, int) { return Answer(control.Visible()); }},
     Property{"Caption", [](const Control& control, int) { return Answer(control.Caption()); }},
     Property{"Text", [](const Control& control, int) { return Answer(control.Text()); }},
-    Property{"BackColor",
-             [](const Control& control, int) { return Answer(ColourAnswer(control.BackColor())); }},
-    Property{"ForeColor",
-             [](const Control& control, int) { return Answer(ColourAnswer(control.ForeColor())); }},
+    Property{"BackColor", [](const Control& control, int) { return Answer(ColourAnswer(control.BackColor())); }},
+    Property{"ForeColor", [](const Control& control, int) { return Answer(ColourAnswer(control.ForeColor())); }},
     Property{"Value", ValueOf},
-    Property{"Locked",
-             [](const Control& control, int) {
-                 return Of<TextControl>(control, [](const auto& box) { return box.Locked(); });
-             }},
+    Property{"Locked", [](const Control& control,
+                          int) { return Of<TextControl>(control, [](const auto& box) { return box.Locked(); }); }},
     Property{"ListCount", ListCountOf},
     Property{"List", ListEntryOf},
     Property{"Rows", [](const Control& control,
                         int) { return Of<TextGrid>(control, [](const auto& grid) { return grid.Rows(); }); }},
-    Property{"Cols",
-             [](const Control& control, int) {
-                 return Of<TextGrid>(control, [](const auto& grid) { return grid.Columns(); });
-             }},
+    Property{"Cols", [](const Control& control,
+                        int) { return Of<TextGrid>(control, [](const auto& grid) { return grid.Columns(); }); }},
     Property{"Tab", [](const Control& control,
                        int) { return Of<TabControl>(control, [](const auto& tabs) { return tabs.Tab(); }); }},
     Property{"TabEnabled", TabEnabledOf},

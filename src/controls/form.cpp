@@ -19,8 +19,8 @@ void Form::SetCaption(std::string caption)
 
 Control* Form::Find(std::string_view name) const
 {
-    const auto found = std::ranges::find_if(
-        controls_, [name](const Control* control) { return SameName(control->Name(), name); });
+    const auto found =
+        std::ranges::find_if(controls_, [name](const Control* control) { return SameName(control->Name(), name); });
     return found == controls_.end() ? nullptr : *found;
 }
 
@@ -47,8 +47,7 @@ void Form::MoveFocus(Control& control)
 
 void Form::FailMissing(std::string_view name) const
 {
-    throw RuntimeError(error::kObjectRequired,
-                       "The form " + name_ + " has no such control: " + std::string(name));
+    throw RuntimeError(error::kObjectRequired, "The form " + name_ + " has no such control: " + std::string(name));
 }
 
 }  // namespace terravane

@@ -38,8 +38,7 @@ Toolbar::Toolbar(Form& owner, std::string name, std::vector<ToolButton> buttons)
 
 const ToolButton& Toolbar::Button(int number) const
 {
-    if (number < 1 || number > static_cast<int>(buttons_.size()))
-        throw RuntimeError(error::kSubscriptOutOfRange);
+    if (number < 1 || number > static_cast<int>(buttons_.size())) throw RuntimeError(error::kSubscriptOutOfRange);
     return buttons_[static_cast<std::size_t>(number - 1)];
 }
 

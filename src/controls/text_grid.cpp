@@ -69,8 +69,7 @@ void TextGrid::SetRowTitles(const std::vector<std::string_view>& titles)
 
 void TextGrid::SetColumnTitles(const std::vector<std::string_view>& titles)
 {
-    for (std::size_t column = 0; column < titles.size(); ++column)
-        Set(0, static_cast<int>(column), titles[column]);
+    for (std::size_t column = 0; column < titles.size(); ++column) Set(0, static_cast<int>(column), titles[column]);
 }
 
 void TextGrid::MarkCalculatedRow(int row, int firstColumn)

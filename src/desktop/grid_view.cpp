@@ -39,7 +39,8 @@ class CellPainter : public QStyledItemDelegate {
         painter->setPen(ink);
         const bool isTitle = index.column() == 0 && grid_.TitleColumns() > 0;
         const int side = isTitle ? Qt::AlignLeft : Qt::AlignHCenter;
-        painter->drawText(option.rect.adjusted(6, 0, -6, 0), side | Qt::AlignVCenter, index.data().toString());
+        const int margin = isTitle ? 6 : 2;
+        painter->drawText(option.rect.adjusted(margin, 0, -margin, 0), side | Qt::AlignVCenter, index.data().toString());
     }
 
   private:

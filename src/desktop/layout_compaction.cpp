@@ -11,7 +11,7 @@ Place ReadingsTab()
 {
     return Column({
         Row({Field("txtDia"), Field("txtHeight"), Field("cboWt"), Field("cboBlow"), Field("cboLayer"), Space()}),
-        Pair({Group("FraWt", {One("MSHWt", 1)}, 8), Group("fraDensity", {One("MSHDensity", 1)}, 7)}),
+        Pair({Group("FraWt", {One("MSHWt", 1)}, 1), Group("fraDensity", {One("MSHDensity", 1)}, 1)}),
         Row({Space(), One("cmdCal"), One("cmdView")}),
     });
 }

@@ -65,8 +65,7 @@ std::vector<Bytes> EntriesOf(const Image& image, const TableDefinition& table, A
     return entries;
 }
 
-void WriteIndex(Image& image, const TableDefinition& table, std::size_t index,
-                const std::vector<Bytes>& entries)
+void WriteIndex(Image& image, const TableDefinition& table, std::size_t index, const std::vector<Bytes>& entries)
 {
     WriteLeaf(image.Change(table.indexes.at(index).root), table.page, entries);
     WriteDifferentKeys(image, table.page, index, static_cast<std::uint32_t>(DifferentKeys(entries)));

@@ -23,14 +23,8 @@ struct Executor {
     Database& database;
 
     Recordset operator()(const SelectStatement& select) const { return Recordset(database.Select(select)); }
-    Recordset operator()(const UpdateStatement& update) const
-    {
-        return Recordset::Affected(database.Update(update));
-    }
-    Recordset operator()(const InsertStatement& insert) const
-    {
-        return Recordset::Affected(database.Insert(insert));
-    }
+    Recordset operator()(const UpdateStatement& update) const { return Recordset::Affected(database.Update(update)); }
+    Recordset operator()(const InsertStatement& insert) const { return Recordset::Affected(database.Insert(insert)); }
     Recordset operator()(const CreateTableStatement& create) const
     {
         database.Create(create);
@@ -45,8 +39,7 @@ Recordset ExecuteOn(Database& database, std::string_view statement)
 
 Database OpenBytes(Bytes bytes, const std::string& path)
 try {
-    if (!HasSignature(bytes))
-        throw RuntimeError(engine::kFile, "Unrecognized database format " + Quoted(path) + ".");
+    if (!HasSignature(bytes)) throw RuntimeError(engine::kFile, "Unrecognized database format " + Quoted(path) + ".");
     return Database(std::move(bytes));
 } catch (const RuntimeError& error) {
     if (error.Description().find(path) != std::string::npos) throw;
@@ -96,11 +89,10 @@ Recordset Connection::Execute(std::string_view statement)
 
 void Connection::CheckDisk() const
 {
-    if (!files_->Exists(path_))
-        throw Refused("Could not find file " + Quoted(path_) + "; nothing was saved.");
+    if (!files_->Exists(path_)) throw Refused("Could not find file " + Quoted(path_) + "; nothing was saved.");
     if (files_->Exists(LockFileOf(path_))) {
-        throw Refused("The file " + Quoted(path_) + " is open in another program (" +
-                      Quoted(LockFileOf(path_)) + " says so); nothing was saved.");
+        throw Refused("The file " + Quoted(path_) + " is open in another program (" + Quoted(LockFileOf(path_)) +
+                      " says so); nothing was saved.");
     }
     const Fingerprint found = Fingerprint::Of(files_->Read(path_));
     // Our own bytes are there already when the folder could not be synced behind the last writing.

@@ -71,8 +71,7 @@ std::vector<Slot> ReadSlots(ByteView page)
 Slot ReadSlot(ByteView page, std::uint8_t number)
 {
     const std::size_t count = SlotCount(page);
-    if (number >= count)
-        throw Damaged("a pointer leads to row " + std::to_string(number) + " of a page that has none");
+    if (number >= count) throw Damaged("a pointer leads to row " + std::to_string(number) + " of a page that has none");
     const std::size_t end = number == 0 ? kPageSize : Entry(page, number - 1U) & kStartBits;
     return CheckedSlot(page, number, count, std::min(end, kPageSize));
 }

@@ -17,9 +17,9 @@ const Column& ColumnOf(const TableDefinition& table, std::string_view name)
 {
     const Column* const column = table.Find(name);
     if (column != nullptr) return *column;
-    throw RuntimeError(engine::kNoSuchColumn,
-                       "No value given for one or more required parameters: there is no column '" +
-                           std::string(name) + "'.");
+    throw RuntimeError(
+        engine::kNoSuchColumn,
+        "No value given for one or more required parameters: there is no column '" + std::string(name) + "'.");
 }
 
 // --- choosing rows
@@ -63,8 +63,7 @@ void CheckChangeable(const TableDefinition& table, const Column& column)
         throw RuntimeError(engine::kTypeMismatch,
                            "Data type mismatch: the column '" + column.name + "' is no text of free length.");
     }
-    if (IsIndexed(table, column))
-        throw Refused("The column '" + column.name + "' has an index and can't be changed.");
+    if (IsIndexed(table, column)) throw Refused("The column '" + column.name + "' has an index and can't be changed.");
 }
 
 std::vector<Assignment> AssignmentsOf(const TableDefinition& table, const std::vector<ColumnText>& set)
@@ -114,12 +113,9 @@ std::vector<RowChange> ChangesOf(const Image& image, const TableDefinition& tabl
 /// Rows can be added where nothing but the rows has to be kept up.
 void CheckOpenToRows(const TableDefinition& table, std::string_view name)
 {
-    const auto isCounted = [](const Column& column) {
-        return (column.flags & column_flag::kAutonumber) != 0;
-    };
+    const auto isCounted = [](const Column& column) { return (column.flags & column_flag::kAutonumber) != 0; };
     if (!table.indexes.empty() || std::ranges::any_of(table.columns, isCounted)) {
-        throw Refused("The table '" + std::string(name) +
-                      "' has an index or counts its rows; none can be added.");
+        throw Refused("The table '" + std::string(name) + "' has an index or counts its rows; none can be added.");
     }
 }
 
@@ -178,12 +174,10 @@ std::vector<std::string> Database::TableNames() const
 
 const TableDefinition& Database::Table(std::string_view name) const
 {
-    const auto entry =
-        std::ranges::find_if(tables_, [&](const TableEntry& t) { return SameName(t.name, name); });
+    const auto entry = std::ranges::find_if(tables_, [&](const TableEntry& t) { return SameName(t.name, name); });
     if (entry == tables_.end()) {
-        throw RuntimeError(
-            engine::kNoSuchTable,
-            "The database engine cannot find the input table or query '" + std::string(name) + "'.");
+        throw RuntimeError(engine::kNoSuchTable,
+                           "The database engine cannot find the input table or query '" + std::string(name) + "'.");
     }
     const auto known = definitions_.find(entry->definition);
     if (known != definitions_.end()) return known->second;

@@ -9,7 +9,7 @@
 namespace terravane::jet {
 
 namespace engine {
-inline constexpr int kFile = -2147467259;  // no database, a damaged one, or one that can't be changed safely
+inline constexpr int kFile = -2147467259;    // no database, a damaged one, or one that can't be changed safely
 inline constexpr int kSyntax = -2147217900;  // a statement that can't be read or names something that exists
 inline constexpr int kNoSuchTable = -2147217865;
 inline constexpr int kNoSuchColumn = -2147217904;

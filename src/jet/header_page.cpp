@@ -43,11 +43,8 @@ struct Field {
 };
 
 constexpr Field<std::uint32_t> kFields[]{
-    {0x00, 0x100},       {kVersionAt, kVersion},
-    {kFreeMapAt, 0x100}, {0x1C, 0x101},
-    {0x20, 2},           {0x24, 3},
-    {0x28, 4},           {0x2C, 5},
-    {0x6A, 8618},        {0x98, 0x0654},
+    {0x00, 0x100}, {kVersionAt, kVersion}, {kFreeMapAt, 0x100}, {0x1C, 0x101}, {0x20, 2}, {0x24, 3}, {0x28, 4},
+    {0x2C, 5},     {0x6A, 8618},           {0x98, 0x0654},
 };
 
 void Mask(MutableBytes page)

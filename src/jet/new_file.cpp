@@ -97,8 +97,7 @@ void AddSystemIndex(TableDefinition& table, const SystemIndex& from, PageNumber 
     table.indexes.push_back(std::move(index));
 }
 
-TableDefinition SystemDefinition(std::size_t number, PageNumber& leaf, SystemMaps& maps,
-                                 std::uint16_t language)
+TableDefinition SystemDefinition(std::size_t number, PageNumber& leaf, SystemMaps& maps, std::uint16_t language)
 {
     const SystemTable& from = SystemTables()[number];
     const PageNumber rows = kFirstDataPage + static_cast<PageNumber>(number);
@@ -138,8 +137,7 @@ void WriteSystemTables(Image& image, std::uint16_t language)
 void WriteFreeMap(Image& image)
 {
     FormatDataPage(image.Change(kFreeMapPage), 1);
-    LayOut(image.Change(kFreeMapPage),
-           {{slot::kPlain, MapWith(kNewPages, kMapBits)}, {slot::kPlain, EmptyMap()}});
+    LayOut(image.Change(kFreeMapPage), {{slot::kPlain, MapWith(kNewPages, kMapBits)}, {slot::kPlain, EmptyMap()}});
 }
 
 // --- user tables
@@ -160,15 +158,13 @@ bool IsName(std::string_view name)
 
 void CheckColumns(const NewTable& table)
 {
-    if (table.columns.size() > kMaxColumns)
-        throw NotAllowed("Too many fields defined in table '" + table.name + "'.");
+    if (table.columns.size() > kMaxColumns) throw NotAllowed("Too many fields defined in table '" + table.name + "'.");
     for (auto column = table.columns.begin(); column != table.columns.end(); ++column) {
         if (!IsName(column->name)) throw NotAllowed("'" + column->name + "' is not a valid name.");
         if (column->length == 0 || column->length > kMaxText) {
             throw NotAllowed("Size of field '" + column->name + "' is not between 1 and 255.");
         }
-        if (std::any_of(table.columns.begin(), column,
-                        [&](const auto& c) { return SameName(c.name, column->name); })) {
+        if (std::any_of(table.columns.begin(), column, [&](const auto& c) { return SameName(c.name, column->name); })) {
             throw NotAllowed("Cannot define field '" + column->name + "' more than once.");
         }
     }
@@ -176,12 +172,10 @@ void CheckColumns(const NewTable& table)
 
 void CheckTable(const Image& image, const NewTable& table)
 {
-    if (!IsName(table.name) || !CanBeKey(table.name))
-        throw NotAllowed("'" + table.name + "' is not a valid name.");
+    if (!IsName(table.name) || !CanBeKey(table.name)) throw NotAllowed("'" + table.name + "' is not a valid name.");
     const auto tables = UserTables(image);
     const auto isNamesake = [&](const TableEntry& entry) { return SameName(entry.name, table.name); };
-    if (std::ranges::any_of(tables, isNamesake))
-        throw NotAllowed("Table '" + table.name + "' already exists.");
+    if (std::ranges::any_of(tables, isNamesake)) throw NotAllowed("Table '" + table.name + "' already exists.");
     CheckColumns(table);
 }
 

@@ -28,10 +28,7 @@ struct RowPointer {
     PageNumber page = 0;
     std::uint8_t slot = 0;
 
-    static RowPointer Unpack(std::uint32_t packed)
-    {
-        return {packed >> 8, static_cast<std::uint8_t>(packed & 0xFF)};
-    }
+    static RowPointer Unpack(std::uint32_t packed) { return {packed >> 8, static_cast<std::uint8_t>(packed & 0xFF)}; }
     std::uint32_t Packed() const { return (page << 8) | slot; }
     friend auto operator<=>(const RowPointer&, const RowPointer&) = default;
 };

@@ -12,17 +12,15 @@ namespace {
 
 RuntimeError NoCurrentRecord()
 {
-    return RuntimeError(
-        engine::kNoCurrentRecord,
-        "Either BOF or EOF is True, or the current record has been deleted. Requested operation "
-        "requires a current record.");
+    return RuntimeError(engine::kNoCurrentRecord,
+                        "Either BOF or EOF is True, or the current record has been deleted. Requested operation "
+                        "requires a current record.");
 }
 
 RuntimeError ItemNotFound()
 {
-    return RuntimeError(
-        engine::kItemNotFound,
-        "Item cannot be found in the collection corresponding to the requested name or ordinal.");
+    return RuntimeError(engine::kItemNotFound,
+                        "Item cannot be found in the collection corresponding to the requested name or ordinal.");
 }
 
 }  // namespace

@@ -130,8 +130,8 @@ std::string Reader::TakeName()
 std::string Reader::TakeText()
 {
     if (next_.kind == TokenKind::Unclosed) {
-        throw SyntaxError("Syntax error in string in query expression '" +
-                          std::string(statement_.substr(next_.begin)) + "'.");
+        throw SyntaxError("Syntax error in string in query expression '" + std::string(statement_.substr(next_.begin)) +
+                          "'.");
     }
     if (next_.kind != TokenKind::Text) throw Unexpected();
     Token literal = Take();

@@ -314,8 +314,7 @@ TableDefinition ReadDefinition(const Image& image, PageNumber page)
     table.room = RowPointer::Unpack(Get<std::uint32_t>(block, 0x3B));
     const std::size_t columns = Get<std::uint16_t>(block, 0x2D);
     const std::size_t indexes = Get<std::uint32_t>(block, 0x33);
-    if (columns > kMaxColumns || indexes > kMaxIndexes)
-        throw Damaged("a table has too many columns or indexes");
+    if (columns > kMaxColumns || indexes > kMaxIndexes) throw Damaged("a table has too many columns or indexes");
     Cursor cursor(block, kFixedPart + kIndexStep * indexes);
     TakeColumns(cursor, table, columns);
     for (std::size_t i = 0; i < indexes; ++i) table.indexes.push_back(TakeIndex(cursor));

@@ -33,11 +33,9 @@ std::vector<PageNumber> DataPages(const Image& image, const TableDefinition& tab
 RowPointer Target(const Image& image, const TableDefinition& table, RowPointer home)
 {
     const ByteView page = image.Page(home.page);
-    const RowPointer at =
-        RowPointer::Unpack(Get<std::uint32_t>(SlotBytes(page, ReadSlot(page, home.slot)), 0));
+    const RowPointer at = RowPointer::Unpack(Get<std::uint32_t>(SlotBytes(page, ReadSlot(page, home.slot)), 0));
     if (at.page == 0 || !IsPageOf(image, table, at.page)) throw Damaged("a moved row lies outside its table");
-    if (ReadSlot(image.Page(at.page), at.slot).flags != slot::kTarget)
-        throw Damaged("a moved row can't be found");
+    if (ReadSlot(image.Page(at.page), at.slot).flags != slot::kTarget) throw Damaged("a moved row can't be found");
     return at;
 }
 
@@ -107,8 +105,7 @@ void LayOutAll(Image& image, const Pages& pages)
 std::vector<SlotContent>& Opened(Pages& pages, const Image& image, PageNumber number)
 {
     const auto at = pages.find(number);
-    return at != pages.end() ? at->second
-                             : pages.emplace(number, TakeApart(image.Page(number))).first->second;
+    return at != pages.end() ? at->second : pages.emplace(number, TakeApart(image.Page(number))).first->second;
 }
 
 // --- changing without an index
@@ -158,8 +155,7 @@ void LayOutAfresh(Image& image, const TableDefinition& table, const std::vector<
     const auto pages = Dealt(std::move(rows));
     for (std::size_t i = 0; i < std::max(pages.size(), owned.size()); ++i) {
         const PageNumber number = i < owned.size() ? owned[i] : AppendDataPage(image, table);
-        LayOut(image.Change(number),
-               i < pages.size() ? pages[i] : std::vector<SlotContent>{{slot::kDeleted, {}}});
+        LayOut(image.Change(number), i < pages.size() ? pages[i] : std::vector<SlotContent>{{slot::kDeleted, {}}});
     }
 }
 
@@ -192,8 +188,7 @@ RowPointer PutAnywhere(Image& image, const TableDefinition& table, const SlotCon
     for (const PageNumber page : DataPages(image, table)) {
         if (TryAdd(image, page, content, at)) return at;
     }
-    if (!TryAdd(image, AppendDataPage(image, table), content, at))
-        throw Refused("A record is too large for a page.");
+    if (!TryAdd(image, AppendDataPage(image, table), content, at)) throw Refused("A record is too large for a page.");
     return at;
 }
 
@@ -208,8 +203,7 @@ void MoveRow(Image& image, const TableDefinition& table, const StoredRow& row, c
     }
 }
 
-void ReplaceKeepingAddress(Image& image, const TableDefinition& table, const StoredRow& row,
-                           const Bytes& bytes)
+void ReplaceKeepingAddress(Image& image, const TableDefinition& table, const StoredRow& row, const Bytes& bytes)
 {
     if (TryReplace(image, row.home, {slot::kPlain, bytes})) {
         if (row.at != row.home) TryReplace(image, row.at, {slot::kDeleted, {}});

@@ -29,19 +29,25 @@ struct Laboratory {
         WriteFirstContent(files, program.BrandFolderNow());
         CreateProjectFile(files, std::string(kProject));
         program.CurrentProjectPath = kProject;
-        program.AddForm("frmCompaction", [](Program& owner) { return std::make_unique<frmCompaction>(owner); });
     }
 
-    /// Opens the sheet as the frame does: shown with the last sheet's test, then told its own, then filled.
-    frmCompaction& OpenSheet(Test test = Test::StdSoil, Material material = Material::Soil)
+    /// Opens a sheet as the frame does: shown with the last sheet's test, then told its own, then filled.
+    template <class Sheet>
+    Sheet& Open(const std::string& name, Test test, Material material = Material::Soil)
     {
-        program.Unload("frmCompaction");
-        auto& sheet = dynamic_cast<frmCompaction&>(program.Show("frmCompaction"));
+        program.AddForm(name, [](Program& owner) { return std::make_unique<Sheet>(owner); });
+        program.Unload(name);
+        auto& sheet = dynamic_cast<Sheet&>(program.Show(name));
         sheet.tblMenu.SetButtonEnabled(1, true);
         program.CurrentTest = test;
         program.CurrentMaterial = material;
         program.Run("mdiBack.tbrLab_ButtonMenuClick", [&] { LoadTestSheet(sheet); });
         return sheet;
+    }
+
+    frmCompaction& OpenSheet(Test test = Test::StdSoil, Material material = Material::Soil)
+    {
+        return Open<frmCompaction>("frmCompaction", test, material);
     }
 
     /// What the project file holds on the disk, row by row in the order of the table.

@@ -8,6 +8,9 @@
 
 namespace terravane::cbr {
 
+inline constexpr double kTitleSize = 11;  // points, of the axis titles
+inline constexpr double kTitleLeft = 60;  // of the turned one: the labels take the rest of the margin
+
 /// Room that the plots' boxes leave at right and bottom.
 inline constexpr double kPlotMargin = 50;
 

@@ -1,6 +1,6 @@
 // The plot of stress against penetration: drawn into the sheet's two picture boxes, from where the report copies it.
+#include <algorithm>
 #include <array>
-#include <cmath>
 #include <limits>
 
 #include "runtime/numbers.h"
@@ -15,7 +15,6 @@ namespace {
 
 using namespace cbr;
 
-constexpr double kTitleSize = 11;       // points
 constexpr double kScanStep = 0.001;     // in
 constexpr double kTickDistance = 0.1;   // in
 constexpr double kTangentLength = 0.6;  // in
@@ -57,7 +56,8 @@ void frmCBR::DrawLoadAxes(const LoadScale& scale)
 {
     picGraph.Cls();
     picgraph1.Cls();
-    PrintAxisTitles(picGraph, picgraph1, "Penetration, in", "Resistance of Penetration, lb/in^2", kTitleSize);
+    PrintAxisTitles(picGraph, picgraph1, "Penetration, in", "Resistance of Penetration, lb/in^2", kTitleSize,
+                    kTitleLeft);
     DrawRisingAxis(picGraph, picgraph1, scale.stress);
     RefuseEndless(scale.divisions);
     for (int tick = 0; tick <= scale.divisions; ++tick) {
@@ -81,11 +81,13 @@ void frmCBR::MarkReadings(const LoadScale& scale)
     }
 }
 
-/// From the third thousandth of an inch on, joined wherever an end is the next beginning.
+/// From the third thousandth of an inch on, joined wherever an end is the next beginning. A mould without readings has
+/// no curve; its zero coefficients would draw along the axis.
 void frmCBR::DrawCurve(const LoadScale& scale, const MouldTask& task)
 {
     const double steps = Int(LastPenetration() / kScanStep);
     RefuseEndless(steps);
+    if (std::ranges::all_of(FitCoef, [](double coefficient) { return coefficient == 0; })) return;
     std::vector<DrawnPoint> run;
     for (int i = 3; i <= steps; ++i) {
         const double xa = (i - 1) * kScanStep, xb = i * kScanStep;
@@ -109,13 +111,15 @@ void frmCBR::DrawTangent(const LoadScale& scale, int mould, const TangentPoint& 
     picgraph1.Line(scale.X(origin), scale.Y(0), scale.X(origin + kTangentLength), scale.Y(rise), kTangentColour);
 }
 
-/// Guides, a small square on the curve and the stress beside it.
+/// Guides, a small square on the curve and the stress beside it: below the point for the first mould, level with it for
+/// the second, above it for the third, since their curves run close together.
 void frmCBR::MarkStress(const LoadScale& scale, double penetration, double stress)
 {
     const double x = scale.X(penetration), y = scale.Y(stress);
     DrawGuides(picgraph1, x, y, scale.Y(0));
     picgraph1.FilledBox(x - kHalfPoint, y - kHalfPoint, x + kHalfPoint, y + kHalfPoint, kBlue);
-    PrintAt(picgraph1, x, y - picgraph1.TextHeight("0"), " " + Format(stress, kTwoDecimals));
+    const double lift = picgraph1.TextHeight("0") * (FitMold - 1) / 2;
+    PrintAt(picgraph1, x, y - lift, " " + Format(stress, kTwoDecimals));
 }
 
 }  // namespace terravane

@@ -19,7 +19,6 @@ namespace {
 
 using namespace cbr;
 
-constexpr double kTitleSize = 11;        // points
 constexpr double kDensityStep = 0.001;   // g/cm³, of the curve
 constexpr double kTickDistance = 0.1;    // g/cm³
 constexpr double kTickRoom = 300;        // twips that a tick's label needs
@@ -55,7 +54,7 @@ constexpr std::array kKey{
 /// A density cut to its first characters, so to one decimal.
 double Cut(double density)
 {
-    return Val(Left(NumberText(density), kDigits));
+    return Val(terravane::Left(NumberText(density), kDigits));
 }
 
 void DrawTriangle(DrawingSurface& plot, double x, double y)
@@ -140,7 +139,7 @@ void frmCBR::DrawDensityAxes(const DensityScale& scale)
 {
     picGraph2.Cls();
     picGraph3.Cls();
-    PrintAxisTitles(picGraph2, picGraph3, "Dry Density, g/cm^3", "California Bearing Ratio, %", kTitleSize);
+    PrintAxisTitles(picGraph2, picGraph3, "Dry Density, g/cm^3", "California Bearing Ratio, %", kTitleSize, kTitleLeft);
     DrawRisingAxis(picGraph2, picGraph3, scale.ratio);
     const double divisions = Int((scale.last - scale.first) / kTickDistance + 0.5);
     const double most = Int(scale.width / kTickRoom);
@@ -174,7 +173,7 @@ void frmCBR::DrawRatios(const DensityScale& scale, result::Row row)
 /// The value comes from the curve fitted last, that at 0.2 in.
 void frmCBR::ReadDesignValue(const DensityScale& scale)
 {
-    const double density = Val(txtMDD.Text()) * Val(Left(cboCBR.Text(), kShareDigits)) / 100;
+    const double density = Val(txtMDD.Text()) * Val(terravane::Left(cboCBR.Text(), kShareDigits)) / 100;
     const double ratio = RatioAt(density);
     txtCBR.SetText(Format(ratio, kOneDecimal));
     const double x = scale.X(density), y = scale.Y(ratio);

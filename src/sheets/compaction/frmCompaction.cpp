@@ -17,12 +17,10 @@ constexpr CellRange kMoulds{density::AssumedWater, density::Mould, 1, kTrials};
 constexpr std::string_view kDitto = "/";
 
 constexpr std::array kFocusSteps{
-    FocusStep{"txtClient", "txtID"},        FocusStep{"txtID", "txtProject"},
-    FocusStep{"txtProject", "txtLocation"}, FocusStep{"txtLocation", "txtDia"},
-    FocusStep{"txtDia", "txtHeight"},       FocusStep{"txtHeight", "txtSoil"},
-    FocusStep{"txtSoil", "cboTest"},        FocusStep{"cboTest", "cboCheck"},
-    FocusStep{"cboWt", "cboBlow"},          FocusStep{"cboBlow", "cboLayer"},
-    FocusStep{"cboLayer", "txtProject"},
+    FocusStep{"txtClient", "txtID"},    FocusStep{"txtID", "txtProject"},    FocusStep{"txtProject", "txtLocation"},
+    FocusStep{"txtLocation", "txtDia"}, FocusStep{"txtDia", "txtHeight"},    FocusStep{"txtHeight", "txtSoil"},
+    FocusStep{"txtSoil", "cboTest"},    FocusStep{"cboTest", "cboCheck"},    FocusStep{"cboWt", "cboBlow"},
+    FocusStep{"cboBlow", "cboLayer"},   FocusStep{"cboLayer", "txtProject"},
 };
 
 /// Masses are shown to 0.01 g as soon as they are typed; can numbers are names.
@@ -64,9 +62,7 @@ void frmCompaction::WireEvents()
     Command6.Click = [this] { Command6_Click(); };
     chkSatLine.Click = [this] { chkSatLine_Click(); };
     SSTData.TabChanged = [this](int previousTab) { SSTData_Click(previousTab); };
-    MSHWt.MouseDown = [this](MouseButton button, int row, int column) {
-        MSHWt_MouseDown(button, row, column);
-    };
+    MSHWt.MouseDown = [this](MouseButton button, int row, int column) { MSHWt_MouseDown(button, row, column); };
     MSHDensity.MouseDown = [this](MouseButton button, int row, int column) {
         MSHDensity_MouseDown(button, row, column);
     };
@@ -86,14 +82,13 @@ void frmCompaction::BuildGrids()
                         "Mass of Dry Soil, (g) ", "Water Content, (%)"});
     MSHWt.SetColumnTitles({"Sample No. ", "1 ", "2 ", "3 ", "4 ", "5 ", "6 "});
     MSHDensity.SetHeadRows(0);
-    MSHDensity.SetRowTitles({"Assumed Water Content, (%)", "Mass of Wet Soil + Mold, (g)",
-                             "Mass of Mold, (g)", "Water Content, (%)", "Mass of Wet Soil in Mold, (g) ",
-                             "Wet Density, (g/cm^3)", "Dry  Density, (g/cm^3)"});
+    MSHDensity.SetRowTitles({"Assumed Water Content, (%)", "Mass of Wet Soil + Mold, (g)", "Mass of Mold, (g)",
+                             "Water Content, (%)", "Mass of Wet Soil in Mold, (g) ", "Wet Density, (g/cm^3)",
+                             "Dry  Density, (g/cm^3)"});
     MSHWt.SetColumnWidth(0, kTitleWidth);
     MSHDensity.SetColumnWidth(0, kTitleWidth);
     for (const int row : {wt::Water, wt::DrySoil, wt::WaterContent}) MSHWt.MarkCalculatedRow(row);
-    for (const int row :
-         {density::WaterContent, density::WetSoil, density::WetDensity, density::DryDensity}) {
+    for (const int row : {density::WaterContent, density::WetSoil, density::WetDensity, density::DryDensity}) {
         MSHDensity.MarkCalculatedRow(row);
     }
     MSHData.SetTitleColumns(0);
@@ -105,8 +100,7 @@ void frmCompaction::MSHWt_MouseDown(MouseButton button, int row, int column)
 {
     const int trial = std::max(column, 1);  // a press on the titles counts as the first trial
     if (button == MouseButton::Left) return txtData.PressLeft(row, trial);
-    const Message question{"คุณต้องการลบข้อมูลคอลัมภ์นี้ใช่หรือไม่?", "ยืนยันการลบ", MessageStyle::Plain,
-                           MessageButtons::OkCancel};
+    const Message question{"คุณต้องการลบข้อมูลคอลัมภ์นี้ใช่หรือไม่?", "ยืนยันการลบ", MessageStyle::Plain, MessageButtons::OkCancel};
     if (program.Ask().Show(question) == MessageAnswer::Ok) EraseTrial(trial);
 }
 
@@ -124,8 +118,8 @@ void frmCompaction::SSTData_Click(int previousTab)
 void frmCompaction::chkSatLine_Click()
 {
     OpenProjectConnection(program);
-    const auto& trials = Query(program, program.ProjectConnection,
-                               SelectAll(TableOf(Test::SpcSoil, program.CurrentMaterial).name));
+    const auto& trials =
+        Query(program, program.ProjectConnection, SelectAll(TableOf(Test::SpcSoil, program.CurrentMaterial).name));
     txtGs.SetText(trials.Fields("spc_gs"));
     if (!chkSatLine.Value()) txtGs.SetText("");
 }

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "controls/text_grid.h"
+#include "sheets/pattern/spline_grid.h"
 #include "sheets/pattern/test_sheet.h"
 
 namespace terravane {
@@ -20,11 +21,6 @@ enum Row { Sample, CanNumber, WetAndCan, DryAndCan, Can, Water, DrySoil, WaterCo
 /// in g/cm³.
 namespace density {
 enum Row { AssumedWater, WetAndMould, Mould, WaterContent, WetSoil, WetDensity, DryDensity, kRows };
-}
-
-/// Columns of MSH2, the work grid of the spline; row i is point i.
-namespace spline {
-enum Column { Before, Diagonal, After, RightSide, Moment, kColumns };
 }
 
 inline constexpr int kTrials = 6;

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "numeric/natural_spline.h"
 #include "numeric/polynomial_fit.h"
 #include "runtime/numbers.h"
 #include "runtime/runtime_error.h"
@@ -15,22 +14,6 @@ namespace terravane {
 namespace {
 
 constexpr int kQuarticFrom = 5;  // points; fewer take a cubic
-
-double SevenDecimals(double value)
-{
-    return RoundedToPlaces(value, 7);
-}
-
-/// The grid's rows as the spline knows them, read back from their texts. Error 9 where the spline was not set up for
-/// that many points.
-std::vector<SplineRow> RowsOf(TextGrid& grid, const CompactionPoints& points)
-{
-    std::vector<SplineRow> rows;
-    for (int row = 1; row <= points.Count(); ++row) {
-        rows.push_back({.after = Val(grid(row, spline::After)), .moment = Val(grid(row, spline::Moment))});
-    }
-    return rows;
-}
 
 }  // namespace
 
@@ -61,10 +44,7 @@ void frmCompaction::Command5_Click()
 {
     const CompactionPoints points = Points();
     MSH2.SetRows(MSHData.Rows());
-    NaturalSpline(points.water, points.density, SevenDecimals,
-                  [this](std::size_t point, SplineColumn column, double value) {
-                      MSH2(static_cast<int>(point) + 1, static_cast<int>(column)) = Format(value, kSevenDecimals);
-                  });
+    SolveSpline(points.water, points.density, MSH2);
 }
 
 void frmCompaction::Command6_Click()
@@ -85,7 +65,8 @@ void frmCompaction::EvaluateOnePoint(const CompactionPoints& points)
     for (std::size_t i = 0; i + 1 < water.size(); ++i) {
         const auto [low, high] = std::minmax(water[i], water[i + 1]);
         if (at < low || at > high) continue;
-        Text5.SetText(Format(SplineValue(RowsOf(MSH2, points), water, points.density, i, at), kSevenDecimals));
+        Text5.SetText(
+            Format(SplineValue(SplineRowsOf(MSH2, points.water.size()), water, points.density, i, at), kSevenDecimals));
         return;
     }
 }
@@ -96,7 +77,7 @@ void frmCompaction::EvaluateOnePoint(const CompactionPoints& points)
 void frmCompaction::TabulateSpline(const CompactionPoints& points)
 {
     const auto& water = points.water;
-    const auto rows = RowsOf(MSH2, points);
+    const auto rows = SplineRowsOf(MSH2, points.water.size());
     const double step = Val(Text6.Text());
     double x = Val(MSHData(1, 0));
     int row = 1;
@@ -113,7 +94,9 @@ void frmCompaction::TabulateSpline(const CompactionPoints& points)
             write(i);
         }
         x = water[i + 1];
-        if (i == 0) write(i);
+        if (i > 0) continue;
+        row = MSH3.Rows();  // a row of its own, also where a negative step left the first one blank
+        write(i);
     }
 }
 

@@ -9,8 +9,7 @@ namespace terravane {
 
 namespace {
 
-constexpr std::string_view kBlank =
-    "     ";  // what a calculated cell shows while nothing is worked out for it
+constexpr std::string_view kBlank = "     ";  // what a calculated cell shows while nothing is worked out for it
 
 }  // namespace
 
@@ -28,8 +27,7 @@ void frmCompaction::BlankCalculatedRows()
 {
     for (int trial = 1; trial <= kTrials; ++trial) {
         for (int row = wt::Water; row <= wt::WaterContent; ++row) MSHWt(row, trial) = kBlank;
-        for (int row = density::WaterContent; row <= density::DryDensity; ++row)
-            MSHDensity(row, trial) = kBlank;
+        for (int row = density::WaterContent; row <= density::DryDensity; ++row) MSHDensity(row, trial) = kBlank;
     }
 }
 

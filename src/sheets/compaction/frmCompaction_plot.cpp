@@ -110,8 +110,7 @@ void frmCompaction::DrawTicks(const CompactionScale& scale)
         const double y = scale.height - tick * scale.tickHeight;
         picGraph.Line(0, y, scale.width, y, kGridGrey);
         const std::string label = Format(scale.TickDensity(tick), kTwoDecimals);
-        PrintAt(picgraph1, picgraph1.Width - 200 - picgraph1.TextWidth(label), top + y - lineHeight / 2,
-                label);
+        PrintAt(picgraph1, picgraph1.Width - 200 - picgraph1.TextWidth(label), top + y - lineHeight / 2, label);
     }
     RefuseEndless(scale.percents);
     for (int percent = 1; percent <= scale.percents; ++percent) {

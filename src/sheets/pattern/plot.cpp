@@ -29,13 +29,15 @@ void PrintAt(DrawingSurface& surface, double x, double y, std::string_view text)
     surface.Print(text);
 }
 
-void PrintAxisTitles(PictureBox& frame, PictureBox& plot, std::string_view below, std::string_view beside, double size)
+void PrintAxisTitles(PictureBox& frame, PictureBox& plot, std::string_view below, std::string_view beside, double size,
+                     std::optional<double> besideLeft)
 {
     const auto [left, top] = InsetOf(plot, frame);
     SetFont(frame, kAxisFont, size);
     const double height = frame.TextHeight(below);
     PrintAt(frame, left + (plot.Width - frame.TextWidth(below)) / 2, frame.Height - 80 - height - 60, below);
-    frame.PrintTurned(beside, (left - height) / 2, top + (plot.Height + frame.TextWidth(beside)) / 2);
+    frame.PrintTurned(beside, besideLeft.value_or((left - height) / 2),
+                      top + (plot.Height + frame.TextWidth(beside)) / 2);
     SetFont(frame, kTickFont, kTickSize);
     SetFont(plot, kTickFont, kTickSize);
 }
@@ -44,7 +46,7 @@ void DrawPlotBoxes(PictureBox& frame, PictureBox& plot)
 {
     plot.DrawWidth = 1;
     plot.ForeColor = kBlack;
-    plot.Box(0, 0, plot.Width - 50, plot.Height - 50);
+    plot.Box(0, 0, plot.Width - kBoxMargin, plot.Height - kBoxMargin);
     frame.DrawWidth = 2;
     frame.Box(10, 10, frame.Width - 80, frame.Height - 80);
     frame.DrawWidth = 1;
@@ -60,6 +62,13 @@ void DrawMarks(DrawingSurface& plot, std::span<const DrawnPoint> points)
         plot.Circle(point.x, point.y, kMarkRadius);
     }
     plot.FillSolid = false;
+}
+
+void DrawOutline(PictureBox& frame, const PictureBox& plot)
+{
+    const auto [left, top] = InsetOf(plot, frame);
+    frame.DrawWidth = 1;
+    frame.Box(left, top, left + plot.Width, top + plot.Height);
 }
 
 void RefuseEndless(double steps)

@@ -2,6 +2,7 @@
 /// scale: how a reading maps to the plot is the sheet's. Lengths are twips.
 #pragma once
 
+#include <optional>
 #include <span>
 #include <string_view>
 
@@ -31,14 +32,22 @@ void PrintAt(DrawingSurface& surface, double x, double y, std::string_view text)
 
 /// Prints the axis titles on the frame: one below the plot, centred, the other turned, left of it. Both boxes have the
 /// font of the tick labels afterwards.
-/// size  points
-void PrintAxisTitles(PictureBox& frame, PictureBox& plot, std::string_view below, std::string_view beside, double size);
+/// size        points
+/// besideLeft  where the turned title begins; midway between the frame's edge and the plot's unless it is told
+void PrintAxisTitles(PictureBox& frame, PictureBox& plot, std::string_view below, std::string_view beside, double size,
+                     std::optional<double> besideLeft = {});
+
+/// Room that the box around a plot leaves at the plot's right and bottom.
+inline constexpr double kBoxMargin = 50;
 
 /// The boxes around plot and frame; the plot's is thin, the frame's thick.
 void DrawPlotBoxes(PictureBox& frame, PictureBox& plot);
 
 /// A dot with a white circle around it at each point, black; what lies below is hidden.
 void DrawMarks(DrawingSurface& plot, std::span<const DrawnPoint> points);
+
+/// A thin outline around a plot that is ruled to its very edges, drawn on the frame.
+void DrawOutline(PictureBox& frame, const PictureBox& plot);
 
 /// Error 7 for a curve or an axis of more than kMostSteps steps.
 void RefuseEndless(double steps);

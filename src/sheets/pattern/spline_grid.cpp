@@ -21,10 +21,10 @@ void SolveSpline(std::span<const double> x, std::span<const double> y, TextGrid&
     });
 }
 
-std::vector<SplineRow> SplineRowsOf(const TextGrid& work)
+std::vector<SplineRow> SplineRowsOf(const TextGrid& work, std::size_t points)
 {
     std::vector<SplineRow> rows;
-    for (int row = 1; row < work.Rows(); ++row) {
+    for (int row = 1; row <= static_cast<int>(points); ++row) {
         rows.push_back({.after = Val(work(row, spline::After)), .moment = Val(work(row, spline::Moment))});
     }
     return rows;

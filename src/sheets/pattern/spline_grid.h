@@ -2,6 +2,7 @@
 /// is what the next stage reads. Row i of the grid is point i, row 0 stays empty.
 #pragma once
 
+#include <cstddef>
 #include <span>
 #include <vector>
 
@@ -19,7 +20,8 @@ enum Column { Before, Diagonal, After, RightSide, Moment, kColumns };
 /// Throws as NaturalSpline does; the cells written before the failure stand.
 void SolveSpline(std::span<const double> x, std::span<const double> y, TextGrid& work);
 
-/// The rows as SplineValue needs them, read back from their texts.
-std::vector<SplineRow> SplineRowsOf(const TextGrid& work);
+/// The rows of the first `points` points as SplineValue needs them, read back from their texts. Error 9 where the
+/// spline was not set up for that many points.
+std::vector<SplineRow> SplineRowsOf(const TextGrid& work, std::size_t points);
 
 }  // namespace terravane

@@ -3,6 +3,7 @@
 /// method.
 #pragma once
 
+#include <array>
 #include <span>
 #include <string>
 #include <string_view>
@@ -47,6 +48,12 @@ struct TablePass {
 /// One step of the way that Enter takes through the fields outside the grids.
 struct FocusStep {
     std::string_view from, to;
+};
+
+/// The way through the general data block, for the sheets without fields of their own between.
+inline constexpr std::array kHeadBlockSteps{
+    FocusStep{"txtClient", "txtID"},     FocusStep{"txtID", "txtProject"}, FocusStep{"txtProject", "txtLocation"},
+    FocusStep{"txtLocation", "txtSoil"}, FocusStep{"txtSoil", "cboTest"},  FocusStep{"cboTest", "cboCheck"},
 };
 
 struct TestSheet : Form {

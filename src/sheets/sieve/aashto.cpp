@@ -100,12 +100,9 @@ struct TypicalRow {
     std::string_view name;
 };
 constexpr std::array kTypicalNames{
-    TypicalRow{{"A-1-a"}, "Stone or gravel fragments"},
-    TypicalRow{{"A-1-b"}, "Gravel and sand mixtures"},
-    TypicalRow{{"A-3"}, "Fine sand that is non-plastic"},
-    TypicalRow{{"A-2-4", "A-2-5"}, "Silty gravel and sand"},
-    TypicalRow{{"A-2-5", "A-2-6"}, "Cayey gravel and sand"},
-    TypicalRow{{"A-4", "A-5"}, "Silty soils"},
+    TypicalRow{{"A-1-a"}, "Stone or gravel fragments"},      TypicalRow{{"A-1-b"}, "Gravel and sand mixtures"},
+    TypicalRow{{"A-3"}, "Fine sand that is non-plastic"},    TypicalRow{{"A-2-4", "A-2-5"}, "Silty gravel and sand"},
+    TypicalRow{{"A-2-5", "A-2-6"}, "Cayey gravel and sand"}, TypicalRow{{"A-4", "A-5"}, "Silty soils"},
     TypicalRow{{"A-6", "A-7-5", "A-7-6"}, "Clayey soils"},
 };
 
@@ -122,9 +119,8 @@ double GroupIndex(std::string_view group, const AashtoSample& sample)
     const double a = ToInteger(sample.passing200 - 35), b = ToInteger(sample.passing200 - 15);
     const double c = ToInteger(sample.limits.liquid - 40), d = ToInteger(index - 10);
     const bool isClayeyGravel = group == "A-2-6" || group == "A-2-7";
-    const double whole =
-        std::trunc(isClayeyGravel ? 0.01 * b * d : 0.005 * a * c + 0.2 * a + 0.01 * b * d);
-    return whole < 0 || index == 0 ? 0 : whole;
+    const double whole = std::trunc(isClayeyGravel ? 0.01 * b * d : 0.005 * a * c + 0.2 * a + 0.01 * b * d);
+    return whole > 0 && index != 0 ? whole : 0;
 }
 
 std::string_view TypicalName(std::string_view group)

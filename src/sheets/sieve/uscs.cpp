@@ -9,12 +9,13 @@ namespace terravane {
 
 namespace {
 
-constexpr double kFineFrom = 50;         // percent fines
-constexpr double kFewFinesBelow = 5;     // percent fines; fewer say nothing of the fines
-constexpr double kManyFinesAbove = 12;   // percent fines; more say nothing of the grading
-constexpr double kSiltyUpTo = 7;         // plasticity index of a clayey soil that is silty too
-constexpr double kHighLimitFrom = 50;    // liquid limit
-constexpr double kSecondPartFrom = 15;   // percent of the other coarse part that the name tells
+constexpr double kFineFrom = 50;        // percent fines
+constexpr double kFewFinesBelow = 5;    // percent fines; fewer say nothing of the fines
+constexpr double kManyFinesAbove = 12;  // percent fines; more say nothing of the grading
+constexpr double kSiltyUpTo = 7;        // plasticity index of a clayey soil that is silty too
+constexpr double kHighLimitFrom = 50;   // liquid limit
+constexpr double kSecondPartFrom = 15;  // percent of the other coarse part that the name tells
+constexpr double kAnyShare = -1e300;
 constexpr double kMoreFinesFrom = 70;    // percent fines
 constexpr double kNearlyFinesFrom = 85;  // percent fines
 
@@ -85,7 +86,7 @@ struct FineNoun {
     std::string_view symbol, atHead, inside;
 };
 constexpr std::array kFineNouns{
-    FineNoun{"CL-ML", "Silty clay", "silty clay"}, FineNoun{"ML", "Silt", "silt"},
+    FineNoun{"CL-ML", "Silty clay", "silty clay"},  FineNoun{"ML", "Silt", "silt"},
     FineNoun{"MH", "Elastic silt", "elastic silt"}, FineNoun{"CL", "Lean clay", "lean clay"},
     FineNoun{"CH", "Fat clay", "fat clay"},
 };
@@ -102,11 +103,11 @@ struct FinePattern {
 };
 constexpr std::array kFinePatterns{
     FinePattern{kMoreFinesFrom, false, kSecondPartFrom, "Gravelly ", " with sand"},
-    FinePattern{kMoreFinesFrom, false, -1e300, "Gravelly ", ""},
+    FinePattern{kMoreFinesFrom, false, kAnyShare, "Gravelly ", ""},
     FinePattern{kMoreFinesFrom, true, kSecondPartFrom, "Sandy ", " with gravel"},
-    FinePattern{kMoreFinesFrom, true, -1e300, "Sandy ", ""},
-    FinePattern{kNearlyFinesFrom, false, -1e300, "", " with gravel"},
-    FinePattern{kNearlyFinesFrom, true, -1e300, "", " with sand"},
+    FinePattern{kMoreFinesFrom, true, kAnyShare, "Sandy ", ""},
+    FinePattern{kNearlyFinesFrom, false, kAnyShare, "", " with gravel"},
+    FinePattern{kNearlyFinesFrom, true, kAnyShare, "", " with sand"},
 };
 
 FinePattern PatternOf(const UscsSample& sample)

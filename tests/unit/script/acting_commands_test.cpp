@@ -129,6 +129,16 @@ TEST_F(ActingCommands, BoxesOptionsAndLists)
                           "\n");
 }
 
+TEST_F(ActingCommands, ListEntriesAreSelectedByTheirTrimmedText)
+{
+    const auto run = RunOnSheet(
+        "menu mnuSie1\nselect lstSieve #4 on\nselect lstSieve \"3/8 in\" on\n"
+        "select lstSieve #4 off\nselect lstSieve #3000 on\nclick cmdSieve\nget MSHSieve 1 1\n");
+    EXPECT_EQ(run.answers.at(0),
+              R"({"error":5,"description":"There is no entry \"#3000\"","line":"select lstSieve #3000 on"})");
+    EXPECT_EQ(run.Last(), R"({"cell":"MSHSieve","row":1,"col":1,"text":"9.51"})") << run.Text();
+}
+
 TEST_F(ActingCommands, ErrorsOfHandlersNameTheLine)
 {
     const auto run = RunOnSheet(

@@ -1,0 +1,90 @@
+/// The Atterberg sheet: liquid limit trials at different numbers of blows, plastic limit threads, and the flow curve
+/// through the former, read at 25 blows. One sheet for soil and crushed rock; they differ in the table that is loaded.
+#pragma once
+
+#include "controls/text_grid.h"
+#include "numeric/straight_line.h"
+#include "sheets/pattern/test_sheet.h"
+
+namespace terravane {
+
+/// Rows of MSHLL; columns 1 to 5 are the trials. Masses in g, water contents in percent.
+namespace ll {
+enum Row { TestNumber, Blows, WetAndCan, DryAndCan, Can, Water, DrySoil, WaterContent, kRows };
+}
+
+/// Rows of MSHPL; columns 1 to 5 are the threads.
+namespace pl {
+enum Row { TestNumber, WetAndCan, DryAndCan, Can, Water, DrySoil, WaterContent, PlasticLimit, Average, kRows };
+}
+
+inline constexpr int kLimitTrials = 5;
+
+/// How blows and water content map to the plot: 10 to 100 blows across on a logarithmic axis, whole tens of percent
+/// upwards from 0. Twips, blows, percent.
+struct FlowScale {
+    double width, height;
+    double tens;  // of percent, from bottom to top
+
+    double X(double blows) const;
+    /// Error 11 or 6 for an axis without a range.
+    double Y(double water) const;
+};
+
+struct frmAtterberg : TestSheet {
+    explicit frmAtterberg(Program& program);
+
+    Frame fraLL{*this, "fraLL", "Liquid Limit Determination"};
+    TextGrid MSHLL{*this, "MSHLL", ll::kRows, kLimitTrials + 1};
+    Frame fraPL{*this, "fraPL", "Plastic Limit Determination"};
+    TextGrid MSHPL{*this, "MSHPL", pl::kRows, kLimitTrials + 1};
+    CellEditor txtData;   // over MSHLL
+    CellEditor txtData1;  // over MSHPL
+
+    CommandButton cmdPlot{*this, "cmdPlot", "Plot Graph"};
+    TextBox txtLL{*this, "txtLL", "Liquid Limit (%)"};
+    TextBox txtPL{*this, "txtPL", "Plastic Limit (%)"};
+    TextBox txtPI{*this, "txtPI", "Plasticity Index"};
+    TextBox txtFI{*this, "txtFI", "Flow Index"};
+
+    PictureBox picgraph1{*this, "picgraph1", 60, 0, 7100, 5200};   // tick labels and axis titles
+    PictureBox picGraph{*this, "picGraph", 960, 450, 5450, 3900};  // the plot, standing on it
+    PictureBox picPI{*this, "picPI", 0, 0, 3300, 500};             // what plasticity and flow index are
+    PictureBox picFI{*this, "picFI", 0, 0, 3300, 500};
+
+    void Form_Load() override;
+
+    /// Calculate: water contents and the mean plastic limit, each stage from the rounded text of the one before. The
+    /// first column without a reading in its first typed row ends a grid; the columns behind it keep their texts.
+    /// Error 11 or 6 at a dry mass of zero; the cells before it stand.
+    void cmdCal_Click() override;
+    /// Plot Graph: flow curve, limits, indices, plot and posting. Fails where it stands, with the picture half drawn:
+    /// at the slope for fewer than two different numbers of blows, at the plastic limit where no thread was weighed.
+    void cmdPlot_Click();
+
+    std::span<const TablePass> TablePasses() const override;
+
+  private:
+    void BuildGrids();
+    void WireEvents();
+    void DrawEquations();
+
+    bool HasTrial(const TextGrid& grid, int column) const;
+    void LiquidWaterContentOf(int trial);
+    void PlasticLimitOf(int thread);
+    void AveragePlasticLimits();
+
+    double HighestWaterContent() const;
+    FlowScale ScaleOf() const;
+    void DrawBlowTicks(const FlowScale& scale);
+    void PrintBlows(const FlowScale& scale, double blows, double shareLeft);
+    void DrawWaterTicks(const FlowScale& scale);
+    StraightLine FitFlowCurve() const;
+    void DrawFlowCurve(const FlowScale& scale, const StraightLine& curve);
+    void DrawGuides(const FlowScale& scale, double liquidLimit);
+    void ReadLimits(const StraightLine& curve);
+    double MeanPlasticLimit() const;
+    void PostLimits();
+};
+
+}  // namespace terravane

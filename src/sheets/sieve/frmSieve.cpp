@@ -1,0 +1,185 @@
+#include "sheets/sieve/frmSieve.h"
+
+#include <array>
+
+#include "runtime/numbers.h"
+#include "runtime/text.h"
+#include "sheets/pattern/masks.h"
+#include "sheets/sieve/sieve_table.h"
+#include "store/statements.h"
+
+namespace terravane {
+
+namespace {
+
+constexpr CellRange kMasses{1, kMostSieves, sieve::EmptySieve, sieve::SieveAndSoil};
+constexpr std::string_view kIndent = "     ";  // in front of a sieve's name
+
+constexpr std::array kFocusSteps{
+    FocusStep{"txtClient", "txtID"},     FocusStep{"txtID", "txtProject"}, FocusStep{"txtProject", "txtLocation"},
+    FocusStep{"txtLocation", "txtSoil"}, FocusStep{"txtSoil", "cboTest"},  FocusStep{"cboTest", "cboCheck"},
+};
+
+/// What a control tells under the mouse.
+struct Hint {
+    std::string_view control, text;
+};
+constexpr std::array kHints{
+    Hint{"FraWt", "คลิกเลือกทดสอบแบบล้างน้ำหรือไม่"},
+    Hint{"optNo", "ไม่"},
+    Hint{"optYes", "ใช่"},
+    Hint{"txtGsoil", "น้ำหนักดินแห้งเริ่มต้น"},
+    Hint{"txtDwp", "น้ำนหักดินหลังจากล้างน้ำ"},
+    Hint{"txtWl", "น้ำนหักดินที่หายไป"},
+    Hint{"txtErr", "เปอร์เซ็นต์ความผิดพลาด"},
+};
+
+std::string Indented(std::string_view text)
+{
+    return std::string(kIndent).append(text);
+}
+
+std::vector<std::string> SieveList()
+{
+    std::vector<std::string> list;
+    for (const Sieve& sieve : kSieves) list.push_back(Indented(sieve.listed));
+    return list;
+}
+
+}  // namespace
+
+std::string_view BehindEquals(std::string_view text)
+{
+    const auto sign = text.find('=');
+    return sign == std::string_view::npos ? text : text.substr(sign + 1);
+}
+
+frmSieve::frmSieve(Program& owner)
+    : TestSheet(owner, "frmSieve", "Sieve Analysis",
+                {"Sieve Analysis", "Particle Size Distribution", "Soil Classification"}),
+      lstSieve(*this, "lstSieve", SieveList()),
+      txtData(*this, "txtData", MSHSieve, [] { return kMasses; })
+{
+    picGraph.Container = &picgraph1;
+    picChart.Container = &picChart1;
+    for (Control* hidden :
+         std::initializer_list<Control*>{&MSHData, &MSH2, &MSH3, &Text6, &Command5, &Command6, &Option2, &Image3})
+        hidden->SetVisible(false);
+    for (CommandButton* later : {&cmdgraph, &cmdClass, &cmdView}) later->SetEnabled(false);
+    SetHints();
+    LockResults();
+    WireEvents();
+    ChainFocus(kFocusSteps);
+}
+
+void frmSieve::SetHints()
+{
+    for (const Hint& hint : kHints) Find(hint.control)->SetToolTip(std::string(hint.text));
+}
+
+void frmSieve::LockResults()
+{
+    for (TextBox* result : {&txtErr, &txtD60, &txtD30, &txtD10, &txtCu, &txtCc}) result->SetLocked(true);
+    for (TextBox* washing : {&txtDwp, &txtWl}) washing->SetEnabled(false);
+}
+
+void frmSieve::WireEvents()
+{
+    optYes.Click = [this] { optYes_Click(); };
+    optNo.Click = [this] { optNo_Click(); };
+    txtDwp.KeyPress = [this](Key key) { return txtDwp_KeyPress(key); };
+    cmdSieve.Click = [this] { cmdSieve_Click(); };
+    cmdAtt.Click = [this] { cmdAtt_Click(); };
+    cmdgraph.Click = [this] { cmdgraph_Click(); };
+    cmdClass.Click = [this] { cmdClass_Click(); };
+    Command5.Click = [this] { Command5_Click(); };
+    Command6.Click = [this] { Command6_Click(); };
+    chkEdit.Click = [this] { chkEdit_Click(); };
+    MSHSieve.MouseDown = [this](MouseButton button, int row, int column) { MSHSieve_MouseDown(button, row, column); };
+    SSTData.TabChanged = [this](int) { HideEditors(*this); };
+    for (TextBox* box : {&txtGsoil, &txtDwp, &txtWl, &txtLL, &txtPL}) box->GotFocus = [this] { HideEditors(*this); };
+}
+
+void frmSieve::Form_Load()
+{
+    for (TextBox* result : {&txtCu, &txtCc, &txtD60, &txtD30, &txtD10}) result->SetText("");
+    SSTData.SetTab(0);
+    BuildGrid();
+    DrawGrainSizeGrid();
+    DrawPlasticityChart();
+    DrawAxisCaption();
+    TestSheet::Form_Load();
+}
+
+void frmSieve::BuildGrid()
+{
+    using namespace sieve;
+    MSHSieve.SetColumnTitles({"Sieve\r\nNumber\r\n   ", "   \r\nOpening\r\n(mm)", "Mass of\r\nSeive\r\n(g)",
+                              "Mass of\r\nSeive + Soil\r\n(g)", "Mass of Soil\r\nRetained\r\n(g)",
+                              "Cumulative\r\nRetained\r\n(g)", "Cumulative\r\nRetained\r\n(%)",
+                              "Percent\r\nPassing\r\n(%)"});
+    for (int row = 1; row <= kMostSieves; ++row) {
+        for (const int column : {Number, Opening, Retained, Cumulative, CumulativePercent, Passing})
+            MSHSieve.MarkCalculated(row, column);
+    }
+}
+
+void frmSieve::optYes_Click()
+{
+    OpenWashing(true);
+    txtGsoil.SetFocus();
+}
+
+void frmSieve::optNo_Click()
+{
+    OpenWashing(false);
+    for (TextBox* washing : {&txtDwp, &txtWl}) washing->SetText("");
+}
+
+/// The view shows what is disabled in the colour of a button's face.
+void frmSieve::OpenWashing(bool open)
+{
+    for (TextBox* washing : {&txtDwp, &txtWl}) washing->SetEnabled(open);
+}
+
+bool frmSieve::txtDwp_KeyPress(Key key)
+{
+    if (key != Key::Enter) return false;
+    txtWl.SetText(Format(Val(txtGsoil.Text()) - Val(txtDwp.Text()), kTwoDecimals));
+    return true;
+}
+
+void frmSieve::cmdSieve_Click()
+{
+    for (int row = 1; row < kMostSieves; ++row) {
+        for (int column = 0; column < sieve::kColumns; ++column) MSHSieve(row, column) = "";
+    }
+    int row = 0;
+    for (std::size_t item = 0; item < kSieves.size(); ++item) {
+        if (!lstSieve.Selected(item)) continue;
+        if (++row > kMostSieves) {
+            program.Ask().Show({"Maximum number of sieve is 10", "Warning", MessageStyle::Critical});
+            break;
+        }
+        MSHSieve(row, sieve::Number) = Indented(kSieves[item].name);
+        MSHSieve(row, sieve::Opening) = kSieves[item].opening;
+    }
+    txtErr.SetText("");
+}
+
+void frmSieve::MSHSieve_MouseDown(MouseButton button, int row, int column)
+{
+    if (button == MouseButton::Left) txtData.PressLeft(row, column);
+}
+
+void frmSieve::cmdAtt_Click()
+{
+    if (program.CurrentMaterial == Material::None) return;
+    OpenProjectConnection(program);
+    const auto& trials =
+        Query(program, program.ProjectConnection, SelectAll(TableOf(Test::AttSoil, program.CurrentMaterial).name));
+    txtLL.SetText(trials.Fields("att_LL"));
+    txtPL.SetText(trials.Fields("att_PL"));
+}
+
+}  // namespace terravane

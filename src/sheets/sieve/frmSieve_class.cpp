@@ -1,0 +1,174 @@
+// Classify: both systems, the plasticity chart with the sample's mark, and the posting.
+#include <array>
+
+#include "runtime/numbers.h"
+#include "runtime/text.h"
+#include "sheets/pattern/masks.h"
+#include "sheets/pattern/plot.h"
+#include "sheets/sieve/aashto.h"
+#include "sheets/sieve/frmSieve.h"
+#include "sheets/sieve/uscs.h"
+#include "store/statements.h"
+
+namespace terravane {
+
+namespace {
+
+constexpr double kAxisSize = 14;   // points
+constexpr double kTitleLeft = 80;  // of the turned title
+constexpr double kLabelGap = 40;   // between chart and plasticity indices
+constexpr double kSampleRadius = 40;
+constexpr double kOverLetters = 40;   // white above the letters of a line
+constexpr int kColumns = 10;          // of 10 percent liquid limit
+constexpr int kRows = 7;              // of 10 percent plasticity index
+constexpr double kTopOfALine = 58.4;  // plasticity index on the A-line at a liquid limit of 100
+
+/// How liquid limit and plasticity index map to the chart, both in percent.
+struct ChartScale {
+    double columnWidth, rowHeight, height;
+
+    double X(double liquidLimit) const { return liquidLimit / 10 * columnWidth; }
+    double Y(double plasticityIndex) const { return height - plasticityIndex / 10 * rowHeight; }
+};
+
+ChartScale ScaleOf(const PictureBox& chart)
+{
+    return {chart.ScaleWidth / kColumns, chart.ScaleHeight / kRows, chart.Height};
+}
+
+/// The liquid limit at which the A-line has this plasticity index.
+double LiquidLimitOnALine(double plasticityIndex)
+{
+    return 20 + plasticityIndex * 80 / kTopOfALine;
+}
+
+/// A zone's text, centred on a spot of the chart; `hangs` puts the top of its letters
+/// there instead of its middle.
+struct Zone {
+    std::string_view text;
+    double liquidLimit, plasticityIndex;
+    bool hangs = false;
+};
+constexpr std::array kZones{
+    Zone{"CH or OH", 75, 55}, Zone{"MH or OH", 75, 15},      Zone{"CL or OL", 25, 25},
+    Zone{"ML or OL", 40, 5},  Zone{"CL - ML", 15, 10, true},
+};
+
+double TwoDecimals(double value)
+{
+    return Val(Format(value, kTwoDecimals));
+}
+
+}  // namespace
+
+void frmSieve::cmdClass_Click()
+{
+    if (Trim(txtLL.Text()).empty() || Trim(txtPL.Text()).empty()) {
+        program.Ask().Show(
+            {"Please input liquid limit and plastic limit before.", "Soil Classification", MessageStyle::Information});
+        return;
+    }
+    const ShownAtEnd frameShown{picChart1}, chartShown{picChart};
+    P4 = Val(txtP4.Text());
+    P10 = Val(txtP10.Text());
+    P40 = Val(txtP40.Text());
+    P200 = Val(txtP200.Text());
+    DrawPlasticityChart();
+    ClassifyUSCS();
+    ClassifyAASHTO();
+    Gravel = TwoDecimals(100 - P4);
+    Sand = TwoDecimals(P4 - P200);
+    PostClasses();
+}
+
+Limits frmSieve::LimitsNow() const
+{
+    return {Val(txtLL.Text()), Val(txtPL.Text())};
+}
+
+void frmSieve::ClassifyUSCS()
+{
+    const Limits limits = LimitsNow();
+    const UscsSample sample{P4, P200, limits, Val(D60), Val(D30), Val(D10)};
+    const std::string symbol = UscsSymbol(sample);
+    txtSuscs.SetText(symbol);
+    txtNuscs.SetText(UscsName(symbol, sample));
+    if (limits.PlasticityIndex() == 0) return;  // a non-plastic sample has no place on the chart
+    DrawPlasticityChart();
+    MarkSample(limits);
+}
+
+/// A group without a typical name leaves the last one standing.
+void frmSieve::ClassifyAASHTO()
+{
+    const AashtoSample sample{P10, P40, P200, LimitsNow()};
+    const std::string_view group = AashtoGroup(sample);
+    txtSaash.SetText(std::string(group) + "(" + NumberText(GroupIndex(group, sample)) + ")");
+    if (const auto name = TypicalName(group); !name.empty()) txtMtype.SetText(name);
+}
+
+void frmSieve::PostClasses()
+{
+    if (program.CurrentMaterial == Material::None) return;
+    PostSummary(program, {{"sum_gravel", SignedNumberText(Gravel)},
+                          {"sum_sand", SignedNumberText(Sand)},
+                          {"sum_finer", SignedNumberText(P200)},
+                          {"sum_USCS", txtSuscs.Text()},
+                          {"sum_AASHTO", txtSaash.Text()}});
+}
+
+void frmSieve::DrawPlasticityChart()
+{
+    picChart.Cls();
+    picChart1.Cls();
+    PrintAxisTitles(picChart1, picChart, "Liquid Limit (%)", "Plasticity Index (%)", kAxisSize, kTitleLeft);
+    DrawOutline(picChart1, picChart);
+    DrawChartGrid();
+    const ChartScale scale = ScaleOf(picChart);
+    const double left = 0, right = picChart.ScaleWidth;
+    picChart.Line(scale.X(50), 0, scale.X(50), scale.height, kBlue);
+    picChart.Line(right, scale.Y(kTopOfALine), scale.X(LiquidLimitOnALine(4)), scale.Y(4), kBlue);
+    for (const double index : {4.0, 7.0})
+        picChart.Line(left, scale.Y(index), scale.X(LiquidLimitOnALine(index)), scale.Y(index), kBlue);
+    DrawZones();
+}
+
+void frmSieve::DrawChartGrid()
+{
+    const auto [left, top] = InsetOf(picChart, picChart1);
+    const ChartScale scale = ScaleOf(picChart);
+    for (int column = 0; column <= kColumns; ++column) {
+        const double x = column * scale.columnWidth;
+        picChart.Line(x, 0, x, scale.height, kGridGrey);
+        const std::string label = NumberText(column * 10.0);
+        PrintAt(picChart1, left + x - picChart1.TextWidth(label) / 2, top + scale.height + 40, label);
+    }
+    for (int row = 1; row <= kRows; ++row) {
+        const double y = scale.Y(row * 10);
+        picChart.Line(0, y, picChart.ScaleWidth, y, kGridGrey);
+        const std::string label = NumberText(row * 10.0);
+        PrintAt(picChart1, left - kLabelGap - picChart1.TextWidth(label), top + y - picChart1.TextHeight(label) / 2,
+                label);
+    }
+}
+
+void frmSieve::DrawZones()
+{
+    const ChartScale scale = ScaleOf(picChart);
+    for (const Zone& zone : kZones) {
+        const double above = zone.hangs ? kOverLetters : picChart.TextHeight(zone.text) / 2;
+        PrintAt(picChart, scale.X(zone.liquidLimit) - picChart.TextWidth(zone.text) / 2,
+                scale.Y(zone.plasticityIndex) - above, zone.text);
+    }
+}
+
+void frmSieve::MarkSample(const Limits& limits)
+{
+    const ChartScale scale = ScaleOf(picChart);
+    picChart.FillSolid = true;
+    picChart.FillColor = kBlack;
+    picChart.Circle(scale.X(limits.liquid), scale.Y(limits.PlasticityIndex()), kSampleRadius);
+    picChart.FillSolid = false;
+}
+
+}  // namespace terravane

@@ -1,0 +1,191 @@
+// Plot Graph Calibration: the readings, the curve of the chosen model through them and its text, drawn into the sheet's
+// two picture boxes from where the report copies it.
+#include <algorithm>
+#include <cmath>
+
+#include "runtime/numbers.h"
+#include "runtime/runtime_error.h"
+#include "sheets/pattern/plot.h"
+#include "sheets/specific/frmSpecific.h"
+
+namespace terravane {
+
+namespace {
+
+constexpr double kAxisSize = 11;         // points
+constexpr double kTurnedTitleLeft = 50;  // left of the widest mass label
+constexpr double kTickRoom = 40;         // twips between the plot and its labels
+constexpr double kFrameRoom = 120;       // from the frame's right edge to the last label
+constexpr double kCurveStep = 0.1;       // °C
+constexpr double kWantedSteps = 7;       // of an axis
+constexpr int kMostTicks = 20;
+constexpr double kFinestStep = 0.01;  // the labels' last place
+constexpr double kEndRoom = 0.08;     // of the readings' range, at each end of an axis
+constexpr std::string_view kMassMask = "000.00";
+constexpr std::string_view kTemperatureMask = "#00.00";
+constexpr std::string_view kDeterminationMask = "#0.0000";
+
+constexpr std::array kModels{CalibrationModel::Exponential, CalibrationModel::Linear, CalibrationModel::Polynomial};
+
+/// The smallest of 1, 2, 5 times a power of ten that is not below the wanted step.
+double RoundStep(double wanted)
+{
+    if (wanted <= kFinestStep) return kFinestStep;
+    const double power = std::pow(10, std::floor(std::log10(wanted)));
+    for (const double digit : {1, 2, 5}) {
+        if (digit * power >= wanted) return digit * power;
+    }
+    return 10 * power;
+}
+
+/// An axis over the values with some room at both ends; around 0 where there is none.
+CalibrationAxis AxisOver(const std::vector<double>& values)
+{
+    const auto [lowest, highest] = std::ranges::minmax_element(values);
+    const double low = values.empty() ? 0 : *lowest, high = values.empty() ? 0 : *highest;
+    const double room = std::max((high - low) * kEndRoom, kFinestStep);
+    const CalibrationAxis axis{low - room, high + room, RoundStep((high - low) / kWantedSteps)};
+    if (!(axis.low < axis.high) || !std::isfinite(axis.high - axis.low)) throw RuntimeError(error::kOverflow);
+    return axis;
+}
+
+}  // namespace
+
+std::vector<double> CalibrationAxis::Ticks() const
+{
+    std::vector<double> ticks;
+    const double first = -Int(-low / step);  // in steps from 0
+    for (int i = 0; i < kMostTicks && (first + i) * step <= high; ++i) ticks.push_back((first + i) * step);
+    return ticks;
+}
+
+void frmSpecific::cmdgraph_Click()
+{
+    try {
+        PlotCalibration();
+    } catch (const RuntimeError& failure) {
+        program.Ask().Show({failure.Description(), "Error", MessageStyle::Critical});
+    }
+}
+
+void frmSpecific::PlotCalibration()
+{
+    const ShownAtEnd frameShown{picGraph}, plotShown{picgraph1};
+    picGraph.Cls();
+    picgraph1.Cls();
+    DrawTitles();
+    const CalibrationReadings readings = Readings();
+    const CalibrationScale scale = ScaleOf(readings);
+    DrawTemperatureTicks(scale);
+    DrawMassTicks(scale);
+
+    curve_ = FitCalibration(ChosenModel(readings), readings);
+    txtFormula.SetText(curve_.Equation());
+    txtR.SetText(" " + Format(curve_.determination, kDeterminationMask));
+    DrawCurve(scale, readings);
+    DrawReadings(scale, readings);
+}
+
+/// The first row without a mass ends them.
+CalibrationReadings frmSpecific::Readings() const
+{
+    CalibrationReadings readings;
+    for (int row = 1; row <= kCalibrationReadings; ++row) {
+        const double mass = Val(MSHCalibration(row, calibration::FlaskAndWater));
+        if (mass == 0) break;
+        readings.temperature.push_back(Val(MSHCalibration(row, calibration::Temperature)));
+        readings.mass.push_back(mass);
+    }
+    return readings;
+}
+
+CalibrationModel frmSpecific::ChosenModel(const CalibrationReadings& readings)
+{
+    if (optExp.Value()) return CalibrationModel::Exponential;
+    if (optLin.Value()) return CalibrationModel::Linear;
+    return optPol.Value() ? CalibrationModel::Polynomial : ChooseBestModel(readings);
+}
+
+/// Auto: chooses the option of the model that explains more than each other one. Where two tie for the top Auto stays
+/// chosen, and the polynomial, fitted last, is in force.
+CalibrationModel frmSpecific::ChooseBestModel(const CalibrationReadings& readings)
+{
+    const std::array options{&optExp, &optLin, &optPol};
+    std::array<double, kModels.size()> explained;
+    std::ranges::transform(kModels, explained.begin(),
+                           [&](CalibrationModel model) { return FitCalibration(model, readings).determination; });
+    const auto best = std::ranges::max_element(explained);
+    if (std::ranges::count(explained, *best) > 1) return CalibrationModel::Polynomial;
+    const auto place = static_cast<std::size_t>(best - explained.begin());
+    options[place]->Choose();
+    return kModels[place];
+}
+
+CalibrationScale frmSpecific::ScaleOf(const CalibrationReadings& readings) const
+{
+    return {picgraph1.Width - kBoxMargin, picgraph1.Height - kBoxMargin, AxisOver(readings.temperature),
+            AxisOver(readings.mass)};
+}
+
+/// The title beside the mass axis stands at the frame's edge: the labels need the room next to the plot.
+void frmSpecific::DrawTitles()
+{
+    constexpr std::string_view kTemperatureTitle = "Temperature (Degree Celsius)";
+    constexpr std::string_view kMassTitle = "Weight of Water + Flask (g)";
+    const auto [left, top] = InsetOf(picgraph1, picGraph);
+    SetFont(picGraph, kAxisFont, kAxisSize);
+    PrintAt(picGraph, left + (picgraph1.Width - picGraph.TextWidth(kTemperatureTitle)) / 2,
+            picGraph.Height - 140 - picGraph.TextHeight(kTemperatureTitle), kTemperatureTitle);
+    picGraph.PrintTurned(kMassTitle, kTurnedTitleLeft, top + (picgraph1.Height + picGraph.TextWidth(kMassTitle)) / 2);
+    SetFont(picGraph, kTickFont, kTickSize);
+    SetFont(picgraph1, kTickFont, kTickSize);
+    DrawPlotBoxes(picGraph, picgraph1);
+}
+
+/// A label at the axis's end is kept inside the frame.
+void frmSpecific::DrawTemperatureTicks(const CalibrationScale& scale)
+{
+    const auto [left, top] = InsetOf(picgraph1, picGraph);
+    for (const double celsius : scale.temperature.Ticks()) {
+        const double x = scale.X(celsius);
+        picgraph1.Line(x, 0, x, scale.height, kGridGrey);
+        const std::string label = Format(celsius, kTemperatureMask);
+        const double width = picGraph.TextWidth(label), farthest = picGraph.Width - kFrameRoom - width;
+        PrintAt(picGraph, std::min(left + x - width / 2, farthest), top + scale.height + kTickRoom, label);
+    }
+}
+
+void frmSpecific::DrawMassTicks(const CalibrationScale& scale)
+{
+    const auto [left, top] = InsetOf(picgraph1, picGraph);
+    const double lineHeight = picGraph.TextHeight("0");
+    for (const double grams : scale.mass.Ticks()) {
+        const double y = scale.Y(grams);
+        picgraph1.Line(0, y, scale.width, y, kGridGrey);
+        const std::string label = Format(grams, kMassMask);
+        PrintAt(picGraph, left - kTickRoom - picGraph.TextWidth(label), top + y - lineHeight / 2, label);
+    }
+}
+
+void frmSpecific::DrawReadings(const CalibrationScale& scale, const CalibrationReadings& readings)
+{
+    std::vector<DrawnPoint> marks;
+    for (std::size_t i = 0; i < readings.mass.size(); ++i)
+        marks.push_back({scale.X(readings.temperature[i]), scale.Y(readings.mass[i])});
+    DrawMarks(picgraph1, marks);
+}
+
+/// From the coldest reading to the warmest.
+void frmSpecific::DrawCurve(const CalibrationScale& scale, const CalibrationReadings& readings)
+{
+    const auto [coldest, warmest] = std::ranges::minmax(readings.temperature);
+    const double steps = Int((warmest - coldest) / kCurveStep);
+    RefuseEndless(steps);
+    std::vector<DrawnPoint> curve;
+    const auto draw = [&](double celsius) { curve.push_back({scale.X(celsius), scale.Y(curve_.At(celsius))}); };
+    for (int k = 0; k <= steps; ++k) draw(coldest + k * kCurveStep);
+    if (coldest + steps * kCurveStep < warmest) draw(warmest);
+    picgraph1.Polyline(curve, kBlue);
+}
+
+}  // namespace terravane

@@ -1,0 +1,336 @@
+// The sieve report as a list of drawn things. Lengths in twips; a line of the body's size 13 is 339.3, of the chart's
+// size 14 365.4. Eight columns are (11906 - 1000) / 8 = 1363.25 wide, from 500 on.
+#include <cmath>
+
+#include <gtest/gtest.h>
+
+#include "reports/print_report.h"
+#include "support/report_bench.h"
+#include "support/sieve_lab.h"
+
+namespace terravane {
+namespace {
+
+using namespace support;
+
+constexpr double kTwip = 0.1;
+constexpr double kLine = 339.3;
+constexpr double kColumn = 1363.25;
+
+double Y(double line)
+{
+    return 3800 + kLine * line;
+}
+
+double Width(std::string_view text, double size = 13, bool bold = false)
+{
+    return TextWidth({"DilleniaUPC", size, bold, false}, text);
+}
+
+struct SievePage : testing::Test {
+    ReportBench bench;
+    frmSieve* sheet = nullptr;
+
+    SievePage()
+    {
+        bench.program.AddForm("frmSieve", [](Program& owner) { return std::make_unique<frmSieve>(owner); });
+        sheet = dynamic_cast<frmSieve*>(&bench.Open(terravane::Test::SieSoil, "frmSieve"));
+        SieveWet(*sheet, "3530.0", "3340.0");
+        TypeStack(*sheet, kCrushedRockStack, "3530.0");
+        TypeLimits(*sheet, "22", "18");
+        bench.program.CurrentMaterial = Material::None;  // nothing to post to
+        sheet->cmdCal.Press();
+        sheet->cmdgraph.Press();
+        sheet->cmdClass.Press();
+    }
+
+    std::vector<DisplayList> Pages() { return PagesOfReport(bench.program); }
+    std::vector<DrawnItem> Printed() { return Pages().at(1).items; }
+    std::vector<DrawnItem> PrintedChart() { return Pages().at(2).items; }
+    std::vector<DrawnItem> Shown() { return bench.Preview().picView.Items(); }
+    std::vector<DrawnItem> ShownChart()
+    {
+        frmPreview& preview = bench.Preview();
+        preview.cmdNext.Press();
+        return preview.picView.Items();
+    }
+    /// The curve of the printed chart.
+    std::vector<DrawnPoint> Curve()
+    {
+        const auto curves = ItemsOf<PolylineItem>(PrintedChart());
+        return curves.size() == 1 ? curves[0].points : std::vector<DrawnPoint>{};
+    }
+};
+
+bool HasBox(const std::vector<DrawnItem>& items, double x1, double y1, double x2, double y2, int width = 2)
+{
+    for (const BoxItem& box : ItemsOf<BoxItem>(items)) {
+        if (std::abs(box.x1 - x1) < kTwip && std::abs(box.y1 - y1) < kTwip && std::abs(box.x2 - x2) < kTwip &&
+            std::abs(box.y2 - y2) < kTwip && box.pen.width == width)
+            return true;
+    }
+    return false;
+}
+
+TEST_F(SievePage, APrintedReportIsACoverAndTwoPagesTheLastOnItsSide)
+{
+    const auto pages = Pages();
+    ASSERT_EQ(pages.size(), 3u);
+    EXPECT_EQ(pages[1].width, 11906);
+    EXPECT_EQ(pages[2].width, 16838);
+    EXPECT_EQ(pages[2].height, 11906);
+}
+
+TEST_F(SievePage, BoxesStandWhereTheMethodHasThem)
+{
+    const auto page = Printed();
+    EXPECT_TRUE(HasBox(page, 500, Y(1), 3226.5, Y(4)));
+    EXPECT_TRUE(HasBox(page, 3226.5, Y(1), 11406, Y(4)));
+    EXPECT_TRUE(HasBox(page, 500, Y(4.5), 11406, Y(7.5)));
+    EXPECT_TRUE(HasBox(page, 500, Y(7.5), 11406, Y(17.5)));
+    EXPECT_TRUE(HasBox(page, 500, kLine * 29.8, 500 + 5 * kColumn, kLine * 31.8));
+    EXPECT_TRUE(HasBox(page, 500, kLine * 34.8, 500 + 5 * kColumn, kLine * 40.8));
+    const auto preview = Shown();
+    EXPECT_TRUE(HasBox(preview, 500, kLine * 30.8, 500 + 5 * kColumn, kLine * 32.8));
+    EXPECT_TRUE(HasBox(preview, 500, kLine * 35.8, 500 + 5 * kColumn, kLine * 41.8));
+}
+
+TEST_F(SievePage, MassesEndAtTheirStop)
+{
+    const auto page = Printed();
+    const double stop = 3226.5 + Width("Dry Mass of Original Sample");
+    EXPECT_NEAR(TextOn(page, "Dry Mass of Original Sample").x, 4126.5, kTwip);
+    EXPECT_NEAR(TextOn(page, "3530.00").x + Width("3530.00"), stop + 1800, kTwip);
+    EXPECT_NEAR(TextOn(page, "3340.00").y, Y(2), kTwip);
+    EXPECT_NEAR(TextsOf(page, " grams ").at(2).x, stop + 2100, kTwip);
+    EXPECT_NEAR(TextOn(page, "Wet Sieving Method").x + Width("Wet Sieving Method") / 2, (500 + 3226.5) / 2, kTwip);
+    EXPECT_NEAR(TextOn(page, "Wet Sieving Method").y, Y(2), kTwip);
+}
+
+// 100 - 51.2, 51.2 - 5.8, 5.8.
+TEST_F(SievePage, FractionsAreWorkedOutHereAndStandClearOfTheMasses)
+{
+    const auto page = Printed();
+    const double grams = TextsOf(page, " grams ").at(0).x + Width(" grams ");
+    for (const auto& [label, value, line] :
+         {std::tuple{"Gravel Fraction ", "48.80", 1}, {"Sand Fraction ", "45.40", 2}, {"Fine Fraction ", "5.80", 3}}) {
+        const TextItem at = TextOn(page, label);
+        EXPECT_GT(at.x, grams);
+        EXPECT_NEAR(at.y, Y(line), kTwip);
+        EXPECT_NEAR(TextOn(page, value).x, at.x + Width("Plasticity Index") + 400, kTwip) << label;
+    }
+    EXPECT_LT(TextsOf(page, "%").at(0).x + Width("%"), 11406);
+}
+
+TEST_F(SievePage, TheTableIsTheGridTrimmedAndCentred)
+{
+    const auto page = Printed();
+    const auto middle = [](int column) { return 500 + kColumn * (column - 0.5); };
+    EXPECT_NEAR(TextOn(page, "3/4 in").x + Width("3/4 in") / 2, middle(1), kTwip);
+    EXPECT_NEAR(TextOn(page, "3/4 in").y, Y(8.5), kTwip);
+    EXPECT_NEAR(TextOn(page, "1118.60").x + Width("1118.60") / 2, middle(6), kTwip);
+    EXPECT_NEAR(TextOn(page, "91.0").x + Width("91.0") / 2, middle(8), kTwip);
+    EXPECT_NEAR(TextOn(page, "Pan").y, Y(15.5), kTwip);
+    const TextItem head = TextOn(page, "Mass of Sieve");
+    EXPECT_TRUE(head.font.bold);
+    EXPECT_NEAR(head.x + Width("Mass of Sieve", 13, true) / 2, middle(4), kTwip);
+    EXPECT_NEAR(head.y, Y(4.5), kTwip);
+}
+
+TEST_F(SievePage, TheRemarkTurnsAtExactlyTwoPercent)
+{
+    const std::string opening = "Remark :  Percent mass loss due to sieving of this test is ";
+    const auto remark = [&](std::string_view loss, std::string_view ending) {
+        sheet->txtErr.SetText(loss);
+        const TextItem found = TextOn(Printed(), opening + std::string(loss) + std::string(ending));
+        EXPECT_NEAR(found.x, 500, kTwip) << loss;
+        EXPECT_NEAR(found.y, Y(17.5), kTwip) << loss;
+    };
+    remark("1.99%", " which is less than 2% then the test need not be rerun.");
+    remark("2.00%", " which is more than 2% then the test should be rerun.");
+    remark("12.50%", " which is more than 2% then the test should be rerun.");
+    remark("", " which is less than 2% then the test need not be rerun.");
+}
+
+TEST_F(SievePage, GrainSizesAreWhatStandsBehindTheSign)
+{
+    sheet->txtCc.SetText("");
+    sheet->txtD10.SetText("  D10 =  ? = 3 ");
+    const auto page = Printed();
+    const double line = kLine * 29.8;
+    EXPECT_NEAR(TextOn(page, "D60 (mm)").y, line, kTwip);
+    EXPECT_TRUE(TextOn(page, "D60 (mm)").font.bold);
+    EXPECT_NEAR(TextOn(page, "7.214").y, line + kLine, kTwip);
+    EXPECT_NEAR(TextOn(page, "7.214").x + Width("7.214") / 2, 500 + kColumn * 2.5, kTwip);
+    EXPECT_NEAR(TextOn(page, "? = 3").x + Width("? = 3") / 2, 500 + kColumn * 0.5, kTwip);
+    EXPECT_EQ(TextsOf(page, "41.04").size(), 1u);
+}
+
+TEST_F(SievePage, ClassesStandUnderTheirCaption)
+{
+    const auto page = Printed();
+    const TextItem caption = TextOn(page, "Engineering Soil Classification (LL = 22 % PI = 4 %)");
+    EXPECT_NEAR(caption.y, kLine * 33.8, kTwip);
+    EXPECT_TRUE(caption.font.bold);
+    EXPECT_NEAR(TextOn(page, "Unified Soil Classification System (USCS)").y, kLine * 34.8, kTwip);
+    EXPECT_NEAR(TextOn(page, "Well-graded gravel with silty clay and sand").y, kLine * 36.8, kTwip);
+    EXPECT_NEAR(TextOn(page, "AASHTO Classification System").y, kLine * 37.8, kTwip);
+    EXPECT_NEAR(TextOn(page, "A-1-a(0)").y, kLine * 38.8, kTwip);
+    EXPECT_NEAR(TextOn(page, "Stone or gravel fragments").y, kLine * 39.8, kTwip);
+    const TextItem name = TextOn(page, "Well-graded gravel with silty clay and sand");
+    EXPECT_GT(name.x, 500 + 10906 / 6.0 + 150);
+    EXPECT_LT(name.x + Width(name.text), 500 + 5 * kColumn);
+}
+
+TEST_F(SievePage, TheDryMethodStillPrintsTheMassAfterWashing)
+{
+    sheet->optNo.Choose();
+    sheet->txtDwp.SetText("480");
+    const auto page = Printed();
+    EXPECT_EQ(TextsOf(page, "Dry Sieving Method").size(), 1u);
+    EXPECT_EQ(TextsOf(page, "480.00").size(), 1u);
+}
+
+// Page on its side: xl = 16838 x 1.5 / 11 = 2296.09, xr = 15307.27, D = 13011 \ 4 = 3252, yt = 3348.56, yb = 9673.63,
+// ten percent are 632.51.
+constexpr double kChartLeft = 16838 * 1.5 / 11, kChartRight = 16838.0 * 10 / 11, kDecade = 3252;
+constexpr double kChartTop = 11906 * 4.5 / 16, kChartBottom = 11906.0 * 13 / 16;
+
+double ChartX(double millimetre)
+{
+    return kChartLeft + 2 * kDecade - std::log10(millimetre) * kDecade;
+}
+
+double ChartY(double percent)
+{
+    return kChartBottom - percent * (kChartBottom - kChartTop) / 100;
+}
+
+TEST_F(SievePage, TheChartHasThickDecadesAndAFrame)
+{
+    const auto page = PrintedChart();
+    EXPECT_TRUE(HasBox(page, kChartLeft, kChartTop, kChartRight, kChartBottom, 10));
+    std::vector<double> decades;
+    for (const LineItem& line : ItemsOf<LineItem>(page))
+        if (line.pen.width == 10) decades.push_back(line.x1);
+    ASSERT_EQ(decades.size(), 4u);
+    for (std::size_t i = 0; i < 4; ++i)
+        EXPECT_NEAR(decades[i], kChartRight - kDecade * (static_cast<double>(i) + 1), kTwip);
+    EXPECT_NEAR(TextOn(page, "10.00").x + Width("10.00", 14) / 2, kChartRight - 3 * kDecade - 10, kTwip);
+    EXPECT_NEAR(TextOn(page, "0.01").x + Width("0.01", 14) / 2, kChartRight, kTwip);
+    EXPECT_NEAR(TextOn(page, "0.01").y, kChartBottom + 200, kTwip);
+    EXPECT_NEAR(TextOn(page, "50").y, ChartY(50) - 365.4 / 2, kTwip);
+    EXPECT_NEAR(TextOn(page, "50").x, kChartLeft - 600, kTwip);
+}
+
+TEST_F(SievePage, TheLegendStandsAboveTheSieveLabelsAboveThePlot)
+{
+    const auto page = PrintedChart();
+    EXPECT_NEAR(TextOn(page, "Gravel").y, kChartTop - 4 * 365.4, kTwip);
+    EXPECT_NEAR(TextOn(page, "Gravel").x + Width("Gravel", 14) / 2, (ChartX(75) + ChartX(4.75)) / 2, kTwip);
+    EXPECT_NEAR(TextOn(page, "Medium").y, kChartTop - 3 * 365.4, kTwip);
+    EXPECT_NEAR(TextOn(page, "Medium").x + Width("Medium", 14) / 2, (ChartX(2) + ChartX(0.425)) / 2, kTwip);
+    EXPECT_NEAR(TextOn(page, "0.425").y, kChartTop - 2 * 365.4, kTwip);
+    EXPECT_NEAR(TextOn(page, "0.425").x + Width("0.425", 14) / 2, ChartX(0.425), kTwip);
+    EXPECT_NEAR(TextOn(page, "Unified and USBR").x + Width("Unified and USBR", 14), kChartRight, kTwip);
+    EXPECT_NEAR(TextOn(page, "3''").y, kChartTop - 365.4, kTwip);
+    EXPECT_NEAR(TextOn(page, "3''").x + Width("3''", 14) / 2, ChartX(75), kTwip);
+    EXPECT_NEAR(TextOn(page, "U.S. Standard Sieve Size").x + Width("U.S. Standard Sieve Size", 14), kChartRight, kTwip);
+    EXPECT_EQ(TextsOf(page, "#16").size(), 0u);
+}
+
+TEST_F(SievePage, TitlesFooterAndCaptionPicture)
+{
+    const auto page = PrintedChart();
+    const double middle = (kChartLeft + kChartRight) / 2;
+    const TextItem title = TextOn(page, "PATICLE SIZE DISTRIBUTION CURVE");
+    EXPECT_NEAR(title.x + Width(title.text, 14, true) / 2, middle, kTwip);
+    EXPECT_NEAR(title.y, 700, kTwip);
+    EXPECT_TRUE(title.font.bold);
+    EXPECT_NEAR(TextOn(page, "Grain Size(mm)").y, kChartBottom + 2 * 365.4, kTwip);
+    EXPECT_NEAR(TextOn(page, "Database File is /home/road.mdb").y, 10906, kTwip);
+    EXPECT_NEAR(TextOn(page, "Page 2 ").x + Width("Page 2 ", 12), kChartRight, kTwip);
+    const auto pictures = ItemsOf<PictureItem>(page);
+    ASSERT_EQ(pictures.size(), 1u);
+    EXPECT_EQ(pictures[0].name, "Image3");
+    EXPECT_EQ(pictures[0].x, 700);
+    EXPECT_EQ(pictures[0].y, 5600);
+    EXPECT_EQ(pictures[0].width, 550);
+    EXPECT_EQ(pictures[0].height, 1800);
+}
+
+TEST_F(SievePage, MarksTakeTheirSizeFromTheLabelAndThePanStandsBelowTheLast)
+{
+    sheet->MSHSieve(5, sieve::Opening) = "999";  // of No. 10; the label counts
+    const auto marks = ItemsOf<CircleItem>(PrintedChart());
+    ASSERT_EQ(marks.size(), 9u);  // row 10 has no name
+    EXPECT_NEAR(marks[4].x, ChartX(2), kTwip);
+    EXPECT_NEAR(marks[4].y, ChartY(32.9), kTwip);
+    EXPECT_EQ(marks[4].radius, 40);
+    EXPECT_EQ(marks[4].fill, (Colour{255, 128, 0}));
+    EXPECT_NEAR(marks[8].x, ChartX(0.075), kTwip);
+    EXPECT_NEAR(marks[8].y, ChartY(0), kTwip);
+}
+
+// No. 16 has a place on the preview only; printed, it is marked at the sieve above it.
+TEST_F(SievePage, NumberSixteenIsMarkedInItsPlaceOnThePreviewOnly)
+{
+    sheet->MSHSieve(6, sieve::Number) = "     #16";
+    EXPECT_NEAR(ItemsOf<CircleItem>(PrintedChart()).at(5).x, ChartX(2), kTwip);
+    EXPECT_NEAR(ItemsOf<CircleItem>(ShownChart()).at(5).x, ChartX(1.19), kTwip);
+}
+
+TEST_F(SievePage, ALabelWithoutASizeBeforeAnyOtherIsNotMarked)
+{
+    sheet->MSHSieve(1, sieve::Number) = "     1 1/2 in";
+    EXPECT_EQ(ItemsOf<CircleItem>(PrintedChart()).size(), 8u);
+}
+
+// With a smooth curve the points are drawn, without one the spline; where the sheet never made the spline, the points.
+TEST_F(SievePage, TheCurveComesFromTheGridThatTheMethodNames)
+{
+    EXPECT_EQ(Curve().size(), 8u);
+    sheet->chkSmooth.SetValue(true);
+    EXPECT_EQ(Curve().size(), 8u);
+    sheet->cmdgraph.Press();
+    EXPECT_EQ(Curve().size(), 8u);
+    sheet->chkSmooth.SetValue(false);
+    EXPECT_EQ(Curve().size(), static_cast<std::size_t>(sheet->MSH3.Rows()) - 1);
+    EXPECT_NEAR(Curve().front().x, ChartX(25), kTwip);
+    EXPECT_NEAR(Curve().front().y, ChartY(100), kTwip);
+}
+
+TEST_F(SievePage, AnEmptySheetHasPagesToo)
+{
+    bench.program.Unload("frmSieve");
+    sheet = dynamic_cast<frmSieve*>(&bench.Open(terravane::Test::SieSoil, "frmSieve"));
+    EXPECT_EQ(Pages().size(), 3u);
+    EXPECT_TRUE(Curve().empty());
+    EXPECT_TRUE(ItemsOf<CircleItem>(PrintedChart()).empty());
+}
+
+TEST_F(SievePage, ThePreviewTurnsThePageAndNotThePrinter)
+{
+    frmPreview& preview = bench.Preview();
+    EXPECT_TRUE(preview.cmdNext.Visible());
+    preview.cmdNext.Press();
+    EXPECT_EQ(preview.cmdNext.Caption(), "<<Back");
+    EXPECT_EQ(preview.picView.Width, 16838);
+    EXPECT_EQ(preview.picView.Height, 11906);
+    EXPECT_EQ(bench.program.printer.PageOrientation(), Orientation::Portrait);
+    EXPECT_EQ(TextsOf(preview.picView.Items(), "PATICLE SIZE DISTRIBUTION CURVE").size(), 1u);
+    preview.cmdNext.Press();
+    EXPECT_EQ(preview.picView.Width, 11906);
+    EXPECT_EQ(TextsOf(preview.picView.Items(), "AASHTO Classification System").size(), 1u);
+}
+
+TEST_F(SievePage, ThePrinterStaysOnItsSideAfterAPrint)
+{
+    bench.Preview().Toolbar1.Press(1);
+    ASSERT_EQ(bench.printed.size(), 1u);
+    EXPECT_EQ(bench.printed[0].size(), 3u);
+    EXPECT_EQ(bench.program.printer.PageOrientation(), Orientation::Landscape);
+}
+
+}  // namespace
+}  // namespace terravane
