@@ -216,6 +216,7 @@ Subscription Bind(TabControl& tabs, QTabWidget& view)
 
 Subscription Bind(Toolbar& bar, QToolBar& view)
 {
+    view.setAccessibleName(ToQt(bar.Name()));
     std::vector<QToolButton*> tools;
     for (int number = 1; number <= static_cast<int>(bar.Buttons().size()); ++number) {
         tools.push_back(MakeToolButton(bar, number, view));
@@ -229,6 +230,7 @@ Subscription Bind(Toolbar& bar, QToolBar& view)
 Subscription Bind(StatusBar& bar, QStatusBar& view)
 {
     view.setSizeGripEnabled(false);
+    view.setAccessibleName(QObject::tr("Project file and time"));
     std::vector<QLabel*> panels;
     for (std::size_t number = 1; number <= bar.PanelCount(); ++number) {
         panels.push_back(new QLabel(&view));

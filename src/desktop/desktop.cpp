@@ -1,6 +1,7 @@
 #include "desktop/desktop.h"
 
 #include <algorithm>
+#include <vector>
 
 #include "desktop/preview_window.h"
 
@@ -32,10 +33,11 @@ Desktop::Desktop(Program& program, QtSurroundings& surroundings)
 Desktop::~Desktop()
 {
     following_ = {};
+    std::vector<QWidget*> tops;  // the others go with the window that they belong to
     for (const auto& [form, window] : windows_) {
-        if (!dynamic_cast<FrameWindow*>(window)) delete window;
+        if (!window->parentWidget()) tops.push_back(window);
     }
-    delete FrameOpen();
+    for (QWidget* top : tops) delete top;
 }
 
 QWidget* Desktop::WindowOf(const Form& form) const

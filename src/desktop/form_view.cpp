@@ -223,6 +223,7 @@ QWidget* FormView::MakeTabs(const Place& place)
         box->addWidget(Make(place.parts[i]));
         tabs->addTab(page, QString::fromStdString(control.TabCaption(static_cast<int>(i))));
     }
+    bindings_.push_back(BindFurniture(control, *tabs));
     bindings_.push_back(Bind(control, *tabs));
     Watch(control, *tabs);
     return tabs;
@@ -341,10 +342,10 @@ QWidget* FormView::MakeControl(Control& control)
 void FormView::Watch(Control& control, QWidget& view)
 {
     views_[&control] = &view;
-    for (QWidget* child : view.findChildren<QWidget*>()) {
-        if (child->focusProxy() != &view && !dynamic_cast<QLineEdit*>(child)) continue;
-        controls_[child] = &control;
-        child->installEventFilter(this);
+    // A combo's and a date's own box takes the keys in their stead.
+    for (auto* box : view.findChildren<QLineEdit*>(Qt::FindDirectChildrenOnly)) {
+        controls_[box] = &control;
+        box->installEventFilter(this);
     }
     controls_[&view] = &control;
     view.installEventFilter(this);

@@ -54,7 +54,8 @@ void DesktopFixture::MakeProject(const std::string& name)
 void DesktopFixture::OpenSheet(const std::string& key)
 {
     FormNamed("mdiBack").Get<Toolbar>("tbrLab").PressItem(key);
-    QCoreApplication::processEvents();
+    Window("mdiBack")->activateWindow();
+    (void)QTest::qWaitForWindowActive(Window("mdiBack"));
 }
 
 void DesktopFixture::FillCompaction()

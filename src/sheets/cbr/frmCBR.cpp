@@ -145,6 +145,10 @@ void frmCBR::WireEvents()
     dtpSwell.Change = [this] { dtpSwell_Change(); };
     dtpSwell.KeyPress = [this](Key key) { return dtpSwell_KeyPress(key); };
     dtpSwell.LostFocus = [this] { dtpSwell.SetVisible(false); };
+    cmdView.Click = [this] {
+        DropSpareRow();
+        cmdView_Click();
+    };
     tblMenu.ButtonClick = [this](int number) {
         DropSpareRow();
         tblMenu_ButtonClick(number);

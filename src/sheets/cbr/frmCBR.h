@@ -19,7 +19,8 @@ namespace cbr {
 inline constexpr int kMoulds = 3;
 inline constexpr int kColumns = 6;  // cans and moulds: three before soaking, three after
 inline constexpr int kMostPenetrations = 20;
-inline constexpr int kValueTab = 3;  // of SSTData
+inline constexpr int kValueTab = 3;         // of SSTData
+inline constexpr double kScanStep = 0.001;  // in, from point to point of a curve
 
 /// Rows of MSHWater; columns 1 to 6 are the cans. Masses in g.
 namespace water {
@@ -73,7 +74,7 @@ struct Curve {
 struct TangentPoint {
     double x = 0;      // in
     double y = 0;      // lb/in²
-    double slope = 0;  // lb/in² a inch
+    double slope = 0;  // lb/in² an inch
 };
 
 /// Two stresses of neighbouring points as the correction takes them: a negative first one counts as 0, the second too
@@ -132,9 +133,9 @@ struct frmCBR : TestSheet {
     CommandButton cmdLPen{*this, "cmdLPen", "Load-Penetration Curve"};
     TextGrid mshLPC{*this, "mshLPC", cbr::result::kRows, cbr::kMoulds + 1};
     Frame fraCorrection{*this, "fraCorrection", "Correction of Curves"};
-    CheckBox chkMold1{*this, "chkMold1", "Mold No.1"};
-    CheckBox chkMold2{*this, "chkMold2", "Mold No.2"};
-    CheckBox chkMold3{*this, "chkMold3", "Mold No.3"};
+    CheckBox chkMold1{*this, "chkMold1", ""};  // beside the labels
+    CheckBox chkMold2{*this, "chkMold2", ""};
+    CheckBox chkMold3{*this, "chkMold3", ""};
     Label lblMold1{*this, "lblMold1", "Mold No.1"};
     Label lblMold2{*this, "lblMold2", "Mold No.2"};
     Label lblMold3{*this, "lblMold3", "Mold No.3"};

@@ -18,8 +18,7 @@ namespace {
 using namespace cbr;
 
 constexpr int kDegree = 5;
-constexpr double kScanStep = 0.001;  // in
-constexpr double kScanEnd = 0.2;     // in, where the search for the tangent ends
+constexpr double kScanEnd = 0.2;  // in, where the search for the tangent ends
 
 /// Where the ratio is read and the stress of the standard stone there.
 struct Standard {

@@ -15,7 +15,6 @@ namespace {
 
 using namespace cbr;
 
-constexpr double kScanStep = 0.001;     // in
 constexpr double kTickDistance = 0.1;   // in
 constexpr double kTangentLength = 0.6;  // in
 constexpr Colour kTangentColour{192, 0, 192};

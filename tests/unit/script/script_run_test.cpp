@@ -86,10 +86,10 @@ TEST_F(ScriptRuns, HomeWithABrandFolderKeepsIt)
 
 TEST_F(ScriptRuns, BrandStoreMayComeFromAnotherFolder)
 {
-    options.home = Folder() + "shared";
+    options.home = Folder() + "laboratory";
     Run("brandsql \"UPDATE LOGO Set logo_ins ='Institute'\"\n");
     options.home.clear();
-    options.brand = Folder() + "shared/BrandList";
+    options.brand = Folder() + "laboratory/BrandList";
     const auto run = Run("brandsql \"SELECT * from LOGO'\"\n");
     EXPECT_NE(run.Text().find("Institute"), std::string::npos) << run.Text();
 }
