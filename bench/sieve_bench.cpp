@@ -40,9 +40,9 @@ struct FilledSheet {
         sheet.cmdSieve_Click();
         for (int row = 1; row <= kMostSieves; ++row) {
             sheet.MSHSieve(row, sieve::EmptySieve) = "400.0";
-            sheet.MSHSieve(row, sieve::SieveAndSoil) = row == 1 ? "400.0" : "500.5";
+            sheet.MSHSieve(row, sieve::SieveAndSoil) = row == 1 ? "400.0" : row == kMostSieves ? "700.0" : "500.5";
         }
-        sheet.txtGsoil.SetText("905");
+        sheet.txtGsoil.SetText("1104");
         sheet.txtLL.SetText("32");
         sheet.txtPL.SetText("18");
         sheet.cmdCal_Click();

@@ -22,7 +22,7 @@ void Refuse(Session& session, const std::string& asked, std::string_view why)
 /// Runs what a person does to a control, or answers why no person could.
 void Use(Session& session, const std::string& asked, const Control& control, const Handler& act)
 {
-    if (const auto why = WhyUnusable(session.program, control)) return Refuse(session, asked, *why);
+    if (const auto why = WhyUnusable(control)) return Refuse(session, asked, *why);
     session.program.Run(control.Owner().Name() + "." + control.Name(), act);
 }
 
@@ -151,7 +151,7 @@ void RunType(Session& session, Words words)
     auto* editor = EditorOver(grid, [&](const CellEditor& over) {
         return over.Range().Holds(row, column) && !grid.IsCalculated(row, column);
     });
-    const bool isOpen = !WhyUnusable(session.program, grid);
+    const bool isOpen = !WhyUnusable(grid);
     if (isOpen && (!editor || editor->Locked())) return Refuse(session, words[0], "locked");
     Use(session, words[0], grid, [&] {
         editor->OpenAt(row, column);

@@ -16,16 +16,6 @@ Control* FindInShownForms(const Program& program, std::string_view name)
     return nullptr;
 }
 
-/// A form under a modal one takes no key and no press.
-bool IsUnderModalForm(const Program& program, const Form& form)
-{
-    for (const auto& shown : program.ShownForms() | std::views::reverse) {
-        if (shown.form == &form) return false;
-        if (shown.modality == Modality::Modal) return true;
-    }
-    return false;
-}
-
 [[noreturn]] void FailMissing(std::string_view name)
 {
     throw LineFault("There is no control \"" + std::string(name) + "\".");
@@ -55,10 +45,10 @@ AskedProperty PropertyNamed(const Program& program, const std::string& asked)
     return {ControlNamed(program, asked.substr(0, point)), asked.substr(point + 1)};
 }
 
-std::optional<std::string_view> WhyUnusable(const Program& program, const Control& control)
+std::optional<std::string_view> WhyUnusable(const Control& control)
 {
     if (!control.Visible()) return "hidden";
-    if (!control.Enabled() || IsUnderModalForm(program, control.Owner())) return "disabled";
+    if (!control.Enabled()) return "disabled";
     const auto* box = dynamic_cast<const TextControl*>(&control);
     if (box && box->Locked()) return "locked";
     return std::nullopt;

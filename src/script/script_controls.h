@@ -34,8 +34,8 @@ struct AskedProperty {
 };
 AskedProperty PropertyNamed(const Program& program, const std::string& asked);
 
-/// Why a person could not use the control now: "hidden", "disabled" (also under a modal form), "locked" where
+/// Why a person could not use the control now: "hidden", "disabled", "locked" where
 /// it takes text; nothing where a person could.
-std::optional<std::string_view> WhyUnusable(const Program& program, const Control& control);
+std::optional<std::string_view> WhyUnusable(const Control& control);
 
 }  // namespace terravane

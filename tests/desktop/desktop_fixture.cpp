@@ -48,6 +48,7 @@ void DesktopFixture::MakeProject(const std::string& name)
     FormNamed("frmProject").Get<TextBox>("txtProject").Type("ถนนสาย ก-ข ตอน 1");
     FormNamed("frmProject").Get<TextBox>("txtLocation").Type("จ.เชียงใหม่");
     FormNamed("frmProject").Get<CommandButton>("cmdOK").Press();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);  // a dialog that is gone holds no focus
     QCoreApplication::processEvents();
 }
 

@@ -26,7 +26,8 @@ QColor StripColour(DesktopFixture& running)
 bool TestsCanBeOpened(DesktopFixture& running)
 {
     const auto buttons = running.Widget<QToolBar>("mdiBack", "tbrLab")->findChildren<QToolButton*>();
-    return std::ranges::all_of(buttons, [](const QToolButton* button) { return !button->menu() || button->isEnabled(); });
+    return std::ranges::all_of(buttons,
+                               [](const QToolButton* button) { return !button->menu() || button->isEnabled(); });
 }
 
 TEST(FrameWindow, BeginsRedWithoutATestToOpen)
