@@ -40,7 +40,8 @@ class CellPainter : public QStyledItemDelegate {
         const bool isTitle = index.column() == 0 && grid_.TitleColumns() > 0;
         const int side = isTitle ? Qt::AlignLeft : Qt::AlignHCenter;
         const int margin = isTitle ? 6 : 2;
-        painter->drawText(option.rect.adjusted(margin, 0, -margin, 0), side | Qt::AlignVCenter, index.data().toString());
+        painter->drawText(option.rect.adjusted(margin, 0, -margin, 0), side | Qt::AlignVCenter,
+                          index.data().toString());
     }
 
   private:

@@ -22,6 +22,10 @@ std::map<std::string_view, Place> AllLayouts()
         {"frmProject", GeneralDataLayout()},
         {"frmAbout", AboutLayout()},
         {"frmCompaction", CompactionLayout()},
+        {"frmAtterberg", AtterbergLayout()},
+        {"frmSpecific", SpecificLayout()},
+        {"frmSieve", SieveLayout()},
+        {"frmCBR", CbrLayout()},
     };
 }
 

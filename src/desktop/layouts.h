@@ -9,6 +9,10 @@
 namespace terravane {
 
 Place CompactionLayout();
+Place AtterbergLayout();
+Place SpecificLayout();
+Place SieveLayout();
+Place CbrLayout();
 Place GeneralDataLayout();
 Place AboutLayout();
 

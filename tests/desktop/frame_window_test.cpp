@@ -97,11 +97,11 @@ TEST(Layouts, EveryVisibleControlHasAPlace)
 {
     DesktopFixture running;
     running.MakeProject();
-    running.OpenSheet("mnuStd1");
-    running.PressMenu("mnuAbout");
     // Bars stand around the layout, editors over their grids; timers and hidden pictures are not seen.
-    for (const char* name : {"frmCompaction", "frmAbout"}) {
-        const Form& form = running.FormNamed(name);
+    for (const char* key : {"mnuStd1", "mnuAtt1", "mnuSpe1", "mnuSie1", "mnuCBR1"}) {
+        running.OpenSheet(key);
+        const Form& form = *running.program.ShownForms().back().form;
+        const std::string& name = form.Name();
         const auto placed = PlacedControls(LayoutOf(name));
         const std::set<std::string> places(placed.begin(), placed.end());
         for (const Control* control : form.Controls()) {

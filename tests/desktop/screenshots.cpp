@@ -64,6 +64,16 @@ int main(int argc, char** argv)
     Keep(folder, "preview_50");
     running.FormNamed("frmPreview").Get<Toolbar>("Toolbar1").Press(2);
     CompactionPictures(running, folder, "mnuMod2", "crush");
+    for (const char* key : {"mnuAtt1", "mnuSpe2", "mnuSie1", "mnuCBR2"}) {
+        running.OpenSheet(key);
+        Form& sheet = *running.program.ShownForms().back().form;
+        auto& tabs = sheet.Get<TabControl>("SSTData");
+        for (int tab = 0; tab < tabs.Count(); ++tab) {
+            tabs.SetTabEnabled(tab, true);
+            tabs.SetTab(tab);
+            Keep(folder, (sheet.Name() + "_" + std::to_string(tab)).c_str());
+        }
+    }
     running.PressMenu("mnuAbout");
     Keep(folder, "about");
     return 0;

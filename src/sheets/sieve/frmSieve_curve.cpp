@@ -1,7 +1,6 @@
 // Plot Graph: the points of the curve, the spline through them, and the diameters that are read from polygon or spline.
 // The spline runs in millimetres, not in their logarithm, and its work grids hold every stage as text.
 #include <array>
-#include <cmath>
 
 #include "runtime/numbers.h"
 #include "runtime/text.h"

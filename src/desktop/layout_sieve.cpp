@@ -1,0 +1,51 @@
+// The sieve sheet: masses, the particle-size curve, the classifications.
+#include "desktop/layouts.h"
+
+namespace terravane {
+
+using namespace layout;
+
+namespace {
+
+Place MassesTab()
+{
+    return Row({
+        Column({Group("FraWt",
+                      {Row({One("optNo"), One("optYes"), Space()}), Fields({"txtGsoil", "txtDwp", "txtWl", "txtErr"})}),
+                Group("Frame10", {One("lstSieve", 1), Row({Space(), One("cmdSieve")})}, 1)},
+               2),
+        Column({Group("FraWt1", {One("MSHSieve", 1)}, 1), Row({Space(), One("cmdCal"), One("cmdView")})}, 4),
+    });
+}
+
+Place CurveTab()
+{
+    return Row({
+        Plot("picgraph1", "picGraph", 4),
+        Column(
+            {Fields({"txtP4", "txtP10", "txtP40", "txtP200"}), Fields({"txtD60", "txtD30", "txtD10", "txtCu", "txtCc"}),
+             One("chkEdit"), Row({One("chkSmooth"), Field("Text6")}),
+             Row({One("Option2"), One("Command5"), One("Command6")}), Space(), Row({Space(), One("cmdgraph")})},
+            2),
+    });
+}
+
+Place ClassesTab()
+{
+    return Row({
+        Plot("picChart1", "picChart", 3),
+        Column(
+            {Row({Field("txtLL"), Field("txtPL"), One("cmdAtt")}), Group("fraUSCS", {Fields({"txtSuscs", "txtNuscs"})}),
+             Group("fraAASHTO", {Fields({"txtSaash", "txtMtype"})}), Space(), Row({Space(), One("cmdClass")})},
+            3),
+    });
+}
+
+}  // namespace
+
+Place SieveLayout()
+{
+    return Column({Banner("txtLabName"), GeneralData(), Tabs("SSTData", {MassesTab(), CurveTab(), ClassesTab()})});
+}
+
+}  // namespace terravane
