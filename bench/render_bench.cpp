@@ -40,8 +40,7 @@ DisplayList FullPage()
             page.PrintOn(figure);
         }
     }
-    for (int point = 0; point < 2000; ++point)
-        page.PSet(500 + 5 * point, 16000 - 0.0005 * point * point, kMagenta);
+    for (int point = 0; point < 2000; ++point) page.PSet(500 + 5 * point, 16000 - 0.0005 * point * point, kMagenta);
     return *page.Image();
 }
 

@@ -27,10 +27,7 @@ class Cell {
     operator std::string_view() const { return Text(); }
     const std::string& Text() const;
     friend bool operator==(const Cell& cell, std::string_view text) { return cell.Text() == text; }
-    friend std::ostream& operator<<(std::ostream& out, const Cell& cell)
-    {
-        return out << '"' << cell.Text() << '"';
-    }
+    friend std::ostream& operator<<(std::ostream& out, const Cell& cell) { return out << '"' << cell.Text() << '"'; }
 
   private:
     TextGrid& grid_;

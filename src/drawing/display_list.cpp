@@ -104,9 +104,8 @@ std::string ColourText(Colour colour)
 
 bool PictureItem::operator==(const PictureItem& other) const
 {
-    return name == other.name && x == other.x && y == other.y && width == other.width &&
-           height == other.height && SameContent(picture, other.picture) &&
-           SameContent(drawing, other.drawing);
+    return name == other.name && x == other.x && y == other.y && width == other.width && height == other.height &&
+           SameContent(picture, other.picture) && SameContent(drawing, other.drawing);
 }
 
 DrawnItem Placed(const DrawnItem& item, double dx, double dy, double sx, double sy)

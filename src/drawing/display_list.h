@@ -115,8 +115,7 @@ struct PictureItem {
     bool operator==(const PictureItem& other) const;  // compares contents, not addresses
 };
 
-using DrawnItem =
-    std::variant<TextItem, LineItem, PolylineItem, BoxItem, FillItem, CircleItem, PointItem, PictureItem>;
+using DrawnItem = std::variant<TextItem, LineItem, PolylineItem, BoxItem, FillItem, CircleItem, PointItem, PictureItem>;
 
 /// One surface's content: its size in twips and what was drawn on it.
 struct DisplayList {

@@ -79,15 +79,15 @@ void DrawingSurface::PSet(double x, double y, Colour colour)
     items_.emplace_back(PointItem{x, y, DrawWidth, colour});
 }
 
-void DrawingSurface::PaintPicture(const std::shared_ptr<const Picture>& picture, double x, double y,
-                                  double width, double height)
+void DrawingSurface::PaintPicture(const std::shared_ptr<const Picture>& picture, double x, double y, double width,
+                                  double height)
 {
     if (!picture) throw RuntimeError(error::kInvalidPicture);
     items_.emplace_back(PictureItem{picture->name, x, y, width, height, picture, nullptr});
 }
 
-void DrawingSurface::PaintPicture(std::string name, const std::shared_ptr<const DisplayList>& drawing,
-                                  double x, double y, double width, double height)
+void DrawingSurface::PaintPicture(std::string name, const std::shared_ptr<const DisplayList>& drawing, double x,
+                                  double y, double width, double height)
 {
     if (!drawing) throw RuntimeError(error::kInvalidPicture, "Invalid picture: " + name);
     items_.emplace_back(PictureItem{std::move(name), x, y, width, height, nullptr, drawing});

@@ -54,8 +54,7 @@ class DrawingSurface {
     void Circle(double x, double y, double radius);
     void PSet(double x, double y, Colour colour);
 
-    void PaintPicture(const std::shared_ptr<const Picture>& picture, double x, double y, double width,
-                      double height);
+    void PaintPicture(const std::shared_ptr<const Picture>& picture, double x, double y, double width, double height);
     /// Another surface's present content, under the name of its control.
     void PaintPicture(std::string name, const std::shared_ptr<const DisplayList>& drawing, double x, double y,
                       double width, double height);

@@ -49,8 +49,7 @@ extern const FaceAdvances kLiberationSerifBoldItalic;
 inline std::optional<std::size_t> AdvancePlace(char32_t character) noexcept
 {
     for (const AdvanceBlock& block : kBlocks)
-        if (character >= block.first && character <= block.last)
-            return block.start + (character - block.first);
+        if (character >= block.first && character <= block.last) return block.start + (character - block.first);
     return std::nullopt;
 }
 

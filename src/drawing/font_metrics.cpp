@@ -108,9 +108,9 @@ double TwipsPerUnit(const FontSubstitute& substitute, const Font& font) noexcept
 
 const FontSubstitute& SubstituteFor(std::string_view fontName) noexcept
 {
-    const auto found =
-        std::find_if(kSubstitutes.begin(), kSubstitutes.end(),
-                     [&](const FontSubstitute& substitute) { return SameName(substitute.asked, fontName); });
+    const auto found = std::find_if(kSubstitutes.begin(), kSubstitutes.end(), [&](const FontSubstitute& substitute) {
+        return SameName(substitute.asked, fontName);
+    });
     return found == kSubstitutes.end() ? kSubstitutes.front() : *found;
 }
 

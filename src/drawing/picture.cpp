@@ -35,17 +35,13 @@ class Header {
   public:
     Header(const std::string& name, const Bytes& bytes) : name_(name), bytes_(bytes) {}
 
-    [[noreturn]] void Damaged() const
-    {
-        throw RuntimeError(error::kInvalidPicture, "Invalid picture: " + name_);
-    }
+    [[noreturn]] void Damaged() const { throw RuntimeError(error::kInvalidPicture, "Invalid picture: " + name_); }
 
     bool StartsWith(std::string_view signature) const
     {
         return bytes_.size() >= signature.size() &&
-               std::equal(
-                   signature.begin(), signature.end(), bytes_.begin(),
-                   [](char wanted, std::uint8_t byte) { return static_cast<std::uint8_t>(wanted) == byte; });
+               std::equal(signature.begin(), signature.end(), bytes_.begin(),
+                          [](char wanted, std::uint8_t byte) { return static_cast<std::uint8_t>(wanted) == byte; });
     }
 
     std::uint32_t Byte(std::size_t at) const
@@ -84,8 +80,7 @@ PictureSize JpegSize(const Header& header)
         if (header.Byte(at) != 0xFF) header.Damaged();
         const std::uint32_t marker = header.Byte(at + 1);
         if (IsFrame(marker)) return {header.Big16(at + 7), header.Big16(at + 5)};
-        if (marker == kStartOfScan || marker == kEndOfImage)
-            header.Damaged();  // the size comes before the scan
+        if (marker == kStartOfScan || marker == kEndOfImage) header.Damaged();  // the size comes before the scan
         if (marker == 0xFF)
             at += 1;  // a byte of padding
         else
@@ -129,18 +124,15 @@ struct Kind {
 using namespace std::string_view_literals;
 
 constexpr std::array kKinds{
-    Kind{"\xFF\xD8\xFF"sv, PictureFormat::Jpeg, JpegSize},
-    Kind{"\x89PNG\r\n\x1A\n"sv, PictureFormat::Png, PngSize},
-    Kind{"GIF87a"sv, PictureFormat::Gif, GifSize},
-    Kind{"GIF89a"sv, PictureFormat::Gif, GifSize},
-    Kind{"\0\0\1\0"sv, PictureFormat::Ico, IcoSize},
-    Kind{"BM"sv, PictureFormat::Bmp, BmpSize},
+    Kind{"\xFF\xD8\xFF"sv, PictureFormat::Jpeg, JpegSize}, Kind{"\x89PNG\r\n\x1A\n"sv, PictureFormat::Png, PngSize},
+    Kind{"GIF87a"sv, PictureFormat::Gif, GifSize},         Kind{"GIF89a"sv, PictureFormat::Gif, GifSize},
+    Kind{"\0\0\1\0"sv, PictureFormat::Ico, IcoSize},       Kind{"BM"sv, PictureFormat::Bmp, BmpSize},
 };
 
 const Kind& KindOf(const Header& header)
 {
-    const auto found = std::find_if(kKinds.begin(), kKinds.end(),
-                                    [&](const Kind& kind) { return header.StartsWith(kind.signature); });
+    const auto found =
+        std::find_if(kKinds.begin(), kKinds.end(), [&](const Kind& kind) { return header.StartsWith(kind.signature); });
     if (found == kKinds.end()) header.Damaged();
     return *found;
 }

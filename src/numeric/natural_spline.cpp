@@ -10,8 +10,8 @@ namespace terravane {
 namespace {
 
 /// The members of a row in the order of SplineColumn.
-constexpr std::array<double SplineRow::*, 5> kColumns{
-    &SplineRow::before, &SplineRow::diagonal, &SplineRow::after, &SplineRow::rightSide, &SplineRow::moment};
+constexpr std::array<double SplineRow::*, 5> kColumns{&SplineRow::before, &SplineRow::diagonal, &SplineRow::after,
+                                                      &SplineRow::rightSide, &SplineRow::moment};
 
 /// The tridiagonal system on its way from the points to the second derivatives, one step of the method a
 /// function.
@@ -55,10 +55,8 @@ class SplineSystem {
     void Eliminate(std::size_t i)
     {
         const SplineRow& above = rows_[i - 1];
-        Write(i, SplineColumn::kDiagonal,
-              rows_[i].diagonal - Divide(above.after * above.after, above.diagonal));
-        Write(i, SplineColumn::kRightSide,
-              rows_[i].rightSide - Divide(above.after * above.rightSide, above.diagonal));
+        Write(i, SplineColumn::kDiagonal, rows_[i].diagonal - Divide(above.after * above.after, above.diagonal));
+        Write(i, SplineColumn::kRightSide, rows_[i].rightSide - Divide(above.after * above.rightSide, above.diagonal));
     }
 
     void SubstituteBack()
@@ -67,8 +65,7 @@ class SplineSystem {
         Write(last, SplineColumn::kMoment, Divide(rows_[last].rightSide, rows_[last].diagonal));
         for (std::size_t i = last; i-- > 1;) {
             const SplineRow& row = rows_[i];
-            Write(i, SplineColumn::kMoment,
-                  Divide(row.rightSide - row.after * rows_[i + 1].moment, row.diagonal));
+            Write(i, SplineColumn::kMoment, Divide(row.rightSide - row.after * rows_[i + 1].moment, row.diagonal));
         }
     }
 
@@ -81,8 +78,8 @@ class SplineSystem {
 
 }  // namespace
 
-std::vector<SplineRow> NaturalSpline(std::span<const double> x, std::span<const double> y,
-                                     StageRounding rounded, const SplineListener& written)
+std::vector<SplineRow> NaturalSpline(std::span<const double> x, std::span<const double> y, StageRounding rounded,
+                                     const SplineListener& written)
 {
     return SplineSystem(x, y, rounded, written).Solve();
 }
@@ -95,8 +92,7 @@ double SplineValue(std::span<const SplineRow> rows, std::span<const double> x, s
     const double a = x[next] - at;
     const double b = at - x[interval];
     return ((Divide(a * a, h) - h) * a * rows[interval].moment) / 6 +
-           ((Divide(b * b, h) - h) * b * rows[next].moment) / 6 + Divide(a * y[interval], h) +
-           Divide(b * y[next], h);
+           ((Divide(b * b, h) - h) * b * rows[next].moment) / 6 + Divide(a * y[interval], h) + Divide(b * y[next], h);
 }
 
 }  // namespace terravane

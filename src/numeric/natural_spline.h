@@ -35,8 +35,8 @@ using SplineListener = std::function<void(std::size_t point, SplineColumn column
 /// x, y    equally long, rising or falling, in the order typed; nothing is sorted
 /// throws  RuntimeError 9 for fewer than two points; 11 or 6 at an interval of zero, as its quotient comes;
 ///         6 for two points: the back substitution divides two numbers that no step has written, 0/0
-std::vector<SplineRow> NaturalSpline(std::span<const double> x, std::span<const double> y,
-                                     StageRounding rounded, const SplineListener& written = {});
+std::vector<SplineRow> NaturalSpline(std::span<const double> x, std::span<const double> y, StageRounding rounded,
+                                     const SplineListener& written = {});
 
 /// The cubic of one interval at a place, which may lie outside of the interval.
 /// rows      as NaturalSpline made them of x and y

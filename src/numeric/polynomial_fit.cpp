@@ -35,8 +35,7 @@ Matrix NormalMatrix(const Sums& sums)
     const std::size_t order = sums.products.size();
     Matrix matrix(order, Row(order));
     for (std::size_t row = 0; row < order; ++row) {
-        for (std::size_t column = 0; column < order; ++column)
-            matrix[row][column] = sums.powers[row + column];
+        for (std::size_t column = 0; column < order; ++column) matrix[row][column] = sums.powers[row + column];
     }
     return matrix;
 }

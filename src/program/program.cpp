@@ -7,8 +7,7 @@
 
 namespace terravane {
 
-Program::Program(Surroundings& surroundings, FileSystem& files, std::string applicationPath,
-                 std::string brandPath)
+Program::Program(Surroundings& surroundings, FileSystem& files, std::string applicationPath, std::string brandPath)
     : surroundings_(surroundings),
       files_(files),
       applicationPath_(std::move(applicationPath)),
@@ -49,8 +48,7 @@ Form& Program::Load(std::string_view name)
 
 Form* Program::Loaded(std::string_view name) const
 {
-    const auto found =
-        std::ranges::find_if(loaded_, [name](const auto& form) { return SameName(form->Name(), name); });
+    const auto found = std::ranges::find_if(loaded_, [name](const auto& form) { return SameName(form->Name(), name); });
     return found == loaded_.end() ? nullptr : found->get();
 }
 
@@ -66,8 +64,7 @@ Form& Program::Show(std::string_view name, Modality modality)
 
 void Program::Unload(std::string_view name)
 {
-    const auto found =
-        std::ranges::find_if(loaded_, [name](const auto& form) { return SameName(form->Name(), name); });
+    const auto found = std::ranges::find_if(loaded_, [name](const auto& form) { return SameName(form->Name(), name); });
     if (found == loaded_.end()) return;
     unloaded_.push_back(std::move(*found));
     loaded_.erase(found);

@@ -32,8 +32,7 @@ class Program : public EventBoundary {
     /// applicationPath  the folder of the program's own files, as the system names it
     /// brandPath        another folder for the brand store, with its mark at the end; empty: "BrandList" in
     /// the program's
-    Program(Surroundings& surroundings, FileSystem& files, std::string applicationPath,
-            std::string brandPath = {});
+    Program(Surroundings& surroundings, FileSystem& files, std::string applicationPath, std::string brandPath = {});
     ~Program() override;
 
     Surroundings& Ask() const { return surroundings_; }
@@ -44,8 +43,7 @@ class Program : public EventBoundary {
     std::string CurrentProjectPath;  // full path of the project file; empty until one is chosen
     Test CurrentTest = Test::None;
     Material CurrentMaterial = Material::None;
-    std::string
-        BrandFolder;  // the brand store's folder with a mark at its end; each form computes it anew at load
+    std::string BrandFolder;  // the brand store's folder with a mark at its end; each form computes it anew at load
     jet::Connection ProjectConnection;
     jet::Connection BrandConnection;
     jet::Recordset CurrentRecordset;

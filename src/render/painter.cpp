@@ -212,8 +212,7 @@ class ItemPainter {
 void PaintList(QPainter& painter, const DisplayList& list)
 {
     const Saved saved(painter);
-    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
-                           QPainter::SmoothPixmapTransform);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing | QPainter::SmoothPixmapTransform);
     for (const DrawnItem& item : list.items) std::visit(ItemPainter(painter), item);
 }
 

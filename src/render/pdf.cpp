@@ -58,8 +58,7 @@ void PrintPages(QPagedPaintDevice& device, std::span<const DisplayList> pages)
     if (!painter.end()) throw RuntimeError(error::kPrinter);
 }
 
-void WritePdf(FileSystem& files, const std::string& path, std::span<const DisplayList> pages,
-              const std::string& title)
+void WritePdf(FileSystem& files, const std::string& path, std::span<const DisplayList> pages, const std::string& title)
 {
     EnsureGuiApplication();
     RequireFonts();

@@ -17,7 +17,6 @@ void PrintPages(QPagedPaintDevice& device, std::span<const DisplayList> pages);
 
 /// The pages as a PDF file with its fonts in it, lines and letters as vectors. The file is made in memory and
 /// put in place whole. Errors: 482 as above and for a missing font, and those of the file system.
-void WritePdf(FileSystem& files, const std::string& path, std::span<const DisplayList> pages,
-              const std::string& title);
+void WritePdf(FileSystem& files, const std::string& path, std::span<const DisplayList> pages, const std::string& title);
 
 }  // namespace terravane

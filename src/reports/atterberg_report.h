@@ -1,5 +1,5 @@
-/// The Atterberg limits page: the trials of both limits, the flow curve, a summary box, signatures. Values are printed as
-/// they stand on the sheet; nothing is computed.
+/// The Atterberg limits page: the trials of both limits, the flow curve, a summary box, signatures. Values are printed
+/// as they stand on the sheet; nothing is computed.
 #pragma once
 
 #include "program/program.h"

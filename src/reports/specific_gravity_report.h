@@ -1,5 +1,5 @@
-/// The specific gravity page: the calibration of the flask with its curve, the trials, signatures. Values are printed as
-/// they stand on the sheet; nothing is computed.
+/// The specific gravity page: the calibration of the flask with its curve, the trials, signatures. Values are printed
+/// as they stand on the sheet; nothing is computed.
 #pragma once
 
 #include "program/program.h"

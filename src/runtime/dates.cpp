@@ -150,8 +150,7 @@ std::string Format(Moment moment, std::string_view mask)
     std::string text;
     bool isBehindHour = false;
     while (!mask.empty()) {
-        const auto mark =
-            std::ranges::find_if(kMarks, [&](const Mark& m) { return mask.starts_with(m.text); });
+        const auto mark = std::ranges::find_if(kMarks, [&](const Mark& m) { return mask.starts_with(m.text); });
         if (mark == kMarks.end()) {
             text.push_back(mask.front());
             mask.remove_prefix(1);

@@ -50,8 +50,7 @@ constexpr Failure kDevice{EIO, error::kDeviceError, "Could not read or write", "
 
 [[noreturn]] void Throw(const Failure& failure, const std::string& path)
 {
-    throw RuntimeError(failure.number,
-                       std::string(failure.before) + " '" + path + "'" + failure.behind + ".");
+    throw RuntimeError(failure.number, std::string(failure.before) + " '" + path + "'" + failure.behind + ".");
 }
 
 [[noreturn]] void ThrowSystem(int system, const std::string& path)
@@ -114,8 +113,7 @@ std::string OrHere(const std::string& folder)
 void WriteAll(const Handle& file, std::span<const std::uint8_t> content, const std::string& path)
 {
     while (!content.empty()) {
-        const auto count =
-            Uninterrupted([&] { return write(file.Number(), content.data(), content.size()); });
+        const auto count = Uninterrupted([&] { return write(file.Number(), content.data(), content.size()); });
         if (count < 0) ThrowSystem(errno, path);
         if (count == 0) Throw(kDevice, path);
         content = content.subspan(static_cast<std::size_t>(count));
@@ -127,8 +125,7 @@ Bytes ReadAll(const Handle& file, std::size_t expected, const std::string& path)
     Bytes content(expected + 1);  // the byte over finds the end without another round
     std::size_t size = 0;
     for (;;) {
-        const auto count =
-            Uninterrupted([&] { return read(file.Number(), &content[size], content.size() - size); });
+        const auto count = Uninterrupted([&] { return read(file.Number(), &content[size], content.size() - size); });
         if (count < 0) ThrowSystem(errno, path);
         if (count == 0) break;
         size += static_cast<std::size_t>(count);
@@ -170,8 +167,7 @@ std::vector<std::string> DiskFileSystem::Names(const std::string& folder) const
     namespace fs = std::filesystem;
     std::error_code failure;
     std::vector<std::string> names;
-    for (fs::directory_iterator at(OrHere(folder), failure), end; !failure && at != end;
-         at.increment(failure)) {
+    for (fs::directory_iterator at(OrHere(folder), failure), end; !failure && at != end; at.increment(failure)) {
         names.push_back(at->path().filename().string());
     }
     if (failure) ThrowMaking(failure.value(), folder);
@@ -197,8 +193,7 @@ Bytes DiskFileSystem::Read(const std::string& path) const
     return ReadAll(file, size, path);
 }
 
-void DiskFileSystem::WriteNew(const std::string& path, std::span<const std::uint8_t> content,
-                              const std::string& like)
+void DiskFileSystem::WriteNew(const std::string& path, std::span<const std::uint8_t> content, const std::string& like)
 {
     const auto old = StatusOf(like);
     if (old) RefuseReadOnly(*old, like);

@@ -16,7 +16,7 @@ using Bytes = std::vector<std::uint8_t>;
 /// Failures are RuntimeErrors whose description names the path: 53 no such file, 76 no such folder, 70 or 75 not
 /// allowed, 61 disk full, 57 any other device failure.
 class FileSystem {
- public:
+  public:
     virtual ~FileSystem() = default;
 
     virtual bool Exists(const std::string& path) const = 0;
@@ -38,7 +38,7 @@ class FileSystem {
     /// Copies a whole file over the target, by ReplaceWhole.
     void Copy(const std::string& source, const std::string& target);
 
- protected:
+  protected:
     /// Makes a new file with the mode of `like` where that exists; nothing is on the disk for sure before SyncFile.
     virtual void WriteNew(const std::string& path, std::span<const std::uint8_t> content, const std::string& like) = 0;
     virtual void SyncFile(const std::string& path) = 0;
@@ -52,7 +52,7 @@ class FileSystem {
 
 /// The machine's own disk.
 class DiskFileSystem : public FileSystem {
- public:
+  public:
     bool Exists(const std::string& path) const override;
     bool IsFolder(const std::string& path) const override;
     bool IsWritableFolder(const std::string& path) const override;
@@ -60,7 +60,7 @@ class DiskFileSystem : public FileSystem {
     void MakeFolders(const std::string& path) override;
     Bytes Read(const std::string& path) const override;
 
- protected:
+  protected:
     void WriteNew(const std::string& path, std::span<const std::uint8_t> content, const std::string& like) override;
     void SyncFile(const std::string& path) override;
     void Rename(const std::string& from, const std::string& to) override;

@@ -77,9 +77,9 @@ void Increment(std::string& digits)
 std::string ScaledDigits(double magnitude, int places)
 {
     std::array<char, 32> text;  // d.dddddddddddddde±xxx
-    const auto end = std::to_chars(text.data(), text.data() + text.size(), magnitude,
-                                   std::chars_format::scientific, kDigits - 1)
-                         .ptr;
+    const auto end =
+        std::to_chars(text.data(), text.data() + text.size(), magnitude, std::chars_format::scientific, kDigits - 1)
+            .ptr;
     std::string digits(1, text[0]);
     digits.append(&text[2], kDigits - 1);
     const bool isSmall = text[kDigits + 2] == '-';

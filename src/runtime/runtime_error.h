@@ -31,7 +31,7 @@ inline constexpr int kDialogCancelled = 32755;
 /// number       the platform's number; engine failures carry the engine's (negative) ones
 /// description  one English sentence for the person at the machine; it names the file, field or value concerned
 class RuntimeError : public std::runtime_error {
- public:
+  public:
     /// With the platform's own description of the number, "Division by zero" for 11.
     explicit RuntimeError(int number);
     RuntimeError(int number, const std::string& description);
@@ -39,7 +39,7 @@ class RuntimeError : public std::runtime_error {
     int Number() const noexcept { return number_; }
     std::string Description() const { return what(); }
 
- private:
+  private:
     int number_;
 };
 

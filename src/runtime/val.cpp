@@ -13,7 +13,7 @@ namespace {
 constexpr std::string_view kBlanks = " \t\r\n";
 constexpr std::uint64_t kLargestExact = std::uint64_t{1} << 53;  // whole numbers up to here are doubles
 constexpr int kAccumulated = 18;                                 // digits that a 64-bit number always holds
-constexpr long long kFarExponent = 1'000'000'000'000;  // beyond it no mantissa in memory brings one back
+constexpr long long kFarExponent = 1'000'000'000'000;            // beyond it no mantissa in memory brings one back
 
 constexpr bool IsDigit(char c)
 {

@@ -13,8 +13,7 @@ std::string CreateTable(const TableSchema& table)
     std::string statement = "CREATE TABLE " + std::string(table.name);
     char separator = '(';
     for (const ColumnSchema& column : table.columns) {
-        statement +=
-            separator + table.ColumnName(column.suffix) + " text(" + std::to_string(column.length) + ")";
+        statement += separator + table.ColumnName(column.suffix) + " text(" + std::to_string(column.length) + ")";
         separator = ',';
     }
     return statement + ")";

@@ -18,43 +18,37 @@ constexpr std::array kHead{
 
 /// Standard and modified compaction, a trial a row.
 constexpr std::array kCompaction{
-    ColumnSchema{"ID", 10},    ColumnSchema{"date", 10},  ColumnSchema{"soil", 20},
-    ColumnSchema{"test", 50},  ColumnSchema{"check", 50}, ColumnSchema{"height", 10},
-    ColumnSchema{"dia", 10},   ColumnSchema{"blow", 10},  ColumnSchema{"layer", 10},
-    ColumnSchema{"wt", 10},    ColumnSchema{"can", 5},    ColumnSchema{"wcanw", 10},
-    ColumnSchema{"wcand", 10}, ColumnSchema{"wcan", 10},  ColumnSchema{"awc", 5},
-    ColumnSchema{"wsm", 10},   ColumnSchema{"wm", 10},    ColumnSchema{"omc", 10},
-    ColumnSchema{"mdd", 10},   ColumnSchema{"gs", 10},
+    ColumnSchema{"ID", 10},    ColumnSchema{"date", 10},   ColumnSchema{"soil", 20}, ColumnSchema{"test", 50},
+    ColumnSchema{"check", 50}, ColumnSchema{"height", 10}, ColumnSchema{"dia", 10},  ColumnSchema{"blow", 10},
+    ColumnSchema{"layer", 10}, ColumnSchema{"wt", 10},     ColumnSchema{"can", 5},   ColumnSchema{"wcanw", 10},
+    ColumnSchema{"wcand", 10}, ColumnSchema{"wcan", 10},   ColumnSchema{"awc", 5},   ColumnSchema{"wsm", 10},
+    ColumnSchema{"wm", 10},    ColumnSchema{"omc", 10},    ColumnSchema{"mdd", 10},  ColumnSchema{"gs", 10},
 };
 
 /// Field density, a test hole a row.
 constexpr std::array kDensity{
-    ColumnSchema{"ID", 10},     ColumnSchema{"date", 10}, ColumnSchema{"soil", 20},
-    ColumnSchema{"pos", 100},   ColumnSchema{"test", 50}, ColumnSchema{"check", 50},
-    ColumnSchema{"height", 10}, ColumnSchema{"dia", 10},  ColumnSchema{"imsjc", 10},
-    ColumnSchema{"fmsjc", 10},  ColumnSchema{"mem", 10},  ColumnSchema{"mms", 10},
-    ColumnSchema{"mmsp", 10},   ColumnSchema{"mp", 10},   ColumnSchema{"imsj", 10},
-    ColumnSchema{"fmsj", 10},   ColumnSchema{"mwsc", 10}, ColumnSchema{"mdsc", 10},
-    ColumnSchema{"mc", 10},     ColumnSchema{"mdd", 10},  ColumnSchema{"comp", 10},
+    ColumnSchema{"ID", 10},    ColumnSchema{"date", 10},  ColumnSchema{"soil", 20},   ColumnSchema{"pos", 100},
+    ColumnSchema{"test", 50},  ColumnSchema{"check", 50}, ColumnSchema{"height", 10}, ColumnSchema{"dia", 10},
+    ColumnSchema{"imsjc", 10}, ColumnSchema{"fmsjc", 10}, ColumnSchema{"mem", 10},    ColumnSchema{"mms", 10},
+    ColumnSchema{"mmsp", 10},  ColumnSchema{"mp", 10},    ColumnSchema{"imsj", 10},   ColumnSchema{"fmsj", 10},
+    ColumnSchema{"mwsc", 10},  ColumnSchema{"mdsc", 10},  ColumnSchema{"mc", 10},     ColumnSchema{"mdd", 10},
+    ColumnSchema{"comp", 10},
 };
 
 /// Specific gravity: seven points of the flask's calibration and, beside the first three, the determinations.
 constexpr std::array kSpecific{
-    ColumnSchema{"ID", 10},     ColumnSchema{"date", 10},  ColumnSchema{"soil", 20},
-    ColumnSchema{"test", 50},   ColumnSchema{"check", 50}, ColumnSchema{"temp1", 10},
-    ColumnSchema{"fwater", 10}, ColumnSchema{"temp2", 10}, ColumnSchema{"swsoil", 10},
-    ColumnSchema{"can", 10},    ColumnSchema{"dscan", 10}, ColumnSchema{"wcan", 10},
+    ColumnSchema{"ID", 10},     ColumnSchema{"date", 10},  ColumnSchema{"soil", 20},   ColumnSchema{"test", 50},
+    ColumnSchema{"check", 50},  ColumnSchema{"temp1", 10}, ColumnSchema{"fwater", 10}, ColumnSchema{"temp2", 10},
+    ColumnSchema{"swsoil", 10}, ColumnSchema{"can", 10},   ColumnSchema{"dscan", 10},  ColumnSchema{"wcan", 10},
     ColumnSchema{"gs", 10},
 };
 
 /// Atterberg limits, a trial of each limit a row.
 constexpr std::array kAtterberg{
-    ColumnSchema{"ID", 10},     ColumnSchema{"date", 10},   ColumnSchema{"soil", 20},
-    ColumnSchema{"test", 50},   ColumnSchema{"check", 50},  ColumnSchema{"blows", 10},
-    ColumnSchema{"wscan1", 10}, ColumnSchema{"dscan1", 10}, ColumnSchema{"wcan1", 10},
-    ColumnSchema{"wscan2", 10}, ColumnSchema{"dscan2", 10}, ColumnSchema{"wcan2", 10},
-    ColumnSchema{"LL", 10},     ColumnSchema{"PL", 10},     ColumnSchema{"PI", 10},
-    ColumnSchema{"FI", 10},
+    ColumnSchema{"ID", 10},    ColumnSchema{"date", 10},   ColumnSchema{"soil", 20},   ColumnSchema{"test", 50},
+    ColumnSchema{"check", 50}, ColumnSchema{"blows", 10},  ColumnSchema{"wscan1", 10}, ColumnSchema{"dscan1", 10},
+    ColumnSchema{"wcan1", 10}, ColumnSchema{"wscan2", 10}, ColumnSchema{"dscan2", 10}, ColumnSchema{"wcan2", 10},
+    ColumnSchema{"LL", 10},    ColumnSchema{"PL", 10},     ColumnSchema{"PI", 10},     ColumnSchema{"FI", 10},
 };
 
 /// Sieve analysis, a sieve a row.
@@ -67,25 +61,22 @@ constexpr std::array kSieve{
 
 /// CBR: six columns of moulds and six swell readings in the first rows, up to twenty penetrations.
 constexpr std::array kCbr{
-    ColumnSchema{"ID", 10},    ColumnSchema{"date", 10},  ColumnSchema{"soil", 20},
-    ColumnSchema{"test", 50},  ColumnSchema{"check", 50}, ColumnSchema{"typ", 10},
-    ColumnSchema{"mcan", 10},  ColumnSchema{"wcanw", 10}, ColumnSchema{"wcand", 10},
-    ColumnSchema{"wcan", 10},  ColumnSchema{"nb", 15},    ColumnSchema{"dm", 10},
-    ColumnSchema{"hs", 10},    ColumnSchema{"wms", 10},   ColumnSchema{"wm", 10},
-    ColumnSchema{"sd", 20},    ColumnSchema{"st", 10},    ColumnSchema{"set", 10},
-    ColumnSchema{"s1", 10},    ColumnSchema{"s2", 10},    ColumnSchema{"s3", 10},
-    ColumnSchema{"k", 10},     ColumnSchema{"sur", 10},   ColumnSchema{"pen", 10},
+    ColumnSchema{"ID", 10},    ColumnSchema{"date", 10},  ColumnSchema{"soil", 20},  ColumnSchema{"test", 50},
+    ColumnSchema{"check", 50}, ColumnSchema{"typ", 10},   ColumnSchema{"mcan", 10},  ColumnSchema{"wcanw", 10},
+    ColumnSchema{"wcand", 10}, ColumnSchema{"wcan", 10},  ColumnSchema{"nb", 15},    ColumnSchema{"dm", 10},
+    ColumnSchema{"hs", 10},    ColumnSchema{"wms", 10},   ColumnSchema{"wm", 10},    ColumnSchema{"sd", 20},
+    ColumnSchema{"st", 10},    ColumnSchema{"set", 10},   ColumnSchema{"s1", 10},    ColumnSchema{"s2", 10},
+    ColumnSchema{"s3", 10},    ColumnSchema{"k", 10},     ColumnSchema{"sur", 10},   ColumnSchema{"pen", 10},
     ColumnSchema{"read1", 10}, ColumnSchema{"read2", 10}, ColumnSchema{"read3", 10},
 };
 
 /// Posted results, a material a row.
 constexpr std::array kSummary{
-    ColumnSchema{"ID", 10},       ColumnSchema{"LL", 10},         ColumnSchema{"PL", 10},
-    ColumnSchema{"PI", 10},       ColumnSchema{"gravel", 10},     ColumnSchema{"sand", 10},
-    ColumnSchema{"finer", 10},    ColumnSchema{"USCS", 20},       ColumnSchema{"AASHTO", 20},
-    ColumnSchema{"Gs", 10},       ColumnSchema{"omcS", 10},       ColumnSchema{"mddS", 10},
-    ColumnSchema{"omcM", 10},     ColumnSchema{"mddM", 10},       ColumnSchema{"CBR", 10},
-    ColumnSchema{"swelling", 10}, ColumnSchema{"compaction", 10},
+    ColumnSchema{"ID", 10},         ColumnSchema{"LL", 10},   ColumnSchema{"PL", 10},    ColumnSchema{"PI", 10},
+    ColumnSchema{"gravel", 10},     ColumnSchema{"sand", 10}, ColumnSchema{"finer", 10}, ColumnSchema{"USCS", 20},
+    ColumnSchema{"AASHTO", 20},     ColumnSchema{"Gs", 10},   ColumnSchema{"omcS", 10},  ColumnSchema{"mddS", 10},
+    ColumnSchema{"omcM", 10},       ColumnSchema{"mddM", 10}, ColumnSchema{"CBR", 10},   ColumnSchema{"swelling", 10},
+    ColumnSchema{"compaction", 10},
 };
 
 constexpr std::array kProjectTables{

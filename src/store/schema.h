@@ -27,10 +27,7 @@ struct TableSchema {
     int rows;
     bool keyed = true;
 
-    std::string ColumnName(std::string_view suffix) const
-    {
-        return std::string(prefix) + std::string(suffix);
-    }
+    std::string ColumnName(std::string_view suffix) const { return std::string(prefix) + std::string(suffix); }
     std::string KeyName() const { return ColumnName(columns.front().suffix); }
 };
 

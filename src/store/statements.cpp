@@ -48,8 +48,7 @@ void OpenProjectConnection(Program& program)
 
 void OpenBrandConnection(Program& program)
 {
-    program.BrandConnection.Open(program.Files(),
-                                 FindWithoutCase(program.Files(), program.BrandFolder, "Logo.mdb"));
+    program.BrandConnection.Open(program.Files(), FindWithoutCase(program.Files(), program.BrandFolder, "Logo.mdb"));
 }
 
 jet::Recordset& Query(Program& program, jet::Connection& connection, std::string statement)

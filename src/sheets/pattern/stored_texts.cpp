@@ -119,8 +119,7 @@ void SaveTestSheet(TestSheet& sheet)
     Program& program = sheet.program;
     OpenProjectConnection(program);
     Execute(program, program.ProjectConnection,
-            UpdateHead(sheet.txtClient.Text(), sheet.txtProject.Text(), sheet.txtLocation.Text(),
-                       sheet.txtID.Text()));
+            UpdateHead(sheet.txtClient.Text(), sheet.txtProject.Text(), sheet.txtLocation.Text(), sheet.txtID.Text()));
     for (const TablePass& pass : sheet.TablePasses()) {
         const int records = RecordsToSave(sheet, pass);
         for (int record = 1; record <= records; ++record) SaveRecord(sheet, pass, record);

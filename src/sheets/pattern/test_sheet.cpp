@@ -9,9 +9,7 @@
 namespace terravane {
 
 TestSheet::TestSheet(Program& owner, std::string name, std::string caption, std::vector<std::string> tabs)
-    : Form(owner, std::move(name), std::move(caption)),
-      program(owner),
-      SSTData(*this, "SSTData", std::move(tabs))
+    : Form(owner, std::move(name), std::move(caption)), program(owner), SSTData(*this, "SSTData", std::move(tabs))
 {
     tblMenu.ButtonClick = [this](int number) { tblMenu_ButtonClick(number); };
     Timer1.Ticked = [this] { Timer1_Timer(); };

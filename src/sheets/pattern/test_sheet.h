@@ -72,9 +72,8 @@ struct TestSheet : Form {
     DatePicker DTPDate{*this, "DTPDate", "Date of Test"};
     TextBox txtLabName{*this, "txtLabName"};  // the banner: the test's Thai and English names in two lines
 
-    Toolbar tblMenu{*this,
-                    "tblMenu",
-                    {{"", "Save File", "Save File", {}, false}, {"", "Exit Screen", "Exit Screen", {}}}};
+    Toolbar tblMenu{
+        *this, "tblMenu", {{"", "Save File", "Save File", {}, false}, {"", "Exit Screen", "Exit Screen", {}}}};
     TabControl SSTData;
     CommandButton cmdCal{*this, "cmdCal", "Calculate"};
     CommandButton cmdView{*this, "cmdView", "Print Preview"};

@@ -29,8 +29,7 @@ TEST(Placed, StretchesAndMovesEveryKindOfItem)
     EXPECT_EQ(PlacedAs(PolylineItem{{{1, 2}, {3, 4}}, pen}), (PolylineItem{{{102, 206}, {106, 212}}, pen}));
     EXPECT_EQ(PlacedAs(BoxItem{1, 2, 3, 4, pen}), (BoxItem{102, 206, 106, 212, pen}));
     EXPECT_EQ(PlacedAs(FillItem{1, 2, 3, 4, kRed}), (FillItem{102, 206, 106, 212, kRed}));
-    EXPECT_EQ(PlacedAs(CircleItem{1, 2, 40, true, kWhite, pen}),
-              (CircleItem{102, 206, 120, true, kWhite, pen}));
+    EXPECT_EQ(PlacedAs(CircleItem{1, 2, 40, true, kWhite, pen}), (CircleItem{102, 206, 120, true, kWhite, pen}));
     EXPECT_EQ(PlacedAs(PointItem{1, 2, 4, kRed}), (PointItem{102, 206, 4, kRed}));
     EXPECT_EQ(PlacedAs(PictureItem{"logo.jpg", 1, 2, 10, 20, nullptr, nullptr}),
               (PictureItem{"logo.jpg", 102, 206, 20, 60, nullptr, nullptr}));
@@ -49,11 +48,9 @@ PictureItem Frame(std::string name, double x, double y, double width, double hei
 
 TEST(Flattened, PutsADrawingsItemsBehindItsPlace)
 {
-    const PictureItem plot =
-        Frame("picGraph", 500, 1000, 200, 100, Drawing(200, 100, {LineItem{1, 2, 3, 4, {}}}));
+    const PictureItem plot = Frame("picGraph", 500, 1000, 200, 100, Drawing(200, 100, {LineItem{1, 2, 3, 4, {}}}));
     const DisplayList page{11906, 16838, {FillItem{0, 0, 9, 9, kWhite}, plot, PointItem{7, 7, 1, kRed}}};
-    const std::vector<DrawnItem> expected{FillItem{0, 0, 9, 9, kWhite},
-                                          Frame("picGraph", 500, 1000, 200, 100, nullptr),
+    const std::vector<DrawnItem> expected{FillItem{0, 0, 9, 9, kWhite}, Frame("picGraph", 500, 1000, 200, 100, nullptr),
                                           LineItem{501, 1002, 503, 1004, {}}, PointItem{7, 7, 1, kRed}};
     EXPECT_EQ(Flattened(page), expected);
 }
@@ -73,8 +70,7 @@ TEST(Flattened, PlacesDrawingsWithinDrawings)
 
 TEST(Flattened, LeavesADrawingWithoutASizeAsLargeAsItIs)
 {
-    const auto flat =
-        Flattened({10, 10, {Frame("p", 5, 5, 3, 3, Drawing(0, 0, {PointItem{1, 1, 1, kRed}}))}});
+    const auto flat = Flattened({10, 10, {Frame("p", 5, 5, 3, 3, Drawing(0, 0, {PointItem{1, 1, 1, kRed}}))}});
     EXPECT_EQ(std::get<PointItem>(flat.at(1)), (PointItem{6, 6, 1, kRed}));
 }
 

@@ -208,8 +208,7 @@ TEST(DrawingSurface, RefusesToPaintNothing)
 {
     DrawingSurface page = Page();
     EXPECT_THROW(page.PaintPicture(std::shared_ptr<const Picture>(), 0, 0, 1, 1), RuntimeError);
-    EXPECT_THROW(page.PaintPicture("picGraph", std::shared_ptr<const DisplayList>(), 0, 0, 1, 1),
-                 RuntimeError);
+    EXPECT_THROW(page.PaintPicture("picGraph", std::shared_ptr<const DisplayList>(), 0, 0, 1, 1), RuntimeError);
 }
 
 TEST(DrawingSurface, MeasuresInTheFontInForce)

@@ -39,10 +39,9 @@ TEST_P(LomaWidth, IsTheSumOfItsLetters)
 }
 
 INSTANTIATE_TEST_SUITE_P(Pages, LomaWidth,
-                         testing::Values(Width{"n", 1139}, Width{"D", 1479}, Width{"0", 1139},
-                                         Width{".", 569}, Width{" ", 690}, Width{"Project Name : ", 14476},
-                                         Width{"Date of Test : ", 13346}, Width{"00000,00", 8542},
-                                         Width{"ที่ น้ำ", 4590},
+                         testing::Values(Width{"n", 1139}, Width{"D", 1479}, Width{"0", 1139}, Width{".", 569},
+                                         Width{" ", 690}, Width{"Project Name : ", 14476},
+                                         Width{"Date of Test : ", 13346}, Width{"00000,00", 8542}, Width{"ที่ น้ำ", 4590},
                                          Width{"..................................................", 28450},
                                          Width{"AVATo Wy. Te", 13784}, Width{"", 0}));
 
@@ -69,10 +68,8 @@ TEST(TextWidth, GivesNoRoomToThaiMarks)
 TEST(TextWidth, DoesNotDependOnSlantInLoma)
 {
     const std::string text = "Test of Soil การทดสอบ";
-    EXPECT_EQ(TextWidth({"DilleniaUPC", 15, false, false}, text),
-              TextWidth({"DilleniaUPC", 15, false, true}, text));
-    EXPECT_EQ(TextWidth({"DilleniaUPC", 15, true, false}, text),
-              TextWidth({"DilleniaUPC", 15, true, true}, text));
+    EXPECT_EQ(TextWidth({"DilleniaUPC", 15, false, false}, text), TextWidth({"DilleniaUPC", 15, false, true}, text));
+    EXPECT_EQ(TextWidth({"DilleniaUPC", 15, true, false}, text), TextWidth({"DilleniaUPC", 15, true, true}, text));
 }
 
 // Bold digits and dots are as wide as regular ones, so that columns stand whether bold or not.
@@ -155,9 +152,8 @@ TEST(FontRuns, AddUpToTheTextsWidth)
         const Font font{name, 12.5, true, false};
         const std::string text = "Sample α ที่ ≥ 12.5 漢 \U0001F600 end ";
         const auto runs = FontRuns(font, text);
-        const double sum =
-            std::accumulate(runs.begin(), runs.end(), 0.0,
-                            [](double width, const FontRun& run) { return width + run.width; });
+        const double sum = std::accumulate(runs.begin(), runs.end(), 0.0,
+                                           [](double width, const FontRun& run) { return width + run.width; });
         EXPECT_NEAR(sum, TextWidth(font, text), 1e-9) << name;
     }
 }
@@ -184,10 +180,9 @@ TEST(AdvanceBlocks, FillTheTablesWithoutGapOrOverlap)
 TEST(AdvanceBlocks, BeginWithTheBlankAndHaveAllOfAsciiInEveryFace)
 {
     EXPECT_EQ(AdvancePlace(U' '), 0u);
-    for (const FaceAdvances* face :
-         {&kLoma, &kLomaBold, &kLiberationSans, &kLiberationSansBold, &kLiberationSansItalic,
-          &kLiberationSansBoldItalic, &kLiberationSerif, &kLiberationSerifBold, &kLiberationSerifItalic,
-          &kLiberationSerifBoldItalic})
+    for (const FaceAdvances* face : {&kLoma, &kLomaBold, &kLiberationSans, &kLiberationSansBold, &kLiberationSansItalic,
+                                     &kLiberationSansBoldItalic, &kLiberationSerif, &kLiberationSerifBold,
+                                     &kLiberationSerifItalic, &kLiberationSerifBoldItalic})
         for (char32_t character = U' '; character <= U'~'; ++character)
             EXPECT_TRUE(face->Has(*AdvancePlace(character))) << static_cast<unsigned>(character);
     EXPECT_EQ(AdvancePlace(U'\n'), std::nullopt);

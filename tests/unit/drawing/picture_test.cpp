@@ -9,11 +9,10 @@ namespace {
 
 // Headers by hand, each of a picture 300 (0x012C) wide and 200 (0x00C8) high, but for the icon, which is 256
 // by 48.
-const Bytes kJpeg{0xFF, 0xD8,                        // start
-                  0xFF, 0xE0, 0,    4,    'J', 'F',  // an application segment, 4 long
-                  0xFF, 0xC4, 0,    3,    0,         // a table, whose number lies among the frames'
-                  0xFF, 0xFF, 0xC2, 0,    17,  8,
-                  0,    0xC8, 0x01, 0x2C, 3};  // padding, then a progressive frame
+const Bytes kJpeg{0xFF, 0xD8,                     // start
+                  0xFF, 0xE0, 0,    4, 'J', 'F',  // an application segment, 4 long
+                  0xFF, 0xC4, 0,    3, 0,         // a table, whose number lies among the frames'
+                  0xFF, 0xFF, 0xC2, 0, 17,  8,   0, 0xC8, 0x01, 0x2C, 3};  // padding, then a progressive frame
 const Bytes kPng{0x89, 'P', 'N', 'G', '\r', '\n', 0x1A, '\n', 0, 0, 0, 13,
                  'I',  'H', 'D', 'R', 0,    0,    0x01, 0x2C, 0, 0, 0, 0xC8};
 const Bytes kBmp{'B', 'M', 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 40, 0, 0, 0, 0x2C, 0x01, 0, 0, 0xC8, 0, 0, 0};
@@ -48,8 +47,7 @@ TEST_P(PictureHeader, IsRefusedWhereverItIsCutOff)
 {
     const std::size_t needed = GetParam().bytes.size() - (GetParam().format == PictureFormat::Jpeg ? 1 : 0);
     for (std::size_t length = 0; length < needed; ++length) {
-        const Bytes cut(GetParam().bytes.begin(),
-                        GetParam().bytes.begin() + static_cast<std::ptrdiff_t>(length));
+        const Bytes cut(GetParam().bytes.begin(), GetParam().bytes.begin() + static_cast<std::ptrdiff_t>(length));
         try {
             ReadPicture("logo.any", cut);
             ADD_FAILURE() << "a header of " << length << " bytes was taken for a picture";
@@ -64,8 +62,7 @@ INSTANTIATE_TEST_SUITE_P(Formats, PictureHeader,
                          testing::Values(Sample{"Jpeg", kJpeg, PictureFormat::Jpeg, 300, 200},
                                          Sample{"Png", kPng, PictureFormat::Png, 300, 200},
                                          Sample{"Bmp", kBmp, PictureFormat::Bmp, 300, 200},
-                                         Sample{"BmpFromTheTop", kBmpFromTheTop, PictureFormat::Bmp, 300,
-                                                200},
+                                         Sample{"BmpFromTheTop", kBmpFromTheTop, PictureFormat::Bmp, 300, 200},
                                          Sample{"OldBmp", kOldBmp, PictureFormat::Bmp, 300, 200},
                                          Sample{"Gif", kGif, PictureFormat::Gif, 300, 200},
                                          Sample{"Ico", kIco, PictureFormat::Ico, 256, 48}),
@@ -89,8 +86,7 @@ Bytes Changed(Bytes bytes, std::size_t at, std::initializer_list<std::uint8_t> v
 
 TEST(ReadPicture, RefusesAnUnknownFormat)
 {
-    EXPECT_EQ(NumberOf({'%', 'P', 'D', 'F', '-', '1', '.', '4', 0, 0, 0, 0, 0,
-                        0,   0,   0,   0,   0,   0,   0,   0,   0, 0, 0, 0, 0}),
+    EXPECT_EQ(NumberOf({'%', 'P', 'D', 'F', '-', '1', '.', '4', 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0}),
               481);
 }
 

@@ -82,8 +82,7 @@ TEST(NaturalSpline, TellsOfEachWriteInTheOrderOfTheMethod)
     std::string order;
     NaturalSpline(Values{1, 2, 4, 5}, Values{0, 1, 0, 1}, SevenDecimals,
                   [&](std::size_t point, SplineColumn column, double) {
-                      order +=
-                          std::to_string(point + 1) + "," + std::to_string(static_cast<int>(column)) + " ";
+                      order += std::to_string(point + 1) + "," + std::to_string(static_cast<int>(column)) + " ";
                   });
     EXPECT_EQ(order, "1,2 2,0 2,1 2,2 2,3 3,0 3,1 3,2 3,3 3,1 3,3 1,4 4,4 3,4 2,4 ");
 }
@@ -105,8 +104,7 @@ Values SecondDerivatives(const Values& x, const Values& y)
     }
     for (std::size_t p = 0; p < n; ++p) {
         std::size_t best = p;
-        for (std::size_t r = p; r < n; ++r)
-            best = std::abs(system[r][p]) > std::abs(system[best][p]) ? r : best;
+        for (std::size_t r = p; r < n; ++r) best = std::abs(system[r][p]) > std::abs(system[best][p]) ? r : best;
         std::swap(system[p], system[best]);
         for (std::size_t r = 0; r < n; ++r) {
             const Wide factor = r == p ? 0 : system[r][p] / system[p][p];

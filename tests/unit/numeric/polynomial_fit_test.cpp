@@ -25,8 +25,7 @@ int FailureOf(const Values& x, const Values& y, int degree)
 void ExpectNear(const Values& numbers, const Values& expected, double allowed)
 {
     ASSERT_EQ(numbers.size(), expected.size());
-    for (std::size_t k = 0; k < numbers.size(); ++k)
-        EXPECT_NEAR(numbers[k], expected[k], allowed) << "a" << k;
+    for (std::size_t k = 0; k < numbers.size(); ++k) EXPECT_NEAR(numbers[k], expected[k], allowed) << "a" << k;
 }
 
 // Three points: n = 3, sum x = 3, sum x² = 5, sum y = 7, sum xy = 10. Slope (3·10 - 3·7) / (3·5 - 3²) = 1.5,
@@ -123,8 +122,7 @@ TEST(Inverse, SwapsInTheFirstRowWithAnEntryAtAZeroPivot)
     EXPECT_EQ(Inverse({{0, 2}, {4, 0}}), (std::vector<Values>{{0, 0.25}, {0.5, 0}}));
     // A zero pivot whose next row is zero there too: the third row comes up. The inverse of a permutation is
     // its transpose.
-    EXPECT_EQ(Inverse({{0, 1, 0}, {0, 0, 1}, {1, 0, 0}}),
-              (std::vector<Values>{{0, 0, 1}, {1, 0, 0}, {0, 1, 0}}));
+    EXPECT_EQ(Inverse({{0, 1, 0}, {0, 0, 1}, {1, 0, 0}}), (std::vector<Values>{{0, 0, 1}, {1, 0, 0}, {0, 1, 0}}));
 }
 
 // 1/2 of a 2 by 2 matrix with determinant 1·8 - 2·3 = 2: {{8, -2}, {-3, 1}} / 2.

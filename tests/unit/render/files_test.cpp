@@ -22,8 +22,7 @@ namespace {
 /// A folder of the test's own, gone with it.
 class RenderedFile : public testing::Test {
   protected:
-    RenderedFile()
-        : folder_(std::filesystem::temp_directory_path() / ("terravane_render_" + std::to_string(getpid())))
+    RenderedFile() : folder_(std::filesystem::temp_directory_path() / ("terravane_render_" + std::to_string(getpid())))
     {
         std::filesystem::create_directories(folder_);
     }
@@ -92,8 +91,7 @@ TEST_F(WrittenPdf, HasItsFontsInIt)
     for (const char* font : {"Loma ", "Loma-Bold ", "LiberationSerif-Bold "}) {
         const std::size_t at = fonts.find(std::string("\n") + font);
         ASSERT_NE(at, std::string::npos) << fonts;
-        EXPECT_TRUE(Contains(fonts.substr(at, fonts.find('\n', at + 1) - at), "Identity-H       yes"))
-            << fonts;
+        EXPECT_TRUE(Contains(fonts.substr(at, fonts.find('\n', at + 1) - at), "Identity-H       yes")) << fonts;
     }
     EXPECT_FALSE(Contains(fonts, "DejaVu")) << fonts;
 }
@@ -110,8 +108,8 @@ TEST_F(WrittenPdf, StartsTextWhereThePositionIsOnEveryPage)
 {
     WritePdf(files_, PathOf("report.pdf"), Report(), "Test");
     for (const auto& [page, word] : {std::pair("1", ">Compaction<"), {"2", ">Sieve<"}}) {
-        const std::string boxes = Said(std::string("pdftotext -bbox -f ") + page + " -l " + page + " " +
-                                       PathOf("report.pdf") + " -");
+        const std::string boxes =
+            Said(std::string("pdftotext -bbox -f ") + page + " -l " + page + " " + PathOf("report.pdf") + " -");
         const std::string line = boxes.substr(0, boxes.find(word));
         EXPECT_TRUE(Contains(line.substr(line.rfind("<word")), "xMin=\"50.0")) << boxes;
     }
@@ -148,10 +146,7 @@ TEST_F(WrittenPdf, NamesTheFolderThatIsNotThere)
 /// A disk that is full when the file is to reach it.
 class FullDisk : public DiskFileSystem {
   protected:
-    void SyncFile(const std::string& path) override
-    {
-        throw RuntimeError(error::kDiskFull, "Disk full: " + path);
-    }
+    void SyncFile(const std::string& path) override { throw RuntimeError(error::kDiskFull, "Disk full: " + path); }
 };
 
 TEST_F(WrittenPdf, KeepsTheOldFileOnAFullDisk)
@@ -170,8 +165,7 @@ using WrittenPng = RenderedFile;
 TEST_F(WrittenPng, IsAsLargeAsItsPercentage)
 {
     const DisplayList list{1500, 900, {FillItem{0, 0, 750, 900, kRed}}};
-    for (const auto& [percent, width, height] :
-         {std::tuple(100.0, 100, 60), {50.0, 50, 30}, {200.0, 200, 120}}) {
+    for (const auto& [percent, width, height] : {std::tuple(100.0, 100, 60), {50.0, 50, 30}, {200.0, 200, 120}}) {
         WritePng(files_, PathOf("page.png"), list, percent);
         const QImage image(QString::fromStdString(PathOf("page.png")));
         EXPECT_EQ(image.size(), QSize(width, height));

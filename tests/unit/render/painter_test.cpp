@@ -37,8 +37,7 @@ int InkOf(const QImage& image, const QRect& place)
 {
     int ink = 0;
     for (int y = place.top(); y <= place.bottom(); ++y)
-        for (int x = place.left(); x <= place.right(); ++x)
-            ink += image.pixelColor(x, y) != Qt::white ? 1 : 0;
+        for (int x = place.left(); x <= place.right(); ++x) ink += image.pixelColor(x, y) != Qt::white ? 1 : 0;
     return ink;
 }
 
@@ -353,8 +352,7 @@ TEST(PaintedPicture, IsACrossedBoxWhereItCannotBeDecoded)
 
 TEST(PaintedPicture, OfTheAnswersAloneIsACrossedBox)
 {
-    const DisplayList list{
-        40 * kPixel, 40 * kPixel, {PictureItem{"x", 150, 150, 300, 300, nullptr, nullptr}}};
+    const DisplayList list{40 * kPixel, 40 * kPixel, {PictureItem{"x", 150, 150, 300, 300, nullptr, nullptr}}};
     EXPECT_NE(ColourAt(PaintImage(list, 100), 20, 20), "#FFFFFF");
 }
 

@@ -37,8 +37,8 @@ TEST(MakeMoment, RefusesADayThatDoesNotExist)
 TEST(ParseDate, ReadsTheThreeWaysOfWritingADay)
 {
     const Moment day = MakeMoment(2026, 11, 5);
-    for (const char* text : {"05/11/2026", "5/11/2026", "2026-11-05", "2026-11-5", "5 November 2026",
-                             "05 Nov 2026", " 5/11/2026  ", "5 NOVEMBER 2026"}) {
+    for (const char* text : {"05/11/2026", "5/11/2026", "2026-11-05", "2026-11-5", "5 November 2026", "05 Nov 2026",
+                             " 5/11/2026  ", "5 NOVEMBER 2026"}) {
         EXPECT_EQ(ErrorOf([&] { EXPECT_EQ(ParseDate(text), day) << text; }), 0) << text;
     }
 }
@@ -54,9 +54,9 @@ TEST(ParseDate, ReadsBackWhatIsShown)
 
 TEST(ParseDate, FailsOnAnyOtherText)
 {
-    for (const char* text : {"", "   ", "today", "29/02/2026", "31/04/2026", "5/11/26", "11/21/2026",
-                             "5-11-2026", "5/11", "5/11/2026/1", "5  Nov 2026", "5 Nove 2026", "+5/11/2026",
-                             "5/11/2026 10:00", "123/1/2026", "0/1/2026", "1/0/2026", "2026-11-00"}) {
+    for (const char* text : {"", "   ", "today", "29/02/2026", "31/04/2026", "5/11/26", "11/21/2026", "5-11-2026",
+                             "5/11", "5/11/2026/1", "5  Nov 2026", "5 Nove 2026", "+5/11/2026", "5/11/2026 10:00",
+                             "123/1/2026", "0/1/2026", "1/0/2026", "2026-11-00"}) {
         EXPECT_EQ(ErrorOf([&] { ParseDate(text); }), error::kTypeMismatch) << text;
     }
 }

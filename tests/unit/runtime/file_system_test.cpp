@@ -172,8 +172,7 @@ TEST_F(Disk, SavesSideBySide)
     }
     const Bytes content = files_.Read(Path("shared"));
     ASSERT_EQ(content.size(), 1000u);
-    EXPECT_TRUE(std::ranges::all_of(content, [&](auto byte) { return byte == content[0]; }))
-        << "never a mixture";
+    EXPECT_TRUE(std::ranges::all_of(content, [&](auto byte) { return byte == content[0]; })) << "never a mixture";
     EXPECT_EQ(Names(), std::vector<std::string>{"shared"});
 }
 
@@ -184,8 +183,7 @@ class FailingDisk : public DiskFileSystem {
     explicit FailingDisk(Step step) : step_(step) {}
 
   protected:
-    void WriteNew(const std::string& path, std::span<const std::uint8_t> content,
-                  const std::string& like) override
+    void WriteNew(const std::string& path, std::span<const std::uint8_t> content, const std::string& like) override
     {
         const bool fails = step_ == Step::Write;
         DiskFileSystem::WriteNew(path, fails ? content.first(content.size() / 2) : content, like);
@@ -210,8 +208,7 @@ class FailingDisk : public DiskFileSystem {
   private:
     void FailAt(Step step, const std::string& path)
     {
-        if (step == step_)
-            throw RuntimeError(error::kDiskFull, "Could not write '" + path + "': the disk is full.");
+        if (step == step_) throw RuntimeError(error::kDiskFull, "Could not write '" + path + "': the disk is full.");
     }
 
     Step step_;

@@ -51,8 +51,7 @@ TEST(Format, FillsTheMask)
         {1.2345, "0.0##", "1.235"},
         {0.0016, "#0.000000", "0.001600"},
     };
-    for (const auto& [value, mask, text] : kTable)
-        EXPECT_EQ(Format(value, mask), text) << value << ' ' << mask;
+    for (const auto& [value, mask, text] : kTable) EXPECT_EQ(Format(value, mask), text) << value << ' ' << mask;
 }
 
 // 2.675 is stored as 2.67499999999999982; its 15 digits are 2.67500000000000, a half, which goes away from
@@ -67,8 +66,7 @@ TEST(Format, RoundsTheDecimalValueHalfAwayFromZero)
         {1.15, "#0.0", "1.2"},        {8.345, "#0.00", "8.35"},   {0.285, "#0.00", "0.29"},
         {1.0049999, "#0.00", "1.00"},
     };
-    for (const auto& [value, mask, text] : kTable)
-        EXPECT_EQ(Format(value, mask), text) << value << ' ' << mask;
+    for (const auto& [value, mask, text] : kTable) EXPECT_EQ(Format(value, mask), text) << value << ' ' << mask;
 }
 
 // 1.00499999999999 has 15 digits and stays below the half; 1.004999999999999 has 16, which 15 digits
@@ -115,8 +113,7 @@ TEST(Format, FormatsATextThatIsANumber)
 
 TEST(Format, ReturnsAnyOtherTextAsItCame)
 {
-    for (const char* text : {"85.32g", "", "   ", " x ", "1,234", "-", "."})
-        EXPECT_EQ(Format(text, "#0.00"), text);
+    for (const char* text : {"85.32g", "", "   ", " x ", "1,234", "-", "."}) EXPECT_EQ(Format(text, "#0.00"), text);
 }
 
 /// The rule by a second method: the C library writes the 15 digits, and the half is found on the written
@@ -126,8 +123,7 @@ std::string RoundedOnPaper(double value, int places)
     std::array<char, 400> written;
     std::snprintf(written.data(), written.size(), "%.14e", std::abs(value));
     const std::string scientific = written.data();
-    std::string digits =
-        std::string(400, '0') + scientific[0] + scientific.substr(2, 14) + std::string(400, '0');
+    std::string digits = std::string(400, '0') + scientific[0] + scientific.substr(2, 14) + std::string(400, '0');
     const auto point = static_cast<std::size_t>(401 + std::stoi(scientific.substr(scientific.find('e') + 1)));
     const std::size_t cut = point + static_cast<std::size_t>(places);
     if (digits[cut] >= '5') {

@@ -67,8 +67,7 @@ TEST(Val, TakesAnExponentOnlyWithDigits)
 
 TEST(Val, KnowsNoWordsForNumbers)
 {
-    for (const char* word : {"inf", "-inf", "nan", "infinity", "0x10", "NaN(1)"})
-        EXPECT_EQ(Val(word), 0) << word;
+    for (const char* word : {"inf", "-inf", "nan", "infinity", "0x10", "NaN(1)"}) EXPECT_EQ(Val(word), 0) << word;
 }
 
 TEST(Val, ReadsWhatExceedsADoubleAsTheLargestOne)
@@ -120,8 +119,7 @@ TEST(Val, ReadsAnyBytesAsSomeFiniteNumber)
     for (int round = 0; round < 300'000; ++round) {
         std::string text(random.Below(20), '\0');
         for (char& c : text) {
-            c = random.Below(4) == 0 ? static_cast<char>(random.Bits())
-                                     : kLikely[random.Below(kLikely.size())];
+            c = random.Below(4) == 0 ? static_cast<char>(random.Bits()) : kLikely[random.Below(kLikely.size())];
         }
         ASSERT_TRUE(std::isfinite(Val(text))) << text;
         if (IsNumber(text)) continue;
@@ -134,8 +132,7 @@ TEST(IsNumber, WantsTheWholeTextButOuterBlanks)
     for (const char* text : {"1", " 1 ", "+80.46", "-.5", "5.", "1e2", "1D-2", "1e999", "\t7\n"}) {
         EXPECT_TRUE(IsNumber(text)) << text;
     }
-    for (const char* text :
-         {"", "   ", ".", "-", "1e", "85.32g", "1,234", "5-", "1 2", "- 5", "nan", "20%"}) {
+    for (const char* text : {"", "   ", ".", "-", "1e", "85.32g", "1,234", "5-", "1 2", "- 5", "nan", "20%"}) {
         EXPECT_FALSE(IsNumber(text)) << text;
     }
 }
