@@ -50,6 +50,11 @@ std::optional<Key> KeyOf(int key)
     }
 }
 
+QString ToQt(std::string_view text)
+{
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
 /// Its parts above each other where the height allows it, else beside each other: a screen of 720 lines shows two
 /// grids without scrolling, a taller one shows the trials in line.
 class PairBox : public QWidget {
@@ -197,7 +202,12 @@ void FormView::AddFieldRow(QFormLayout& fields, const Place& place)
 {
     auto& control = form_.Get<Control>(place.control);
     QWidget* view = MakeControl(control);
-    fields.addRow(MakeCaption(control, view, this), view);
+    auto* caption = MakeCaption(control, view, this);
+    if (!place.text.empty()) {
+        caption->setText(ToQt(place.text));
+        view->setAccessibleName(caption->text());
+    }
+    fields.addRow(caption, view);
 }
 
 QWidget* FormView::MakeGroup(const Place& place)
@@ -252,6 +262,7 @@ QWidget* FormView::MakeField(const Place& place)
     QWidget* view = MakeControl(control);
     box->addWidget(MakeCaption(control, view, this));
     box->addWidget(view, 1);
+    bindings_.push_back(control.Show([&control, widget] { widget->setVisible(control.Visible()); }));
     return widget;
 }
 
@@ -270,7 +281,7 @@ QWidget* FormView::MakeResult(const Place& place)
     auto* row = new QHBoxLayout;
     row->setSpacing(looks::kGap);
     row->addWidget(figure, 1);
-    row->addWidget(new QLabel(QString::fromUtf8(place.text.data(), static_cast<qsizetype>(place.text.size())), this));
+    row->addWidget(new QLabel(ToQt(place.text), this));
     column->addLayout(row);
     return widget;
 }
@@ -328,7 +339,11 @@ QWidget* FormView::MakeControl(Control& control)
     if (auto* button = dynamic_cast<CommandButton*>(&control)) return MakeBound<QPushButton>(*button);
     if (auto* option = dynamic_cast<OptionButton*>(&control)) return MakeBound<QRadioButton>(*option);
     if (auto* check = dynamic_cast<CheckBox*>(&control)) return MakeBound<QCheckBox>(*check);
-    if (auto* list = dynamic_cast<ListBox*>(&control)) return MakeBound<QListWidget>(*list);
+    if (auto* list = dynamic_cast<ListBox*>(&control)) {
+        QWidget* view = MakeBound<QListWidget>(*list);
+        view->setMinimumHeight(2 * looks::kGridRowHeight);
+        return view;
+    }
     if (auto* label = dynamic_cast<Label*>(&control)) return MakeBound<QLabel>(*label);
     if (auto* image = dynamic_cast<Image*>(&control)) return MakeImage(*image);
     auto& grid = form_.Get<TextGrid>(control.Name());

@@ -40,7 +40,8 @@ class CellPainter : public QStyledItemDelegate {
         const bool isTitle = index.column() == 0 && grid_.TitleColumns() > 0;
         const int side = isTitle ? Qt::AlignLeft : Qt::AlignHCenter;
         const int margin = isTitle ? 6 : 2;
-        painter->drawText(option.rect.adjusted(margin, 0, -margin, 0), side | Qt::AlignVCenter,
+        const int wrap = head && !isTitle ? Qt::TextWordWrap : 0;
+        painter->drawText(option.rect.adjusted(margin, 0, -margin, 0), side | Qt::AlignVCenter | wrap,
                           index.data().toString());
     }
 
@@ -138,11 +139,14 @@ void GridView::ShowEditor()
 
 int GridView::LeastRowHeight(int row) const
 {
-    qsizetype lines = 1;
+    int height = looks::kGridRowHeight;
+    if (row >= grid_.HeadRows()) return height;
     for (int column = 0; column < grid_.Columns(); ++column) {
-        lines = std::max(lines, model_->index(row, column).data().toString().count('\n') + 1);
+        const QRect room(0, 0, std::max(kLeastColumnWidth, columnWidth(column)) - 4, 1000);
+        const auto text = model_->index(row, column).data().toString();
+        height = std::max(height, fontMetrics().boundingRect(room, Qt::TextWordWrap, text).height() + 8);
     }
-    return std::max(looks::kGridRowHeight, static_cast<int>(lines) * fontMetrics().height() + 8);
+    return height;
 }
 
 QSize GridView::SizeFor(int mostRows) const

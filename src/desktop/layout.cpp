@@ -51,6 +51,16 @@ Place Field(std::string_view control, int stretch)
     return {Place::Kind::Field, control, {}, {}, stretch};
 }
 
+Place Named(std::string_view control, std::string_view caption)
+{
+    return {Place::Kind::Control, control, {}, caption, 0};
+}
+
+Place NamedFields(std::vector<Place> fields, int stretch)
+{
+    return {Place::Kind::Fields, {}, std::move(fields), {}, stretch};
+}
+
 Place Result(std::string_view control, std::string_view unit)
 {
     return {Place::Kind::Result, control, {}, unit, 0};

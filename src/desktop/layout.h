@@ -41,6 +41,10 @@ Place Group(std::string_view frame, std::vector<Place> parts, int stretch = 0);
 Place Tabs(std::string_view control, std::vector<Place> pages);
 Place One(std::string_view control, int stretch = 0);
 Place Field(std::string_view control, int stretch = 0);
+/// The control under a caption of the window's own, for one that has none.
+Place Named(std::string_view control, std::string_view caption);
+/// Fields under each other with captions of the window's own.
+Place NamedFields(std::vector<Place> fields, int stretch = 0);
 Place Result(std::string_view control, std::string_view unit);
 Place Banner(std::string_view control);
 Place Plot(std::string_view frame, std::string_view plot, int stretch = 1);

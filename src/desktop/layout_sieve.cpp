@@ -22,11 +22,12 @@ Place CurveTab()
 {
     return Row({
         Plot("picgraph1", "picGraph", 4),
-        Column(
-            {Fields({"txtP4", "txtP10", "txtP40", "txtP200"}), Fields({"txtD60", "txtD30", "txtD10", "txtCu", "txtCc"}),
-             One("chkEdit"), Row({One("chkSmooth"), Field("Text6")}),
-             Row({One("Option2"), One("Command5"), One("Command6")}), Space(), Row({Space(), One("cmdgraph")})},
-            2),
+        Column({Row({Fields({"txtP4", "txtP10", "txtP40", "txtP200"}),
+                     NamedFields({Named("txtD60", "D60 (mm)"), Named("txtD30", "D30 (mm)"), Named("txtD10", "D10 (mm)"),
+                                  Named("txtCu", "Cu"), Named("txtCc", "Cc")})}),
+                One("chkEdit"), Row({One("chkSmooth"), Field("Text6")}),
+                Row({One("Option2"), One("Command5"), One("Command6")}), Space(), Row({Space(), One("cmdgraph")})},
+               2),
     });
 }
 

@@ -1,0 +1,157 @@
+// Every sheet's window, worked with keys and mouse: the readings of the sheet's report script are typed into the cells
+// and boxes on the screen, the buttons are clicked, and the results are those that the script gets without a window.
+#include <QFile>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QScrollBar>
+#include <QTabWidget>
+#include <QToolButton>
+#include <fstream>
+
+#include <gtest/gtest.h>
+
+#include "desktop/desktop_fixture.h"
+#include "desktop/grid_view.h"
+#include "script/script_line.h"
+
+namespace terravane {
+namespace {
+
+/// results  what stands in the boxes at the end: checked by hand in the sheet's own tests
+struct SheetCase {
+    const char* folder;
+    const char* key;
+    const char* form;
+    std::vector<std::pair<const char*, const char*>> results;
+};
+
+void PrintTo(const SheetCase& sheet, std::ostream* out)
+{
+    *out << sheet.form;
+}
+
+/// The hands of a technician on one sheet's window.
+class Hands {
+  public:
+    Hands(DesktopFixture& running, const std::string& form) : running_(running), form_(form) {}
+
+    void Do(const std::vector<std::string>& words)
+    {
+        const std::string& command = words.front();
+        if (command == "type")
+            return TypeCell(words[1], WholeNumber(words[2], "a row"), WholeNumber(words[3], "a column"), words[4]);
+        if (command == "put") return PutCell(words);
+        if (command == "set") return TypeBox(words[1], words[2]);
+        if (command == "click") return Click(words[1]);
+        if (command == "key") return QTest::keyClick(Front(words[1]), Qt::Key_Return);
+        if (command == "select") return Select(words[1], words[2]);
+        ADD_FAILURE() << "No hand does this yet: " << command;
+    }
+
+    /// The control's widget, with its tab in front.
+    QWidget* Front(const std::string& control)
+    {
+        auto* widget = running_.Widget(form_, control);
+        EXPECT_TRUE(widget) << control << " has no widget.";
+        auto* tabs = running_.Widget<QTabWidget>(form_, "SSTData");
+        for (int tab = 0; tab < tabs->count(); ++tab) {
+            if (tabs->widget(tab)->isAncestorOf(widget) && tabs->isTabEnabled(tab)) tabs->setCurrentIndex(tab);
+        }
+        return widget;
+    }
+
+  private:
+    void TypeCell(const std::string& grid, int row, int column, const std::string& text)
+    {
+        auto* view = static_cast<GridView*>(Front(grid));
+        const QModelIndex cell = view->model()->index(row, column);
+        view->scrollTo(cell);
+        QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, view->visualRect(cell).center());
+        ASSERT_TRUE(view->EditorBox()->isVisible()) << grid << " " << row << " " << column << " opens no editor.";
+        QTest::keyClicks(view->EditorBox(), QString::fromStdString(text));
+        QTest::keyClick(view->EditorBox(), Qt::Key_Return);
+    }
+
+    void PutCell(const std::vector<std::string>& words)
+    {
+        running_.FormNamed(form_).Get<TextGrid>(words[1])(WholeNumber(words[2], "a row"),
+                                                          WholeNumber(words[3], "a column")) = words[4];
+    }
+
+    void TypeBox(const std::string& box, const std::string& text)
+    {
+        QWidget* widget = Front(box);
+        auto* edit = qobject_cast<QLineEdit*>(widget);
+        if (!edit) edit = widget->findChild<QLineEdit*>();
+        edit->selectAll();
+        QTest::keyClicks(edit, QString::fromStdString(text));
+    }
+
+    void Click(const std::string& button)
+    {
+        QWidget* widget = Front(button);
+        ASSERT_TRUE(widget->isEnabled()) << button << " can't be pressed.";
+        QTest::mouseClick(widget, Qt::LeftButton, {}, QPoint(10, widget->height() / 2));
+    }
+
+    void Select(const std::string& list, const std::string& entry)
+    {
+        auto* view = static_cast<QListWidget*>(Front(list));
+        const auto items = view->findItems(QString::fromStdString(entry), Qt::MatchExactly);
+        ASSERT_FALSE(items.isEmpty()) << entry;
+        view->scrollToItem(items.front());
+        QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, view->visualItemRect(items.front()).center());
+    }
+
+    DesktopFixture& running_;
+    std::string form_;
+};
+
+/// The script's lines from the opening of the sheet to its preview, without those that only look.
+std::vector<std::vector<std::string>> StepsOf(const SheetCase& sheet)
+{
+    std::ifstream file(std::string(TERRAVANE_SOURCE_DIR) + "/tests/acceptance/" + sheet.folder + "/report.trv");
+    EXPECT_TRUE(file.is_open());
+    std::vector<std::vector<std::string>> steps;
+    bool opened = false;
+    for (std::string line; std::getline(file, line);) {
+        const auto words = SplitLine(line);
+        if (words.empty()) continue;
+        if (words[0] == "click" && words[1] == "cmdView") break;
+        const bool looks = words[0] == "get" || words[0] == "page" || words[0] == "answer" || words[0] == "dump";
+        if (opened && !looks) steps.push_back(words);
+        opened = opened || (words[0] == "menu" && words[1].starts_with(std::string(sheet.key).substr(0, 6)));
+    }
+    return steps;
+}
+
+class SheetWindows : public testing::TestWithParam<SheetCase> {};
+
+INSTANTIATE_TEST_SUITE_P(
+    Sheets, SheetWindows,
+    testing::Values(SheetCase{"atterberg", "mnuAtt1", "frmAtterberg", {{"txtLL", "45.31"}, {"txtPL", "22.70"}}},
+                    SheetCase{"specific", "mnuSpe1", "frmSpecific", {{"txtR", " 0.9995"}}},
+                    SheetCase{"sieve", "mnuSie1", "frmSieve", {{"txtSuscs", "GW-GC"}, {"txtSaash", "A-1-a(0)"}}},
+                    SheetCase{"cbr", "mnuCBR1", "frmCBR", {{"txtCBR", "6.1"}}}));
+
+TEST_P(SheetWindows, FromTypedReadingsToResultsAndReport)
+{
+    const SheetCase& sheet = GetParam();
+    DesktopFixture running;
+    running.MakeProject();
+    running.OpenSheet(sheet.key);
+    Hands hands(running, sheet.form);
+    for (const auto& step : StepsOf(sheet)) hands.Do(step);
+    for (const auto& [box, text] : sheet.results) {
+        EXPECT_EQ(running.FormNamed(sheet.form).Get<TextControl>(box).Text(), text) << box;
+    }
+    QTest::mouseClick(hands.Front("cmdView"), Qt::LeftButton);
+    ASSERT_TRUE(running.program.Loaded("frmPreview")) << "Print Preview shows the report.";
+    running.surroundings.printInto = running.PathOf("report.pdf");
+    QTest::mouseClick(running.Widget<QToolButton>("frmPreview", "savePdf"), Qt::LeftButton);
+    EXPECT_TRUE(running.disk.Exists(running.PathOf("report.pdf")));
+    EXPECT_TRUE(running.surroundings.failures.empty()) << running.surroundings.failures.front().Description();
+}
+
+}  // namespace
+}  // namespace terravane
