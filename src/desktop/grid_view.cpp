@@ -194,6 +194,7 @@ void GridView::ShareRoom()
     }
     int least = 0;
     for (int row = 0; row < rows; ++row) least += LeastRowHeight(row);
+    if (grid_.HeadRows() == rows) setFixedHeight(least + 2 * frameWidth());  // heads alone are never scrolled
     const int spare = std::max(0, viewport()->height() - least);
     for (int row = 0; row < rows; ++row) {
         setRowHeight(row, LeastRowHeight(row) + std::min(spare / std::max(1, rows), looks::kGridRowHeight / 2));
