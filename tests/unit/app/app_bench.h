@@ -76,7 +76,7 @@ struct AppBench {
     explicit AppBench(const std::string& applicationPath = "/home") : program(surroundings, files, applicationPath)
     {
         files.MakeFolders("/home/");
-        files.MakeFolders("/work/");
+        files.MakeFolders("/jobs/");
         WriteFirstContent(files, "/home/BrandList/");
         AddForms(program);
     }

@@ -105,9 +105,9 @@ TEST(Frame, LaterStartShowsTheLastProjectAndOpensNone)
 {
     for (const std::string lineEnd : {"\r\n", "\n", ""}) {
         AppBench bench;
-        bench.files.Put("/home/FileRecent.txt", "/work/TRVN_a.mdb" + lineEnd);
+        bench.files.Put("/home/FileRecent.txt", "/jobs/TRVN_a.mdb" + lineEnd);
         const mdiBack& frame = bench.ShowFrame();
-        EXPECT_EQ(frame.mnuRecent.Caption(), "/work/TRVN_a.mdb");
+        EXPECT_EQ(frame.mnuRecent.Caption(), "/jobs/TRVN_a.mdb");
         EXPECT_TRUE(frame.mnuRecent.Visible());
         EXPECT_TRUE(frame.mnuDot.Visible());
         EXPECT_EQ(bench.program.CurrentProjectPath, "");
@@ -120,7 +120,7 @@ TEST(Frame, LaterStartShowsTheLastProjectAndOpensNone)
 TEST(Frame, AppFolderStaysEmptyWhereTheApplicationStandsInADriveRoot)
 {
     AppBench bench("/home/");
-    bench.files.Put("/home/FileRecent.txt", "/work/TRVN_a.mdb\r\n");
+    bench.files.Put("/home/FileRecent.txt", "/jobs/TRVN_a.mdb\r\n");
     EXPECT_EQ(bench.ShowFrame().mnuRecent.Caption(), "") << "The file is looked for in the current folder.";
     EXPECT_EQ(bench.program.AppFolder, "");
 }
@@ -147,9 +147,9 @@ TEST(Exit, WritesTheProjectAsOneLineAndEnds)
 {
     AppBench bench;
     bench.ShowFrame();
-    bench.program.CurrentProjectPath = "/work/TRVN_ถนน.mdb";
+    bench.program.CurrentProjectPath = "/jobs/TRVN_ถนน.mdb";
     bench.Press(bench.Frame().mnuExit);
-    EXPECT_EQ(bench.RecentFile(), "/work/TRVN_ถนน.mdb\r\n");
+    EXPECT_EQ(bench.RecentFile(), "/jobs/TRVN_ถนน.mdb\r\n");
     EXPECT_TRUE(bench.surroundings.hasEnded);
     EXPECT_EQ(bench.program.Loaded("mdiBack"), nullptr);
 }
@@ -157,10 +157,10 @@ TEST(Exit, WritesTheProjectAsOneLineAndEnds)
 TEST(Exit, WithoutAProjectLeavesTheRecentFileAsItWas)
 {
     AppBench bench;
-    bench.files.Put("/home/FileRecent.txt", "/work/TRVN_a.mdb\n");
+    bench.files.Put("/home/FileRecent.txt", "/jobs/TRVN_a.mdb\n");
     bench.ShowFrame();
     bench.Press(bench.Frame().mnuExit);
-    EXPECT_EQ(bench.RecentFile(), "/work/TRVN_a.mdb\n");
+    EXPECT_EQ(bench.RecentFile(), "/jobs/TRVN_a.mdb\n");
     EXPECT_TRUE(bench.surroundings.hasEnded);
 }
 
@@ -168,23 +168,23 @@ TEST(Exit, ClosingTheFrameRemembersTheProjectToo)
 {
     AppBench bench;
     bench.ShowFrame();
-    bench.program.CurrentProjectPath = "/work/TRVN_a.mdb";
+    bench.program.CurrentProjectPath = "/jobs/TRVN_a.mdb";
     bench.program.Run("close", [&] { bench.program.Unload("mdiBack"); });
-    EXPECT_EQ(bench.RecentFile(), "/work/TRVN_a.mdb\r\n");
+    EXPECT_EQ(bench.RecentFile(), "/jobs/TRVN_a.mdb\r\n");
     EXPECT_TRUE(bench.surroundings.hasEnded);
 }
 
 TEST(Exit, FullDiskIsToldAndKeepsTheFrame)
 {
     AppBench bench;
-    bench.files.Put("/home/FileRecent.txt", "/work/TRVN_a.mdb\r\n");
+    bench.files.Put("/home/FileRecent.txt", "/jobs/TRVN_a.mdb\r\n");
     bench.ShowFrame();
-    bench.program.CurrentProjectPath = "/work/TRVN_b.mdb";
+    bench.program.CurrentProjectPath = "/jobs/TRVN_b.mdb";
     bench.files.FailAtStep(1, error::kDiskFull);
     bench.Press(bench.Frame().mnuExit);
     ASSERT_EQ(bench.surroundings.failures.size(), 1U);
     EXPECT_EQ(bench.surroundings.failures.front().Number(), error::kDiskFull);
-    EXPECT_EQ(bench.RecentFile(), "/work/TRVN_a.mdb\r\n");
+    EXPECT_EQ(bench.RecentFile(), "/jobs/TRVN_a.mdb\r\n");
     EXPECT_NE(bench.program.Loaded("mdiBack"), nullptr);
 }
 

@@ -10,9 +10,9 @@ namespace {
 /// The frame with a fresh project chosen.
 mdiBack& OpenRoad(AppBench& bench)
 {
-    CreateProjectFile(bench.files, "/work/TRVN_road.mdb");
+    CreateProjectFile(bench.files, "/jobs/TRVN_road.mdb");
     mdiBack& frame = bench.ShowFrame();
-    bench.Press(frame.mnuOpen, "/work/TRVN_road.mdb");
+    bench.Press(frame.mnuOpen, "/jobs/TRVN_road.mdb");
     return frame;
 }
 
@@ -49,7 +49,7 @@ TEST(OpeningASheet, EachItemShowsItsFormItsBannerAndItsColour)
                 << "The load runs while the test is still the last sheet's.";
             EXPECT_EQ(sheet->txtLabName.Text(), opening.banner);
             EXPECT_EQ(sheet->txtLabName.BackColor(), (isRock ? Colour{128, 0, 128} : Colour{0, 0, 192}));
-            EXPECT_EQ(sheet->stbDes.Panel(1), "Database File is /work/TRVN_road.mdb");
+            EXPECT_EQ(sheet->stbDes.Panel(1), "Database File is /jobs/TRVN_road.mdb");
             EXPECT_TRUE(sheet->tblMenu.Button(1).enabled);
             EXPECT_EQ(sheet->txtClient.Text(), "   ") << "LoadTestSheet fills the headings from the file.";
         }
@@ -100,13 +100,13 @@ TEST(OpeningASheet, NothingHappensWhileNoProjectIsChosen)
 TEST(OpeningASheet, FileThatIsNoProjectIsFoundOutNow)
 {
     AppBench bench;
-    bench.files.Put("/work/letter.txt", "Dear Sir");
+    bench.files.Put("/jobs/letter.txt", "Dear Sir");
     mdiBack& frame = bench.ShowFrame();
-    bench.Press(frame.mnuOpen, "/work/letter.txt");
+    bench.Press(frame.mnuOpen, "/jobs/letter.txt");
     EXPECT_TRUE(bench.surroundings.failures.empty());
     frame.tbrLab.PressItem("mnuStd1");
     ASSERT_EQ(bench.surroundings.failures.size(), 1U);
-    EXPECT_EQ(bench.surroundings.failures.front().Description(), "Unrecognized database format '/work/letter.txt'.");
+    EXPECT_EQ(bench.surroundings.failures.front().Description(), "Unrecognized database format '/jobs/letter.txt'.");
     EXPECT_NE(bench.program.Loaded("frmCompaction"), nullptr) << "The sheet stands as the error left it.";
 }
 
@@ -129,7 +129,7 @@ TEST(ChoosingAFile, ClosesTheOpenSheetAndItsUnsavedReadings)
     bench.program.Get<frmCompaction>("frmCompaction").txtSoil.Type("Sample 3");
     bench.Press(frame.mnuRecent);
     EXPECT_EQ(bench.program.Loaded("frmCompaction"), nullptr);
-    EXPECT_EQ(bench.Stored("/work/TRVN_road.mdb", "STDSOIL", "std_soil"), "   ");
+    EXPECT_EQ(bench.Stored("/jobs/TRVN_road.mdb", "STDSOIL", "std_soil"), "   ");
     EXPECT_TRUE(frame.tbrLab.Enabled());
 }
 

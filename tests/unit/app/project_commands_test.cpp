@@ -56,8 +56,8 @@ void ExpectProjectChosen(AppBench& bench, const std::string& path)
 
 TEST(NameRule, PrefixIsAlwaysAddedAndNothingElse)
 {
-    EXPECT_EQ(ProjectPathFor("/work/road.mdb", "road.mdb"), "/work/TRVN_road.mdb");
-    EXPECT_EQ(ProjectPathFor("/work/TRVN_road.mdb", "TRVN_road.mdb"), "/work/TRVN_TRVN_road.mdb");
+    EXPECT_EQ(ProjectPathFor("/jobs/road.mdb", "road.mdb"), "/jobs/TRVN_road.mdb");
+    EXPECT_EQ(ProjectPathFor("/jobs/TRVN_road.mdb", "TRVN_road.mdb"), "/jobs/TRVN_TRVN_road.mdb");
     EXPECT_EQ(ProjectPathFor("/road", "road"), "/TRVN_road");
     EXPECT_EQ(ProjectPathFor("road.mdb", "road.mdb"), "TRVN_road.mdb");
 }
@@ -67,12 +67,12 @@ TEST(NewFile, CreatesTheFileAndAsksForItsGeneralData)
     AppBench bench;
     bench.ShowFrame();
     bench.LoadNotedSheets();
-    bench.Press(bench.Frame().mnuNew, "/work/road.mdb");
+    bench.Press(bench.Frame().mnuNew, "/jobs/road.mdb");
     ExpectQuestion(bench, "New File", FileDialogKind::Save);
     ExpectSilence(bench);
-    EXPECT_EQ(bench.Stored("/work/TRVN_road.mdb", "HEAD", "project_name"), "   ");
-    EXPECT_EQ(bench.program.CurrentProjectPath, "/work/TRVN_road.mdb");
-    EXPECT_EQ(bench.Frame().mnuRecent.Caption(), "/work/TRVN_road.mdb");
+    EXPECT_EQ(bench.Stored("/jobs/TRVN_road.mdb", "HEAD", "project_name"), "   ");
+    EXPECT_EQ(bench.program.CurrentProjectPath, "/jobs/TRVN_road.mdb");
+    EXPECT_EQ(bench.Frame().mnuRecent.Caption(), "/jobs/TRVN_road.mdb");
     EXPECT_EQ(bench.log, kClosedByFileCommands);
     EXPECT_EQ(bench.program.ShownForms().back().modality, Modality::Modeless);
     EXPECT_EQ(bench.GeneralData().Caption(), "General Data");
@@ -85,25 +85,25 @@ TEST(NewFile, CancelShowsItsTextAndChangesNothing)
 {
     AppBench bench;
     bench.ShowFrame();
-    bench.program.CurrentProjectPath = "/work/TRVN_old.mdb";
+    bench.program.CurrentProjectPath = "/jobs/TRVN_old.mdb";
     bench.Press(bench.Frame().mnuNew);
     ExpectErrorBox(bench, "Cancel was selected.");
-    EXPECT_EQ(bench.program.CurrentProjectPath, "/work/TRVN_old.mdb");
+    EXPECT_EQ(bench.program.CurrentProjectPath, "/jobs/TRVN_old.mdb");
     EXPECT_EQ(bench.program.Loaded("frmProject"), nullptr);
 }
 
 TEST(NewFile, ExistingFileIsLeftAloneAndItsPathKept)
 {
     AppBench bench;
-    bench.files.Put("/work/TRVN_road.mdb", "someone's");
+    bench.files.Put("/jobs/TRVN_road.mdb", "someone's");
     bench.ShowFrame();
-    bench.Press(bench.Frame().mnuNew, "/work/road.mdb");
+    bench.Press(bench.Frame().mnuNew, "/jobs/road.mdb");
     ASSERT_EQ(bench.surroundings.messages.size(), 1U);
     EXPECT_EQ(bench.surroundings.messages.front().title, "Error");
     EXPECT_NE(bench.surroundings.messages.front().text.find("TRVN_road.mdb"), std::string::npos)
         << bench.surroundings.messages.front().text;
-    EXPECT_EQ(bench.program.CurrentProjectPath, "/work/TRVN_road.mdb");
-    EXPECT_EQ(bench.files.Content("/work/TRVN_road.mdb").size(), 9U);
+    EXPECT_EQ(bench.program.CurrentProjectPath, "/jobs/TRVN_road.mdb");
+    EXPECT_EQ(bench.files.Content("/jobs/TRVN_road.mdb").size(), 9U);
     EXPECT_EQ(bench.program.Loaded("frmProject"), nullptr);
 }
 
@@ -111,7 +111,7 @@ TEST(GeneralData, FieldsStandInTheirTabOrder)
 {
     AppBench bench;
     bench.ShowFrame();
-    bench.Press(bench.Frame().mnuNew, "/work/road.mdb");
+    bench.Press(bench.Frame().mnuNew, "/jobs/road.mdb");
     std::vector<std::pair<std::string, std::string>> boxes;
     for (const Control* control : bench.GeneralData().Controls()) {
         if (dynamic_cast<const TextBox*>(control)) boxes.emplace_back(control->Name(), control->Caption());
@@ -128,7 +128,7 @@ TEST(GeneralData, FieldsStandInTheirTabOrder)
 void BeginRoad(AppBench& bench, const std::string& project)
 {
     bench.ShowFrame();
-    bench.Press(bench.Frame().mnuNew, "/work/road.mdb");
+    bench.Press(bench.Frame().mnuNew, "/jobs/road.mdb");
     bench.GeneralData().txtProject.Type(project);
     bench.GeneralData().txtLocation.Type("Km 12+400");
     bench.GeneralData().txtID.Type("R-17");
@@ -141,12 +141,12 @@ TEST(GeneralData, AcceptWritesTheHeadingsAndChoosesTheProject)
     BeginRoad(bench, "Bypass Road");
     bench.GeneralData().cmdOK.Press();
     ExpectSilence(bench);
-    ExpectProjectChosen(bench, "/work/TRVN_road.mdb");
+    ExpectProjectChosen(bench, "/jobs/TRVN_road.mdb");
     EXPECT_EQ(bench.program.Loaded("frmProject"), nullptr);
-    EXPECT_EQ(bench.Stored("/work/TRVN_road.mdb", "HEAD", "project_name"), "Bypass Road");
-    EXPECT_EQ(bench.Stored("/work/TRVN_road.mdb", "HEAD", "project_location"), "Km 12+400");
-    EXPECT_EQ(bench.Stored("/work/TRVN_road.mdb", "HEAD", "project_number"), "R-17");
-    EXPECT_EQ(bench.Stored("/work/TRVN_road.mdb", "HEAD", "project_client"), "กรมทางหลวง");
+    EXPECT_EQ(bench.Stored("/jobs/TRVN_road.mdb", "HEAD", "project_name"), "Bypass Road");
+    EXPECT_EQ(bench.Stored("/jobs/TRVN_road.mdb", "HEAD", "project_location"), "Km 12+400");
+    EXPECT_EQ(bench.Stored("/jobs/TRVN_road.mdb", "HEAD", "project_number"), "R-17");
+    EXPECT_EQ(bench.Stored("/jobs/TRVN_road.mdb", "HEAD", "project_client"), "กรมทางหลวง");
 }
 
 TEST(GeneralData, ApostropheFailsAndLeavesTheTexts)
@@ -157,7 +157,7 @@ TEST(GeneralData, ApostropheFailsAndLeavesTheTexts)
     ASSERT_EQ(bench.surroundings.failures.size(), 1U);
     EXPECT_LT(bench.surroundings.failures.front().Number(), 0) << "The engine's error is expected.";
     EXPECT_EQ(bench.GeneralData().txtProject.Text(), "King's Road");
-    EXPECT_EQ(bench.Stored("/work/TRVN_road.mdb", "HEAD", "project_name"), "   ");
+    EXPECT_EQ(bench.Stored("/jobs/TRVN_road.mdb", "HEAD", "project_name"), "   ");
     ExpectNoProject(bench);
 }
 
@@ -173,12 +173,12 @@ TEST(GeneralData, FullDiskAtAcceptLeavesTheFormAndTheFile)
         EXPECT_EQ(bench.surroundings.failures.front().Number(), error::kDiskFull);
         ASSERT_NE(bench.program.Loaded("frmProject"), nullptr) << "The typed texts must not be lost.";
         EXPECT_EQ(bench.GeneralData().txtProject.Text(), "Bypass Road");
-        EXPECT_EQ(bench.Stored("/work/TRVN_road.mdb", "HEAD", "project_name"), "   ");
+        EXPECT_EQ(bench.Stored("/jobs/TRVN_road.mdb", "HEAD", "project_name"), "   ");
         ExpectNoProject(bench);
 
         bench.GeneralData().cmdOK.Press();  // once there is room again
-        EXPECT_EQ(bench.Stored("/work/TRVN_road.mdb", "HEAD", "project_name"), "Bypass Road");
-        ExpectProjectChosen(bench, "/work/TRVN_road.mdb");
+        EXPECT_EQ(bench.Stored("/jobs/TRVN_road.mdb", "HEAD", "project_name"), "Bypass Road");
+        ExpectProjectChosen(bench, "/jobs/TRVN_road.mdb");
     }
 }
 
@@ -187,9 +187,9 @@ TEST(GeneralData, ClosedByItsTitleBarLeavesTheFileBlankAndTheFrameRed)
     AppBench bench;
     BeginRoad(bench, "Bypass Road");
     bench.program.Run("close", [&] { bench.program.Unload("frmProject"); });
-    EXPECT_EQ(bench.Stored("/work/TRVN_road.mdb", "HEAD", "project_name"), "   ");
-    EXPECT_EQ(bench.program.CurrentProjectPath, "/work/TRVN_road.mdb");
-    EXPECT_EQ(bench.Frame().mnuRecent.Caption(), "/work/TRVN_road.mdb");
+    EXPECT_EQ(bench.Stored("/jobs/TRVN_road.mdb", "HEAD", "project_name"), "   ");
+    EXPECT_EQ(bench.program.CurrentProjectPath, "/jobs/TRVN_road.mdb");
+    EXPECT_EQ(bench.Frame().mnuRecent.Caption(), "/jobs/TRVN_road.mdb");
     ExpectNoProject(bench);
 }
 
@@ -198,10 +198,10 @@ TEST(OpenFile, TakesThePathUnchangedAndUnchecked)
     AppBench bench;
     bench.ShowFrame();
     bench.LoadNotedSheets();
-    bench.Press(bench.Frame().mnuOpen, "/work/nothing there.txt");
+    bench.Press(bench.Frame().mnuOpen, "/jobs/nothing there.txt");
     ExpectQuestion(bench, "Open File", FileDialogKind::Open);
     ExpectSilence(bench);
-    ExpectProjectChosen(bench, "/work/nothing there.txt");
+    ExpectProjectChosen(bench, "/jobs/nothing there.txt");
     EXPECT_EQ(bench.log, kClosedByFileCommands);
 }
 
@@ -218,42 +218,42 @@ TEST(OpenFile, CancelShowsNothing)
 TEST(RecentEntry, OpensTheFileOfTheLastRun)
 {
     AppBench bench;
-    CreateProjectFile(bench.files, "/work/TRVN_a.mdb");
-    bench.files.Put("/home/FileRecent.txt", "/work/TRVN_a.mdb\r\n");
+    CreateProjectFile(bench.files, "/jobs/TRVN_a.mdb");
+    bench.files.Put("/home/FileRecent.txt", "/jobs/TRVN_a.mdb\r\n");
     bench.ShowFrame();
     bench.LoadNotedSheets();
     bench.Press(bench.Frame().mnuRecent);
     ExpectSilence(bench);
-    ExpectProjectChosen(bench, "/work/TRVN_a.mdb");
+    ExpectProjectChosen(bench, "/jobs/TRVN_a.mdb");
     EXPECT_EQ(bench.log, kClosedByFileCommands);
 }
 
 TEST(RecentEntry, MissingFileIsReportedAndItsPathTaken)
 {
     AppBench bench;
-    bench.files.Put("/home/FileRecent.txt", "/work/TRVN_gone.mdb\r\n");
+    bench.files.Put("/home/FileRecent.txt", "/jobs/TRVN_gone.mdb\r\n");
     bench.ShowFrame();
-    bench.program.CurrentProjectPath = "/work/TRVN_other.mdb";
+    bench.program.CurrentProjectPath = "/jobs/TRVN_other.mdb";
     bench.Press(bench.Frame().mnuRecent);
-    ExpectErrorBox(bench, "Could not find file '/work/TRVN_gone.mdb'.");
-    EXPECT_EQ(bench.program.CurrentProjectPath, "/work/TRVN_gone.mdb");
+    ExpectErrorBox(bench, "Could not find file '/jobs/TRVN_gone.mdb'.");
+    EXPECT_EQ(bench.program.CurrentProjectPath, "/jobs/TRVN_gone.mdb");
     ExpectNoProject(bench);
 }
 
 TEST(SaveFileAs, GoesOnInTheCopyWhileTheStripStaysRed)
 {
     AppBench bench;
-    bench.files.Put("/work/TRVN_a.mdb", "readings");
-    bench.files.Put("/work/TRVN_b.mdb", "old");
-    bench.files.Put("/home/FileRecent.txt", "  /work/TRVN_a.mdb \r\n");
+    bench.files.Put("/jobs/TRVN_a.mdb", "readings");
+    bench.files.Put("/jobs/TRVN_b.mdb", "old");
+    bench.files.Put("/home/FileRecent.txt", "  /jobs/TRVN_a.mdb \r\n");
     bench.ShowFrame();
     bench.LoadNotedSheets();
-    bench.Press(bench.Frame().mnuAs, "/work/b.mdb");
+    bench.Press(bench.Frame().mnuAs, "/jobs/b.mdb");
     ExpectQuestion(bench, "Save File As...", FileDialogKind::Save);
     ExpectSilence(bench);
-    EXPECT_EQ(bench.files.Content("/work/TRVN_b.mdb"), bench.files.Content("/work/TRVN_a.mdb"));
-    EXPECT_EQ(bench.program.CurrentProjectPath, "/work/TRVN_b.mdb");
-    EXPECT_EQ(bench.Frame().mnuRecent.Caption(), "/work/TRVN_b.mdb");
+    EXPECT_EQ(bench.files.Content("/jobs/TRVN_b.mdb"), bench.files.Content("/jobs/TRVN_a.mdb"));
+    EXPECT_EQ(bench.program.CurrentProjectPath, "/jobs/TRVN_b.mdb");
+    EXPECT_EQ(bench.Frame().mnuRecent.Caption(), "/jobs/TRVN_b.mdb");
     EXPECT_EQ(bench.log, kClosedBySaveAs);
     ExpectNoProject(bench);
 }
@@ -261,15 +261,15 @@ TEST(SaveFileAs, GoesOnInTheCopyWhileTheStripStaysRed)
 TEST(SaveFileTo, CopiesAndStaysWhereItIs)
 {
     AppBench bench;
-    bench.files.Put("/work/TRVN_a.mdb", "readings");
-    bench.files.Put("/home/FileRecent.txt", "/work/TRVN_a.mdb\r\n");
+    bench.files.Put("/jobs/TRVN_a.mdb", "readings");
+    bench.files.Put("/home/FileRecent.txt", "/jobs/TRVN_a.mdb\r\n");
     bench.ShowFrame();
     bench.LoadNotedSheets();
-    bench.Press(bench.Frame().mnuTo, "/work/TRVN_b.mdb");
+    bench.Press(bench.Frame().mnuTo, "/jobs/TRVN_b.mdb");
     ExpectQuestion(bench, "Save File To...", FileDialogKind::Save);
-    EXPECT_EQ(bench.files.Content("/work/TRVN_TRVN_b.mdb"), bench.files.Content("/work/TRVN_a.mdb"));
-    EXPECT_EQ(bench.program.CurrentProjectPath, "/work/TRVN_a.mdb");
-    EXPECT_EQ(bench.Frame().mnuRecent.Caption(), "/work/TRVN_a.mdb");
+    EXPECT_EQ(bench.files.Content("/jobs/TRVN_TRVN_b.mdb"), bench.files.Content("/jobs/TRVN_a.mdb"));
+    EXPECT_EQ(bench.program.CurrentProjectPath, "/jobs/TRVN_a.mdb");
+    EXPECT_EQ(bench.Frame().mnuRecent.Caption(), "/jobs/TRVN_a.mdb");
     EXPECT_EQ(bench.log, Names{});
 }
 
@@ -279,7 +279,7 @@ TEST(SaveFileAsAndTo, WithoutAFileWarn)
     mdiBack& frame = bench.ShowFrame();
     for (MenuEntry* entry : {&frame.mnuAs, &frame.mnuTo}) {
         bench.surroundings.messages.clear();
-        bench.Press(*entry, "/work/b.mdb");
+        bench.Press(*entry, "/jobs/b.mdb");
         ASSERT_EQ(bench.surroundings.messages.size(), 1U);
         const Message& box = bench.surroundings.messages.front();
         EXPECT_EQ(box.text, "Please select menu of New File or Open File before.");
@@ -292,25 +292,25 @@ TEST(SaveFileAsAndTo, WithoutAFileWarn)
 TEST(SaveFileAsAndTo, CancelLeavesTheTrimmedRecentPathAsTheCurrentOne)
 {
     AppBench bench;
-    bench.files.Put("/home/FileRecent.txt", " /work/TRVN_a.mdb \r\n");
+    bench.files.Put("/home/FileRecent.txt", " /jobs/TRVN_a.mdb \r\n");
     mdiBack& frame = bench.ShowFrame();
     for (MenuEntry* entry : {&frame.mnuAs, &frame.mnuTo}) {
         bench.program.CurrentProjectPath = "";
         bench.Press(*entry);
         ExpectSilence(bench);
-        EXPECT_EQ(bench.program.CurrentProjectPath, "/work/TRVN_a.mdb");
+        EXPECT_EQ(bench.program.CurrentProjectPath, "/jobs/TRVN_a.mdb");
     }
 }
 
 TEST(SaveFileAs, FailingCopySaysNothingAndKeepsTheSheets)
 {
     AppBench bench;
-    bench.files.Put("/home/FileRecent.txt", "/work/TRVN_gone.mdb\r\n");
+    bench.files.Put("/home/FileRecent.txt", "/jobs/TRVN_gone.mdb\r\n");
     bench.ShowFrame();
     bench.LoadNotedSheets();
-    bench.Press(bench.Frame().mnuAs, "/work/b.mdb");
+    bench.Press(bench.Frame().mnuAs, "/jobs/b.mdb");
     ExpectSilence(bench);
-    EXPECT_EQ(bench.program.CurrentProjectPath, "/work/TRVN_gone.mdb");
+    EXPECT_EQ(bench.program.CurrentProjectPath, "/jobs/TRVN_gone.mdb");
     EXPECT_EQ(bench.log, Names{});
 }
 
