@@ -4,6 +4,7 @@
 #include <QHeaderView>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QScrollBar>
 #include <QStyledItemDelegate>
 #include <algorithm>
 
@@ -129,6 +130,7 @@ void GridView::ShowEditor()
     }
     const QModelIndex cell = model_->index(grid_.Row(), grid_.Column());
     scrollTo(cell);
+    horizontalScrollBar()->setValue(0);  // columns share the width: there is nothing to scroll to at the side
     box_->setGeometry(visualRect(cell));
     if (const auto text = QString::fromStdString(editor.Text()); text != box_->text()) box_->setText(text);
     box_->show();
