@@ -1,6 +1,7 @@
 // Pictures of every window in its states, to be looked at: screenshots FOLDER. The size of the screen and the scale are
 // the platform's (Xvfb, QT_SCALE_FACTOR); tools/screenshots runs it at each.
 #include <QScreen>
+#include <QTimer>
 #include <cstdio>
 
 #include "desktop/desktop_fixture.h"
@@ -41,6 +42,16 @@ void CompactionPictures(DesktopFixture& running, const QString& folder, const st
     Keep(folder, qPrintable(prefix + "_curve"));
 }
 
+/// The box that a failing command shows, over the sheet that keeps what was typed.
+void ErrorPicture(DesktopFixture& running, const QString& folder)
+{
+    QTimer::singleShot(300, [&folder] {
+        Keep(folder, "error_shown");
+        QApplication::activeModalWidget()->close();
+    });
+    running.surroundings.QtSurroundings::Fail("frmCompaction.cmdCal_Click", RuntimeError(error::kDivisionByZero));
+}
+
 }  // namespace
 
 int main(int argc, char** argv)
@@ -58,6 +69,7 @@ int main(int argc, char** argv)
     Keep(folder, "general_data_filled");
     running.FormNamed("frmProject").Get<CommandButton>("cmdOK").Press();
     CompactionPictures(running, folder, "mnuStd1", "soil");
+    ErrorPicture(running, folder);
     running.FormNamed("frmCompaction").Get<CommandButton>("cmdView").Press();
     Keep(folder, "preview");
     running.FormNamed("frmPreview").Get<ComboBox>("cboScale").Choose(0);
