@@ -196,7 +196,9 @@ void GridView::ShareRoom()
     }
     int least = 0;
     for (int row = 0; row < rows; ++row) least += LeastRowHeight(row);
-    if (grid_.HeadRows() == rows) setFixedHeight(least + 2 * frameWidth());  // heads alone are never scrolled
+    const bool headsAlone = grid_.HeadRows() == rows;  // are never scrolled; rows may come later
+    setMinimumHeight(headsAlone ? least + 2 * frameWidth() : 0);
+    setMaximumHeight(headsAlone ? least + 2 * frameWidth() : QWIDGETSIZE_MAX);
     const int spare = std::max(0, viewport()->height() - least);
     for (int row = 0; row < rows; ++row) {
         setRowHeight(row, LeastRowHeight(row) + std::min(spare / std::max(1, rows), looks::kGridRowHeight / 2));
