@@ -11,7 +11,6 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QScrollArea>
 #include <QTabWidget>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -142,8 +141,6 @@ QWidget* FormView::Make(const Place& place)
             return MakeGroup(place);
         case Place::Kind::Tabs:
             return MakeTabs(place);
-        case Place::Kind::Scroll:
-            return MakeScroll(place);
         case Place::Kind::Field:
             return MakeField(place);
         case Place::Kind::Result:
@@ -237,19 +234,6 @@ QWidget* FormView::MakeTabs(const Place& place)
     bindings_.push_back(Bind(control, *tabs));
     Watch(control, *tabs);
     return tabs;
-}
-
-QWidget* FormView::MakeScroll(const Place& place)
-{
-    auto* area = new QScrollArea(this);
-    area->setWidgetResizable(true);
-    area->setFrameShape(QFrame::NoFrame);
-    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    auto* inside = new QWidget(area);
-    auto* box = new QVBoxLayout(inside);
-    AddAll(*box, place.parts);
-    area->setWidget(inside);
-    return area;
 }
 
 QWidget* FormView::MakeField(const Place& place)

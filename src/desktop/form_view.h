@@ -36,7 +36,6 @@ class FormView : public QWidget {
     QWidget* MakePair(const Place& place);
     QWidget* MakeGroup(const Place& place);
     QWidget* MakeTabs(const Place& place);
-    QWidget* MakeScroll(const Place& place);
     QWidget* MakeField(const Place& place);
     QWidget* MakeResult(const Place& place);
     QWidget* MakeBanner(const Place& place);

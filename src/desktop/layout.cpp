@@ -76,11 +76,6 @@ Place Plot(std::string_view frame, std::string_view plot, int stretch)
     return {Place::Kind::Plot, frame, {}, plot, stretch};
 }
 
-Place Scroll(std::vector<Place> parts)
-{
-    return {Place::Kind::Scroll, {}, std::move(parts), {}, 1};
-}
-
 Place Space()
 {
     return {Place::Kind::Space, {}, {}, {}, 1};

@@ -21,7 +21,6 @@ struct Place {
         Result,   // caption small, figure large, `text` its unit
         Banner,   // the coloured title of a sheet
         Plot,     // a picture box with `text` naming the one that stands on it (may be empty)
-        Scroll,   // the parts in a scroll area
         Space     // takes what room is left
     };
     Kind kind;
@@ -48,7 +47,6 @@ Place NamedFields(std::vector<Place> fields, int stretch = 0);
 Place Result(std::string_view control, std::string_view unit);
 Place Banner(std::string_view control);
 Place Plot(std::string_view frame, std::string_view plot, int stretch = 1);
-Place Scroll(std::vector<Place> parts);
 Place Space();
 
 /// The general data block, the same on every sheet.
