@@ -6,6 +6,7 @@
 #include "reports/atterberg_report.h"
 #include "reports/cbr_report.h"
 #include "reports/compaction_report.h"
+#include "reports/density_report.h"
 #include "reports/open_sheet.h"
 #include "reports/page_frame.h"
 #include "reports/sieve_report.h"
@@ -19,6 +20,7 @@ namespace {
 constexpr std::array kReports{
     Report{Test::StdSoil, PrintCompaction, ShowCompaction},
     Report{Test::ModSoil, PrintCompaction, ShowCompaction},
+    Report{Test::DenSoil, PrintFieldDensity, ShowFieldDensity},
     Report{Test::SpcSoil, PrintSpecificGravity, ShowSpecificGravity},
     Report{Test::AttSoil, PrintAtterberg, ShowAtterberg},
     Report{Test::CBRSoil, PrintCBR, ShowCBRPage1, ShowCBRPage2},

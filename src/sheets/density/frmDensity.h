@@ -1,0 +1,111 @@
+/// The field density sheet, by the sand cone: the sand is calibrated for its mass in the cone and its density, the
+/// sand that fills a hole gives the hole's volume, and the soil from the hole its density, in percent of the maximum
+/// of the project's compaction test. Up to six holes. Masses in g, lengths in cm, volumes in cm³, densities in g/cm³.
+#pragma once
+
+#include <string_view>
+
+#include "controls/text_grid.h"
+#include "sheets/pattern/test_sheet.h"
+
+namespace terravane {
+
+namespace field {
+
+inline constexpr int kColumns = 6;  // of every grid, from 1: determinations of the sand, or test holes
+
+/// Rows of MSHWsand: the sand that stays in the cone.
+namespace cone {
+enum Row { Determination, Initial, Final, SandInCone, Average, kRows };
+}
+
+/// Rows of MSHDsand: the density of the sand, from a mould.
+namespace sand {
+enum Row { Determination, Diameter, Height, Mould, MouldAndSand, Sand, Volume, Density, kRows };
+}
+
+/// Rows of MSHWsoil: the wet soil from the hole.
+namespace soil {
+enum Row { Hole, WetAndPan, Pan, WetSoil, kRows };
+}
+
+/// Rows of MSHWater; the water content in percent.
+namespace water {
+enum Row { Hole, WetAndCan, DryAndCan, Can, Water, DrySoil, WaterContent, kRows };
+}
+
+/// Rows of MSHVolume: the sand that fills the hole.
+namespace volume {
+enum Row { Hole, Initial, Final, SandInCone, SandInHole, SandDensity, Volume, kRows };
+}
+
+/// Rows of MSHSummary; the compaction in percent.
+namespace summary {
+enum Row { Hole, MaximumDensity, WetDensity, DryDensity, Compaction, kRows };
+}
+
+/// A compaction test that gives the maximum dry density.
+struct Reference {
+    Test test;
+    std::string_view name;    // in the summary's caption
+    std::string_view stored;  // in the table
+};
+
+}  // namespace field
+
+struct frmDensity : TestSheet {
+    explicit frmDensity(Program& program);
+
+    TextBox txtPosition{*this, "txtPosition", "Position"};
+
+    Frame FraWsand{*this, "FraWsand", "Mass of Sand in Cone"};
+    TextGrid MSHWsand{*this, "MSHWsand", field::cone::kRows, field::kColumns + 1};
+    Frame FraDsand{*this, "FraDsand", "Density of Sand"};
+    TextGrid MSHDsand{*this, "MSHDsand", field::sand::kRows, field::kColumns + 1};
+    Frame FraWsoil{*this, "FraWsoil", "Mass of Wet Soil"};
+    TextGrid MSHWsoil{*this, "MSHWsoil", field::soil::kRows, field::kColumns + 1};
+    Frame fraWater{*this, "fraWater", "Water Content"};
+    TextGrid MSHWater{*this, "MSHWater", field::water::kRows, field::kColumns + 1};
+    Frame fraVolume{*this, "fraVolume", "Volume of Hole"};
+    TextGrid MSHVolume{*this, "MSHVolume", field::volume::kRows, field::kColumns + 1};
+    Frame fraSummary{*this, "fraSummary", "Summary"};  // the caption names the compaction test that was chosen
+    TextGrid MSHSummary{*this, "MSHSummary", field::summary::kRows, field::kColumns + 1};
+    CellEditor txtData;   // over MSHWsand
+    CellEditor txtData1;  // over MSHDsand
+    CellEditor txtData2;  // over MSHWsoil
+    CellEditor txtData3;  // over MSHWater
+    CellEditor txtData4;  // over MSHVolume
+    CellEditor txtData5;  // over the maximum densities of MSHSummary, for a job without a compaction test of its own
+
+    OptionButton optStd{*this, "optStd", "Standard Compaction", "compaction"};
+    OptionButton optMod{*this, "optMod", "Modified Compaction", "compaction"};
+
+    void Form_Load() override;
+
+    /// The maximum dry density that Save stored with the compaction test of the same material, into the columns that
+    /// have a water content. A test that was never plotted and saved leaves them blank.
+    void optStd_Click();
+    void optMod_Click();
+    /// Calculate: from the sand to the percent compaction of each hole, and the posting of its average; each stage from
+    /// the text of the one before. Error 11 or 6 where the sand has no density, a hole no volume or the first hole no
+    /// maximum density; the cells before it stand and nothing is posted.
+    void cmdCal_Click() override;
+
+    std::span<const TablePass> TablePasses() const override;
+    void LoadChoices(const jet::Recordset& records) override;
+    std::string SavedChoice(std::string_view suffix) const override;
+
+  private:
+    void BuildGrids();
+    void WireEvents();
+    void FetchMaximumDensity(const field::Reference& reference);
+
+    void SandInCone();
+    void SandDensity();
+    void WetSoil();
+    void Volumes();
+    void DensitiesOf(int hole);
+    float AverageCompaction();
+};
+
+}  // namespace terravane

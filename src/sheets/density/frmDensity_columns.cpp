@@ -1,0 +1,45 @@
+// Which column of the field density tables stands where on the sheet. Load and save walk this one table.
+#include <array>
+
+#include "sheets/density/frmDensity.h"
+
+namespace terravane {
+
+namespace {
+
+using namespace field;
+using enum ColumnPlace::Kind;
+
+constexpr std::array kPlaces{
+    ColumnPlace{"date", "DTPDate"},
+    ColumnPlace{"soil", "txtSoil"},
+    ColumnPlace{"pos", "txtPosition"},
+    ColumnPlace{"test", "cboTest"},
+    ColumnPlace{"check", "cboCheck"},
+    ColumnPlace{"height", "MSHDsand", GridRow, sand::Height},
+    ColumnPlace{"dia", "MSHDsand", GridRow, sand::Diameter},
+    ColumnPlace{"imsjc", "MSHWsand", GridRow, cone::Initial},
+    ColumnPlace{"fmsjc", "MSHWsand", GridRow, cone::Final},
+    ColumnPlace{"mem", "MSHDsand", GridRow, sand::Mould},
+    ColumnPlace{"mms", "MSHDsand", GridRow, sand::MouldAndSand},
+    ColumnPlace{"mmsp", "MSHWsoil", GridRow, soil::WetAndPan},
+    ColumnPlace{"mp", "MSHWsoil", GridRow, soil::Pan},
+    ColumnPlace{"imsj", "MSHVolume", GridRow, volume::Initial},
+    ColumnPlace{"fmsj", "MSHVolume", GridRow, volume::Final},
+    ColumnPlace{"mwsc", "MSHWater", GridRow, water::WetAndCan},
+    ColumnPlace{"mdsc", "MSHWater", GridRow, water::DryAndCan},
+    ColumnPlace{"mc", "MSHWater", GridRow, water::Can},
+    ColumnPlace{"mdd", "MSHSummary", GridRow, summary::MaximumDensity},
+    ColumnPlace{"comp", ""},
+};
+
+constexpr std::array kPasses{TablePass{kColumns, kPlaces}};
+
+}  // namespace
+
+std::span<const TablePass> frmDensity::TablePasses() const
+{
+    return kPasses;
+}
+
+}  // namespace terravane
