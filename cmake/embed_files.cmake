@@ -1,9 +1,11 @@
 # Writes a source file with the pictures that a header names: every constant `k... = "file.jpg"` of the header becomes
-# an array of that file's bytes. Run while building:
+# an array of that file's bytes, and FUNCTION, which the header declares, returns them all. Run while building:
 #
-#   cmake -D HEADER=src/store/brand_pictures.h -D FOLDER=assets/BrandList -D OUTPUT=brand_pictures.cpp -P embed_files.cmake
+#   cmake -D HEADER=store/brand_pictures.h -D SOURCES=src -D FOLDER=assets/BrandList -D FUNCTION=FirstBrandPictures
+#         -D OUTPUT=brand_pictures.cpp -P embed_files.cmake
 
-file(STRINGS ${HEADER} lines REGEX "std::string_view k[A-Za-z]+ = \"[^\"]+\\.jpg\"")
+file(STRINGS ${SOURCES}/${HEADER} lines REGEX "std::string_view k[A-Za-z]+ = \"[^\"]+\\.jpg\"")
+list(LENGTH lines count)
 set(arrays "")
 set(entries "")
 foreach(line IN LISTS lines)
@@ -16,7 +18,7 @@ foreach(line IN LISTS lines)
 endforeach()
 
 file(WRITE ${OUTPUT} "// Written by cmake/embed_files.cmake; change the pictures, not this file.
-#include \"store/brand_pictures.h\"
+#include \"${HEADER}\"
 
 namespace terravane {
 
@@ -25,7 +27,7 @@ namespace {
 ${arrays}
 }  // namespace
 
-std::array<BrandPicture, 3> FirstBrandPictures()
+std::array<BrandPicture, ${count}> ${FUNCTION}()
 {
     return {
 ${entries}    };

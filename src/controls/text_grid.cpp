@@ -94,6 +94,34 @@ void TextGrid::SetColumnWidth(int column, double twips)
     Changed();
 }
 
+template <class Alike>
+TextGrid::Run TextGrid::RunAround(int place, int count, Alike alike)
+{
+    int first = place, last = place;
+    while (first > 0 && alike(first - 1)) --first;
+    while (last + 1 < count && alike(last + 1)) ++last;
+    return {first, last - first + 1};
+}
+
+TextGrid::Run TextGrid::RunAcross(int row, int column) const
+{
+    if (!MergeRow(row)) return {column, 1};
+    const std::string& text = (*this)(row, column);
+    return RunAround(column, columns_, [&](int other) { return (*this)(row, other) == text; });
+}
+
+/// Across goes before down, so that no cell belongs to two areas.
+CellArea TextGrid::AreaOf(int row, int column) const
+{
+    const std::string& text = (*this)(row, column);
+    if (MergeCells == Merging::Never) return {row, column, 1, 1};
+    const Run across = RunAcross(row, column);
+    if (across.length > 1 || !MergeCol(column)) return {row, across.first, 1, across.length};
+    const Run down = RunAround(
+        row, rows_, [&](int other) { return (*this)(other, column) == text && RunAcross(other, column).length == 1; });
+    return {down.first, column, down.length, 1};
+}
+
 void TextGrid::Select(int row, int column)
 {
     Index(row, column);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <ostream>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -15,6 +16,16 @@ class CellEditor;
 class TextGrid;
 
 enum class MouseButton { Left, Right };
+
+/// Whether neighbours with the same text stand as one cell, in the rows and columns where that is allowed.
+enum class Merging { Never, Free };
+
+/// A cell, or what merged with it: its upper left cell and how far it reaches.
+struct CellArea {
+    int row, column;
+    int rows, columns;
+    bool operator==(const CellArea&) const = default;
+};
 
 /// One cell: reads as its text, takes a text.
 class Cell {
@@ -68,6 +79,15 @@ class TextGrid : public Control {
     double ColumnWidth(int column) const { return columnWidths_.at(static_cast<std::size_t>(column)); }
     void SetColumnWidth(int column, double twips);
 
+    Merging MergeCells = Merging::Never;
+    /// Whether cells beside each other in a row, or above each other in a column, may merge.
+    bool MergeRow(int row) const { return mergedRows_.contains(row); }
+    void SetMergeRow(int row) { mergedRows_.insert(row); }
+    bool MergeCol(int column) const { return mergedColumns_.contains(column); }
+    void SetMergeCol(int column) { mergedColumns_.insert(column); }
+    /// What a cell is part of to the eye; a cell that merges with none is its own area. Each cell keeps its text.
+    CellArea AreaOf(int row, int column) const;
+
     /// The current cell.
     int Row() const { return row_; }
     int Column() const { return column_; }
@@ -84,6 +104,12 @@ class TextGrid : public Control {
 
   private:
     friend class Cell;
+    struct Run {
+        int first, length;
+    };
+    template <class Alike>
+    static Run RunAround(int place, int count, Alike alike);
+    Run RunAcross(int row, int column) const;
     std::size_t Index(int row, int column) const;
     void Set(int row, int column, std::string_view text);
 
@@ -92,6 +118,7 @@ class TextGrid : public Control {
     std::vector<std::string> cells_;
     std::vector<bool> calculated_;
     std::vector<double> columnWidths_;
+    std::set<int> mergedRows_, mergedColumns_;
     CellEditor* editor_ = nullptr;
 };
 

@@ -1,0 +1,153 @@
+#include "results/frmSummary.h"
+
+#include "results/product_picture.h"
+#include "results/summary_page.h"
+#include "runtime/numbers.h"
+#include "runtime/text.h"
+#include "store/statements.h"
+
+namespace terravane {
+
+namespace {
+
+// Widths of the grid and of its first two columns, in twips; the values share the rest.
+constexpr double kGridWidth = 9600;
+constexpr double kTestWidth = 2200;
+constexpr double kPropertyWidth = 1700;
+
+constexpr char kMark = '*';
+
+struct MaterialColumn {
+    Material material;
+    int column;
+};
+
+constexpr std::array kMaterialColumns{
+    MaterialColumn{Material::Soil, summary::kSoil},
+    MaterialColumn{Material::Crush, summary::kCrush},
+};
+
+/// A way of testing that is marked behind its results.
+/// choice, chosen   the column of the test's first row that tells it, and what stands there
+/// firstRow, lastRow  of the grid
+/// marksBlanks      whether a result that was never posted is marked, too
+struct Remark {
+    Test test;
+    std::string_view choice, chosen;
+    int firstRow, lastRow;
+    bool marksBlanks;
+};
+
+constexpr std::array kRemarks{
+    Remark{Test::SieSoil, "sie_pwash", "1", 6, 8, false},  // a wet sieve
+    Remark{Test::CBRSoil, "cbr_typ", "0", 16, 16, true},   // unsoaked
+};
+static_assert(summary::LineOf(kRemarks[0].firstRow).column == "sum_gravel" &&
+              summary::LineOf(kRemarks[0].lastRow).column == "sum_finer" &&
+              summary::LineOf(kRemarks[1].firstRow).column == "sum_CBR");
+
+std::shared_ptr<const Picture> ProductLogo()
+{
+    const auto content = ProductPictures().front().content;
+    return ReadPicture("imgLogo", Bytes(content.begin(), content.end()));
+}
+
+void Mark(TextGrid& grid, const Remark& remark, int column)
+{
+    for (int row = remark.firstRow; row <= remark.lastRow; ++row) {
+        const auto cell = grid(row, column);
+        if (remark.marksBlanks || !Trim(cell).empty()) grid(row, column) = cell.Text() + kMark;
+    }
+}
+
+}  // namespace
+
+frmSummary::frmSummary(Program& owner) : Form(owner, "frmSummary", "Overall Report"), program(owner)
+{
+    imgLogo.SetContent(ProductLogo());
+    cmdPrint.Click = [this] { cmdPrint_Click(); };
+    cmdClose.Click = [this] { cmdClose_Click(); };
+}
+
+void frmSummary::Form_Load()
+{
+    OpenRecentProject();
+    ShowHeadings();
+    ShowResults();
+    MarkResults();
+    LayOutGrid();
+}
+
+/// The recent entry counts, also where no file was opened since the program started.
+void frmSummary::OpenRecentProject()
+{
+    program.CurrentProjectPath = program.Get<Form>("mdiBack").Get<MenuEntry>("mnuRecent").Caption();
+    OpenProjectConnection(program);
+}
+
+void frmSummary::ShowHeadings()
+{
+    const auto& head = Query(program, program.ProjectConnection, SelectAll("HEAD"));
+    txtProject.SetText(head.Fields("project_Name"));
+    txtLocation.SetText(head.Fields("project_Location"));
+}
+
+/// SUMMARY has a row a material, soil first.
+void frmSummary::ShowResults()
+{
+    auto& results = Query(program, program.ProjectConnection, SelectAll("SUMMARY"));
+    for (const auto& [material, column] : kMaterialColumns) {
+        for (int row = summary::kHeadRows; row < summary::kRows; ++row) {
+            const SummaryLine& line = summary::LineOf(row);
+            const std::string posted = results.Fields(line.column);
+            mshSum(row, column) = line.mask.empty() ? posted : Format(posted, line.mask);
+        }
+        results.MoveNext();
+    }
+}
+
+void frmSummary::MarkResults()
+{
+    for (const Remark& remark : kRemarks) {
+        for (const auto& [material, column] : kMaterialColumns) {
+            const auto table = TableOf(remark.test, material).name;
+            const auto& rows = Query(program, program.ProjectConnection, SelectAll(table));
+            if (Trim(rows.Fields(remark.choice)) == remark.chosen) Mark(mshSum, remark, column);
+        }
+    }
+}
+
+void frmSummary::LayOutGrid()
+{
+    mshSum.SetHeadRows(summary::kHeadRows);
+    mshSum.SetColumnWidth(summary::kTest, kTestWidth);
+    mshSum.SetColumnWidth(summary::kProperty, kPropertyWidth);
+    for (const auto& [material, column] : kMaterialColumns)
+        mshSum.SetColumnWidth(column, (kGridWidth - kTestWidth - kPropertyWidth) / 2);
+    mshSum.MergeCells = Merging::Free;
+    mshSum.SetMergeRow(0);
+    mshSum.SetMergeCol(summary::kTest);
+    mshSum.SetMergeCol(summary::kProperty);
+    mshSum.SetColumnTitles({"List of Testing", "Properties", "Values", "Values"});
+    const std::array<std::string_view, summary::kColumns> materials{"List of Testing", "Properties", "Soil",
+                                                                    "Crushed Rock"};
+    for (int column = 0; column < summary::kColumns; ++column)
+        mshSum(1, column) = materials[static_cast<std::size_t>(column)];
+    for (int row = summary::kHeadRows; row < summary::kRows; ++row) {
+        mshSum(row, summary::kTest) = summary::LineOf(row).test;
+        mshSum(row, summary::kProperty) = summary::LineOf(row).property;
+    }
+}
+
+void frmSummary::cmdPrint_Click()
+try {
+    const auto target = program.Ask().AskPrinter();
+    if (!target) return;
+    DrawSummaryPage(*this, program.printer);
+    program.printer.SetTarget(*target, std::string(kSummaryTitle));
+    program.printer.EndDoc();
+} catch (const RuntimeError&) {
+    program.printer.KillDoc();
+}
+
+}  // namespace terravane

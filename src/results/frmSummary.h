@@ -1,0 +1,43 @@
+/// The overall results: what the sheets posted for both materials, in one grid. Nothing is worked out here; the form
+/// knows neither the sheets nor how they post.
+#pragma once
+
+#include "controls/choice_controls.h"
+#include "controls/furniture.h"
+#include "controls/text_controls.h"
+#include "controls/text_grid.h"
+#include "program/program.h"
+#include "results/summary_lines.h"
+
+namespace terravane {
+
+struct frmSummary : Form {
+    explicit frmSummary(Program& program);
+
+    Program& program;
+
+    Image imgLogo{*this, "imgLogo"};
+    Frame fraResults{*this, "fraResults", "Overall Testing Results "};
+    TextBox txtProject{*this, "txtProject", "Project Name"};
+    TextBox txtLocation{*this, "txtLocation", "Location"};
+    TextGrid mshSum{*this, "mshSum", summary::kRows, summary::kColumns};
+    CommandButton cmdPrint{*this, "cmdPrint", "Print"};
+    CommandButton cmdClose{*this, "cmdClose", "Close"};
+
+    /// Reads the results afresh from the file of the recent entry, which becomes the current project. Errors of the
+    /// store where that file is missing, damaged or without one of the tables.
+    void Form_Load() override;
+
+    /// One page, on the printer that the user chooses. Cancel and every failure end it without a word.
+    void cmdPrint_Click();
+    void cmdClose_Click() { program.Unload(Name()); }
+
+  private:
+    void OpenRecentProject();
+    void ShowHeadings();
+    void ShowResults();
+    void MarkResults();
+    void LayOutGrid();
+};
+
+}  // namespace terravane

@@ -1,0 +1,206 @@
+#include "results/summary_page.h"
+
+#include "runtime/text.h"
+
+namespace terravane {
+
+namespace {
+
+constexpr std::string_view kThaiName = "โปรแกรมเทอร์ราเวน สำหรับงานทดสอบวัสดุก่อสร้างทาง";
+constexpr std::string_view kName = "Terravane Program";
+constexpr std::string_view kVersion = "Terravane version 1.0";
+constexpr std::string_view kMaker = "Written by the Terravane developers";
+constexpr std::string_view kRemarkText =
+    "Remark: * indicates that the test was performed using a wet sieve or an unsoaked CBR.";
+
+constexpr std::string_view kFont = "DilleniaUPC";
+constexpr double kTitleSize = 20;  // points
+constexpr double kVersionSize = 14;
+constexpr double kTextSize = 16;
+constexpr double kRemarkSize = 14;
+constexpr Colour kThaiColour{192, 0, 0};
+constexpr Colour kNameColour{0, 0, 192};
+
+// Lengths are twips from here on. The same margin holds left and right.
+constexpr double kMargin = 1250;
+constexpr double kLogoTop = 1250;
+constexpr double kLogoSide = 1200;
+constexpr double kBannerLeft = 3000;
+constexpr double kThaiTop = 1200;
+constexpr double kNameTop = 1600;
+constexpr double kVersionTop = 2070;
+constexpr double kBannerRule = 2480;
+constexpr double kJobTop = 2700;
+constexpr double kJobTextLeft = 2800;
+constexpr double kTitleTop = 3800;
+constexpr double kTableTop = 4500;
+constexpr double kTestInset = 200;
+constexpr double kCaptionInset = 90;  // the longest caption leaves as much at its other end
+constexpr double kRemarkTop = 12100;
+
+constexpr int kThickRule = 2;  // draw widths
+constexpr int kThinRule = 1;
+constexpr int kSolid = 0;
+
+/// Where the grid's columns begin on the page, in thirds of the table, and where the last one ends.
+constexpr std::array kEdges{0.0, 1.0, 2.0, 2.5, 3.0};
+
+double RightEdge(const DrawingSurface& page)
+{
+    return page.ScaleWidth - kMargin;
+}
+
+void PrintAt(DrawingSurface& page, double x, double y, std::string_view text)
+{
+    page.CurrentX = x;
+    page.CurrentY = y;
+    page.PrintOn(text);
+}
+
+void PrintCentred(DrawingSurface& page, double x, double width, double y, std::string_view text)
+{
+    PrintAt(page, x + (width - page.TextWidth(text)) / 2, y, text);
+}
+
+/// The table on the page: a line of text a row of the grid. The line is measured once, in the size then in force.
+class SummaryTable {
+  public:
+    SummaryTable(DrawingSurface& page, const TextGrid& grid)
+        : page_(page), grid_(grid), line_(page.TextHeight("H")), third_((page.ScaleWidth - 2 * kMargin) / 3)
+    {}
+
+    void DrawRules() const
+    {
+        page_.DrawWidth = kThickRule;
+        page_.Box(Left(0), Top(0), Left(summary::kColumns), Top(summary::kRows));
+        page_.DrawWidth = kThinRule;
+        page_.Line(Left(summary::kProperty), Top(0), Left(summary::kProperty), Top(summary::kRows));
+        page_.Line(Left(summary::kSoil), Top(0), Left(summary::kSoil), Top(summary::kRows));
+        page_.Line(Left(summary::kCrush), Top(1), Left(summary::kCrush), Top(summary::kRows));
+        page_.Line(Left(summary::kSoil), Top(1), Left(summary::kColumns), Top(1));
+        for (const CellArea& test : Tests()) page_.Line(Left(0), Top(test.row), Left(summary::kColumns), Top(test.row));
+    }
+
+    void PrintHeads() const
+    {
+        for (int row = 0; row < summary::kHeadRows; ++row) {
+            for (int column = 0; column < summary::kColumns; ++column) {
+                const CellArea area = grid_.AreaOf(row, column);
+                if (area.row != row || area.column != column) continue;  // printed with the cell that it merged with
+                PrintCentred(page_, Left(column), Width(column, area.columns), Middle(area), grid_(row, column));
+            }
+        }
+    }
+
+    void PrintTestsAndCaptions() const
+    {
+        for (const CellArea& test : Tests())
+            PrintAt(page_, Left(summary::kTest) + kTestInset, Middle(test), grid_(test.row, summary::kTest));
+        for (int row = summary::kHeadRows; row < summary::kRows; ++row)
+            PrintAt(page_, Left(summary::kProperty) + kCaptionInset, Top(row), summary::LineOf(row).caption);
+    }
+
+    /// The unit stands behind a value that was posted, and behind a mark without a value.
+    void PrintValues(int column) const
+    {
+        for (int row = summary::kHeadRows; row < summary::kRows; ++row) {
+            std::string text = grid_(row, column);
+            if (!Trim(text).empty()) text += summary::LineOf(row).unit;
+            PrintCentred(page_, Left(column), Width(column, 1), Top(row), text);
+        }
+    }
+
+  private:
+    double Left(int column) const { return kMargin + third_ * kEdges[static_cast<std::size_t>(column)]; }
+    double Width(int column, int columns) const { return Left(column + columns) - Left(column); }
+    double Top(int row) const { return kTableTop + line_ * row; }
+    /// Where a text begins that stands half-way down an area.
+    double Middle(const CellArea& area) const { return Top(area.row) + line_ * (area.rows - 1) / 2; }
+
+    /// The tests below the heads, as the grid's first column merges them.
+    std::vector<CellArea> Tests() const
+    {
+        std::vector<CellArea> tests;
+        for (int row = summary::kHeadRows; row < summary::kRows; row += tests.back().rows)
+            tests.push_back(grid_.AreaOf(row, summary::kTest));
+        return tests;
+    }
+
+    DrawingSurface& page_;
+    const TextGrid& grid_;
+    double line_, third_;
+};
+
+void PrintBanner(DrawingSurface& page)
+{
+    page.ForeColor = kThaiColour;
+    PrintAt(page, kBannerLeft, kThaiTop, kThaiName);
+    page.ForeColor = kNameColour;
+    PrintAt(page, kBannerLeft, kNameTop, kName);
+    page.ForeColor = kBlack;
+    page.FontSize = kVersionSize;
+    PrintAt(page, kBannerLeft, kVersionTop, kVersion);
+    page.FontBold = false;
+    PrintAt(page, RightEdge(page) - page.TextWidth(kMaker), kVersionTop, kMaker);
+    page.DrawWidth = kThinRule;
+    page.Line(kBannerLeft, kBannerRule, RightEdge(page), kBannerRule);
+}
+
+void PrintJob(const frmSummary& form, DrawingSurface& page)
+{
+    page.FontSize = kTextSize;
+    double y = kJobTop;
+    for (const TextBox* box : {&form.txtProject, &form.txtLocation}) {
+        PrintAt(page, kMargin, y, box->Caption());
+        PrintAt(page, kJobTextLeft, y, ":  " + box->Text());
+        y += page.TextHeight(box->Caption());
+    }
+}
+
+/// Slanted and light, so that it reads as a note below the table.
+void PrintRemark(DrawingSurface& page)
+{
+    page.FontSize = kRemarkSize;
+    page.FontBold = false;
+    page.FontItalic = true;
+    PrintAt(page, kMargin, kRemarkTop, kRemarkText);
+    page.FontSize = kTextSize;
+    page.FontBold = true;
+    page.FontItalic = false;
+}
+
+}  // namespace
+
+void DrawSummaryPage(const frmSummary& form, Printer& page)
+{
+    page.SetOrientation(Orientation::Portrait);
+    page.FontName = kFont;
+    page.FontSize = kTitleSize;
+    page.FontBold = true;
+    page.FontItalic = false;
+    page.DrawStyle = kSolid;
+    page.PaintPicture(form.imgLogo.Content(), kMargin, kLogoTop, kLogoSide, kLogoSide);
+    PrintBanner(page);
+    PrintJob(form, page);
+    page.FontBold = true;
+    page.FontSize = kTitleSize;
+    PrintCentred(page, 0, page.ScaleWidth, kTitleTop, kSummaryTitle);
+    page.FontSize = kTextSize;
+    const SummaryTable table(page, form.mshSum);
+    table.DrawRules();
+    table.PrintHeads();
+    table.PrintTestsAndCaptions();
+    PrintRemark(page);
+    table.PrintValues(summary::kSoil);
+    table.PrintValues(summary::kCrush);
+}
+
+std::vector<DisplayList> PagesOfSummary(const frmSummary& form)
+{
+    Printer copy = form.program.printer;
+    copy.KillDoc();
+    DrawSummaryPage(form, copy);
+    return copy.Pages();
+}
+
+}  // namespace terravane
