@@ -1,0 +1,104 @@
+// The form as a whole: its events, its load, the five names.
+#include "app/frmPreferences.h"
+
+#include <utility>
+
+#include "jet/engine_error.h"
+#include "store/brand_statements.h"
+#include "store/new_stores.h"
+#include "store/statements.h"
+
+namespace terravane {
+
+namespace {
+
+constexpr double kWidth = 12600, kHeight = 9600;  // twips
+
+}  // namespace
+
+frmPreferences::frmPreferences(Program& owner)
+    : Form(owner, "frmPreferences", "Preferences"), program(owner), ComDialog(owner.Ask())
+{
+    Width = kWidth;
+    Height = kHeight;
+    for (CommandButton* change : {&cmdLogo1, &cmdLogo2, &cmdLogo3}) change->SetEnabled(false);
+    txtLogo.SetLocked(true);
+    WireEvents();
+    WirePersons();
+}
+
+void frmPreferences::WireEvents()
+{
+    cmdOpen.Click = [this] { cmdOpen_Click(); };
+    cmdOpen1.Click = [this] { cmdOpen1_Click(); };
+    cmdOpen2.Click = [this] { cmdOpen2_Click(); };
+    cmdLogo1.Click = [this] { cmdLogo1_Click(); };
+    cmdLogo2.Click = [this] { cmdLogo2_Click(); };
+    cmdLogo3.Click = [this] { cmdLogo3_Click(); };
+    cmdName1.Click = [this] { cmdName1_Click(); };
+    cmdName2.Click = [this] { cmdName2_Click(); };
+    cmdName3.Click = [this] { cmdName3_Click(); };
+    cmdDbase.Click = [this] { cmdDbase_Click(); };
+    cmdClose.Click = [this] { cmdClose_Click(); };
+}
+
+void frmPreferences::Form_Load()
+try {
+    PreparePersonGrid();
+    program.BrandFolder = program.BrandFolderNow();
+    for (const Logo& logo : {kInstitute, kDepartment, kCover}) LoadLogo(logo);
+    ConnectStore();
+    LoadNames();
+    LoadPersons();
+} catch (const RuntimeError&) {
+}
+
+void frmPreferences::ConnectStore()
+{
+    OpenBrandConnection(program);
+    isConnected_ = true;
+}
+
+/// A load that stopped before it reached the store left the boxes empty: their emptiness must not go through an earlier
+/// form's connection and over the names and persons that were not read. A connection that a failed write has ended is
+/// made anew.
+void frmPreferences::Write(std::string statement)
+{
+    if (!isConnected_) {
+        throw RuntimeError(
+            jet::engine::kFile,
+            "The names and persons were not written: this form could not read them when it opened. Close "
+            "it and open it again once '" +
+                program.BrandFolder + "' holds 'logo.mdb' and the three logos.");
+    }
+    if (!program.BrandConnection.IsOpen()) OpenBrandConnection(program);
+    Execute(program, program.BrandConnection, std::move(statement));
+}
+
+void frmPreferences::LoadNames()
+{
+    const auto& logo = Query(program, program.BrandConnection, SelectAll("LOGO"));
+    txtIsName.SetText(logo.Fields("logo_ins"));
+    txtDname.SetText(logo.Fields("logo_dep"));
+    txtCov1.SetText(logo.Fields("logo_cov1"));
+    txtCov2.SetText(logo.Fields("logo_cov2"));
+    txtCov3.SetText(logo.Fields("logo_cov3"));
+}
+
+void frmPreferences::ChangeNames()
+{
+    const std::string institute = txtIsName.Text(), department = txtDname.Text();
+    const std::string cover1 = txtCov1.Text(), cover2 = txtCov2.Text(), cover3 = txtCov3.Text();
+    Write(UpdateLogo({institute, department, cover1, cover2, cover3}));
+}
+
+/// The file is looked for without regard to case, as the connection does: "Logo.mdb" is the brand database too.
+void frmPreferences::cmdDbase_Click()
+try {
+    CreateBrandStore(program.Files(), FindWithoutCase(program.Files(), program.BrandFolderNow(), "logo.mdb"));
+    program.BrandFolder = program.BrandFolderNow();
+    ConnectStore();
+} catch (const RuntimeError&) {
+}
+
+}  // namespace terravane

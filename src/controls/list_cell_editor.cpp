@@ -1,0 +1,26 @@
+#include "controls/list_cell_editor.h"
+
+#include <utility>
+
+#include "controls/form.h"
+
+namespace terravane {
+
+ListCellEditor::ListCellEditor(Form& owner, std::string name, TextGrid& grid, CellRange range,
+                               std::vector<std::string> list)
+    : ComboBox(owner, std::move(name), {}, std::move(list)), grid_(grid), range_(range)
+{
+    SetVisible(false);
+}
+
+void ListCellEditor::OpenAt(int row, int column)
+{
+    HideEditors(Owner());
+    grid_.Select(row, column);
+    SetText(grid_(row, column).Text());
+    SetVisible(true);
+    SetFocus();
+    Changed();  // the cell may be another though text and state are the same
+}
+
+}  // namespace terravane
