@@ -11,14 +11,27 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_L
   add_compile_options(-Wno-restrict -Wno-array-bounds -Wno-stringop-overflow)
 endif()
 
+# What is installed opens files that others made. Should one of them find a fault, it shall end the program and not
+# take it over: checked copies, a guarded stack, addresses that no file can know, no table of functions left writable.
+# tools/check-hardening looks at the programs as they were built.
+add_compile_options("$<$<CONFIG:Release>:-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=3>"
+                    "$<$<CONFIG:Release>:-fstack-protector-strong;-fstack-clash-protection;-fPIE>")
+add_link_options("$<$<CONFIG:Release>:-pie;-Wl,-z,relro,-z,now,-z,noexecstack>")
+
+# The layers that take others' files apart have the standard library's indexes checked as well; in the numerics that
+# would cost a sixth of the time.
+set(TERRAVANE_CHECKED_LAYERS jet)
+
 if(TERRAVANE_SANITIZE)
-  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer
+                      -D_GLIBCXX_ASSERTIONS)
   add_link_options(-fsanitize=address,undefined)
 endif()
 
 find_program(CCACHE ccache)
 if(CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
-  set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
+  # A precompiled header carries times and macros that ccache would otherwise not let pass.
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros ${CCACHE})
 endif()
 find_program(MOLD mold)
 if(MOLD)

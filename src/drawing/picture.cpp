@@ -25,6 +25,7 @@ namespace terravane {
 namespace {
 
 constexpr std::int64_t kMostPixels = 100'000'000;
+constexpr std::uint64_t kLargestFile = 64 << 20;  // bytes
 
 struct PictureSize {
     std::int64_t width = 0, height = 0;
@@ -157,7 +158,7 @@ std::shared_ptr<const Picture> ReadPicture(std::string name, Bytes bytes)
 
 std::shared_ptr<const Picture> LoadPicture(const FileSystem& files, const std::string& path)
 {
-    return ReadPicture(NameOf(path), files.Read(path));
+    return ReadPicture(NameOf(path), files.ReadAtMost(path, kLargestFile));
 }
 
 }  // namespace terravane

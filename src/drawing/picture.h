@@ -25,7 +25,7 @@ struct Picture {
 /// format, for a size of zero and for one above 100 million pixels.
 std::shared_ptr<const Picture> ReadPicture(std::string name, Bytes bytes);
 
-/// The same from a file; error 53 names the path where there is none.
+/// The same from a file; error 53 names the path where there is none, 75 that of a file above 64 MiB.
 std::shared_ptr<const Picture> LoadPicture(const FileSystem& files, const std::string& path);
 
 }  // namespace terravane

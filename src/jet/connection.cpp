@@ -12,6 +12,7 @@ namespace terravane::jet {
 namespace {
 
 constexpr std::string_view kExtension = ".mdb";
+constexpr std::uint64_t kLargestFile = 256 << 20;  // bytes; it is read whole, and a project's is a thousandth of this
 
 std::string Quoted(const std::string& path)
 {
@@ -65,12 +66,13 @@ void Connection::Open(FileSystem& files, const std::string& path)
 {
     FlushOrGiveUp();
     if (!files.Exists(path)) throw RuntimeError(engine::kFile, "Could not find file " + Quoted(path) + ".");
-    Bytes bytes = files.Read(path);
+    Bytes bytes = files.ReadAtMost(path, kLargestFile);
     const Fingerprint read = Fingerprint::Of(bytes);
     database_.emplace(OpenBytes(std::move(bytes), path));
     files_ = &files;
     path_ = path;
     onDisk_ = read;
+    unsaved_.clear();
 }
 
 void Connection::FlushOrGiveUp()
@@ -84,30 +86,54 @@ try {
 Recordset Connection::Execute(std::string_view statement)
 {
     if (!database_) throw RuntimeError(engine::kFile, "No database is open.");
-    return ExecuteOn(*database_, statement);
+    Recordset result = ExecuteOn(*database_, statement);
+    if (!result.IsQuery()) unsaved_.emplace_back(statement);
+    return result;
 }
 
-void Connection::CheckDisk() const
+/// A program that crashed leaves its lock file behind: only one that a running program has open counts.
+void Connection::CheckNotOpenElsewhere() const
 {
-    if (!files_->Exists(path_)) throw Refused("Could not find file " + Quoted(path_) + "; nothing was saved.");
-    if (files_->Exists(LockFileOf(path_))) {
-        throw Refused("The file " + Quoted(path_) + " is open in another program (" + Quoted(LockFileOf(path_)) +
-                      " says so); nothing was saved.");
-    }
-    const Fingerprint found = Fingerprint::Of(files_->Read(path_));
+    const std::string lockFile = FindWithoutCase(*files_, FolderOf(path_), NameOf(LockFileOf(path_)));
+    if (!files_->Exists(lockFile) || !files_->IsOpenElsewhere(lockFile)) return;
+    throw Refused("The file " + Quoted(path_) + " is open in another program (" + Quoted(lockFile) +
+                  " says so); nothing was saved. Close it there; where no program has it open, remove " +
+                  Quoted(lockFile) + ".");
+}
+
+Database Connection::OnTopOf(Bytes found) const
+try {
+    Database database = OpenBytes(std::move(found), path_);
+    for (const std::string& statement : unsaved_) ExecuteOn(database, statement);
+    return database;
+} catch (const RuntimeError& error) {
+    throw Refused("The file " + Quoted(path_) +
+                  " was changed by another program since it was opened, and what was to be saved does not fit it any "
+                  "more; nothing was saved. " +
+                  error.Description());
+}
+
+void Connection::CatchUp()
+{
+    Bytes bytes = files_->ReadAtMost(path_, kLargestFile);
+    const Fingerprint found = Fingerprint::Of(bytes);
     // Our own bytes are there already when the folder could not be synced behind the last writing.
     if (found == onDisk_ || found == Fingerprint::Of(database_->Content())) return;
-    throw Refused("The file " + Quoted(path_) +
-                  " was changed by another program since it was opened; nothing was saved.");
+    database_ = OnTopOf(std::move(bytes));
+    onDisk_ = found;
 }
 
 void Connection::Flush()
 {
     if (!HasChanges()) return;
-    CheckDisk();
-    files_->ReplaceWhole(path_, database_->Content());
+    if (!files_->Exists(path_)) throw Refused("Could not find file " + Quoted(path_) + "; nothing was saved.");
+    const auto lock = files_->Lock(path_);
+    CheckNotOpenElsewhere();
+    CatchUp();
+    if (HasChanges()) files_->ReplaceWhole(path_, database_->Content());
     onDisk_ = Fingerprint::Of(database_->Content());
     database_->MarkSaved();
+    unsaved_.clear();
 }
 
 NewDatabase::NewDatabase(FileSystem& files, std::string path, double created)
@@ -136,7 +162,12 @@ void NewDatabase::Close()
 {
     if (closed_) return;
     CheckFree();
-    files_.ReplaceWhole(path_, database_.Content());
+    try {
+        files_.CreateWhole(path_, database_.Content());
+    } catch (const RuntimeError& error) {
+        if (error.Number() == error::kPathFileAccess) CheckFree();  // another one came first
+        throw;
+    }
     closed_ = true;
 }
 

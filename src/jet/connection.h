@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "jet/database.h"
 #include "jet/recordset.h"
@@ -42,19 +43,24 @@ class Connection {
 
     bool HasChanges() const { return database_ && database_->HasChanges(); }
 
-    /// Writes the file where anything was changed. Error engine::kFile, and nothing written, where the file
-    /// on the disk is no longer the one that was read or another program holds it open; after an error the
-    /// changes are still there and a second Flush tries again.
+    /// Writes the file where anything was changed, with the file locked. Where another instance has saved since the
+    /// file was read, the statements are executed once more, on what it saved: neither loses anything to the other.
+    /// Error engine::kFile, and nothing written, where the file is gone, another program holds it open or the
+    /// statements don't fit it any more; 70 where another instance doesn't let go of it. After an error the changes
+    /// are still there and a second Flush tries again.
     void Flush();
 
   private:
     void FlushOrGiveUp();
-    void CheckDisk() const;
+    void CheckNotOpenElsewhere() const;
+    void CatchUp();
+    Database OnTopOf(Bytes found) const;
 
     FileSystem* files_ = nullptr;
     std::string path_;
     std::optional<Database> database_;
     Fingerprint onDisk_;
+    std::vector<std::string> unsaved_;  // the statements since the last Flush that were no queries
 };
 
 /// A new file, made by CREATE TABLE and insert statements in memory and written by Close.

@@ -138,6 +138,22 @@ std::vector<Value> ValuesOf(const Image& image, const RowView& row, const std::v
     return values;
 }
 
+/// Counts what a query reads. Without an end to it, rows that all lead to one large value, or many rows of hundreds of
+/// empty columns, would let a small file fill the memory.
+class ResultSize {
+  public:
+    void Add(const std::vector<Value>& row, const std::string& table)
+    {
+        for (const Value& value : row) bytes_ += sizeof(Value) + (value ? value->size() : 0);
+        if (bytes_ > kLargest) throw Refused("The table '" + table + "' has more in it than the program can show.");
+    }
+
+  private:
+    static constexpr std::size_t kLargest = 64 << 20;
+
+    std::size_t bytes_ = 0;
+};
+
 Image CheckedImage(Bytes bytes)
 {
     Image image(std::move(bytes));
@@ -195,10 +211,13 @@ Rows Database::Select(const SelectStatement& select) const
     const std::vector<const Column*> columns = ChosenColumns(table, select.columns);
     const Conditions conditions = ConditionsOf(table, select.where);
     Rows result;
+    ResultSize size;
     for (const Column* const column : columns) result.columns.push_back(column->name);
     for (const StoredRow& stored : FindRows(image_, table).rows) {
         const RowView row = ReadRow(table, stored.bytes);
-        if (Matches(image_, row, conditions)) result.rows.push_back(ValuesOf(image_, row, columns));
+        if (!Matches(image_, row, conditions)) continue;
+        result.rows.push_back(ValuesOf(image_, row, columns));
+        size.Add(result.rows.back(), select.table);
     }
     return result;
 }

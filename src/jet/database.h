@@ -41,7 +41,7 @@ class Database {
 
     // Each of these happens whole or, when it fails, not at all. Errors: engine::kNoSuchTable, kNoSuchColumn,
     // kTextTooLong for a text over its column's length, kTypeMismatch for a column that is no text, kFile for
-    // what can't be changed safely: a column or a table with an index to keep up.
+    // what can't be changed safely, a column or a table with an index to keep up, and for a result above 64 MiB.
     Rows Select(const SelectStatement& select) const;
     int Update(const UpdateStatement& update);  // the number of rows changed; none is no error
     int Insert(const InsertStatement& insert);

@@ -39,12 +39,16 @@ void ReadVariable(RowView& row, ByteView bytes, std::size_t end)
     const auto start = [&](std::size_t i) -> std::size_t {
         return Get<std::uint16_t>(bytes, tableAt + 2 * (count - i));
     };
-    if (start(0) < kCount || start(count) > tableAt) throw Damaged("a row's values lie outside it");
-    row.fixed = bytes.subspan(kCount, start(0) - kCount);
+    const auto checkedStart = [&](std::size_t i) {
+        if (start(i) < kCount || start(i) > tableAt) throw Damaged("a row's values lie outside it");
+        return start(i);
+    };
+    row.fixed = bytes.subspan(kCount, checkedStart(0) - kCount);
     row.variable.reserve(count);
     for (std::size_t i = 0; i < count; ++i) {
-        if (start(i + 1) < start(i)) throw Damaged("a row's values overlap");
-        row.variable.push_back(bytes.subspan(start(i), start(i + 1) - start(i)));
+        const std::size_t begin = checkedStart(i), next = checkedStart(i + 1);
+        if (next < begin) throw Damaged("a row's values overlap");
+        row.variable.push_back(bytes.subspan(begin, next - begin));
     }
 }
 

@@ -1,7 +1,10 @@
 #include "program/program.h"
 
 #include <algorithm>
+#include <exception>
+#include <optional>
 #include <ranges>
+#include <utility>
 
 #include "runtime/text.h"
 
@@ -96,17 +99,23 @@ void Program::Run(std::string_view event, const std::function<void()>& handler)
     unloaded_.clear();
 }
 
+/// Telling may wait for a person, and meanwhile other commands may run, such as a clock's: each is an outermost one,
+/// and what the failed command unloaded lives on until it was told.
 void Program::RunOutermost(const std::string& event, const std::function<void()>& step)
 {
+    std::optional<RuntimeError> failure;
     ++depth_;
     try {
         step();
     } catch (const RuntimeError& error) {
-        surroundings_.Fail(event, error);
+        failure = error;
     } catch (const std::exception& unexpected) {
-        surroundings_.Fail(event, RuntimeError(error::kInternal, unexpected.what()));
+        failure = RuntimeError(error::kInternal, unexpected.what());
     }
     --depth_;
+    if (!failure) return;
+    const auto unloaded = std::exchange(unloaded_, {});
+    surroundings_.Fail(event, *failure);
 }
 
 namespace {
@@ -125,10 +134,18 @@ void FlushOrDrop(jet::Connection& connection)
 
 }  // namespace
 
+/// A store that can't be written keeps no other from being written.
 void Program::FlushStores()
 {
-    FlushOrDrop(ProjectConnection);
-    FlushOrDrop(BrandConnection);
+    std::exception_ptr first;
+    for (jet::Connection* const store : {&ProjectConnection, &BrandConnection}) {
+        try {
+            FlushOrDrop(*store);
+        } catch (...) {
+            if (!first) first = std::current_exception();
+        }
+    }
+    if (first) std::rethrow_exception(first);
 }
 
 void Program::FailMissing(std::string_view name)

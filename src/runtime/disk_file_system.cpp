@@ -1,12 +1,16 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <chrono>
+#include <csignal>
 #include <cstdio>
 #include <filesystem>
 #include <optional>
+#include <thread>
 
 #include <dirent.h>
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -17,6 +21,8 @@ namespace terravane {
 namespace {
 
 constexpr std::size_t kLargestFile = std::size_t{2} << 30;
+constexpr std::chrono::seconds kLockPatience{5};  // a save takes some hundredths of a second
+constexpr std::chrono::milliseconds kLockPause{5};
 constexpr mode_t kAnyWrite = S_IWUSR | S_IWGRP | S_IWOTH;
 constexpr mode_t kModeBits = 07777;
 constexpr mode_t kNewFile = 0666;  // less the user's mask
@@ -31,6 +37,8 @@ struct Failure {
 constexpr Failure kNoFolder{ENOENT, error::kPathNotFound, "Could not find the folder of", ""};
 constexpr Failure kReadOnly{EACCES, error::kPermissionDenied, "Permission denied:", " is read-only"};
 constexpr Failure kNotAFile{EISDIR, error::kPathFileAccess, "Could not use", ": it is not a file"};
+constexpr Failure kBeingSaved{EWOULDBLOCK, error::kPermissionDenied, "Could not save",
+                              ": another program is saving it; try again"};
 constexpr Failure kTooLarge{EFBIG, error::kPathFileAccess, "Could not read", ": it is larger than 2 GiB"};
 constexpr std::array kFailures{
     Failure{ENOENT, error::kFileNotFound, "Could not find file", ""},
@@ -136,6 +144,44 @@ Bytes ReadAll(const Handle& file, std::size_t expected, const std::string& path)
     return content;
 }
 
+// --- locks
+
+/// Open for writing where the file may be: a lock over a network asks for that.
+int FlagsToLock(const std::string& path)
+{
+    return (access(path.c_str(), W_OK) == 0 ? O_RDWR : O_RDONLY) | O_NONBLOCK;
+}
+
+/// Held by the file's own content, so that a lock needs no file of its own that a killed process would leave behind.
+class DiskLock : public FileLock {
+  public:
+    explicit DiskLock(const std::string& path) : file_(path, FlagsToLock(path)) {}
+
+    const Handle& File() const { return file_; }
+
+  private:
+    Handle file_;
+};
+
+enum class Taken { Yes, Later, Never };
+
+Taken Try(const Handle& file, const std::string& path)
+{
+    if (Uninterrupted([&] { return flock(file.Number(), LOCK_EX | LOCK_NB); }) == 0) return Taken::Yes;
+    if (errno == EWOULDBLOCK) return Taken::Later;
+    if (errno == ENOLCK || errno == EOPNOTSUPP || errno == ENOSYS || errno == EINVAL) return Taken::Never;
+    ThrowSystem(errno, path);
+}
+
+/// Whether the path still leads to what was opened: a save puts another file there.
+bool IsStillThere(const Handle& file, const std::string& path)
+{
+    Status opened{};
+    const auto there = StatusOf(path);
+    return there && fstat(file.Number(), &opened) == 0 && opened.st_dev == there->st_dev &&
+           opened.st_ino == there->st_ino;
+}
+
 /// Renaming over a file asks no right to write it; this program does, so that a file set read-only stays as
 /// it is.
 void RefuseReadOnly(const Status& status, const std::string& path)
@@ -193,6 +239,39 @@ Bytes DiskFileSystem::Read(const std::string& path) const
     return ReadAll(file, size, path);
 }
 
+std::uint64_t DiskFileSystem::SizeOf(const std::string& path) const
+{
+    const auto status = StatusOf(path);
+    if (!status) ThrowSystem(errno, path);
+    return static_cast<std::uint64_t>(status->st_size);
+}
+
+/// The system gives a lease for writing to the one process that has a file open, and to no other.
+bool DiskFileSystem::IsOpenElsewhere(const std::string& path) const
+{
+    const Handle file(path, O_RDONLY | O_NONBLOCK);
+    if (!file.IsOpen()) return errno != ENOENT;
+    fcntl(file.Number(), F_SETSIG, SIGURG);  // told of who opens it meanwhile: a signal that ends no process
+    if (fcntl(file.Number(), F_SETLEASE, F_WRLCK) != 0) return true;
+    fcntl(file.Number(), F_SETLEASE, F_UNLCK);
+    return false;
+}
+
+std::unique_ptr<FileLock> DiskFileSystem::TakeLock(const std::string& path)
+{
+    using namespace std::chrono;
+    const auto end = steady_clock::now() + kLockPatience;
+    for (;;) {
+        auto lock = std::make_unique<DiskLock>(path);
+        if (!lock->File().IsOpen()) ThrowSystem(errno, path);
+        const Taken taken = Try(lock->File(), path);
+        if (taken == Taken::Never) return nullptr;
+        if (taken == Taken::Yes && IsStillThere(lock->File(), path)) return lock;
+        if (steady_clock::now() > end) Throw(kBeingSaved, path);
+        if (taken == Taken::Later) std::this_thread::sleep_for(kLockPause);
+    }
+}
+
 void DiskFileSystem::WriteNew(const std::string& path, std::span<const std::uint8_t> content, const std::string& like)
 {
     const auto old = StatusOf(like);
@@ -213,6 +292,13 @@ void DiskFileSystem::SyncFile(const std::string& path)
 void DiskFileSystem::Rename(const std::string& from, const std::string& to)
 {
     if (std::rename(from.c_str(), to.c_str()) != 0) ThrowSystem(errno, to);
+}
+
+void DiskFileSystem::RenameToFree(const std::string& from, const std::string& to)
+{
+    if (renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0) return;
+    if (errno != EINVAL && errno != ENOSYS) ThrowSystem(errno, to);
+    FileSystem::RenameToFree(from, to);  // a disk that can't do both in one step
 }
 
 void DiskFileSystem::SyncFolder(const std::string& folder)

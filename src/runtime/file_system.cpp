@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <atomic>
+#include <functional>
 
 #include <unistd.h>
 
@@ -12,6 +13,7 @@ namespace terravane {
 namespace {
 
 constexpr char kMark = '/';
+constexpr std::uint64_t kMebibyte = 1 << 20;
 constexpr std::size_t kNameCharactersKept = 40;  // a temporary name must not outgrow what a folder takes
 
 std::size_t NameStart(std::string_view path)
@@ -20,12 +22,24 @@ std::size_t NameStart(std::string_view path)
     return mark == std::string_view::npos ? 0 : mark + 1;
 }
 
+/// A long name cut, with a number that tells it from others of the same beginning.
+std::string Shortened(const std::string& name)
+{
+    if (name.size() <= kNameCharactersKept) return name;
+    return std::string(Left(name, kNameCharactersKept)) + "~" + std::to_string(std::hash<std::string>{}(name));
+}
+
+/// ".Road 7.mdb.saving-"
+std::string TemporaryStart(const std::string& name)
+{
+    return "." + Shortened(name) + ".saving-";
+}
+
 /// A name that no other process and no other thread uses: ".Road 7.mdb.saving-4711-2".
 std::string TemporaryBeside(const std::string& path)
 {
     static std::atomic<unsigned> count = 0;
-    return FolderOf(path) + "." + std::string(Left(NameOf(path), kNameCharactersKept)) + ".saving-" +
-           std::to_string(getpid()) + "-" + std::to_string(++count);
+    return FolderOf(path) + TemporaryStart(NameOf(path)) + std::to_string(getpid()) + "-" + std::to_string(++count);
 }
 
 /// The same failure, told of the file that the user knows.
@@ -46,14 +60,51 @@ std::string Join(const std::string& folder, std::string_view name)
 
 }  // namespace
 
-void FileSystem::ReplaceWhole(const std::string& path, std::span<const std::uint8_t> content)
+Bytes FileSystem::ReadAtMost(const std::string& path, std::uint64_t largest) const
+{
+    if (SizeOf(path) > largest) {
+        throw RuntimeError(error::kPathFileAccess, "Could not read '" + path + "': it is larger than " +
+                                                       std::to_string(largest / kMebibyte) + " MiB.");
+    }
+    return Read(path);
+}
+
+std::unique_ptr<FileLock> FileSystem::Lock(const std::string& path)
 {
     const std::string target = Target(path);
+    auto lock = TakeLock(target);
+    if (lock) RemoveLeftovers(target);
+    return lock;
+}
+
+/// Who holds the lock knows that no save of the file is under way: a temporary file beside it is a killed one's. One
+/// that can't be taken away harms nobody.
+void FileSystem::RemoveLeftovers(const std::string& target)
+try {
+    const std::string start = TemporaryStart(NameOf(target));
+    for (const std::string& name : Names(FolderOf(target))) {
+        if (name.starts_with(start)) Remove(FolderOf(target) + name);
+    }
+} catch (const RuntimeError&) {
+}
+
+void FileSystem::ReplaceWhole(const std::string& path, std::span<const std::uint8_t> content)
+{
+    WriteWhole(Target(path), content, &FileSystem::Rename);
+}
+
+void FileSystem::CreateWhole(const std::string& path, std::span<const std::uint8_t> content)
+{
+    WriteWhole(path, content, &FileSystem::RenameToFree);
+}
+
+void FileSystem::WriteWhole(const std::string& target, std::span<const std::uint8_t> content, Step rename)
+{
     const std::string temporary = TemporaryBeside(target);
     try {
         WriteNew(temporary, content, target);
         SyncFile(temporary);
-        Rename(temporary, target);
+        (this->*rename)(temporary, target);
     } catch (const RuntimeError& failure) {
         Remove(temporary);
         throw Renamed(failure, temporary, target);
@@ -64,8 +115,18 @@ void FileSystem::ReplaceWhole(const std::string& path, std::span<const std::uint
     SyncFolder(FolderOf(target));
 }
 
+void FileSystem::RenameToFree(const std::string& from, const std::string& to)
+{
+    if (Exists(to)) {
+        throw RuntimeError(error::kPathFileAccess, "Could not make '" + to + "': it is there already.");
+    }
+    Rename(from, to);
+}
+
+/// The lock comes before the reading, since the two may be one file.
 void FileSystem::Copy(const std::string& source, const std::string& target)
 {
+    const auto lock = Exists(target) ? Lock(target) : nullptr;
     ReplaceWhole(target, Read(source));
 }
 

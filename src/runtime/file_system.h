@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <span>
 #include <string>
 #include <string_view>
@@ -12,6 +13,15 @@
 namespace terravane {
 
 using Bytes = std::vector<std::uint8_t>;
+
+/// The right to save a file, held for as long as this lives.
+class FileLock {
+  public:
+    FileLock() = default;
+    virtual ~FileLock() = default;
+    FileLock(const FileLock&) = delete;
+    FileLock& operator=(const FileLock&) = delete;
+};
 
 /// Failures are RuntimeErrors whose description names the path: 53 no such file, 76 no such folder, 70 or 75 not
 /// allowed, 61 disk full, 57 any other device failure.
@@ -30,24 +40,50 @@ class FileSystem {
     /// The whole file; refused above 2 GiB.
     virtual Bytes Read(const std::string& path) const = 0;
 
+    /// The same, refused above `largest` bytes before any of them is read.
+    Bytes ReadAtMost(const std::string& path, std::uint64_t largest) const;
+
+    /// Keeps every other instance of the program from saving the file meanwhile, and takes away what a save that was
+    /// killed left beside it. Waits some seconds, then error 70. Nothing is held, and the lock empty, on a disk that
+    /// has no locks. The file has to be there.
+    std::unique_ptr<FileLock> Lock(const std::string& path);
+
+    /// Whether any other process has the file open; also true where that can't be found out.
+    virtual bool IsOpenElsewhere(const std::string&) const { return true; }
+
     /// Old content or new, never a mixture: a temporary file in the same folder with the old one's mode, written,
     /// synced, renamed over the target, the folder synced. A failure before the rename removes the temporary file.
     /// The sequence is fixed here and its steps are the virtual ones below, so that the path that ships is tested.
     void ReplaceWhole(const std::string& path, std::span<const std::uint8_t> content);
 
-    /// Copies a whole file over the target, by ReplaceWhole.
+    /// The same for a file that is not there yet; error 75, and it stays as it is, where another one came first.
+    void CreateWhole(const std::string& path, std::span<const std::uint8_t> content);
+
+    /// Copies a whole file over the target, by ReplaceWhole, with the target locked.
     void Copy(const std::string& source, const std::string& target);
 
   protected:
+    virtual std::uint64_t SizeOf(const std::string& path) const { return Read(path).size(); }
+
+    /// Empty on a disk that has no locks.
+    virtual std::unique_ptr<FileLock> TakeLock(const std::string&) { return nullptr; }
+
     /// Makes a new file with the mode of `like` where that exists; nothing is on the disk for sure before SyncFile.
     virtual void WriteNew(const std::string& path, std::span<const std::uint8_t> content, const std::string& like) = 0;
     virtual void SyncFile(const std::string& path) = 0;
     virtual void Rename(const std::string& from, const std::string& to) = 0;
+    /// The same where `to` must not be there.
+    virtual void RenameToFree(const std::string& from, const std::string& to);
     virtual void SyncFolder(const std::string& folder) = 0;
     virtual void Remove(const std::string& path) noexcept = 0;
 
     /// Where a file's content stands: the path itself, or what it leads to where it is a link.
     virtual std::string Target(const std::string& path) const { return path; }
+
+  private:
+    using Step = void (FileSystem::*)(const std::string& from, const std::string& to);
+    void WriteWhole(const std::string& target, std::span<const std::uint8_t> content, Step rename);
+    void RemoveLeftovers(const std::string& target);
 };
 
 /// The machine's own disk.
@@ -59,11 +95,15 @@ class DiskFileSystem : public FileSystem {
     std::vector<std::string> Names(const std::string& folder) const override;
     void MakeFolders(const std::string& path) override;
     Bytes Read(const std::string& path) const override;
+    bool IsOpenElsewhere(const std::string& path) const override;
 
   protected:
+    std::uint64_t SizeOf(const std::string& path) const override;
+    std::unique_ptr<FileLock> TakeLock(const std::string& path) override;
     void WriteNew(const std::string& path, std::span<const std::uint8_t> content, const std::string& like) override;
     void SyncFile(const std::string& path) override;
     void Rename(const std::string& from, const std::string& to) override;
+    void RenameToFree(const std::string& from, const std::string& to) override;
     void SyncFolder(const std::string& folder) override;
     void Remove(const std::string& path) noexcept override;
     std::string Target(const std::string& path) const override;

@@ -1,7 +1,9 @@
 /// A disk in memory whose steps can be made to fail: what a test hands to the code that saves.
 #pragma once
 
+#include <functional>
 #include <map>
+#include <memory>
 #include <set>
 #include <span>
 #include <string>
@@ -36,6 +38,17 @@ class MemoryFileSystem : public FileSystem {
     }
     void Put(const std::string& path, std::string_view content) { Put(path, Bytes(content.begin(), content.end())); }
     void TakeAway(const std::string& path) { files_.erase(path); }
+
+    /// What "another program" holds: a file that it has open, a file that it is saving.
+    void OpenElsewhere(const std::string& path) { openElsewhere_.insert(path); }
+    void CloseElsewhere(const std::string& path) { openElsewhere_.erase(path); }
+    void LockElsewhere(const std::string& path) { lockedElsewhere_.insert(path); }
+    void UnlockElsewhere(const std::string& path) { lockedElsewhere_.erase(path); }
+
+    /// Runs when the program has taken a lock and before it does anything with the file.
+    std::function<void()> whenLocked;
+
+    int LocksHeld() const { return *locksHeld_; }
 
     /// A file's bytes; nothing where there is no such file.
     Bytes Content(const std::string& path) const { return files_.contains(path) ? files_.at(path) : Bytes(); }
@@ -78,8 +91,26 @@ class MemoryFileSystem : public FileSystem {
         CheckThere(path);
         return files_.at(path);
     }
+    bool IsOpenElsewhere(const std::string& path) const override { return openElsewhere_.contains(path); }
 
   protected:
+    std::uint64_t SizeOf(const std::string& path) const override
+    {
+        CheckThere(path);
+        return files_.at(path).size();
+    }
+
+    std::unique_ptr<FileLock> TakeLock(const std::string& path) override
+    {
+        CheckThere(path);
+        if (lockedElsewhere_.contains(path)) {
+            throw RuntimeError(error::kPermissionDenied, "Another program is saving '" + path + "'.");
+        }
+        auto lock = std::make_unique<HeldLock>(locksHeld_);
+        if (whenLocked) whenLocked();
+        return lock;
+    }
+
     void WriteNew(const std::string& path, std::span<const std::uint8_t> content, const std::string&) override
     {
         const bool fails = NextStepFails();
@@ -102,6 +133,16 @@ class MemoryFileSystem : public FileSystem {
     void Remove(const std::string& path) noexcept override { files_.erase(path); }
 
   private:
+    /// Counts the locks that are held; a file system may be gone before them.
+    class HeldLock : public FileLock {
+      public:
+        explicit HeldLock(std::shared_ptr<int> count) : count_(std::move(count)) { ++*count_; }
+        ~HeldLock() override { --*count_; }
+
+      private:
+        std::shared_ptr<int> count_;
+    };
+
     bool NextStepFails() { return ++steps_ == failAt_; }
     void Step(const std::string& path)
     {
@@ -118,6 +159,9 @@ class MemoryFileSystem : public FileSystem {
 
     std::map<std::string, Bytes> files_;
     std::set<std::string> folders_;
+    std::set<std::string> openElsewhere_;
+    std::set<std::string> lockedElsewhere_;
+    std::shared_ptr<int> locksHeld_ = std::make_shared<int>(0);
     int steps_ = 0;
     int failAt_ = 0;
     int failWith_ = 0;

@@ -143,5 +143,28 @@ TEST(LoadPicture, NamesTheFileThatIsNotThere)
     }
 }
 
+TEST(LoadPicture, RefusesAFileAbove64MebibytesUnread)
+{
+    /// A disk whose files are all of this size; reading one fails the test.
+    class HugeFiles : public DiskFileSystem {
+      public:
+        Bytes Read(const std::string&) const override
+        {
+            ADD_FAILURE() << "it was read";
+            return {};
+        }
+
+      protected:
+        std::uint64_t SizeOf(const std::string&) const override { return (64 << 20) + 1; }
+    };
+    try {
+        LoadPicture(HugeFiles(), "logo.jpg");
+        FAIL() << "it was taken for a picture";
+    } catch (const RuntimeError& error) {
+        EXPECT_EQ(error.Number(), 75);
+        EXPECT_EQ(error.Description(), "Could not read 'logo.jpg': it is larger than 64 MiB.");
+    }
+}
+
 }  // namespace
 }  // namespace terravane

@@ -178,18 +178,111 @@ TEST(Connection, FailedSyncOfTheFolderLeavesTheNewFileAndCanBeRepeated)
     EXPECT_EQ(project.files.Content(kPath), written);
 }
 
-TEST(Connection, FileChangedByAnotherProgramIsNotOverwritten)
+// --- two instances on one file
+
+std::string HeadOf(Project& project, const std::string& column)
+{
+    Connection reader;
+    reader.Open(project.files, kPath);
+    return reader.Execute("SELECT * from HEAD'").Fields(column);
+}
+
+// Both read the file before either saves; each changes its own column of the one row.
+TEST(Connection, SaveOfAnotherInstanceSinceTheReadingIsKept)
+{
+    Project project;
+    Connection ours, theirs;
+    ours.Open(project.files, kPath);
+    theirs.Open(project.files, kPath);
+    theirs.Execute("UPDATE HEAD Set project_c1 ='theirs'");
+    theirs.Flush();
+    ours.Execute("UPDATE HEAD Set project_c2 ='ours'");
+    ours.Execute("UPDATE STDSOIL Set std_c1 ='4' Where std_ID =' 3'");
+    ours.Flush();
+    EXPECT_EQ(HeadOf(project, "project_c1"), "theirs");
+    EXPECT_EQ(HeadOf(project, "project_c2"), "ours");
+    EXPECT_FALSE(ours.HasChanges());
+    EXPECT_EQ(ours.Execute("SELECT * from HEAD'").Fields("project_c1"), "theirs") << "and seen from then on";
+    ours.Execute("UPDATE HEAD Set project_c3 ='more'");
+    ours.Flush();
+    EXPECT_EQ(HeadOf(project, "project_c2"), "ours");
+}
+
+// The other instance's save ends in the last moment before ours begins.
+TEST(Connection, SaveOfAnotherInstanceBehindTheCommandIsKept)
+{
+    Project project;
+    Connection ours;
+    ours.Open(project.files, kPath);
+    ours.Execute("UPDATE HEAD Set project_c2 ='ours'");
+    project.files.whenLocked = [&] {
+        project.files.whenLocked = nullptr;
+        Connection theirs;
+        theirs.Open(project.files, kPath);
+        theirs.Execute("UPDATE HEAD Set project_c1 ='theirs'");
+        theirs.Flush();
+    };
+    ours.Flush();
+    EXPECT_EQ(HeadOf(project, "project_c1"), "theirs");
+    EXPECT_EQ(HeadOf(project, "project_c2"), "ours");
+}
+
+TEST(Connection, LaterSaveOfTheSameCellStands)
+{
+    Project project;
+    Connection ours, theirs;
+    ours.Open(project.files, kPath);
+    theirs.Open(project.files, kPath);
+    ours.Execute("UPDATE HEAD Set project_c1 ='first'");
+    theirs.Execute("UPDATE HEAD Set project_c1 ='second'");
+    ours.Flush();
+    theirs.Flush();
+    EXPECT_EQ(HeadOf(project, "project_c1"), "second");
+}
+
+TEST(Connection, FileIsLockedForTheSaveAndNoLonger)
 {
     Project project;
     Connection connection;
     connection.Open(project.files, kPath);
-    Bytes theirs = project.before;
-    theirs.back() ^= 0x20;
+    connection.Execute("UPDATE HEAD Set project_c1 ='x'");
+    int held = 0;
+    project.files.whenLocked = [&] { held = project.files.LocksHeld(); };
+    EXPECT_EQ(project.files.LocksHeld(), 0);
+    connection.Flush();
+    EXPECT_EQ(held, 1);
+    EXPECT_EQ(project.files.LocksHeld(), 0);
+    project.files.FailAtStep(1, error::kDiskFull);
+    connection.Execute("UPDATE HEAD Set project_c1 ='y'");
+    EXPECT_EQ(FailureOf([&] { connection.Flush(); }).number, error::kDiskFull);
+    EXPECT_EQ(project.files.LocksHeld(), 0) << "also when the save fails";
+}
+
+TEST(Connection, FileThatAnotherInstanceDoesNotLetGoOfIsNotWritten)
+{
+    Project project;
+    Connection connection;
+    connection.Open(project.files, kPath);
+    project.files.LockElsewhere(kPath);
+    EXPECT_EQ(FailureOf([&] { Save(connection); }).number, error::kPermissionDenied);
+    EXPECT_EQ(project.files.Content(kPath), project.before);
+    project.files.UnlockElsewhere(kPath);
+    connection.Flush();
+    EXPECT_EQ(HeadOf(project, "project_c1"), "A client");
+}
+
+TEST(Connection, FileThatTheStatementsDoNotFitAnyMoreIsNotWritten)
+{
+    Project project;
+    Connection connection;
+    connection.Open(project.files, kPath);
+    const Bytes theirs = NewFile({"CREATE TABLE NOTES(note text(10))"});
     project.files.Put(kPath, theirs);
     EXPECT_EQ(FailureOf([&] { Save(connection); }),
               (Failure{-2147467259,
-                       "The file 'projects/TRVN_road.mdb' was changed by another program since it was "
-                       "opened; nothing was saved."}));
+                       "The file 'projects/TRVN_road.mdb' was changed by another program since it was opened, and what "
+                       "was to be saved does not fit it any more; nothing was saved. The database engine cannot find "
+                       "the input table or query 'HEAD'."}));
     EXPECT_EQ(project.files.Content(kPath), theirs);
     EXPECT_EQ(project.files.Steps(), 0);
 }
@@ -203,11 +296,46 @@ TEST(Connection, FileGoneOrOpenElsewhereIsNotWritten)
     EXPECT_EQ(FailureOf([&] { Save(connection); }).description,
               "Could not find file 'projects/TRVN_road.mdb'; nothing was saved.");
     project.files.Put(kPath, project.before);
-    project.files.Put("projects/TRVN_road.ldb", "");
+    project.files.Put("projects/TRVN_road.LDB", "");
+    project.files.OpenElsewhere("projects/TRVN_road.LDB");
     EXPECT_EQ(FailureOf([&] { Save(connection); }).description,
-              "The file 'projects/TRVN_road.mdb' is open in another program ('projects/TRVN_road.ldb' says so); "
-              "nothing was saved.");
+              "The file 'projects/TRVN_road.mdb' is open in another program ('projects/TRVN_road.LDB' says so); "
+              "nothing was saved. Close it there; where no program has it open, remove 'projects/TRVN_road.LDB'.");
     EXPECT_EQ(project.files.Content(kPath), project.before);
+}
+
+// A program that crashed left its lock file behind.
+TEST(Connection, LockFileThatNobodyHasOpenKeepsNobodyFromSaving)
+{
+    Project project;
+    Connection connection;
+    connection.Open(project.files, kPath);
+    project.files.Put("projects/TRVN_road.ldb", "LAB-PC-3");
+    Save(connection);
+    EXPECT_EQ(HeadOf(project, "project_c1"), "A client");
+    EXPECT_TRUE(project.files.Exists("projects/TRVN_road.ldb")) << "it is not ours";
+}
+
+// --- what an earlier save left
+
+TEST(Connection, TemporaryFileOfAKilledSaveIsTakenAwayByTheNextOne)
+{
+    Project project;
+    project.files.Put("projects/.TRVN_road.mdb.saving-4711-2", "half a file");
+    project.files.Put("projects/.TRVN_road 2.mdb.saving-4711-3", "another file's");
+    Connection connection;
+    connection.Open(project.files, kPath);
+    Save(connection);
+    EXPECT_EQ(project.files.Paths(), (std::vector<std::string>{"projects/.TRVN_road 2.mdb.saving-4711-3", kPath}));
+}
+
+TEST(Connection, FileAboveTheLargestIsNotRead)
+{
+    Project project;
+    project.files.Put("huge.mdb", Bytes((std::size_t{256} << 20) + 1));
+    EXPECT_EQ(FailureOf([&] { Connection().Open(project.files, "huge.mdb"); }),
+              (Failure{error::kPathFileAccess, "Could not read 'huge.mdb': it is larger than 256 MiB."}));
+    EXPECT_EQ(project.files.Reads(), 0);
 }
 
 TEST(Connection, UnwritableLeftoverIsToldOnceAndDoesNotBlockTheNextOpen)

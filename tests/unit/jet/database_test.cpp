@@ -222,6 +222,20 @@ TEST(Database, TableOfThirteenHundredPagesKeepsAllRowsInOrder)
     EXPECT_EQ(freeMap[5 + (pages - first) / 8] >> (pages - first) % 8 & 1, 1) << "the next page counts as used";
 }
 
+// 500 rows of a text of 255 characters: 500 times as a column they would be 74 MB, 100 times they are 15 MB.
+TEST(Database, ResultThatWouldFillTheMemoryIsRefused)
+{
+    jet::Database database = jet::Database::New(kCreated);
+    database.Create({{"NOTES", {{"note", 255}}}});
+    for (int row = 0; row < 500; ++row) database.Insert({"NOTES", {{"note", std::string(255, 'x')}}});
+    const auto select = [&](std::size_t columns) {
+        return database.Select({"NOTES", std::vector<std::string>(columns, "note"), {}}).rows.size();
+    };
+    EXPECT_EQ(select(100), 500U);
+    EXPECT_EQ(FailureOf([&] { select(500); }),
+              (Failure{-2147467259, "The table 'NOTES' has more in it than the program can show."}));
+}
+
 TEST(Database, DefinitionOf255ColumnsTakesSeveralPages)
 {
     Database database = Database::New(kCreated);

@@ -149,5 +149,18 @@ TEST(Row, LongerThan4060BytesIsRefused)
               (Failure{-2147467259, "The record is too large: 4061 bytes; a row takes 4060."}));
 }
 
+// The second value starts at 0x270a of a row of 21 bytes, the end of both is right again; then the first value does.
+// Nothing behind the row may even be pointed at.
+TEST(Row, ValueThatStartsOutsideTheRowIsDamage)
+{
+    const TableDefinition table = MixedTable();
+    for (const char* const bytes :
+         {"0400 07000000 61006200 0a00 0a27 0600 0200 07", "0400 07000000 61006200 0a00 0a00 0627 0200 07"}) {
+        EXPECT_EQ(FailureOf([&] { ReadRow(table, FromHex(bytes)); }).description,
+                  "The database is damaged: a row's values lie outside it.")
+            << bytes;
+    }
+}
+
 }  // namespace
 }  // namespace terravane

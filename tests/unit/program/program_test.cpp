@@ -1,6 +1,9 @@
 // Forms opened by name and the one place that catches, over a disk in memory and surroundings that the test sets.
 #include "program/program.h"
 
+#include <functional>
+#include <utility>
+
 #include <gtest/gtest.h>
 
 #include "controls/choice_controls.h"
@@ -168,6 +171,39 @@ TEST_F(ProgramTest, LetsAnInnerFailureEndTheWholeCommand)
     EXPECT_EQ(ask.errors[0].number, error::kOverflow);
 }
 
+/// Something else happens while a person reads what failed.
+struct BusySurroundings : support::TestSurroundings {
+    std::function<void()> meanwhile;
+
+    void Fail(const std::string& event, const RuntimeError& error) override
+    {
+        TestSurroundings::Fail(event, error);
+        if (const auto once = std::exchange(meanwhile, {})) once();
+    }
+};
+
+TEST_F(ProgramTest, TellsOfAFailureThatHappensWhileAnotherIsTold)
+{
+    BusySurroundings busy;
+    Program running(busy, files, "/lab");
+    running.AddForm("frmOne", [this](Program& owner) { return std::make_unique<DiaryForm>(owner, "frmOne", diary); });
+    running.Show("frmOne");
+    busy.meanwhile = [&] {
+        running.Run("clock", [] { throw RuntimeError(error::kOverflow); });
+        diary.push_back("told");
+    };
+    running.Run("outer", [&] {
+        running.Unload("frmOne");
+        throw RuntimeError(error::kDivisionByZero);
+    });
+    ASSERT_EQ(busy.errors.size(), 2U);
+    EXPECT_EQ(busy.errors[0].event, "outer");
+    EXPECT_EQ(busy.errors[1].event, "clock") << "A command of its own, it fails by itself.";
+    EXPECT_EQ(diary, (Diary{"frmOne load", "frmOne activate", "frmOne unload", "told", "frmOne gone"}));
+    running.Run("next", [] { throw RuntimeError(error::kOverflow); });
+    EXPECT_EQ(busy.errors.size(), 3U) << "The next failure is told as well.";
+}
+
 TEST_F(ProgramTest, LetsAHandlerTrapAnInnerFailure)
 {
     program.Run("outer", [&] {
@@ -242,6 +278,40 @@ TEST_F(ProgramTest, SendsBothStoresToTheirFiles)
     });
     EXPECT_EQ(StoredClient("/lab/a.mdb"), "a");
     EXPECT_EQ(StoredClient("/lab/b.mdb"), "b");
+}
+
+// The disk takes nothing of the project and, a moment later, takes the brand store.
+TEST_F(ProgramTest, SendsTheOtherStoreToItsFileWhereOneCannotBeWritten)
+{
+    MakeStore("/lab/a.mdb");
+    MakeStore("/lab/logo.mdb");
+    files.FailAtStep(1, error::kDiskFull);
+    program.Run("save", [&] {
+        program.ProjectConnection.Open(files, "/lab/a.mdb");
+        program.ProjectConnection.Execute("UPDATE HEAD Set project_client ='A client'");
+        program.BrandConnection.Open(files, "/lab/logo.mdb");
+        program.BrandConnection.Execute("UPDATE HEAD Set project_client ='A name'");
+    });
+    EXPECT_EQ(StoredClient("/lab/a.mdb"), "   ");
+    EXPECT_EQ(StoredClient("/lab/logo.mdb"), "A name");
+    ASSERT_EQ(ask.errors.size(), 1U);
+    EXPECT_EQ(ask.errors[0].number, error::kDiskFull);
+}
+
+TEST_F(ProgramTest, TellsTheFirstFailureWhereNeitherStoreCanBeWritten)
+{
+    MakeStore("/lab/a.mdb");
+    MakeStore("/lab/logo.mdb");
+    program.Run("save", [&] {
+        for (auto* const store : {&program.ProjectConnection, &program.BrandConnection}) {
+            store->Open(files, store == &program.ProjectConnection ? "/lab/a.mdb" : "/lab/logo.mdb");
+            store->Execute("UPDATE HEAD Set project_client ='x'");
+        }
+        files.TakeAway("/lab/a.mdb");
+        files.TakeAway("/lab/logo.mdb");
+    });
+    ASSERT_EQ(ask.errors.size(), 1U);
+    EXPECT_EQ(ask.errors[0].description, "Could not find file '/lab/a.mdb'; nothing was saved.");
 }
 
 TEST(ProgramPaths, PutTheBrandStoreBesideTheProgram)

@@ -5,9 +5,11 @@
 #include <filesystem>
 #include <thread>
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include "unit/runtime/raises.h"
@@ -254,6 +256,139 @@ TEST_F(Disk, ReportsADiskThatTakesNoMore)
     EXPECT_EQ(failure, error::kDiskFull);
     EXPECT_EQ(TextOf(files_.Read(Path("a"))), "old");
     EXPECT_EQ(Names(), std::vector<std::string>{"a"});
+}
+
+// --- two programs
+
+/// Another process that does one thing with a path, holds on to it, and ends with the object.
+class OtherProcess {
+  public:
+    template <typename Hold>
+    explicit OtherProcess(Hold hold)
+    {
+        int ready[2];
+        if (pipe(ready) != 0) return;
+        process_ = fork();
+        if (process_ == 0) {
+            [[maybe_unused]] const auto held = hold();
+            (void)!write(ready[1], "x", 1);
+            for (;;) pause();
+        }
+        char byte = 0;
+        (void)!read(ready[0], &byte, 1);
+        close(ready[0]);
+        close(ready[1]);
+    }
+    ~OtherProcess() { Kill(); }
+    void Kill()
+    {
+        if (process_ <= 0) return;
+        kill(process_, SIGKILL);
+        waitpid(process_, nullptr, 0);
+        process_ = 0;
+    }
+    OtherProcess(const OtherProcess&) = delete;
+    OtherProcess& operator=(const OtherProcess&) = delete;
+
+  private:
+    pid_t process_ = 0;
+};
+
+TEST_F(Disk, LockWaitsForAnotherProcessAndOutlivesNone)
+{
+    files_.ReplaceWhole(Path("a.mdb"), BytesOf("x"));
+    OtherProcess other([&] { return files_.Lock(Path("a.mdb")); });
+    const auto lock = [&] { EXPECT_NE(files_.Lock(Path("a.mdb")), nullptr); };
+    EXPECT_EQ(DescriptionOf(lock), "Could not save '" + Path("a.mdb") + "': another program is saving it; try again.");
+    other.Kill();
+    EXPECT_EQ(ErrorOf(lock), 0) << "a killed program locks nothing";
+    EXPECT_EQ(Names(), std::vector<std::string>{"a.mdb"}) << "a lock leaves nothing beside the file";
+}
+
+// Each adds one to the number in the file, a hundred times: without the lock some would be lost.
+TEST_F(Disk, LockedChangesOfSeveralProcessesAreAllKept)
+{
+    constexpr int kProcesses = 4, kRounds = 25;
+    files_.ReplaceWhole(Path("count"), BytesOf("0"));
+    std::vector<pid_t> processes;
+    for (int i = 0; i < kProcesses; ++i) {
+        const pid_t process = fork();
+        if (process != 0) {
+            processes.push_back(process);
+            continue;
+        }
+        for (int round = 0; round < kRounds; ++round) {
+            const auto lock = files_.Lock(Path("count"));
+            const int count = std::stoi(TextOf(files_.Read(Path("count"))));
+            files_.ReplaceWhole(Path("count"), BytesOf(std::to_string(count + 1)));
+        }
+        _exit(0);
+    }
+    for (const pid_t process : processes) {
+        int status = 0;
+        ASSERT_EQ(waitpid(process, &status, 0), process);
+        ASSERT_EQ(status, 0);
+    }
+    EXPECT_EQ(TextOf(files_.Read(Path("count"))), "100");
+}
+
+TEST_F(Disk, ReadOnlyFileCanBeLocked)
+{
+    files_.ReplaceWhole(Path("a"), BytesOf("x"));
+    ASSERT_EQ(chmod(Path("a").c_str(), 0444), 0);
+    EXPECT_NE(files_.Lock(Path("a")), nullptr);
+    EXPECT_EQ(ErrorOf([&] { files_.Lock(Path("none")); }), error::kFileNotFound);
+}
+
+TEST_F(Disk, TellsWhetherAnotherProcessHasAFileOpen)
+{
+    files_.ReplaceWhole(Path("a.ldb"), BytesOf("x"));
+    EXPECT_FALSE(files_.IsOpenElsewhere(Path("a.ldb")));
+    {
+        const OtherProcess other([&] { return open(Path("a.ldb").c_str(), O_RDONLY); });
+        EXPECT_TRUE(files_.IsOpenElsewhere(Path("a.ldb")));
+    }
+    EXPECT_FALSE(files_.IsOpenElsewhere(Path("a.ldb")));
+    EXPECT_FALSE(files_.IsOpenElsewhere(Path("none.ldb")));
+}
+
+TEST_F(Disk, NewFileTakesNobodysPlace)
+{
+    files_.CreateWhole(Path("a"), BytesOf("first"));
+    const auto create = [&] { files_.CreateWhole(Path("a"), BytesOf("second")); };
+    EXPECT_EQ(ErrorOf(create), error::kPathFileAccess);
+    EXPECT_EQ(DescriptionOf(create), "Could not make '" + Path("a") + "': it is there already.");
+    EXPECT_EQ(TextOf(files_.Read(Path("a"))), "first");
+    EXPECT_EQ(Names(), std::vector<std::string>{"a"});
+}
+
+TEST_F(Disk, LockTakesAwayWhatAKilledSaveOfTheSameFileLeft)
+{
+    const std::string name(100, 'n'), other = std::string(99, 'n') + "m";
+    for (const std::string& file : {name, other}) files_.ReplaceWhole(Path(file), BytesOf("x"));
+    /// A disk that dies in the middle of a save.
+    class DyingDisk : public DiskFileSystem {
+        void SyncFile(const std::string&) override { _exit(0); }
+    };
+    for (const std::string& file : {name, other}) {
+        const pid_t process = fork();
+        if (process == 0) DyingDisk().ReplaceWhole(Path(file), BytesOf("new"));
+        waitpid(process, nullptr, 0);
+    }
+    EXPECT_EQ(Names().size(), 4U);
+    files_.Lock(Path(name));
+    EXPECT_EQ(Names().size(), 3U) << "the other file's stays: it may be under way";
+    files_.Lock(Path(other));
+    EXPECT_EQ(Names(), (std::vector<std::string>{other, name}));
+}
+
+TEST_F(Disk, ReadsNoMoreThanAsked)
+{
+    files_.ReplaceWhole(Path("a"), Bytes(3 << 20));
+    EXPECT_EQ(files_.ReadAtMost(Path("a"), 3 << 20).size(), 3U << 20);
+    const auto read = [&] { files_.ReadAtMost(Path("a"), 2 << 20); };
+    EXPECT_EQ(DescriptionOf(read), "Could not read '" + Path("a") + "': it is larger than 2 MiB.");
+    EXPECT_EQ(ErrorOf([&] { files_.ReadAtMost(Path("none"), 1); }), error::kFileNotFound);
 }
 
 TEST_F(Disk, FindsANameInAnotherCase)
