@@ -1,5 +1,5 @@
-// A report page from recording to paper. Figures to hold: a page is recorded in under a millisecond, and a
-// report of two pages is a PDF file in under a tenth of a second.
+// A report page from recording to paper. Goals: a page is recorded in under a millisecond and painted on the screen in
+// under 16 ms; a file takes at most 3 ms a page, fonts included, also where a page has 2000 dots.
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -17,8 +17,8 @@ namespace {
 constexpr int kRows = 40;
 constexpr int kColumns = 7;
 
-/// A page as full as the fullest report: a grid of figures under Thai and English headings, and a curve of
-/// points.
+/// A page as full as the fullest report: a grid of figures under Thai and English headings, and two curves,
+/// of lines and of points.
 DisplayList FullPage()
 {
     DrawingSurface page(11906, 16838);
@@ -40,7 +40,10 @@ DisplayList FullPage()
             page.PrintOn(figure);
         }
     }
-    for (int point = 0; point < 2000; ++point) page.PSet(500 + 5 * point, 16000 - 0.0005 * point * point, kMagenta);
+    std::vector<DrawnPoint> curve;
+    for (int point = 0; point < 2000; ++point) curve.push_back({500 + 5.0 * point, 16000 - 0.0005 * point * point});
+    page.Polyline(curve, kMagenta);
+    for (const DrawnPoint& point : curve) page.PSet(point.x, point.y + 200, kBlue);
     return *page.Image();
 }
 
@@ -63,6 +66,14 @@ void MeasureThaiText(benchmark::State& state)
     for (auto _ : state) benchmark::DoNotOptimize(TextWidth(font, "การทดสอบการบดอัดแบบสูงกว่ามาตรฐาน"));
 }
 BENCHMARK(MeasureThaiText);
+
+void MakePdfFile(benchmark::State& state)
+{
+    const std::vector<DisplayList> pages(static_cast<std::size_t>(state.range(0)), FullPage());
+    const PdfDocument document{"Test of Soil", MakeMoment(2026, 11, 21), {{"Compaction", 0}}};
+    for (auto _ : state) benchmark::DoNotOptimize(MakePdf(pages, document));
+}
+BENCHMARK(MakePdfFile)->Arg(1)->Arg(3)->Arg(33)->Unit(benchmark::kMillisecond);
 
 void WriteReportOfTwoPages(benchmark::State& state)
 {

@@ -103,8 +103,10 @@ std::optional<PrintTarget> QtSurroundings::AskPdfFile()
     QString path = QFileDialog::getSaveFileName(Above(), QObject::tr("Save as PDF"), {}, "PDF (*.pdf)");
     if (path.isEmpty()) return std::nullopt;
     if (QFileInfo(path).suffix().isEmpty()) path += ".pdf";
-    return [this, path = QFileInfo(path).absoluteFilePath().toStdString()](
-               std::span<const DisplayList> pages, const std::string& title) { WritePdf(files_, path, pages, title); };
+    return [this, path = QFileInfo(path).absoluteFilePath().toStdString()](std::span<const DisplayList> pages,
+                                                                           const std::string& title) {
+        WritePdf(files_, path, pages, PdfDocument{title, Now(), {}});
+    };
 }
 
 std::optional<PrintTarget> QtSurroundings::AskPrinter()

@@ -13,7 +13,8 @@ namespace terravane {
 namespace {
 
 constexpr int kLongestSide = 4096;
-constexpr int kMostMegabytes = 512;  // while decoding: the largest picture that ReadPicture takes needs 400
+constexpr qsizetype kMostBytes = 32 << 20;  // of pictures that nobody uses now
+constexpr int kMostMegabytes = 512;         // while decoding: the largest picture that ReadPicture takes needs 400
 
 const char* QtFormat(PictureFormat format)
 {
@@ -45,24 +46,38 @@ QImage Decode(const Picture& picture)
     return reader.read();
 }
 
-/// Remembers by the picture's identity, and forgets with its last user.
+/// Remembers pictures that are in use, and of the others those used last, as many as fit.
 class DecodedPictures {
   public:
     QImage Find(const std::shared_ptr<const Picture>& picture)
     {
         const std::scoped_lock lock(mutex_);
-        const auto known = std::find_if(entries_.begin(), entries_.end(),
-                                        [&](const Entry& entry) { return entry.first.lock() == picture; });
-        if (known != entries_.end()) return known->second;
-        std::erase_if(entries_, [](const Entry& entry) { return entry.first.expired(); });
-        return entries_.emplace_back(picture, Decode(*picture)).second;
+        const auto known = std::find_if(entries_.begin(), entries_.end(), [&](const Entry& entry) {
+            return entry.first == picture || AreCopies(*entry.first, *picture);
+        });
+        if (known == entries_.end())
+            entries_.insert(entries_.begin(), Entry(picture, Decode(*picture)));
+        else
+            std::rotate(entries_.begin(), known, known + 1);
+        const QImage image = entries_.front().second;
+        ForgetUnused();
+        return image;
     }
 
   private:
-    using Entry = std::pair<std::weak_ptr<const Picture>, QImage>;
+    using Entry = std::pair<std::shared_ptr<const Picture>, QImage>;
+
+    void ForgetUnused()
+    {
+        qsizetype size = 0;
+        std::erase_if(entries_, [&](const Entry& entry) {
+            size += entry.second.sizeInBytes();
+            return size > kMostBytes && entry.first.use_count() == 1;
+        });
+    }
 
     std::mutex mutex_;
-    std::vector<Entry> entries_;
+    std::vector<Entry> entries_;  // used last in front
 };
 
 }  // namespace
@@ -71,6 +86,11 @@ QImage Decoded(const std::shared_ptr<const Picture>& picture)
 {
     static DecodedPictures pictures;
     return pictures.Find(picture);
+}
+
+bool AreCopies(const Picture& one, const Picture& other)
+{
+    return one.format == other.format && one.bytes == other.bytes;
 }
 
 }  // namespace terravane

@@ -1,4 +1,4 @@
-/// Pictures as pixels, decoded once for as long as the picture is in use.
+/// Pictures as pixels, decoded once for all their copies: each page of a report reads its logos anew.
 #pragma once
 
 #include <QImage>
@@ -11,5 +11,8 @@ namespace terravane {
 /// The picture's pixels; an empty image where its bytes can't be decoded. Very large pictures come reduced to
 /// 4096 pixels on their longer side. May be called from several threads.
 QImage Decoded(const std::shared_ptr<const Picture>& picture);
+
+/// Whether two pictures are copies of one file, whatever their names.
+bool AreCopies(const Picture& one, const Picture& other);
 
 }  // namespace terravane

@@ -9,24 +9,16 @@
 #include <QString>
 #include <QTransform>
 #include <algorithm>
-#include <array>
 #include <cmath>
 
 #include "drawing/font_metrics.h"
 #include "render/decoded_pictures.h"
+#include "render/drawing_rules.h"
 #include "render/fonts.h"
 
 namespace terravane {
 
 namespace {
-
-constexpr double kTwipsPerDrawWidth = 5;
-
-/// Ink and gap in twips; a line of style 0 has neither.
-struct Dash {
-    double ink, gap;
-};
-constexpr std::array kDashes{Dash{0, 0}, Dash{120, 60}, Dash{30, 40}};
 
 QColor QtColour(Colour colour)
 {
@@ -128,7 +120,7 @@ class ItemPainter {
         else if (const QImage image = item.picture ? Decoded(item.picture) : QImage(); !image.isNull())
             painter_.drawImage(PlaceOf(item), image);
         else
-            DrawMissing(item);
+            for (const DrawnItem& line : MissingPicture(item)) std::visit(*this, line);
     }
 
   private:
@@ -165,8 +157,7 @@ class ItemPainter {
     {
         const double ink = Ink(pen.width);
         QPen result(QtColour(pen.colour), ink, Qt::SolidLine, Qt::FlatCap, join);
-        const auto style = static_cast<std::size_t>(std::clamp(pen.style, 0, 2));
-        if (const Dash& dash = kDashes[style]; dash.ink > 0)
+        if (const Dash& dash = DashOf(pen); dash.ink > 0)
             result.setDashPattern({dash.ink / ink, dash.gap / ink});  // Qt counts in pen widths
         return result;
     }
@@ -192,16 +183,6 @@ class ItemPainter {
         painter_.translate(item.x, item.y);
         painter_.scale(item.width / drawing.width, item.height / drawing.height);
         for (const DrawnItem& inner : drawing.items) std::visit(*this, inner);
-    }
-
-    void DrawMissing(const PictureItem& item) const
-    {
-        const Pen pen{1, 0, kGridGrey};
-        const double right = item.x + item.width;
-        const double bottom = item.y + item.height;
-        (*this)(BoxItem{item.x, item.y, right, bottom, pen});
-        (*this)(LineItem{item.x, item.y, right, bottom, pen});
-        (*this)(LineItem{item.x, bottom, right, item.y, pen});
     }
 
     QPainter& painter_;

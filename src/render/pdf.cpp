@@ -1,6 +1,7 @@
 #include "render/pdf.h"
 
 #include <QBuffer>
+#include <QDateTime>
 #include <QMarginsF>
 #include <QPageLayout>
 #include <QPageSize>
@@ -41,6 +42,12 @@ void PrintPage(QPainter& painter, const QPagedPaintDevice& device, const Display
     painter.restore();
 }
 
+Moment MachineNow()
+{
+    const QDateTime now = QDateTime::currentDateTime();
+    return Moment(std::chrono::seconds(now.toSecsSinceEpoch() + now.offsetFromUtc()));
+}
+
 }  // namespace
 
 void PrintPages(QPagedPaintDevice& device, std::span<const DisplayList> pages)
@@ -58,18 +65,15 @@ void PrintPages(QPagedPaintDevice& device, std::span<const DisplayList> pages)
     if (!painter.end()) throw RuntimeError(error::kPrinter);
 }
 
+void WritePdf(FileSystem& files, const std::string& path, std::span<const DisplayList> pages,
+              const PdfDocument& document)
+{
+    files.ReplaceWhole(path, MakePdf(pages, document));
+}
+
 void WritePdf(FileSystem& files, const std::string& path, std::span<const DisplayList> pages, const std::string& title)
 {
-    EnsureGuiApplication();
-    RequireFonts();
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    QPdfWriter writer(&buffer);
-    writer.setResolution(kTwipsPerInch);
-    writer.setTitle(QString::fromStdString(title));
-    writer.setCreator(QStringLiteral("Terravane"));
-    PrintPages(writer, pages);
-    files.ReplaceWhole(path, ContentOf(buffer));
+    WritePdf(files, path, pages, PdfDocument{title, MachineNow(), {}});
 }
 
 }  // namespace terravane

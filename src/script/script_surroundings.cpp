@@ -86,7 +86,7 @@ std::optional<PrintTarget> ScriptSurroundings::AskPrinter()
     answers_.Write(DialogAnswered("Print", "print", answer));
     if (answer == kCancel) return std::nullopt;
     return [this, path = FullPath(answer)](std::span<const DisplayList> pages, const std::string& title) {
-        WritePdf(files_, path, pages, title);
+        WritePdf(files_, path, pages, PdfDocument{title, Now(), {}});
     };
 }
 

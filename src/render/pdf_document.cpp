@@ -1,0 +1,112 @@
+// A document from its pages: contents, then what they draw with, then the catalog and the bookmarks.
+#include <map>
+#include <utility>
+
+#include "render/fonts.h"
+#include "render/gui_application.h"
+#include "render/pdf.h"
+#include "render/pdf_objects.h"
+#include "render/pdf_page.h"
+#include "runtime/runtime_error.h"
+
+namespace terravane {
+
+namespace {
+
+using pdf::Objects;
+using pdf::Reference;
+
+void RequirePlaces(std::span<const DisplayList> pages, const PdfDocument& document)
+{
+    if (pages.empty()) throw RuntimeError(error::kPrinter, "There is no page to print.");
+    for (const PdfSection& section : document.sections)
+        if (section.firstPage >= pages.size()) throw RuntimeError(error::kInvalidProcedureCall);
+}
+
+std::string PageText(const DisplayList& page, int tree, int content, int resources)
+{
+    std::string text = "<< /Type /Page /Parent " + Reference(tree) + " /MediaBox [0 0";
+    pdf::AppendNumber(text, pdf::PaperPoints(page.width));
+    pdf::AppendNumber(text, pdf::PaperPoints(page.height));
+    return text + "] /Contents " + Reference(content) + " /Resources " + Reference(resources) + " >>";
+}
+
+/// One document while it is put together.
+class Assembly {
+  public:
+    Assembly(std::span<const DisplayList> pages, const PdfDocument& document) : pages_(pages), document_(document) {}
+
+    Bytes Make()
+    {
+        AddPages();
+        const std::string bookmarks = AddBookmarks();
+        const int catalog = objects_.Add("<< /Type /Catalog /Pages " + Reference(tree_) + bookmarks + " >>");
+        const std::string created = pdf::DateString(document_.created);
+        const int information =
+            objects_.Add("<< /Title " + pdf::TextString(document_.title) +
+                         " /Creator (Terravane) /Producer (Terravane)" + " /CreationDate " + created + " >>");
+        return objects_.Finish(catalog, information, identity_ + created + document_.title + bookmarks);
+    }
+
+  private:
+    void AddPages()
+    {
+        std::vector<int> contents;
+        for (const DisplayList& page : pages_) {
+            const std::string content = pdf::Deflated(pdf::PageContent(page, used_), pdf::Packing::Quick);
+            contents.push_back(objects_.AddStream("/Filter /FlateDecode", content));
+            identity_ += content;
+        }
+        const int resources = used_.AddTo(objects_);
+        std::string kids;
+        for (std::size_t at = 0; at < pages_.size(); ++at) {
+            pageObjects_.push_back(objects_.Add(PageText(pages_[at], tree_, contents[at], resources)));
+            kids += " " + Reference(pageObjects_.back());
+        }
+        objects_.Put(tree_, "<< /Type /Pages /Count " + std::to_string(pages_.size()) + " /Kids [" + kids + " ] >>");
+    }
+
+    /// What the catalog says of them; nothing where there is none.
+    std::string AddBookmarks()
+    {
+        const std::size_t count = document_.sections.size();
+        if (count == 0) return {};
+        const int root = objects_.Reserve();
+        for (std::size_t at = 0; at < count; ++at) objects_.Reserve();  // numbered in a row behind the root
+        for (std::size_t at = 0; at < count; ++at) PutBookmark(root, at);
+        objects_.Put(root, "<< /Type /Outlines /Count " + std::to_string(count) + " /First " + Reference(root + 1) +
+                               " /Last " + Reference(root + static_cast<int>(count)) + " >>");
+        return " /Outlines " + Reference(root) + " /PageMode /UseOutlines";
+    }
+
+    void PutBookmark(int root, std::size_t at)
+    {
+        const PdfSection& section = document_.sections[at];
+        const int own = root + 1 + static_cast<int>(at);
+        std::string text = "<< /Title " + pdf::TextString(section.title) + " /Parent " + Reference(root);
+        text += " /Dest [" + Reference(pageObjects_[section.firstPage]) + " /Fit]";
+        if (at > 0) text += " /Prev " + Reference(own - 1);
+        if (at + 1 < document_.sections.size()) text += " /Next " + Reference(own + 1);
+        objects_.Put(own, text + " >>");
+    }
+
+    std::span<const DisplayList> pages_;
+    const PdfDocument& document_;
+    Objects objects_;
+    int tree_ = objects_.Reserve();
+    pdf::Resources used_;
+    std::vector<int> pageObjects_;
+    std::string identity_;
+};
+
+}  // namespace
+
+Bytes MakePdf(std::span<const DisplayList> pages, const PdfDocument& document)
+{
+    RequirePlaces(pages, document);
+    EnsureGuiApplication();
+    RequireFonts();
+    return Assembly(pages, document).Make();
+}
+
+}  // namespace terravane

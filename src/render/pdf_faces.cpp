@@ -1,0 +1,175 @@
+#include "render/pdf_faces.h"
+
+#include <QByteArray>
+#include <QRawFont>
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <memory>
+#include <mutex>
+#include <tuple>
+
+#include <hb-ot.h>
+
+#include "render/fonts.h"
+
+namespace terravane::pdf {
+
+namespace {
+
+/// What shaping, cutting out glyphs and the font's dictionary read of a font file.
+constexpr std::array kTables{"head", "hhea", "hmtx", "maxp", "cmap", "loca", "glyf", "name",
+                             "OS/2", "post", "GDEF", "GSUB", "GPOS", "cvt ", "fpgm", "prep"};
+
+bool IsThai(char16_t unit) noexcept
+{
+    return unit >= 0x0E00 && unit <= 0x0E7F;
+}
+
+/// The length of the stretch at the start of a text that is of one script.
+std::size_t StretchOf(std::u16string_view text)
+{
+    std::size_t length = 1;
+    while (length < text.size() && IsThai(text[length]) == IsThai(text[0])) ++length;
+    return length;
+}
+
+void AddTable(hb_face_t& builder, const QRawFont& font, const char* name)
+{
+    const QByteArray table = font.fontTable(name);
+    if (table.isEmpty()) return;
+    const hb::Blob blob(hb_blob_create(table.constData(), static_cast<unsigned>(table.size()), HB_MEMORY_MODE_DUPLICATE,
+                                       nullptr, nullptr));
+    hb_face_builder_add_table(&builder, hb_tag_from_string(name, -1), blob.get());
+}
+
+hb::Face FaceFrom(const QRawFont& font)
+{
+    const hb::Face builder(hb_face_builder_create());
+    for (const char* table : kTables) AddTable(*builder, font, table);
+    const hb::Blob file(hb_face_reference_blob(builder.get()));
+    hb::Face face(hb_face_create(file.get(), 0));
+    hb_face_make_immutable(face.get());
+    return face;
+}
+
+hb::Font FontOf(const hb::Face& face)
+{
+    hb::Font font(hb_font_create(face.get()));
+    hb_font_make_immutable(font.get());
+    return font;
+}
+
+/// Without a language: the machine's own would make its files differ from others'.
+hb::Buffer BufferOf(std::u16string_view text)
+{
+    hb::Buffer buffer(hb_buffer_create());
+    hb_buffer_set_cluster_level(buffer.get(), HB_BUFFER_CLUSTER_LEVEL_MONOTONE_GRAPHEMES);
+    hb_buffer_add_utf16(buffer.get(), reinterpret_cast<const std::uint16_t*>(text.data()),
+                        static_cast<int>(text.size()), 0, static_cast<int>(text.size()));
+    hb_buffer_set_direction(buffer.get(), HB_DIRECTION_LTR);
+    hb_buffer_set_script(buffer.get(), IsThai(text[0]) ? HB_SCRIPT_THAI : HB_SCRIPT_LATIN);
+    return buffer;
+}
+
+/// The faces of a process, by family and style.
+class Faces {
+  public:
+    const Face& Find(std::string_view family, const Font& font)
+    {
+        const std::scoped_lock lock(mutex_);
+        auto& face = faces_[{std::string(family), font.bold, font.italic}];
+        if (!face) face = std::make_unique<const Face>(QRawFont::fromFont(FaceFor(font, family).font));
+        return *face;
+    }
+
+  private:
+    std::mutex mutex_;
+    std::map<std::tuple<std::string, bool, bool>, std::unique_ptr<const Face>> faces_;
+};
+
+}  // namespace
+
+Face::Face(const QRawFont& font)
+    : face_(FaceFrom(font)),
+      font_(FontOf(face_)),
+      unitsPerEm_(hb_face_get_upem(face_.get())),
+      name_(Name()),
+      characters_(Characters()),
+      usual_(UsualGlyphs()),
+      usualProgram_(ProgramOf(*usual_))
+{}
+
+std::vector<PlacedGlyph> Face::Shape(std::u16string_view text) const
+{
+    std::vector<PlacedGlyph> glyphs;
+    double x = 0;
+    while (!text.empty()) {
+        const std::size_t length = StretchOf(text);
+        ShapeStretch(text.substr(0, length), glyphs, x);
+        text.remove_prefix(length);
+    }
+    return glyphs;
+}
+
+void Face::ShapeStretch(std::u16string_view text, std::vector<PlacedGlyph>& glyphs, double& x) const
+{
+    const hb::Buffer buffer = BufferOf(text);
+    const hb_feature_t noKerning{HB_TAG('k', 'e', 'r', 'n'), 0, HB_FEATURE_GLOBAL_START, HB_FEATURE_GLOBAL_END};
+    hb_shape(font_.get(), buffer.get(), &noKerning, 1);
+    unsigned count = 0;
+    const hb_glyph_info_t* infos = hb_buffer_get_glyph_infos(buffer.get(), &count);
+    const hb_glyph_position_t* places = hb_buffer_get_glyph_positions(buffer.get(), nullptr);
+    for (unsigned at = 0, start = 0; at < count; ++at) {
+        glyphs.push_back({static_cast<GlyphId>(infos[at].codepoint),
+                          {},
+                          x + places[at].x_offset / unitsPerEm_,
+                          places[at].y_offset / unitsPerEm_});
+        x += places[at].x_advance / unitsPerEm_;
+        const bool isLast = at + 1 == count || infos[at + 1].cluster != infos[at].cluster;
+        if (!isLast) continue;
+        const std::size_t from = infos[at].cluster;
+        const std::size_t end = at + 1 < count ? infos[at + 1].cluster : text.size();
+        const std::size_t members = at + 1 - start;
+        NameCluster(text.substr(from, end - from), std::span(glyphs).last(members));
+        start = at + 1;
+    }
+}
+
+/// Which glyph of a letter with its marks stands for which character. A glyph that is a character's own is that
+/// character wherever it stands; the rest of the letter goes to the rest of the glyphs.
+void Face::NameCluster(std::u16string_view cluster, std::span<PlacedGlyph> glyphs) const
+{
+    std::u16string rest(cluster);
+    std::vector<PlacedGlyph*> unnamed;
+    for (PlacedGlyph& glyph : glyphs) {
+        const auto own = characters_.find(glyph.glyph);
+        if (own == characters_.end()) {
+            unnamed.push_back(&glyph);
+            continue;
+        }
+        glyph.text.assign(1, own->second);
+        if (const std::size_t at = rest.find(own->second); at != rest.npos) rest.erase(at, 1);
+    }
+    for (std::size_t at = 0; at < unnamed.size(); ++at) {
+        const bool isLast = at + 1 == unnamed.size();
+        unnamed[at]->text = rest.substr(std::min(at, rest.size()), isLast ? rest.npos : 1);
+    }
+    // Marks are drawn in any order, but copied out in the order of the file.
+    std::stable_sort(glyphs.begin(), glyphs.end(), [&](const PlacedGlyph& one, const PlacedGlyph& other) {
+        return cluster.find(one.text) < cluster.find(other.text);
+    });
+}
+
+double Face::AdvanceOf(GlyphId glyph) const
+{
+    return hb_font_get_glyph_h_advance(font_.get(), glyph) / unitsPerEm_;
+}
+
+const Face& FaceOf(std::string_view family, const Font& font)
+{
+    static Faces faces;
+    return faces.Find(family, font);
+}
+
+}  // namespace terravane::pdf

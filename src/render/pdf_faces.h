@@ -1,0 +1,75 @@
+/// Faces as PDF files need them: texts as glyphs in their places, and the face's outlines to go along.
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "drawing/display_list.h"
+#include "render/harfbuzz.h"
+#include "render/pdf_objects.h"
+
+class QRawFont;
+
+namespace terravane::pdf {
+
+using GlyphId = std::uint16_t;
+
+/// glyph  its number in the face
+/// text   the characters it stands for in a text that is copied out, the same wherever it stands
+/// x, y   its origin, in ems from the text's start, y upwards
+struct PlacedGlyph {
+    GlyphId glyph = 0;
+    std::u16string text;
+    double x = 0, y = 0;
+};
+
+/// The glyphs that a document draws from a face, with the characters they stand for.
+using UsedGlyphs = std::map<GlyphId, std::u16string>;
+
+/// One installed face. Nothing of it changes: it may be used from several threads.
+class Face {
+  public:
+    explicit Face(const QRawFont& font);
+
+    /// A text with its ligatures and Thai marks as the screen shows them, without kerning.
+    std::vector<PlacedGlyph> Shape(std::u16string_view text) const;
+    /// By how much a reader steps on behind a glyph, in ems.
+    double AdvanceOf(GlyphId glyph) const;
+    /// Adds the font for a document that uses these glyphs; the number of its dictionary.
+    int AddTo(Objects& objects, const UsedGlyphs& used) const;
+
+  private:
+    /// The outlines of a document's font file and the widths that go with them.
+    /// length  of the file before it was packed
+    struct Program {
+        std::string packed;
+        std::size_t length = 0;
+        std::string widths;
+    };
+
+    hb::Set UsualGlyphs() const;
+    std::map<GlyphId, char16_t> Characters() const;
+    void NameCluster(std::u16string_view cluster, std::span<PlacedGlyph> glyphs) const;
+    Program ProgramOf(const hb_set_t& glyphs) const;
+    std::string Name() const;
+    std::string Descriptor(std::string_view name, int fontFile) const;
+    std::string Widths(const hb_set_t& glyphs) const;
+    void ShapeStretch(std::u16string_view text, std::vector<PlacedGlyph>& glyphs, double& x) const;
+
+    hb::Face face_;
+    hb::Font font_;
+    double unitsPerEm_;
+    std::string name_;
+    std::map<GlyphId, char16_t> characters_;  // of glyphs that stand for one of the usual characters
+    hb::Set usual_;
+    Program usualProgram_;
+};
+
+/// The face of an installed family, bold or italic as the font is; made when it is first asked for.
+const Face& FaceOf(std::string_view family, const Font& font);
+
+}  // namespace terravane::pdf
