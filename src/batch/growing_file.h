@@ -1,0 +1,28 @@
+/// A file that grows over a long run and appears whole at its end, or not at all.
+#pragma once
+
+#include <fstream>
+#include <string>
+#include <string_view>
+
+namespace terravane {
+
+/// Stands beside its target under another name until Finish; without it, it goes away with this object. An empty path
+/// is no file: everything does nothing. Errors 75 and 57 name the path.
+class GrowingFile {
+  public:
+    explicit GrowingFile(std::string path);
+    ~GrowingFile();
+    GrowingFile(const GrowingFile&) = delete;
+    GrowingFile& operator=(const GrowingFile&) = delete;
+
+    bool IsWanted() const { return !path_.empty(); }
+    void Add(std::string_view text);
+    void Finish();
+
+  private:
+    std::string path_, part_;
+    std::ofstream file_;
+};
+
+}  // namespace terravane

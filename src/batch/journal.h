@@ -1,0 +1,47 @@
+/// What earlier runs made: a line a project, kept in the folder of its outputs, so that a run that was broken off goes
+/// on where it stopped and a changed project or another choice is done again.
+///
+///     .terravane-report.journal    {"project":"TRVN_road","content":"<sha>","made":"<sha>","today":"2026-11-21",
+///                                   "outputs":[{"path":"TRVN_road_att_soil.pdf","pages":2,"bytes":41230,"sha256":"..."}]}
+///
+/// Lines are only added; the last of a project counts, and a line cut short counts for nothing.
+#pragma once
+
+#include <cstddef>
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "batch/project_list.h"
+#include "runtime/file_system.h"
+
+namespace terravane {
+
+/// A file made; its path as it is reached from here.
+struct Output {
+    std::string path;
+    std::size_t pages = 0, bytes = 0;
+    std::string sha256;
+    bool operator==(const Output&) const = default;
+};
+
+/// content  of the project file as it stood when its outputs had been made
+/// made     what they were made with: options, brand folder, and the path that their pages name
+/// today    the date that the forms saw
+struct JournalEntry {
+    std::string content, made, today;
+    std::vector<Output> outputs;
+};
+
+/// Where a project's line stands.
+std::string JournalPath(const ProjectFile& project);
+
+/// The last line of each project of the list, by its stem; a journal that is not there is empty.
+std::map<std::string, JournalEntry> ReadJournals(const FileSystem& disk, const std::vector<ProjectFile>& projects);
+
+/// Adds a project's line at the end of its journal, in one piece. A journal that can't be written is no failure: the
+/// project is then done again.
+void AddToJournal(const ProjectFile& project, const JournalEntry& entry);
+
+}  // namespace terravane

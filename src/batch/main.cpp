@@ -1,0 +1,204 @@
+// terravane-report: reports and results of many project files. See docs/batch.md.
+#include <QString>
+#include <QtGlobal>
+#include <cstdlib>
+#include <ctime>
+#include <filesystem>
+#include <iostream>
+#include <thread>
+
+#include <CLI/CLI.hpp>
+
+#include "batch/batch_run.h"
+#include "batch/batch_tests.h"
+#include "batch/terminal.h"
+#include "runtime/runtime_error.h"
+
+namespace {
+
+using namespace terravane;
+
+constexpr auto kAbout =
+    "Prints the reports of Terravane project files into PDFs and collects their results, as the desktop program\n"
+    "would, for many projects at once. A folder stands for every project file below it.";
+
+constexpr auto kFooter =
+    "Exit status: 0 all is well, 1 some projects failed or the run was broken off, 2 wrong usage, 3 something is\n"
+    "stale (--check). Projects that fail are told at the end and do not stop the others.";
+
+constexpr std::string_view kProgram = "terravane-report: ";
+
+/// What the command line says, before it means something.
+struct Typed {
+    std::string curve, today, brand;
+    std::vector<int> corrects;
+};
+
+std::filesystem::path OwnFolder()
+{
+    std::error_code failure;
+    return std::filesystem::read_symlink("/proc/self/exe", failure).parent_path();
+}
+
+/// The user's data folder of the desktop program.
+std::filesystem::path DataFolder()
+{
+    const char* const named = std::getenv("XDG_DATA_HOME");
+    if (named && *named) return std::filesystem::path(named) / "terravane";
+    const char* const home = std::getenv("HOME");
+    return std::filesystem::path(home ? home : "/") / ".local/share/terravane";
+}
+
+/// The brand folder that the desktop program of this installation uses; empty where it never ran.
+std::string InstalledBrand()
+{
+    for (const auto& folder : {OwnFolder(), DataFolder()}) {
+        if (std::filesystem::exists(folder / "BrandList" / "logo.mdb")) return (folder / "BrandList").string();
+    }
+    return {};
+}
+
+Moment Noon(Moment day)
+{
+    return std::chrono::floor<std::chrono::days>(day) + std::chrono::hours(12);
+}
+
+Moment MachineToday()
+{
+    const std::time_t now = std::time(nullptr);
+    std::tm local{};
+    localtime_r(&now, &local);
+    return Noon(MakeMoment(local.tm_year + 1900, local.tm_mon + 1, local.tm_mday));
+}
+
+void TakeDate(BatchOptions& options, const std::string& today)
+try {
+    options.isTodayGiven = !today.empty();
+    options.today = today.empty() ? MachineToday() : Noon(ParseDate(today));
+} catch (const RuntimeError&) {
+    throw CLI::ValidationError("--today", "\"" + today + "\" is no date; write it as 2026-11-21.");
+}
+
+void TakeBrand(BatchOptions& options, const std::string& brand)
+{
+    options.brand = brand.empty() ? InstalledBrand() : brand;
+    if (!brand.empty() && !std::filesystem::is_directory(brand)) {
+        throw CLI::ValidationError("--brand", "There is no folder \"" + brand + "\".");
+    }
+}
+
+void TakeChoices(BatchOptions& options, const Typed& typed)
+{
+    if (!typed.curve.empty()) options.given.curve = typed.curve == "fit" ? "optFit" : "optInt";
+    if (typed.corrects.empty()) return;
+    options.given.corrects.emplace();
+    for (const int mould : typed.corrects) options.given.corrects->at(static_cast<std::size_t>(mould - 1)) = true;
+}
+
+void Check(const BatchOptions& options)
+{
+    if (options.checks && options.isAsSaved)
+        throw CLI::ValidationError("--check", "works sheets anew, --as-saved does not.");
+    if (options.checks && options.posts) throw CLI::ValidationError("--check", "writes nothing; leave --post away.");
+    if (options.posts && options.isAsSaved) {
+        throw CLI::ValidationError("--post", "has nothing to write where no command is pressed (--as-saved).");
+    }
+}
+
+std::vector<std::string> TestKeys()
+{
+    std::vector<std::string> keys;
+    for (const BatchTest& test : BatchTests()) keys.emplace_back(test.key);
+    return keys;
+}
+
+void AddOptions(CLI::App& app, BatchOptions& options, Typed& typed)
+{
+    app.add_option("PROJECT.mdb|FOLDER", options.arguments, "Project files, and folders of them")->required();
+    app.add_option("-o", options.outputFolder, "Where the PDFs go, in a folder's subfolders; else beside each project")
+        ->option_text("DIR");
+    app.add_option("--tests", options.tests, "att,sie,spc,std,mod,cbr,den; else every test that has saved readings")
+        ->delimiter(',')
+        ->allow_extra_args(false)
+        ->check(CLI::IsMember(TestKeys()))
+        ->option_text("LIST");
+    app.add_option("--materials", options.materials, "soil,crush; else both")
+        ->delimiter(',')
+        ->allow_extra_args(false)
+        ->check(CLI::IsMember({"soil", "crush"}))
+        ->option_text("LIST");
+    app.add_flag("--summary", options.wantsSummary, "The overall results page as well");
+    app.add_flag("--one-file", options.isOneFile, "One PDF a project, with bookmarks, instead of one a test");
+    app.add_option("--csv", options.csv, "One row a project and material with every column of SUMMARY")
+        ->option_text("FILE");
+    app.add_option("--json", options.json, "The same and every reading")->option_text("FILE");
+    app.add_flag("--as-saved", options.isAsSaved,
+                 "Print the sheets as loaded; else their commands are pressed first, on a private copy");
+    app.add_flag("--post", options.posts, "Write the results of those commands back into the project");
+    app.add_option("--curve", typed.curve, "Compaction curve: spline (the sheet's own) or fit")
+        ->check(CLI::IsMember({"spline", "fit"}))
+        ->option_text("spline|fit");
+    app.add_flag("--smooth", options.given.isSmooth, "Sieve curve smooth instead of straight from point to point");
+    app.add_option("--correct", typed.corrects, "Moulds whose bearing ratio curves are corrected, as 1,3")
+        ->delimiter(',')
+        ->allow_extra_args(false)
+        ->check(CLI::Range(1, 3))
+        ->option_text("1,2,3");
+    app.add_flag("--check", options.checks,
+                 "No PDFs: list what stands in SUMMARY or in another test but no longer follows from the readings");
+    app.add_option("--manifest", options.manifest, "Each output with pages, bytes and SHA-256, as CSV")
+        ->option_text("FILE");
+    app.add_option("--jobs", options.jobs, "How many projects at a time; else as many as the machine has processors")
+        ->check(CLI::Range(1, 1024))
+        ->option_text("N");
+    app.add_flag("--resume", options.resumes, "Leave out what an earlier run finished of unchanged projects");
+    app.add_option("--brand", typed.brand, "The laboratory's names and logos; else those of the desktop program")
+        ->option_text("DIR");
+    app.add_option("--today", typed.today, "The date that the sheets and the PDFs see; else the machine's")
+        ->option_text("YYYY-MM-DD");
+}
+
+/// Qt's warnings are about a desktop session, a missing run-time folder for one, which a printing program does without;
+/// they would stand between the lines of a run.
+void DropQtWarnings()
+{
+    qInstallMessageHandler([](QtMsgType kind, const QMessageLogContext&, const QString& text) {
+        if (kind == QtCriticalMsg || kind == QtFatalMsg) std::cerr << kProgram << text.toStdString() << '\n';
+    });
+}
+
+int Run(const BatchOptions& options)
+try {
+    DropQtWarnings();
+    CatchInterruption();
+    const bool hasBar = IsErrorTerminal();
+    const Listeners listeners{std::cout, std::cerr, hasBar ? &std::cerr : nullptr, !hasBar || !IsOutputTerminal()};
+    return RunBatch(options, listeners);
+} catch (const RuntimeError& error) {
+    std::cerr << kProgram << error.Description() << '\n';
+    return exit_status::kUsage;
+}
+
+}  // namespace
+
+int main(int argc, char** argv)
+{
+    BatchOptions options;
+    Typed typed;
+    options.jobs = static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
+    CLI::App app(kAbout, "terravane-report");
+    app.footer(kFooter);
+    AddOptions(app, options, typed);
+    app.final_callback([&] {
+        TakeDate(options, typed.today);
+        TakeBrand(options, typed.brand);
+        TakeChoices(options, typed);
+        Check(options);
+    });
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+        return app.exit(error) == 0 ? exit_status::kDone : exit_status::kUsage;
+    }
+    return Run(options);
+}

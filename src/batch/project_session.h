@@ -1,0 +1,46 @@
+/// One project file open in a program of its own, without windows and on a private copy: sheets are opened as from the
+/// toolbar, commands pressed as by hand, pages drawn as they would be printed.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "batch/batch_surroundings.h"
+#include "batch/batch_tests.h"
+#include "batch/private_disk.h"
+#include "program/program.h"
+
+namespace terravane {
+
+class ProjectSession {
+  public:
+    /// The brand has to outlive the session.
+    ProjectSession(const Brand& brand, const std::string& path, Bytes content, Moment now);
+
+    const BatchSurroundings& Heard() const { return heard_; }
+
+    /// Opens the sheet of a test and fills it from the copy; nullptr, with a trouble heard, where that fails.
+    TestSheet* Open(const BatchTest& test, Material material);
+    /// Presses the commands of the sheet and saves its results in the copy, readings and headings untouched. False,
+    /// with a trouble heard and nothing saved, where a command goes wrong; what it posted before stands.
+    bool Press(TestSheet& sheet, const BatchTest& test, const Choices& choices, const ProjectTexts& saved);
+
+    /// The pages of the open sheet's report, cover first; none, with a trouble heard, where they can't be drawn.
+    std::vector<DisplayList> ReportPages();
+    std::string ReportTitle() const;
+    /// The page of the overall results; none, with a trouble heard, where it can't be drawn.
+    std::vector<DisplayList> ResultsPages();
+
+    /// The copy's texts now.
+    ProjectTexts Texts() const { return ProjectTexts(disk_.Content(path_)); }
+
+  private:
+    void SaveResults(TestSheet& sheet, const BatchTest& test);
+
+    std::string path_;
+    PrivateDisk disk_;
+    BatchSurroundings heard_;
+    Program program_;
+};
+
+}  // namespace terravane

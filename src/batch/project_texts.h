@@ -1,0 +1,29 @@
+/// A project file's texts as they stand at one moment.
+#pragma once
+
+#include <map>
+#include <string>
+#include <string_view>
+
+#include "jet/recordset.h"
+#include "runtime/file_system.h"
+
+namespace terravane {
+
+class ProjectTexts {
+  public:
+    /// Reads the sixteen tables. The engine's error for bytes that are no project file, or a damaged one.
+    explicit ProjectTexts(const Bytes& content);
+
+    const jet::Rows& Table(std::string_view name) const { return tables_.find(name)->second; }
+
+    /// The text of a column in a row from 1; empty where the table has no such row or column, and for a null.
+    std::string Text(std::string_view table, std::string_view column, int row) const;
+    /// The same without the blanks around it: empty for what was never saved.
+    std::string Trimmed(std::string_view table, std::string_view column, int row) const;
+
+  private:
+    std::map<std::string, jet::Rows, std::less<>> tables_;
+};
+
+}  // namespace terravane

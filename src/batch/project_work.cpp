@@ -1,0 +1,214 @@
+#include "batch/project_work.h"
+
+#include <algorithm>
+#include <filesystem>
+
+#include "batch/pressing.h"
+#include "batch/result_rows.h"
+#include "batch/sha256.h"
+#include "jet/connection.h"
+#include "render/pdf.h"
+#include "runtime/runtime_error.h"
+#include "store/statements.h"
+
+namespace terravane {
+
+namespace {
+
+constexpr std::string_view kDate = "yyyy-mm-dd";
+
+/// As the program holds a path and the pages show it: from the root, without "." and "..".
+std::string FullPath(const std::string& path)
+{
+    std::error_code failure;
+    const auto full = std::filesystem::absolute(path, failure);
+    return failure ? path : full.lexically_normal().string();
+}
+
+/// A part of the printed whole: one test's report, or the overall results.
+/// name   behind the project's in the file's name: "att_soil", "results"
+struct Part {
+    std::string name, bookmark, title;
+    std::vector<DisplayList> pages;
+};
+
+class ProjectWork {
+  public:
+    ProjectWork(const Disks& disks, const ProjectFile& project, const BatchOptions& options, const Brand& brand)
+        : disk_(disks.projects), outputs_(disks.outputs), project_(project), options_(options), brand_(brand)
+    {}
+
+    ProjectAnswer Do(const std::optional<JournalEntry>& earlier)
+    {
+        content_ = disk_.Read(project_.path);
+        answer_.entry = {Sha256(content_), MadeWith(), Format(options_.today, kDate), {}};
+        if (options_.resumes && !options_.checks && earlier && IsDone(*earlier)) {
+            answer_.entry = *earlier;
+            answer_.wasThere = true;
+        }
+        if (!answer_.wasThere || WantsRows()) WorkSession();
+        return std::move(answer_);
+    }
+
+  private:
+    std::string MadeWith() const { return Sha256(options_.Fingerprint() + brand_.digest + FullPath(project_.path)); }
+    bool WantsRows() const { return !options_.csv.empty() || !options_.json.empty(); }
+    bool MakesPages() const { return !options_.checks && !answer_.wasThere; }
+
+    /// Whether an earlier run made the same of the same, and all of it still stands as it was made.
+    bool IsDone(const JournalEntry& earlier) const
+    {
+        if (earlier.content != answer_.entry.content || earlier.made != answer_.entry.made) return false;
+        if (options_.isTodayGiven && earlier.today != answer_.entry.today) return false;
+        return std::ranges::all_of(earlier.outputs, [this](const Output& output) {
+            return outputs_.Exists(output.path) && Sha256(outputs_.Read(output.path)) == output.sha256;
+        });
+    }
+
+    void WorkSession()
+    {
+        const ProjectTexts saved(content_);
+        ProjectSession session(brand_, FullPath(project_.path), content_, options_.today);
+        const auto outcomes = WorkSheets(session, saved, options_, [&](const TestOutcome& outcome) {
+            if (MakesPages()) TakeReport(session, outcome);
+        });
+        if (MakesPages() && options_.wantsSummary) TakeResults(session);
+        const ProjectTexts now = session.Texts();
+        const auto stale = options_.checks ? FindStale(saved, now, outcomes) : std::vector<StaleResult>();
+        std::ranges::transform(stale, std::back_inserter(answer_.stale), Sentence);
+        if (!options_.checks) TellTroubles(outcomes);
+        TakeRows(options_.isAsSaved || options_.checks ? saved : now, outcomes, stale);
+        if (answer_.wasThere || options_.checks) return;
+        WriteOutputs();
+        if (options_.posts) Post(saved, now);
+    }
+
+    void TakeReport(ProjectSession& session, const TestOutcome& outcome)
+    {
+        const BatchMaterial& material = RowOf(outcome.material);
+        auto pages = session.ReportPages();
+        if (pages.empty()) return;
+        parts_.push_back({std::string(outcome.test->key) + "_" + std::string(material.key),
+                          std::string(outcome.test->title) + ", " + std::string(material.title), session.ReportTitle(),
+                          std::move(pages)});
+    }
+
+    void TakeResults(ProjectSession& session)
+    {
+        const std::size_t before = session.Heard().Troubles().size();
+        auto pages = session.ResultsPages();
+        const auto& heard = session.Heard().Troubles();
+        if (heard.size() > before) AddFailure(heard.back());
+        if (!pages.empty())
+            parts_.push_back({"results", "Overall Results", "Overall Testing Results", std::move(pages)});
+    }
+
+    void AddFailure(const std::string& sentence)
+    {
+        if (!answer_.failure.empty()) answer_.failure += "; ";
+        answer_.failure += sentence;
+    }
+
+    void TellTroubles(const std::vector<TestOutcome>& outcomes)
+    {
+        for (const TestOutcome& outcome : outcomes) {
+            const BatchMaterial& material = RowOf(outcome.material);
+            for (const std::string& trouble : outcome.troubles) {
+                AddFailure(std::string(outcome.test->title) + ", " + std::string(material.title) + ": " + trouble);
+            }
+        }
+    }
+
+    void TakeRows(const ProjectTexts& texts, const std::vector<TestOutcome>& outcomes,
+                  const std::vector<StaleResult>& stale)
+    {
+        if (!options_.csv.empty()) answer_.csvRows = CsvRows(project_.path, texts, options_);
+        if (!options_.json.empty()) answer_.json = JsonObject(project_.path, texts, options_, outcomes, stale);
+    }
+
+    void WriteOutputs()
+    {
+        if (!parts_.empty()) outputs_.MakeFolders(FolderOf(project_.stem));
+        if (options_.isOneFile) return WriteOneFile();
+        for (const Part& part : parts_)
+            Write(project_.stem + "_" + part.name + ".pdf", part.pages, {part.title, options_.today, {}});
+    }
+
+    void WriteOneFile()
+    {
+        if (parts_.empty()) return;
+        std::vector<DisplayList> pages;
+        PdfDocument document{NameOf(project_.stem), options_.today, {}};
+        for (Part& part : parts_) {
+            document.sections.push_back({part.bookmark, pages.size()});
+            std::ranges::move(part.pages, std::back_inserter(pages));
+        }
+        Write(project_.stem + ".pdf", pages, document);
+    }
+
+    void Write(const std::string& path, std::span<const DisplayList> pages, const PdfDocument& document)
+    {
+        const Bytes content = MakePdf(pages, document);
+        outputs_.ReplaceWhole(path, content);
+        answer_.entry.outputs.push_back({path, pages.size(), content.size(), Sha256(content)});
+    }
+
+    /// Results that the commands changed go into the project file, all at once; one that the commands could not work
+    /// out stays as it was.
+    void Post(const ProjectTexts& saved, const ProjectTexts& now)
+    {
+        jet::Connection connection;
+        connection.Open(disk_, project_.path);
+        if (Sha256(disk_.Read(project_.path)) != answer_.entry.content) {
+            throw RuntimeError(error::kPathFileAccess, "The project was changed meanwhile; nothing was posted.");
+        }
+        for (const TableSchema& table : ProjectTables()) {
+            if (!table.keyed) continue;
+            for (int row = 1; row <= table.rows; ++row) PostRow(connection, table, row, saved, now);
+        }
+        connection.Flush();
+        answer_.entry.content = Sha256(disk_.Read(project_.path));
+    }
+
+    static void PostRow(jet::Connection& connection, const TableSchema& table, int row, const ProjectTexts& saved,
+                        const ProjectTexts& now)
+    {
+        std::vector<Assignment> changed;
+        for (const ColumnSchema& column : table.columns) {
+            const std::string name = table.ColumnName(column.suffix);
+            const std::string result = now.Text(table.name, name, row);
+            if (result == saved.Text(table.name, name, row) || now.Trimmed(table.name, name, row).empty()) continue;
+            changed.push_back({name, result});
+        }
+        if (!changed.empty()) connection.Execute(UpdateRow(table, changed, row));
+    }
+
+    FileSystem& disk_;
+    FileSystem& outputs_;
+    const ProjectFile& project_;
+    const BatchOptions& options_;
+    const Brand& brand_;
+    Bytes content_;
+    std::vector<Part> parts_;
+    ProjectAnswer answer_;
+};
+
+ProjectAnswer Failed(const ProjectFile& project, const BatchOptions& options, const std::string& failure)
+{
+    ProjectAnswer answer;
+    answer.failure = failure;
+    if (!options.json.empty()) answer.json = JsonFailure(project.path, failure);
+    return answer;
+}
+
+}  // namespace
+
+ProjectAnswer WorkProject(const Disks& disks, const ProjectFile& project, const BatchOptions& options,
+                          const Brand& brand, const std::optional<JournalEntry>& earlier)
+try {
+    return ProjectWork(disks, project, options, brand).Do(earlier);
+} catch (const std::exception& failure) {
+    return Failed(project, options, failure.what());
+}
+
+}  // namespace terravane

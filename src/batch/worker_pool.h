@@ -1,0 +1,27 @@
+/// Numbered tasks done by worker processes. A worker that crashes costs the task it had and is replaced; what one task
+/// left behind in memory can't reach another worker's.
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <optional>
+#include <string>
+
+namespace terravane {
+
+/// work   runs in a worker; what it returns is handed to `done`
+/// done   runs here, in the order in which tasks end; without an answer where the worker crashed, then `crash` says how
+/// stop   asked again and again: true hands out no further task; those begun are waited for
+/// tick   runs at least some times a second
+struct PoolTask {
+    std::function<std::string(std::size_t task)> work;
+    std::function<void(std::size_t task, const std::optional<std::string>& answer, const std::string& crash)> done;
+    std::function<bool()> stop;
+    std::function<void()> tick;
+};
+
+/// Does tasks 0 to count - 1 with that many workers at a time. The process must have no other thread and must not have
+/// started Qt: workers are forks of it. RuntimeError 7 where no worker can be started.
+void RunInWorkers(std::size_t count, std::size_t workers, const PoolTask& task);
+
+}  // namespace terravane
