@@ -1,5 +1,8 @@
 #include "store/new_stores.h"
 
+#include <algorithm>
+#include <string_view>
+
 #include "jet/connection.h"
 #include "store/brand_pictures.h"
 #include "store/schema.h"
@@ -38,6 +41,26 @@ std::string LogoKey()
     return RowKey(kPersons + 1);
 }
 
+/// Another instance that is started at the same moment may come first.
+template <typename Make>
+void MakeUnlessThere(const FileSystem& files, const std::string& path, Make make)
+{
+    if (files.Exists(path)) return;
+    try {
+        make();
+    } catch (const RuntimeError&) {
+        if (!files.Exists(path)) throw;
+    }
+}
+
+/// What every guide of ours has in it, as the document's own name.
+constexpr std::string_view kGuideMark = "terravane-user-guide";
+
+bool IsOurGuide(const Bytes& content)
+{
+    return !std::ranges::search(content, kGuideMark).empty();
+}
+
 }  // namespace
 
 void CreateProjectFile(FileSystem& files, const std::string& path)
@@ -66,11 +89,24 @@ void WriteFirstContent(FileSystem& files, const std::string& brandFolder)
 {
     if (!files.IsFolder(brandFolder)) files.MakeFolders(brandFolder);
     const std::string database = FindWithoutCase(files, brandFolder, "logo.mdb");
-    if (!files.Exists(database)) CreateBrandStore(files, database);
+    MakeUnlessThere(files, database, [&] { CreateBrandStore(files, database); });
     for (const BrandPicture& picture : FirstBrandPictures()) {
         const std::string path = brandFolder + std::string(picture.name);
-        if (!files.Exists(path)) files.ReplaceWhole(path, picture.content);
+        MakeUnlessThere(files, path, [&] { files.CreateWhole(path, picture.content); });
     }
+}
+
+void WriteGuide(FileSystem& files, const std::string& source, const std::string& brandFolder)
+try {
+    if (!files.Exists(source)) return;
+    const std::string target = brandFolder + "UserGuide.pdf";
+    const Bytes guide = files.Read(source);
+    const bool isThere = files.Exists(target);
+    const Bytes former = isThere ? files.Read(target) : Bytes();
+    if (former == guide || (isThere && !IsOurGuide(former))) return;
+    files.ReplaceWhole(target, guide);
+} catch (const RuntimeError&) {
+    // A folder that can't be written keeps the guide that it has.
 }
 
 }  // namespace terravane

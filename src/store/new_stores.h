@@ -19,4 +19,9 @@ void CreateBrandStore(FileSystem& files, const std::string& path);
 /// there already stays as it is.
 void WriteFirstContent(FileSystem& files, const std::string& brandFolder);
 
+/// Puts the user guide that came with the program into the brand folder, also over the one of another version. A guide
+/// that the laboratory made itself stays. Nothing happens where the program came without one, and nothing is told where
+/// the folder takes none: the program works without its guide.
+void WriteGuide(FileSystem& files, const std::string& source, const std::string& brandFolder);
+
 }  // namespace terravane

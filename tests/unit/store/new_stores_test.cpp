@@ -134,5 +134,46 @@ TEST_F(NewStores, LeaveTheLaboratorysOwnBrandAlone)
     EXPECT_TRUE(files.Exists("/lab/BrandList/dep_logo.jpg")) << "What was missing is there.";
 }
 
+struct Guide : NewStores {
+    Guide()
+    {
+        files.MakeFolders("/lab/BrandList/");
+        files.MakeFolders("/share/");
+    }
+
+    std::string AfterStart()
+    {
+        WriteGuide(files, "/share/UserGuide.pdf", "/lab/BrandList/");
+        if (!files.Exists("/lab/BrandList/UserGuide.pdf")) return "none";
+        const Bytes content = files.Content("/lab/BrandList/UserGuide.pdf");
+        return {content.begin(), content.end()};
+    }
+};
+
+TEST_F(Guide, ComesIntoTheBrandFolder)
+{
+    files.Put("/share/UserGuide.pdf", "version 1 (terravane-user-guide)");
+    EXPECT_EQ(AfterStart(), "version 1 (terravane-user-guide)");
+}
+
+TEST_F(Guide, TakesThePlaceOfAnEarlierVersions)
+{
+    files.Put("/lab/BrandList/UserGuide.pdf", "version 1 (terravane-user-guide)");
+    files.Put("/share/UserGuide.pdf", "version 2 (terravane-user-guide)");
+    EXPECT_EQ(AfterStart(), "version 2 (terravane-user-guide)");
+}
+
+TEST_F(Guide, LeavesTheLaboratorysOwnInPlace)
+{
+    files.Put("/lab/BrandList/UserGuide.pdf", "our own, in Thai");
+    files.Put("/share/UserGuide.pdf", "version 2 (terravane-user-guide)");
+    EXPECT_EQ(AfterStart(), "our own, in Thai");
+}
+
+TEST_F(Guide, IsNotMissedWhereTheProgramCameWithoutOne)
+{
+    EXPECT_EQ(AfterStart(), "none");
+}
+
 }  // namespace
 }  // namespace terravane
