@@ -1,6 +1,23 @@
+# A build from nothing spends most of its time on reading headers, so that the release build reads the common ones once:
+# the standard library's for every layer, Qt's and JSON's for the layers that name them. The other builds go without and
+# so find an include that is missing.
+set(TERRAVANE_COMMON_HEADERS <algorithm> <array> <cmath> <cstdint> <functional> <map> <memory> <optional> <span> <string>
+    <string_view> <utility> <variant> <vector>)
+
+function(terravane_precompile name)
+  if(NOT CMAKE_BUILD_TYPE STREQUAL "Release")
+    return()
+  endif()
+  if(ARGN OR name IN_LIST TERRAVANE_CHECKED_LAYERS OR NOT TARGET terravane_runtime OR name STREQUAL "runtime")
+    target_precompile_headers(terravane_${name} PRIVATE ${TERRAVANE_COMMON_HEADERS} ${ARGN})
+  else()
+    target_precompile_headers(terravane_${name} REUSE_FROM terravane_runtime)
+  endif()
+endfunction()
+
 # A layer is a folder of src/ and a library of the same name; every .cpp below the folder belongs to it, but main.cpp.
 function(terravane_layer name)
-  cmake_parse_arguments(layer "" "" "USES;LINKS" ${ARGN})
+  cmake_parse_arguments(layer "" "" "USES;LINKS;PRECOMPILES" ${ARGN})
   file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/${name}/*.cpp)
   list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
   list(TRANSFORM layer_USES PREPEND terravane_)
@@ -8,6 +25,10 @@ function(terravane_layer name)
     add_library(terravane_${name} STATIC ${sources})
     target_include_directories(terravane_${name} PUBLIC ${CMAKE_SOURCE_DIR}/src)
     target_link_libraries(terravane_${name} PUBLIC ${layer_USES} ${layer_LINKS})
+    if(name IN_LIST TERRAVANE_CHECKED_LAYERS)
+      target_compile_definitions(terravane_${name} PRIVATE $<$<CONFIG:Release>:_GLIBCXX_ASSERTIONS>)
+    endif()
+    terravane_precompile(${name} ${layer_PRECOMPILES})
   else()
     add_library(terravane_${name} INTERFACE)
     target_include_directories(terravane_${name} INTERFACE ${CMAKE_SOURCE_DIR}/src)
@@ -26,4 +47,5 @@ function(terravane_program name)
   add_executable(${name} ${program_MAIN})
   target_link_libraries(${name} PRIVATE ${program_USES} ${program_LINKS})
   add_dependencies(programs ${name})
+  set_property(GLOBAL APPEND PROPERTY terravane_programs $<TARGET_FILE:${name}>)
 endfunction()

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "runtime/text.h"
 #include "store/new_stores.h"
@@ -11,6 +12,7 @@ namespace terravane {
 
 namespace {
 
+constexpr std::uint64_t kMostOfRecent = 64 << 10;  // bytes; it holds one path
 constexpr std::string_view kRecentFile = "FileRecent.txt";
 constexpr std::string_view kPrefix = "TRVN_";
 constexpr std::string_view kFilter = "Terravane File(*.mdb)|TRVN*.mdb";
@@ -110,7 +112,7 @@ void mdiBack::ReadRecentLine()
 {
     const std::string& path = program.ApplicationPath();
     if (!path.ends_with(kFolderMark)) program.AppFolder = path + kFolderMark;
-    recentLine_ = FirstLine(program.Files().Read(program.AppFolder + std::string(kRecentFile)));
+    recentLine_ = FirstLine(program.Files().ReadAtMost(program.AppFolder + std::string(kRecentFile), kMostOfRecent));
     SetRecentCaption(recentLine_);
 }
 
@@ -192,6 +194,18 @@ try {
     ChooseProject();
 } catch (const RuntimeError& error) {
     ReportFailure(error);
+}
+
+void mdiBack::OpenFile(const std::string& path)
+{
+    const std::string before = std::exchange(program.CurrentProjectPath, path);
+    try {
+        OpenProjectConnection(program);
+        ChooseProject();
+    } catch (const RuntimeError& error) {
+        program.CurrentProjectPath = before;
+        ReportFailure(error);
+    }
 }
 
 void mdiBack::ChooseProject()

@@ -78,6 +78,10 @@ struct mdiBack : Form {
     /// closed without a question. Errors of the sheet's load and of the store; an unknown key closes only.
     void tbrLab_ButtonMenuClick(std::string_view key);
 
+    /// Opens a project file that was named when the program was started, or opened from the desktop. One that can't be
+    /// opened is told in a message and is not remembered.
+    void OpenFile(const std::string& path);
+
     /// Makes the recent entry the current project's.
     void ShowRecentEntry();
     /// The strip turns green and the tests can be opened.

@@ -42,11 +42,6 @@ auto SelectsWhenAsked(const Control& control, View& view)
     };
 }
 
-void ShowText(QLineEdit& edit, const std::string& text)
-{
-    if (const auto shown = ToQt(text); shown != edit.text()) edit.setText(shown);
-}
-
 void ShowList(QComboBox& view, const std::vector<std::string>& list)
 {
     QStringList items;
@@ -56,6 +51,18 @@ void ShowList(QComboBox& view, const std::vector<std::string>& list)
     if (items == present) return;
     view.clear();
     view.addItems(items);
+}
+
+/// The entry whose text stands in the box, or none: the arrow keys go on from there. What is being typed keeps its
+/// place.
+void ShowEntry(QComboBox& view, const std::string& text)
+{
+    const int entry = view.findText(ToQt(text), Qt::MatchExactly | Qt::MatchCaseSensitive);
+    if (entry == view.currentIndex()) return ShowText(*view.lineEdit(), text);
+    const int cursor = view.lineEdit()->cursorPosition();
+    view.setCurrentIndex(entry);
+    ShowText(*view.lineEdit(), text);
+    view.lineEdit()->setCursorPosition(cursor);
 }
 
 QIcon IconOf(const QToolBar& view, const std::string& caption)
@@ -92,6 +99,13 @@ QToolButton* MakeToolButton(Toolbar& bar, int number, QToolBar& view)
 }
 
 }  // namespace
+
+void ShowText(QLineEdit& edit, const std::string& text)
+{
+    const auto whole = ToQt(text);
+    const auto shown = whole.trimmed().isEmpty() ? QString() : whole;
+    if (shown != edit.text()) edit.setText(shown);
+}
 
 QString PlainCaption(const Control& control)
 {
@@ -135,7 +149,7 @@ Subscription Bind(ComboBox& combo, QComboBox& view)
     return combo.Show([&combo, &view, select = SelectsWhenAsked(combo, *view.lineEdit())]() mutable {
         const QSignalBlocker quiet(view);
         ShowList(view, combo.List());
-        ShowText(*view.lineEdit(), combo.Text());
+        ShowEntry(view, combo.Text());
         select();
     });
 }

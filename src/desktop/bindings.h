@@ -42,6 +42,10 @@ using Bindings = std::vector<Subscription>;
 [[nodiscard]] Subscription Bind(ScrollBar& bar, QScrollBar& view);
 [[nodiscard]] Subscription Bind(Timer& timer, QTimer& clock);
 
+/// Puts a control's text into its box. Nothing but blanks, as a new file's columns hold, is shown as nothing: what is
+/// typed there begins without them.
+void ShowText(QLineEdit& edit, const std::string& text);
+
 /// What every control has: enabled, visible, tool tip, accessible name, colours.
 [[nodiscard]] Subscription BindFurniture(Control& control, QWidget& view);
 

@@ -35,7 +35,7 @@ Desktop::~Desktop()
     following_ = {};
     std::vector<QWidget*> tops;  // the others go with the window that they belong to
     for (const auto& [form, window] : windows_) {
-        if (!window->parentWidget()) tops.push_back(window);
+        if (window && !window->parentWidget()) tops.push_back(window);
     }
     for (QWidget* top : tops) delete top;
 }
@@ -50,8 +50,7 @@ void Desktop::Follow()
 {
     TakeAwayClosed();
     for (const auto& shown : program_.ShownForms()) {
-        QWidget*& window = windows_[shown.form];
-        if (!window) window = Open(shown);
+        if (!windows_.contains(shown.form)) windows_[shown.form] = Open(shown);
     }
 }
 
@@ -61,7 +60,7 @@ void Desktop::TakeAwayClosed()
         const auto& [form, window] = entry;
         const auto& shown = program_.ShownForms();
         if (std::ranges::find(shown, form, &Program::ShownForm::form) != shown.end()) return false;
-        LetGo(*window);
+        if (window) LetGo(*window);
         return true;
     });
 }
@@ -69,7 +68,7 @@ void Desktop::TakeAwayClosed()
 FrameWindow* Desktop::FrameOpen() const
 {
     for (const auto& [form, window] : windows_) {
-        if (auto* frame = dynamic_cast<FrameWindow*>(window)) return frame;
+        if (auto* frame = dynamic_cast<FrameWindow*>(window.data())) return frame;
     }
     return nullptr;
 }

@@ -1,6 +1,7 @@
 /// Keeps a window for every form that the program shows, and takes it away with the form.
 #pragma once
 
+#include <QPointer>
 #include <QWidget>
 #include <map>
 
@@ -15,7 +16,7 @@ class Desktop {
     Desktop(Program& program, QtSurroundings& surroundings);
     ~Desktop();
 
-    /// The window of a shown form; nullptr where it has none.
+    /// The window of a shown form; nullptr where it has none, or has lost it with the frame that it belongs to.
     QWidget* WindowOf(const Form& form) const;
 
   private:
@@ -26,7 +27,7 @@ class Desktop {
 
     Program& program_;
     QtSurroundings& surroundings_;
-    std::map<const Form*, QWidget*> windows_;
+    std::map<const Form*, QPointer<QWidget>> windows_;
     Subscription following_;
 };
 

@@ -18,13 +18,18 @@
 #include <optional>
 
 #include "controls/picture_box.h"
+#include "controls/pressed_frame.h"
 #include "desktop/grid_view.h"
 #include "desktop/looks.h"
+#include "desktop/picture_view.h"
 #include "desktop/plot_view.h"
+#include "render/decoded_pictures.h"
 
 namespace terravane {
 
 namespace {
+
+constexpr int kImageSide = 96;  // pixels
 
 std::optional<Key> KeyOf(int key)
 {
@@ -96,6 +101,12 @@ QLabel* MakeCaption(const Control& control, QWidget* buddy, QWidget* parent)
     return label;
 }
 
+/// A press that no control in a frame takes is the frame's.
+void PressFrame(Control& control)
+{
+    if (auto* frame = dynamic_cast<PressedFrame*>(&control)) frame->Press();
+}
+
 }  // namespace
 
 FormView::FormView(Form& form, const Place& layout, QWidget* parent) : QWidget(parent), form_(form)
@@ -149,6 +160,8 @@ QWidget* FormView::Make(const Place& place)
             return MakeBanner(place);
         case Place::Kind::Plot:
             return MakePlot(place);
+        case Place::Kind::Picture:
+            return MakePicture(place);
         case Place::Kind::Control:
             return MakeControl(form_.Get<Control>(place.control));
         case Place::Kind::Space:
@@ -215,7 +228,12 @@ QWidget* FormView::MakeGroup(const Place& place)
     AddAll(*box, place.parts);
     box->setContentsMargins(looks::kGap, looks::kGap, looks::kGap, looks::kGap);
     bindings_.push_back(BindFurniture(frame, *group));
+    bindings_.push_back(frame.Show([&frame, group] { group->setTitle(PlainCaption(frame)); }));
     views_[&frame] = group;
+    if (dynamic_cast<PressedFrame*>(&frame)) {
+        controls_[group] = &frame;
+        group->installEventFilter(this);
+    }
     return group;
 }
 
@@ -295,11 +313,22 @@ QWidget* FormView::MakePlot(const Place& place)
     return view;
 }
 
+QWidget* FormView::MakePicture(const Place& place)
+{
+    auto& box = form_.Get<PictureBox>(place.control);
+    auto* view = new PictureView(box, ToQt(place.text), this);
+    views_[&box] = view;
+    return view;
+}
+
 /// A picture of the control's own, else the program's mark.
 QWidget* FormView::MakeImage(Image& image)
 {
     auto* view = new QLabel(this);
-    view->setPixmap(looks::ProgramIcon().pixmap(96, 96));
+    const QImage own = image.Content() ? Decoded(image.Content()) : QImage();
+    view->setPixmap(own.isNull() ? looks::ProgramIcon().pixmap(kImageSide, kImageSide)
+                                 : QPixmap::fromImage(own.scaled(kImageSide, kImageSide, Qt::KeepAspectRatio,
+                                                                 Qt::SmoothTransformation)));
     bindings_.push_back(BindFurniture(image, *view));
     views_[&image] = view;
     return view;
@@ -330,11 +359,16 @@ QWidget* FormView::MakeControl(Control& control)
     }
     if (auto* label = dynamic_cast<Label*>(&control)) return MakeBound<QLabel>(*label);
     if (auto* image = dynamic_cast<Image*>(&control)) return MakeImage(*image);
-    auto& grid = form_.Get<TextGrid>(control.Name());
+    return MakeGrid(form_.Get<TextGrid>(control.Name()));
+}
+
+QWidget* FormView::MakeGrid(TextGrid& grid)
+{
     auto* view = new GridView(grid, this);
     bindings_.push_back(BindFurniture(grid, *view));
     Watch(grid, *view);
     if (view->EditorBox()) Watch(*grid.Editor(), *view->EditorBox());
+    if (view->EditorList()) Watch(*view->ListEditor(), *view->EditorList());
     return view;
 }
 
@@ -357,6 +391,7 @@ bool FormView::eventFilter(QObject* watched, QEvent* event)
     if (found == controls_.end()) return false;
     Control& control = *found->second;
     if (event->type() == QEvent::FocusIn) control.SetFocus();
+    if (event->type() == QEvent::MouseButtonPress) PressFrame(control);
     if (event->type() == QEvent::Enter && control.MouseMove) control.MouseMove();
     if (event->type() == QEvent::Leave && control.MouseMove && control.MouseLeave) control.MouseLeave();
     if (event->type() != QEvent::KeyPress) return false;

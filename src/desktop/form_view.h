@@ -40,6 +40,8 @@ class FormView : public QWidget {
     QWidget* MakeResult(const Place& place);
     QWidget* MakeBanner(const Place& place);
     QWidget* MakePlot(const Place& place);
+    QWidget* MakePicture(const Place& place);
+    QWidget* MakeGrid(class TextGrid& grid);
     QWidget* MakeImage(class Image& image);
     QWidget* MakeControl(Control& control);
     QWidget* Make(const Place& place);

@@ -1,6 +1,7 @@
 #include "desktop/grid_view.h"
 
 #include <QAbstractTableModel>
+#include <QComboBox>
 #include <QHeaderView>
 #include <QMouseEvent>
 #include <QPainter>
@@ -8,6 +9,7 @@
 #include <QStyledItemDelegate>
 #include <algorithm>
 
+#include "controls/form.h"
 #include "desktop/looks.h"
 
 namespace terravane {
@@ -18,9 +20,28 @@ constexpr int kLeastRowsShown = 4;
 constexpr int kMostRowsUnscrolled = 12;
 constexpr int kLeastColumnWidth = 56;
 
-bool IsHead(const TextGrid& grid, int row, int column)
+bool IsMerged(const TextGrid& grid, int column)
 {
-    return row < grid.HeadRows() || (column == 0 && grid.TitleColumns() > 0);
+    return grid.MergeCells == Merging::Free && grid.MergeCol(column);
+}
+
+bool HoldsTitles(const TextGrid& grid, int column)
+{
+    return (column == 0 && grid.TitleColumns() > 0) || IsMerged(grid, column);
+}
+
+/// The titles of merged groups are as quiet as calculated cells: there are two columns of them.
+QPalette::ColorRole GroundOf(const TextGrid& grid, int row, int column)
+{
+    if (row < grid.HeadRows()) return QPalette::Midlight;
+    if (grid.IsCalculated(row, column) || IsMerged(grid, column)) return QPalette::Button;
+    return HoldsTitles(grid, column) ? QPalette::Midlight : QPalette::Base;
+}
+
+/// Whether a row is the first of those that the first column tells as one.
+bool BeginsGroup(const TextGrid& grid, int row)
+{
+    return row > 0 && IsMerged(grid, 0) && grid.AreaOf(row, 0).row == row;
 }
 
 /// Heads in the palette's mid-light, calculated cells in the button face with quieter ink, thin lines.
@@ -31,19 +52,22 @@ class CellPainter : public QStyledItemDelegate {
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
     {
         const QPalette& palette = option.palette;
-        const bool head = IsHead(grid_, index.row(), index.column());
+        const bool head = index.row() < grid_.HeadRows() || HoldsTitles(grid_, index.column());
         const bool calculated = grid_.IsCalculated(index.row(), index.column());
-        const auto role = head ? QPalette::Midlight : calculated ? QPalette::Button : QPalette::Base;
-        painter->fillRect(option.rect, palette.color(role));
+        painter->fillRect(option.rect, palette.color(GroundOf(grid_, index.row(), index.column())));
         QColor ink = palette.color(QPalette::Active, head || calculated ? QPalette::ButtonText : QPalette::Text);
         if (calculated) ink.setAlphaF(0.85F);
         painter->setPen(ink);
-        const bool isTitle = index.column() == 0 && grid_.TitleColumns() > 0;
+        const bool isTitle = index.column() == 0 && grid_.TitleColumns() > 0 && !IsMerged(grid_, 0);
         const int side = isTitle ? Qt::AlignLeft : Qt::AlignHCenter;
         const int margin = isTitle ? 6 : 2;
         const int wrap = head && !isTitle ? Qt::TextWordWrap : 0;
         painter->drawText(option.rect.adjusted(margin, 0, -margin, 0), side | Qt::AlignVCenter | wrap,
                           index.data().toString());
+        if (BeginsGroup(grid_, index.row())) {
+            const QRect top(option.rect.topLeft(), QSize(option.rect.width(), 1));
+            painter->fillRect(top, palette.color(QPalette::Mid));
+        }
     }
 
   private:
@@ -101,40 +125,82 @@ GridView::GridView(TextGrid& grid, QWidget* parent) : QTableView(parent), grid_(
     setFrameShape(QFrame::StyledPanel);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollMode(ScrollPerItem);  // a grid never shows half a row
-    if (CellEditor* editor = grid.Editor()) {
-        box_ = new QLineEdit(viewport());
-        box_->setAlignment(Qt::AlignHCenter);
-        box_->setTextMargins(0, 0, 0, 0);
-        box_->setStyleSheet("QLineEdit { border: 2px solid palette(highlight); padding: 0px; }");
-        box_->setAccessibleName(QObject::tr("Cell"));
-        box_->hide();
-        connect(box_, &QLineEdit::textEdited, this,
-                [editor](const QString& text) { editor->Type(text.toStdString()); });
-        bindings_.push_back(editor->Show([this] { ShowEditor(); }));
-    }
+    if (CellEditor* editor = grid.Editor()) MakeEditorBox(*editor);
+    MakeEditorList();
     bindings_.push_back(grid.Show([this] {
         if (model_->TakeUp()) ShareRoom();
-        ShowEditor();
+        ShowMerged();
+        ShowEditors();
     }));
 }
 
-void GridView::ShowEditor()
+/// Cells that merge stand as one, their text in its middle.
+void GridView::ShowMerged()
 {
-    if (!box_) return;
-    CellEditor& editor = *grid_.Editor();
+    if (grid_.MergeCells == Merging::Never) return;
+    clearSpans();
+    for (int row = 0; row < grid_.Rows(); ++row) {
+        for (int column = 0; column < grid_.Columns(); ++column) {
+            const CellArea area = grid_.AreaOf(row, column);
+            if (area.row != row || area.column != column || area.rows * area.columns == 1) continue;
+            setSpan(row, column, area.rows, area.columns);
+        }
+    }
+}
+
+void GridView::MakeEditorBox(CellEditor& editor)
+{
+    box_ = new QLineEdit(viewport());
+    box_->setAlignment(Qt::AlignHCenter);
+    box_->setTextMargins(0, 0, 0, 0);
+    box_->setStyleSheet("QLineEdit { border: 2px solid palette(highlight); padding: 0px; }");
+    box_->setAccessibleName(QObject::tr("Cell"));
+    box_->hide();
+    connect(box_, &QLineEdit::textEdited, this, [&editor](const QString& text) { editor.Type(text.toStdString()); });
+    bindings_.push_back(editor.Show([this] { ShowEditors(); }));
+}
+
+void GridView::MakeEditorList()
+{
+    for (Control* control : grid_.Owner().Controls()) {
+        auto* editor = dynamic_cast<ListCellEditor*>(control);
+        if (editor && &editor->Grid() == &grid_) listEditor_ = editor;
+    }
+    if (!listEditor_) return;
+    list_ = new QComboBox(viewport());
+    list_->hide();
+    bindings_.push_back(Bind(*listEditor_, *list_));
+    list_->lineEdit()->setAlignment(Qt::AlignHCenter);
+    list_->setAccessibleName(QObject::tr("Cell"));
+    list_->setObjectName(QString::fromStdString(listEditor_->Name()));
+    bindings_.push_back(listEditor_->Show([this] { ShowEditors(); }));
+}
+
+/// Over the current cell, or hidden; false where it is hidden.
+bool GridView::Stand(QWidget& view, const Control& editor)
+{
     if (!editor.Visible()) {
-        const bool had = box_->hasFocus();
-        box_->hide();
+        const bool had = view.hasFocus();
+        view.hide();
         if (had) setFocus(Qt::OtherFocusReason);
-        return;
+        return false;
     }
     const QModelIndex cell = model_->index(grid_.Row(), grid_.Column());
     scrollTo(cell);
     horizontalScrollBar()->setValue(0);  // columns share the width: there is nothing to scroll to at the side
-    box_->setGeometry(visualRect(cell));
-    if (const auto text = QString::fromStdString(editor.Text()); text != box_->text()) box_->setText(text);
-    box_->show();
-    if (editor.HasFocus() && !box_->hasFocus()) box_->setFocus(Qt::OtherFocusReason);
+    view.setGeometry(visualRect(cell));
+    view.show();
+    if (editor.HasFocus() && !view.hasFocus()) view.setFocus(Qt::OtherFocusReason);
+    return true;
+}
+
+/// The list's text is its binding's.
+void GridView::ShowEditors()
+{
+    if (list_) Stand(*list_, *listEditor_);
+    if (!box_ || !Stand(*box_, *grid_.Editor())) return;
+    const CellEditor& editor = *grid_.Editor();
+    ShowText(*box_, editor.Text());
     if (editor.SelectAllRequests() != selectRequestsSeen_) box_->selectAll();
     selectRequestsSeen_ = editor.SelectAllRequests();
 }
@@ -165,33 +231,50 @@ QSize GridView::minimumSizeHint() const
 
 QSize GridView::sizeHint() const
 {
-    return SizeFor(kMostRowsUnscrolled);
+    if (grid_.MergeCells == Merging::Never) return SizeFor(kMostRowsUnscrolled);
+    double width = 0;
+    for (int column = 0; column < grid_.Columns(); ++column) width += grid_.ColumnWidth(column) / looks::kTwipsPerPixel;
+    return SizeFor(grid_.Rows()).expandedTo({static_cast<int>(width), 0});
 }
 
 void GridView::resizeEvent(QResizeEvent* event)
 {
     QTableView::resizeEvent(event);
     ShareRoom();
-    ShowEditor();
+    ShowEditors();
+}
+
+/// The width of a column, of what is left for it and those behind it: by the widths that the form gave its columns,
+/// where it gave all of them one; else evenly.
+int GridView::ShareOf(int column, int left) const
+{
+    double sum = 0;
+    for (int other = column; other < grid_.Columns(); ++other) {
+        if (grid_.ColumnWidth(other) == 0) return left / (grid_.Columns() - column);
+        sum += grid_.ColumnWidth(other);
+    }
+    return static_cast<int>(left * grid_.ColumnWidth(column) / sum);
+}
+
+int GridView::TitleWidth(int column) const
+{
+    int width = 0;
+    for (int row = 0; row < grid_.Rows(); ++row) {
+        const auto text = model_->index(row, column).data().toString();
+        width = std::max(width, fontMetrics().boundingRect(QRect(0, 0, 4000, 400), 0, text).width() + 20);
+    }
+    return width;
 }
 
 /// Titles as wide as they need, the other columns share the rest; rows of equal height fill the view.
 void GridView::ShareRoom()
 {
-    const int columns = grid_.Columns(), rows = grid_.Rows();
-    int title = 0;
-    if (grid_.TitleColumns() > 0) {
-        for (int row = 0; row < rows; ++row) {
-            const auto text = model_->index(row, 0).data().toString();
-            title = std::max(title, fontMetrics().boundingRect(QRect(0, 0, 4000, 400), 0, text).width() + 20);
-        }
-        setColumnWidth(0, title);
-    }
-    const int first = grid_.TitleColumns() > 0 ? 1 : 0;
-    int left = viewport()->width() - title;
-    for (int column = first; column < columns; ++column) {
-        const int width = left / (columns - column);
-        setColumnWidth(column, std::max(kLeastColumnWidth, width));
+    const int rows = grid_.Rows();
+    int left = viewport()->width();
+    for (int column = 0; column < grid_.Columns(); ++column) {
+        const int asked = HoldsTitles(grid_, column) ? TitleWidth(column) : ShareOf(column, left);
+        const int width = std::max(kLeastColumnWidth, asked);
+        setColumnWidth(column, width);
         left -= width;
     }
     int least = 0;
@@ -199,9 +282,19 @@ void GridView::ShareRoom()
     const bool headsAlone = grid_.HeadRows() == rows;  // are never scrolled; rows may come later
     setMinimumHeight(headsAlone ? least + 2 * frameWidth() : 0);
     setMaximumHeight(headsAlone ? least + 2 * frameWidth() : QWIDGETSIZE_MAX);
-    const int spare = std::max(0, viewport()->height() - least);
+    FillHeight();
+}
+
+/// The rows that have room share what is left of it, so that none stands there by half.
+void GridView::FillHeight()
+{
+    const int rows = grid_.Rows();
+    int spare = viewport()->height(), shown = 0;
+    while (shown < rows && spare >= LeastRowHeight(shown)) spare -= LeastRowHeight(shown++);
+    const int even = spare / std::max(1, shown), most = looks::kGridRowHeight / 2;
     for (int row = 0; row < rows; ++row) {
-        setRowHeight(row, LeastRowHeight(row) + std::min(spare / std::max(1, rows), looks::kGridRowHeight / 2));
+        const bool takesRest = even < most && row < spare - even * shown;  // the pixels that do not divide
+        setRowHeight(row, LeastRowHeight(row) + std::min(even, most) + (takesRest ? 1 : 0));
     }
 }
 
@@ -226,7 +319,9 @@ void GridView::focusInEvent(QFocusEvent* event)
 void GridView::scrollContentsBy(int dx, int dy)
 {
     QTableView::scrollContentsBy(dx, dy);
-    if (box_ && box_->isVisible()) box_->setGeometry(visualRect(model_->index(grid_.Row(), grid_.Column())));
+    for (QWidget* editor : {static_cast<QWidget*>(box_), static_cast<QWidget*>(list_)}) {
+        if (editor && editor->isVisible()) editor->setGeometry(visualRect(model_->index(grid_.Row(), grid_.Column())));
+    }
 }
 
 }  // namespace terravane

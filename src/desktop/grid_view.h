@@ -6,8 +6,11 @@
 #include <QTableView>
 
 #include "controls/cell_editor.h"
+#include "controls/list_cell_editor.h"
 #include "controls/text_grid.h"
 #include "desktop/bindings.h"
+
+class QComboBox;
 
 namespace terravane {
 
@@ -20,8 +23,12 @@ class GridView : public QTableView {
     TextGrid& Grid() const { return grid_; }
     /// The box of the grid's editor; nullptr where the grid is only read.
     QLineEdit* EditorBox() const { return box_; }
+    /// The list over the cells that are chosen, with its view; nullptr where the grid has none.
+    ListCellEditor* ListEditor() const { return listEditor_; }
+    QComboBox* EditorList() const { return list_; }
 
-    /// A few rows at the least; all of them, up to a dozen, where there is room.
+    /// A few rows at the least; all of them, up to a dozen, where there is room. A grid with merged cells is
+    /// a whole, as wide as its form says.
     QSize minimumSizeHint() const override;
     QSize sizeHint() const override;
 
@@ -37,12 +44,21 @@ class GridView : public QTableView {
   private:
     QSize SizeFor(int mostRows) const;
     void ShareRoom();
-    void ShowEditor();
+    void FillHeight();
+    void ShowMerged();
+    void MakeEditorBox(CellEditor& editor);
+    void MakeEditorList();
+    bool Stand(QWidget& view, const Control& editor);
+    void ShowEditors();
+    int TitleWidth(int column) const;
+    int ShareOf(int column, int left) const;
     int LeastRowHeight(int row) const;
 
     TextGrid& grid_;
     GridModel* model_;
     QLineEdit* box_ = nullptr;
+    ListCellEditor* listEditor_ = nullptr;
+    QComboBox* list_ = nullptr;
     int selectRequestsSeen_ = 0;
     Bindings bindings_;
 };

@@ -76,15 +76,22 @@ Place Plot(std::string_view frame, std::string_view plot, int stretch)
     return {Place::Kind::Plot, frame, {}, plot, stretch};
 }
 
+Place Picture(std::string_view control, std::string_view name)
+{
+    return {Place::Kind::Picture, control, {}, name, 1};
+}
+
 Place Space()
 {
     return {Place::Kind::Space, {}, {}, {}, 1};
 }
 
-Place GeneralData()
+Place GeneralData(std::string_view ownField)
 {
-    return Group("fraGeneral", {Row({Fields({"txtClient", "txtProject", "txtLocation"}, 5),
-                                     Fields({"txtID", "txtSoil", "DTPDate"}, 3), Fields({"cboTest", "cboCheck"}, 4)})});
+    std::vector<std::string_view> job{"txtClient", "txtProject", "txtLocation"};
+    if (!ownField.empty()) job.push_back(ownField);
+    return Group("fraGeneral", {Row({Fields(std::move(job), 5), Fields({"txtID", "txtSoil", "DTPDate"}, 3),
+                                     Fields({"cboTest", "cboCheck"}, 4)})});
 }
 
 }  // namespace layout

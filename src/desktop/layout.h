@@ -20,6 +20,7 @@ struct Place {
         Field,    // the control with its caption at its left
         Result,   // caption small, figure large, `text` its unit
         Banner,   // the coloured title of a sheet
+        Picture,  // a picture box that shows one picture, `text` what it is
         Plot,     // a picture box with `text` naming the one that stands on it (may be empty)
         Space     // takes what room is left
     };
@@ -47,10 +48,11 @@ Place NamedFields(std::vector<Place> fields, int stretch = 0);
 Place Result(std::string_view control, std::string_view unit);
 Place Banner(std::string_view control);
 Place Plot(std::string_view frame, std::string_view plot, int stretch = 1);
+Place Picture(std::string_view control, std::string_view name);
 Place Space();
 
-/// The general data block, the same on every sheet.
-Place GeneralData();
+/// The general data block, the same on every sheet; a head field of the sheet's own stands below the location.
+Place GeneralData(std::string_view ownField = {});
 
 }  // namespace layout
 

@@ -20,8 +20,8 @@ Place MouldsTab()
 Place ReadingsTab()
 {
     return Row({
-        Group("fraSwell", {One("MSHSwell", 1), Row({Field("dtpSwell"), Space()})}, 2),
-        Group("fraPenetrate", {One("MSHPenetrate"), One("MSHPenetrate1", 1), Row({Space(), One("cmdPen")})}, 3),
+        Group("fraSwell", {One("MSHSwell", 1), Row({Field("dtpSwell"), Space()})}, 5),
+        Group("fraPenetrate", {One("MSHPenetrate"), One("MSHPenetrate1", 1), Row({Space(), One("cmdPen")})}, 6),
     });
 }
 

@@ -12,8 +12,11 @@ Place GeneralDataLayout()
 
 Place AboutLayout()
 {
-    return Column({Row({Space(), One("imgMark"), Space()}), One("lblName"), One("lblVersion"), One("lblInstitution"),
-                   One("lblDepartment"), One("lblDeveloper"), Row({Space(), One("cmdClose")})});
+    return Column({Row({Column({One("imgMark"), One("imgRoad"), Space()}),
+                        Column({One("lblName"), One("lblVersion"), Space(), One("lblInstitution"), One("lblDepartment"),
+                                One("lblDeveloper"), Space()},
+                               1)}),
+                   Row({Space(), One("cmdClose")})});
 }
 
 std::map<std::string_view, Place> AllLayouts()
@@ -21,11 +24,14 @@ std::map<std::string_view, Place> AllLayouts()
     return {
         {"frmProject", GeneralDataLayout()},
         {"frmAbout", AboutLayout()},
+        {"frmPreferences", PreferencesLayout()},
         {"frmCompaction", CompactionLayout()},
         {"frmAtterberg", AtterbergLayout()},
         {"frmSpecific", SpecificLayout()},
         {"frmSieve", SieveLayout()},
         {"frmCBR", CbrLayout()},
+        {"frmSummary", SummaryLayout()},
+        {"frmDensity", DensityLayout()},
     };
 }
 

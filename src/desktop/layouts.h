@@ -13,8 +13,11 @@ Place AtterbergLayout();
 Place SpecificLayout();
 Place SieveLayout();
 Place CbrLayout();
+Place DensityLayout();
+Place SummaryLayout();
 Place GeneralDataLayout();
 Place AboutLayout();
+Place PreferencesLayout();
 
 /// By the name of the form.
 std::map<std::string_view, Place> AllLayouts();

@@ -2,6 +2,7 @@
 
 #include <QCloseEvent>
 #include <QCursor>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMdiArea>
 #include <QMenuBar>
@@ -13,6 +14,7 @@
 #include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "desktop/looks.h"
 #include "render/painter.h"
@@ -72,7 +74,7 @@ void FrameWindow::BuildMenu()
         action->setObjectName(ToQt(entry->Name()));
         connect(action, &QAction::triggered, this, [entry] { entry->Press(); });
         bindings_.push_back(entry->Show([entry, action] {
-            action->setText(ToQt(entry->Caption()));
+            action->setText(entry->IsSeparator() ? QString() : ToQt(entry->Caption()));
             action->setVisible(entry->Visible() && !entry->Caption().empty());
             action->setEnabled(entry->Enabled());
         }));
@@ -152,8 +154,34 @@ DialogWindow::DialogWindow(Program& program, Form& form, Modality modality, QWid
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(new FormView(form, LayoutOf(form.Name()), this));
-    resize(sizeHint().expandedTo({480, 200}));
-    if (auto* command = findChild<QPushButton*>()) command->setDefault(true);
+    const QSize asked(static_cast<int>(form.Width / looks::kTwipsPerPixel),
+                      static_cast<int>(form.Height / looks::kTwipsPerPixel));
+    resize(sizeHint().expandedTo({480, 200}).expandedTo(asked).boundedTo(screen()->availableSize()));
+    MoveInto(screen()->geometry(), modality);
+    ChooseDefault();
+}
+
+/// A single command is what Enter presses anywhere; of several only the one that has the focus.
+void DialogWindow::ChooseDefault()
+{
+    const auto commands = findChildren<QPushButton*>();
+    if (commands.size() == 1) return commands.front()->setDefault(true);
+    for (QPushButton* command : commands) command->setAutoDefault(false);
+}
+
+void DialogWindow::keyPressEvent(QKeyEvent* event)
+{
+    auto* command = qobject_cast<QPushButton*>(focusWidget());
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isEnter && command) return command->click();
+    QDialog::keyPressEvent(event);
+}
+
+/// Half-way across the screen; down it a modal form leaves a third of the room above it, another half its own height.
+void DialogWindow::MoveInto(const QRect& screen, Modality modality)
+{
+    const int above = modality == Modality::Modal ? (screen.height() - height()) / 3 : height() / 2;
+    move(screen.left() + (screen.width() - width()) / 2, screen.top() + std::max(0, above));
 }
 
 void DialogWindow::reject()

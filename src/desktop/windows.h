@@ -57,7 +57,13 @@ class DialogWindow : public QDialog {
 
     void reject() override;
 
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
   private:
+    void ChooseDefault();
+    void MoveInto(const QRect& screen, Modality modality);
+
     Program& program_;
     Form& form_;
 };

@@ -6,6 +6,8 @@
 #include "app/mdiBack.h"
 #include "controls/cell_editor.h"
 #include "controls/choice_controls.h"
+#include "controls/list_cell_editor.h"
+#include "controls/pressed_frame.h"
 #include "runtime/text.h"
 #include "script/commands.h"
 #include "script/script_controls.h"
@@ -66,6 +68,9 @@ void RunClick(Session& session, Words words)
     }
     if (auto* label = dynamic_cast<Label*>(&control)) {
         return Use(session, words[0], control, [label] { label->Press(); });
+    }
+    if (auto* frame = dynamic_cast<PressedFrame*>(&control)) {
+        return Use(session, words[0], control, [frame] { frame->Press(); });
     }
     throw LineFault("\"" + words[0] + "\" can't be clicked.");
 }
@@ -134,30 +139,37 @@ TextGrid& GridNamed(Session& session, const std::string& name)
 }
 
 /// The grid's editor that a predicate holds for; several may share a grid.
-template <class Predicate>
-CellEditor* EditorOver(const TextGrid& grid, Predicate holds)
+template <class Editor, class Predicate>
+Editor* EditorOver(const TextGrid& grid, Predicate holds)
 {
     for (Control* control : grid.Owner().Controls()) {
-        auto* editor = dynamic_cast<CellEditor*>(control);
+        auto* editor = dynamic_cast<Editor*>(control);
         if (editor && &editor->Grid() == &grid && holds(*editor)) return editor;
     }
     return nullptr;
+}
+
+template <class Editor>
+void TypeInto(Session& session, Words words, TextGrid& grid, Editor* editor)
+{
+    const bool isOpen = !WhyUnusable(grid);
+    if (isOpen && (!editor || editor->Locked())) return Refuse(session, words[0], "locked");
+    Use(session, words[0], grid, [&] {
+        editor->OpenAt(WholeNumber(words[1], "a row"), WholeNumber(words[2], "a column"));
+        editor->Type(words[3]);
+        editor->PressKey(Key::Enter);
+    });
 }
 
 void RunType(Session& session, Words words)
 {
     TextGrid& grid = GridNamed(session, words[0]);
     const int row = WholeNumber(words[1], "a row"), column = WholeNumber(words[2], "a column");
-    auto* editor = EditorOver(grid, [&](const CellEditor& over) {
+    const auto stands = [&](const auto& over) {
         return over.Range().Holds(row, column) && !grid.IsCalculated(row, column);
-    });
-    const bool isOpen = !WhyUnusable(grid);
-    if (isOpen && (!editor || editor->Locked())) return Refuse(session, words[0], "locked");
-    Use(session, words[0], grid, [&] {
-        editor->OpenAt(row, column);
-        editor->Type(words[3]);
-        editor->PressKey(Key::Enter);
-    });
+    };
+    if (auto* list = EditorOver<ListCellEditor>(grid, stands)) return TypeInto(session, words, grid, list);
+    TypeInto(session, words, grid, EditorOver<CellEditor>(grid, stands));
 }
 
 void RunPut(Session& session, Words words)
@@ -189,7 +201,10 @@ Key KeyNamed(const std::string& name)
 Control* KeyTaker(Control& control)
 {
     const auto* grid = dynamic_cast<const TextGrid*>(&control);
-    return grid ? EditorOver(*grid, [](const CellEditor& editor) { return editor.Visible(); }) : &control;
+    if (!grid) return &control;
+    const auto stands = [](const Control& editor) { return editor.Visible(); };
+    if (auto* list = EditorOver<ListCellEditor>(*grid, stands)) return list;
+    return EditorOver<CellEditor>(*grid, stands);
 }
 
 void RunKey(Session& session, Words words)

@@ -5,6 +5,7 @@
 #include "controls/picture_box.h"
 #include "render/png.h"
 #include "reports/print_report.h"
+#include "results/summary_page.h"
 #include "runtime/numbers.h"
 #include "script/commands.h"
 #include "script/item_answers.h"
@@ -67,9 +68,16 @@ const PictureBox& PreviewPage(const Program& program)
     return program.Get<Form>("frmPreview").Get<PictureBox>("picView");
 }
 
+/// What printing would send: the overall results where they are open, else the open sheet's report.
+std::vector<DisplayList> PagesToPrint(Program& program)
+{
+    const auto* results = dynamic_cast<const frmSummary*>(program.Loaded("frmSummary"));
+    return results ? PagesOfSummary(*results) : PagesOfReport(program);
+}
+
 void WritePrintedPage(Session& session, int number)
 {
-    const auto pages = PagesOfReport(session.program);
+    const auto pages = PagesToPrint(session.program);
     if (number < 1 || number > static_cast<int>(pages.size())) {
         throw RuntimeError(error::kInvalidProcedureCall, "There is no page " + std::to_string(number));
     }

@@ -86,6 +86,19 @@ TEST(FrameWindow, ClosingItEndsTheProgramAndKeepsTheRecentFile)
     EXPECT_EQ(std::string(recent.begin(), recent.end()), running.PathOf("TRVN_road.mdb") + "\r\n");
 }
 
+// The sheet's window belongs to the frame and is gone with it, while its form stays until the program has ended.
+TEST(FrameWindow, ClosedOverAnOpenSheetTheProgramEndsQuietly)
+{
+    DesktopFixture running;
+    running.MakeProject();
+    running.OpenSheet("mnuStd1");
+    running.Window("mdiBack")->close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(running.surroundings.ended);
+    ASSERT_TRUE(running.program.Loaded("frmCompaction"));
+    EXPECT_EQ(running.Window("frmCompaction"), nullptr) << "A window that is gone must not be closed once more.";
+}
+
 TEST(FrameWindow, TheGuideIsAskedForInTheBrandFolder)
 {
     DesktopFixture running;

@@ -42,6 +42,67 @@ void CompactionPictures(DesktopFixture& running, const QString& folder, const st
     Keep(folder, qPrintable(prefix + "_curve"));
 }
 
+/// What the sheets of both materials may have posted, the rock sieved wet.
+void FillResults(DesktopFixture& running)
+{
+    constexpr const char* kResults[] = {
+        "UPDATE SUMMARY Set sum_LL ='25.01',  sum_PL ='15.07',  sum_PI ='9.94',  sum_swelling ='25.48',  "
+        "sum_gravel =' 14',  sum_sand =' 65',  sum_finer =' 21',  sum_USCS ='SC',  sum_AASHTO ='A-2-4(0)',  "
+        "sum_Gs ='2.68',  sum_omcS ='11.2',  sum_mddS ='2.01',  sum_omcM ='7.8',  sum_mddM ='2.18',  "
+        "sum_CBR ='6.8',  sum_compaction =' 97.4'",
+        "UPDATE SUMMARY Set sum_USCS ='GW-GM',  sum_AASHTO ='A-1-a(0)',  sum_CBR ='88.9' Where sum_ID =' 2'",
+        "UPDATE HEAD Set project_name ='ถนนสาย ก-ข ตอน 1',  project_location ='จ.เชียงใหม่'",
+        "UPDATE SIECRUSH Set sie_pwash ='1'",
+    };
+    jet::Connection file;
+    file.Open(running.disk, running.program.CurrentProjectPath);
+    for (const char* statement : kResults) file.Execute(statement);
+    file.Flush();
+}
+
+void ResultsPictures(DesktopFixture& running, const QString& folder)
+{
+    running.PressMenu("mnuSum");
+    Keep(folder, "results_few");
+    running.FormNamed("frmSummary").Get<CommandButton>("cmdClose").Press();
+    FillResults(running);
+    running.PressMenu("mnuSum");
+    Keep(folder, "results_filled");
+    running.FormNamed("frmSummary").Get<CommandButton>("cmdClose").Press();
+}
+
+/// The names of a laboratory and its people, tab by tab, with each editor of the grid over a cell.
+void PreferencesPictures(DesktopFixture& running, const QString& folder)
+{
+    running.PressMenu("mnuLogoT");
+    Form& form = running.FormNamed("frmPreferences");
+    form.Get<TextBox>("txtIsName").Type("สถาบันวิจัยและพัฒนาทางหลวง");
+    form.Get<TextBox>("txtDname").Type("Materials Testing Section");
+    form.Get<TextBox>("txtCov1").Type("นายสมชาย ดีมาก");
+    form.Get<TextBox>("txtCov2").Type("วิศวกรโยธาชำนาญการ");
+    form.Get<TextBox>("txtCov3").Type("Materials Testing Section");
+    Keep(folder, "preferences_0");
+    form.Get<TabControl>("sstPreference").SetTab(1);
+    QImage wide(420, 160, QImage::Format_RGB32);
+    wide.fill(QColor(31, 63, 79));
+    wide.save(QString::fromStdString(running.PathOf("wide.bmp")));
+    running.surroundings.files.push_back(running.PathOf("wide.bmp"));
+    form.Get<CommandButton>("cmdOpen2").Press();
+    Keep(folder, "preferences_1");
+    form.Get<TabControl>("sstPreference").SetTab(2);
+    auto& persons = form.Get<TextGrid>("mshPerson");
+    persons(1, 1) = "อนงค์ ใจดี";
+    persons(1, 2) = "Tester";
+    persons(2, 1) = "Boon Dee";
+    persons(2, 2) = "Checker";
+    persons(3, 1) = "Chai Somsak";
+    persons.PressMouse(MouseButton::Left, 3, 1);
+    Keep(folder, "preferences_2_name");
+    persons.PressMouse(MouseButton::Left, 3, 2);
+    Keep(folder, "preferences_2_position");
+    form.Get<CommandButton>("cmdClose").Press();
+}
+
 /// The box that a failing command shows, over the sheet that keeps what was typed.
 void ErrorPicture(DesktopFixture& running, const QString& folder)
 {
@@ -76,7 +137,7 @@ int main(int argc, char** argv)
     Keep(folder, "preview_50");
     running.FormNamed("frmPreview").Get<Toolbar>("Toolbar1").Press(2);
     CompactionPictures(running, folder, "mnuMod2", "crush");
-    for (const char* key : {"mnuAtt1", "mnuSpe2", "mnuSie1", "mnuCBR2"}) {
+    for (const char* key : {"mnuAtt1", "mnuSpe2", "mnuSie1", "mnuCBR2", "mnuDen1"}) {
         running.OpenSheet(key);
         Form& sheet = *running.program.ShownForms().back().form;
         auto& tabs = sheet.Get<TabControl>("SSTData");
@@ -86,6 +147,8 @@ int main(int argc, char** argv)
             Keep(folder, (sheet.Name() + "_" + std::to_string(tab)).c_str());
         }
     }
+    ResultsPictures(running, folder);
+    PreferencesPictures(running, folder);
     running.PressMenu("mnuAbout");
     Keep(folder, "about");
     return 0;

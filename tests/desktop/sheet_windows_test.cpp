@@ -1,6 +1,7 @@
 // Every sheet's window, worked with keys and mouse: the readings of the sheet's report script are typed into the cells
 // and boxes on the screen, the buttons are clicked, and the results are those that the script gets without a window.
 #include <QFile>
+#include <QGroupBox>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QScrollBar>
@@ -17,12 +18,19 @@
 namespace terravane {
 namespace {
 
-/// results  what stands in the boxes at the end: checked by hand in the sheet's own tests
+struct CellResult {
+    const char* grid;
+    int row, column;
+    const char* text;
+};
+
+/// results, cells  what stands in boxes and grids at the end: checked by hand in the sheet's own tests
 struct SheetCase {
     const char* folder;
     const char* key;
     const char* form;
     std::vector<std::pair<const char*, const char*>> results;
+    std::vector<CellResult> cells = {};
 };
 
 void PrintTo(const SheetCase& sheet, std::ostream* out)
@@ -84,7 +92,9 @@ class Hands {
         auto* edit = qobject_cast<QLineEdit*>(widget);
         if (!edit) edit = widget->findChild<QLineEdit*>();
         edit->selectAll();
-        QTest::keyClicks(edit, QString::fromStdString(text));
+        QInputMethodEvent typed;  // as a Thai keyboard's layout hands it over; QTest's keys are Latin
+        typed.setCommitString(QString::fromStdString(text));
+        QApplication::sendEvent(edit, &typed);
     }
 
     void Click(const std::string& button)
@@ -132,7 +142,24 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(SheetCase{"atterberg", "mnuAtt1", "frmAtterberg", {{"txtLL", "45.31"}, {"txtPL", "22.70"}}},
                     SheetCase{"specific", "mnuSpe1", "frmSpecific", {{"txtR", " 0.9995"}}},
                     SheetCase{"sieve", "mnuSie1", "frmSieve", {{"txtSuscs", "GW-GC"}, {"txtSaash", "A-1-a(0)"}}},
-                    SheetCase{"cbr", "mnuCBR1", "frmCBR", {{"txtCBR", "6.1"}}}));
+                    SheetCase{"cbr", "mnuCBR1", "frmCBR", {{"txtCBR", "6.1"}}},
+                    SheetCase{"density",
+                              "mnuDen1",
+                              "frmDensity",
+                              {{"txtPosition", "กม. 12+400 ซ้ายทาง"}},
+                              {{"MSHSummary", 3, 1, "1.88"}, {"MSHSummary", 4, 6, "93.17"}}}));
+
+/// A choice that renames a frame shows in its window.
+TEST(DensityWindow, TheSummaryNamesTheChosenCompactionTest)
+{
+    DesktopFixture running;
+    running.MakeProject();
+    running.OpenSheet("mnuDen1");
+    auto* frame = running.Widget<QGroupBox>("frmDensity", "fraSummary");
+    EXPECT_EQ(frame->title().toStdString(), "Summary");
+    Hands(running, "frmDensity").Do({"click", "optMod"});
+    EXPECT_EQ(frame->title().toStdString(), "Summary (Percent Compaction for Modified Compaction)");
+}
 
 TEST_P(SheetWindows, FromTypedReadingsToResultsAndReport)
 {
@@ -144,6 +171,9 @@ TEST_P(SheetWindows, FromTypedReadingsToResultsAndReport)
     for (const auto& step : StepsOf(sheet)) hands.Do(step);
     for (const auto& [box, text] : sheet.results) {
         EXPECT_EQ(running.FormNamed(sheet.form).Get<TextControl>(box).Text(), text) << box;
+    }
+    for (const auto& [grid, row, column, text] : sheet.cells) {
+        EXPECT_EQ(running.FormNamed(sheet.form).Get<TextGrid>(grid)(row, column), text) << grid << " row " << row;
     }
     QTest::mouseClick(hands.Front("cmdView"), Qt::LeftButton);
     ASSERT_TRUE(running.program.Loaded("frmPreview")) << "Print Preview shows the report.";

@@ -15,6 +15,9 @@ using namespace cbr;
 
 constexpr double kTitleWidth = 2900;   // twips, of the grids' titles
 constexpr double kResultWidth = 2100;  // of mshLPC's
+constexpr double kFigureWidth = 700;   // twips, of the readings' columns
+constexpr double kDateWidth = 1150;
+constexpr double kDepthWidth = 1000;
 constexpr std::string_view kDate = "dd/mm/yyyy";
 
 constexpr CellRange kWeighings{water::CanNumber, water::Can, 1, kColumns};
@@ -36,6 +39,13 @@ constexpr std::array kPenetrationHeads{
     PenetrationHead{"Reading", "P", "P/A"},
     PenetrationHead{"(Div)", "(lb)", "(lb/in^2)"},
 };
+
+/// The first column has the longest texts.
+void SetReadingWidths(TextGrid& grid, double first)
+{
+    grid.SetColumnWidth(0, first);
+    for (int column = 1; column < grid.Columns(); ++column) grid.SetColumnWidth(column, kFigureWidth);
+}
 
 void BuildSwellHeads(TextGrid& grid)
 {
@@ -178,6 +188,8 @@ void frmCBR::BuildGrids()
     for (const int row : {density::WetDensity, density::DryDensity}) MSHCompaction.MarkCalculatedRow(row);
     BuildSwellHeads(MSHSwell);
     BuildPenetrationHeads(MSHPenetrate);
+    SetReadingWidths(MSHSwell, kDateWidth);
+    for (TextGrid* grid : {&MSHPenetrate, &MSHPenetrate1}) SetReadingWidths(*grid, kDepthWidth);
     MSHPenetrate1.SetHeadRows(0);
     MSHPenetrate1.SetTitleColumns(0);
     ShapePenetrations(1);

@@ -240,6 +240,29 @@ TEST(RecentEntry, MissingFileIsReportedAndItsPathTaken)
     ExpectNoProject(bench);
 }
 
+TEST(FileNamedAtTheStart, IsOpened)
+{
+    AppBench bench;
+    CreateProjectFile(bench.files, "/jobs/TRVN_a.mdb");
+    bench.ShowFrame();
+    bench.LoadNotedSheets();
+    bench.Frame().OpenFile("/jobs/TRVN_a.mdb");
+    ExpectSilence(bench);
+    ExpectProjectChosen(bench, "/jobs/TRVN_a.mdb");
+    EXPECT_EQ(bench.log, kClosedByFileCommands);
+}
+
+TEST(FileNamedAtTheStart, ThatIsMissingIsReportedAndNotRemembered)
+{
+    AppBench bench;
+    bench.ShowFrame();
+    bench.program.CurrentProjectPath = "/jobs/TRVN_other.mdb";
+    bench.Frame().OpenFile("/jobs/TRVN_gone.mdb");
+    ExpectErrorBox(bench, "Could not find file '/jobs/TRVN_gone.mdb'.");
+    EXPECT_EQ(bench.program.CurrentProjectPath, "/jobs/TRVN_other.mdb");
+    ExpectNoProject(bench);
+}
+
 TEST(SaveFileAs, GoesOnInTheCopyWhileTheStripStaysRed)
 {
     AppBench bench;

@@ -58,7 +58,7 @@ TEST_F(ScriptRuns, ScriptThatCannotBeReadIsComplainedOf)
 TEST_F(ScriptRuns, StrictOnesStopAtTheFirstRunTimeError)
 {
     options.isStrict = true;
-    const auto run = Run("nonsense\nmenu mnuStd1\nmenu mnuLogoT\necho on\n");
+    const auto run = Run("nonsense\nmenu mnuStd1\nmenu mnuLogoT\nset txtIsName O'Hara\nclick cmdName1\necho on\n");
     EXPECT_EQ(run.status, 2);
     ASSERT_EQ(run.answers.size(), 2U) << run.Text();
     EXPECT_EQ(run.answers.at(0), R"({"refused":"mnuStd1","why":"disabled"})") << "A refusal is no error.";
