@@ -7,9 +7,8 @@ using namespace layout;
 
 Place SummaryLayout()
 {
-    return Column(
-        {Group("fraResults", {Row({Fields({"txtProject"}, 1), Fields({"txtLocation"}, 1)}), One("mshSum", 1)}, 1),
-         Row({Space(), One("cmdPrint"), One("cmdClose")})});
+    return Column({Group("fraResults", {Fields({"txtProject", "txtLocation"}), One("mshSum", 1)}, 1),
+                   Row({Space(), One("cmdPrint"), One("cmdClose")})});
 }
 
 }  // namespace terravane
