@@ -23,7 +23,7 @@ namespace terravane {
 namespace {
 
 constexpr unsigned kFirstSeed = 20261121;
-constexpr int kActsAStop = 45;
+constexpr int kActsAStop = 35;
 constexpr std::string_view kRoad = "TRVN_road.mdb";
 
 long Asked(const char* variable, long otherwise)
