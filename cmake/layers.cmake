@@ -45,6 +45,8 @@ function(terravane_program name)
   endif()
   list(TRANSFORM program_USES PREPEND terravane_)
   add_executable(${name} ${program_MAIN})
+  # A main reads arguments: not worth the time that optimising the library for them takes.
+  set_source_files_properties(${program_MAIN} PROPERTIES COMPILE_OPTIONS $<$<CONFIG:Release>:-O1>)
   target_link_libraries(${name} PRIVATE ${program_USES} ${program_LINKS})
   add_dependencies(programs ${name})
   set_property(GLOBAL APPEND PROPERTY terravane_programs $<TARGET_FILE:${name}>)
