@@ -10,7 +10,8 @@ endif()
 
 set(guide_pdf ${CMAKE_BINARY_DIR}/share/terravane/UserGuide.pdf)
 set(guide_sample ${CMAKE_BINARY_DIR}/guide)
-file(GLOB guide_scripts CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/docs/guide/*.trv ${CMAKE_SOURCE_DIR}/samples/road/*.trv)
+file(GLOB guide_scripts CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/docs/guide/*.trv ${CMAKE_SOURCE_DIR}/samples/laboratory.trv
+     ${CMAKE_SOURCE_DIR}/samples/road/*.trv)
 file(GLOB guide_texts CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/docs/guide/*.md ${CMAKE_SOURCE_DIR}/docs/guide/*.html
      ${CMAKE_SOURCE_DIR}/docs/guide/*.css)
 add_custom_command(
