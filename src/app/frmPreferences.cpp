@@ -92,10 +92,9 @@ void frmPreferences::ChangeNames()
     Write(UpdateLogo({institute, department, cover1, cover2, cover3}));
 }
 
-/// The file is looked for without regard to case, as the connection does: "Logo.mdb" is the brand database too.
 void frmPreferences::cmdDbase_Click()
 try {
-    CreateBrandStore(program.Files(), FindWithoutCase(program.Files(), program.BrandFolderNow(), "logo.mdb"));
+    CreateBrandStore(program.Files(), BrandStoreToCreate(program.Files(), program.BrandFolderNow()));
     program.BrandFolder = program.BrandFolderNow();
     ConnectStore();
 } catch (const RuntimeError&) {

@@ -247,9 +247,8 @@ void mdiBack::ShowPreferences(int tab)
 
 void mdiBack::mnuManual_Click()
 {
-    std::string path = program.ApplicationPath();
-    if (!path.ends_with(kFolderMark)) path += kFolderMark;
-    program.Ask().OpenDocument(path + kFolderMark + "BrandList" + kFolderMark + "UserGuide.pdf");
+    const std::string folder = WithMark(program.ApplicationPath()) + kFolderMark;  // two marks: the path as shown
+    program.Ask().OpenDocument(BrandFolderIn(folder).append(kGuideFile));
 }
 
 void mdiBack::mnuAbout_Click()

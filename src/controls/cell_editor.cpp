@@ -38,8 +38,8 @@ bool CellEditor::OpenAt(int row, int column)
 void CellEditor::Commit()
 {
     const int row = grid_.Row(), column = grid_.Column();
-    std::string text(Trim(text_));
-    grid_(row, column) = commit_ ? commit_(row, column, std::move(text)) : text;
+    const std::string text(Trim(text_));
+    grid_(row, column) = commit_ ? commit_(row, column, text) : text;
 }
 
 bool CellEditor::PressKey(Key key)

@@ -21,10 +21,7 @@ Program::~Program() = default;
 
 std::string Program::BrandFolderNow() const
 {
-    if (!brandPath_.empty()) return brandPath_;
-    std::string folder = applicationPath_;
-    if (!folder.ends_with(kFolderMark)) folder += kFolderMark;
-    return folder + "BrandList" + kFolderMark;
+    return brandPath_.empty() ? BrandFolderIn(applicationPath_) : brandPath_;
 }
 
 void Program::AddForm(const std::string& name, FormMaker maker)

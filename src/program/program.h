@@ -13,6 +13,7 @@
 #include "jet/connection.h"
 #include "jet/recordset.h"
 #include "program/current_test.h"
+#include "program/folders.h"
 #include "program/printer.h"
 #include "program/surroundings.h"
 #include "runtime/file_system.h"
@@ -22,16 +23,12 @@ namespace terravane {
 class Program;
 using FormMaker = std::function<std::unique_ptr<Form>(Program&)>;
 
-/// What separates the folders of a path.
-inline constexpr char kFolderMark = '/';
-
 enum class Modality { Modeless, Modal };
 
 class Program : public EventBoundary {
   public:
     /// applicationPath  the folder of the program's own files, as the system names it
-    /// brandPath        another folder for the brand store, with its mark at the end; empty: "BrandList" in
-    /// the program's
+    /// brandPath        another folder for the brand store, with its mark at the end; empty: that in the program's
     Program(Surroundings& surroundings, FileSystem& files, std::string applicationPath, std::string brandPath = {});
     ~Program() override;
 

@@ -142,7 +142,7 @@ std::string NameOf(std::string_view path)
 
 std::string FindWithoutCase(const FileSystem& files, const std::string& folder, std::string_view name)
 {
-    const std::string plain = Join(folder, name);
+    std::string plain = Join(folder, name);
     if (files.Exists(plain) || !files.IsFolder(folder)) return plain;
     std::vector<std::string> names = files.Names(folder);
     std::ranges::sort(names);  // of several that differ by case alone always the same one

@@ -4,6 +4,7 @@
 #include <array>
 
 #include "jet/connection.h"
+#include "store/new_stores.h"
 
 namespace terravane {
 
@@ -48,7 +49,7 @@ void RunSql(Session& session, Words words)
 void RunBrandSql(Session& session, Words words)
 {
     const Program& program = session.program;
-    RunStatement(session, FindWithoutCase(program.Files(), program.BrandFolderNow(), "Logo.mdb"), words[0]);
+    RunStatement(session, BrandStoreToOpen(program.Files(), program.BrandFolderNow()), words[0]);
 }
 
 constexpr std::array kRunCommands{

@@ -32,7 +32,7 @@ std::string WithoutMark(std::string path)
 ScriptHome::ScriptHome(FileSystem& files, const std::string& named)
     : path_(named.empty() ? MakePrivateFolder() : WithoutMark(FullPath(named))), isPrivate_(named.empty())
 {
-    const std::string brand = path_ + kFolderMark + "BrandList" + kFolderMark;
+    const std::string brand = BrandFolderIn(path_);
     if (!files.IsFolder(brand)) WriteFirstContent(files, brand);
 }
 

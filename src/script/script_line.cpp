@@ -44,7 +44,7 @@ std::string TakeQuoted(std::string_view& line)
 
 std::string TakePlain(std::string_view& line)
 {
-    const std::string word(line.substr(0, line.find_first_of(kBlanks)));
+    std::string word(line.substr(0, line.find_first_of(kBlanks)));
     line.remove_prefix(word.size());
     return word;
 }

@@ -11,10 +11,7 @@ namespace {
 
 std::string BrandFolder(const std::string& named)
 {
-    if (named.empty()) return {};
-    std::string folder = FullPath(named);
-    if (!folder.ends_with(kFolderMark)) folder += kFolderMark;
-    return folder;
+    return named.empty() ? std::string() : WithMark(FullPath(named));
 }
 
 void RunAll(ScriptRun& run, const std::vector<std::string>& files, std::istream& input)

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "jet/connection.h"
+#include "program/folders.h"
 #include "store/brand_pictures.h"
 #include "store/schema.h"
 
@@ -73,6 +74,16 @@ void CreateProjectFile(FileSystem& files, const std::string& path)
     database.Close();
 }
 
+std::string BrandStoreToOpen(const FileSystem& files, const std::string& brandFolder)
+{
+    return FindWithoutCase(files, brandFolder, "Logo.mdb");
+}
+
+std::string BrandStoreToCreate(const FileSystem& files, const std::string& brandFolder)
+{
+    return FindWithoutCase(files, brandFolder, "logo.mdb");
+}
+
 void CreateBrandStore(FileSystem& files, const std::string& path)
 {
     jet::NewDatabase database(files, path);
@@ -88,7 +99,7 @@ void CreateBrandStore(FileSystem& files, const std::string& path)
 void WriteFirstContent(FileSystem& files, const std::string& brandFolder)
 {
     if (!files.IsFolder(brandFolder)) files.MakeFolders(brandFolder);
-    const std::string database = FindWithoutCase(files, brandFolder, "logo.mdb");
+    const std::string database = BrandStoreToCreate(files, brandFolder);
     MakeUnlessThere(files, database, [&] { CreateBrandStore(files, database); });
     for (const BrandPicture& picture : FirstBrandPictures()) {
         const std::string path = brandFolder + std::string(picture.name);
@@ -99,7 +110,7 @@ void WriteFirstContent(FileSystem& files, const std::string& brandFolder)
 void WriteGuide(FileSystem& files, const std::string& source, const std::string& brandFolder)
 try {
     if (!files.Exists(source)) return;
-    const std::string target = brandFolder + "UserGuide.pdf";
+    const std::string target = brandFolder + std::string(kGuideFile);
     const Bytes guide = files.Read(source);
     const bool isThere = files.Exists(target);
     const Bytes former = isThere ? files.Read(target) : Bytes();

@@ -12,6 +12,11 @@ namespace terravane {
 /// it is.
 void CreateProjectFile(FileSystem& files, const std::string& path);
 
+/// The path of a folder's brand store, which is found whatever the case of its name. Where there is none, the two
+/// differ in the name that is missed and the name that is given.
+std::string BrandStoreToOpen(const FileSystem& files, const std::string& brandFolder);
+std::string BrandStoreToCreate(const FileSystem& files, const std::string& brandFolder);
+
 /// A brand store with an empty LOGO row and fifteen empty persons. Error 3204 where the file exists.
 void CreateBrandStore(FileSystem& files, const std::string& path);
 

@@ -1,6 +1,6 @@
 #include "store/statements.h"
 
-#include "runtime/text.h"
+#include "store/new_stores.h"
 
 namespace terravane {
 
@@ -48,7 +48,7 @@ void OpenProjectConnection(Program& program)
 
 void OpenBrandConnection(Program& program)
 {
-    program.BrandConnection.Open(program.Files(), FindWithoutCase(program.Files(), program.BrandFolder, "Logo.mdb"));
+    program.BrandConnection.Open(program.Files(), BrandStoreToOpen(program.Files(), program.BrandFolder));
 }
 
 jet::Recordset& Query(Program& program, jet::Connection& connection, std::string statement)

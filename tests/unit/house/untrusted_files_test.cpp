@@ -52,7 +52,7 @@ TEST(UntrustedFiles, OnlyTheGuideOfTheBrandFolderIsOpened)
     const std::regex opening(R"(OpenDocument\(([^;]*)\);)");
     std::vector<std::string> paths;
     for (std::sregex_iterator at(text.begin(), text.end(), opening), end; at != end; ++at) paths.push_back((*at)[1]);
-    EXPECT_EQ(paths, std::vector<std::string>{R"(path + kFolderMark + "BrandList" + kFolderMark + "UserGuide.pdf")"});
+    EXPECT_EQ(paths, std::vector<std::string>{"BrandFolderIn(folder).append(kGuideFile)"});
 }
 
 }  // namespace terravane::house
