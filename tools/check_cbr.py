@@ -1,71 +1,40 @@
 #!/usr/bin/env python3
 """A second way to the bearing ratio sheet's figures, for comparing with the program.
 
-    tools/check_cbr.py READINGS.json [--ticks 13]     the sheet's cells and ratios
-    tools/check_cbr.py --compare PROGRAM [--sheets N] [--seed S]
-                                                      random sheets through terravane-script; every difference is told
+    tools/check_cbr.py READINGS.json ... [--ticks 13]     the sheet's cells and ratios
+    tools/check_cbr.py --program build/bin/terravane-script [--random N] [--seed S] [READINGS.json ...]
+                                                          compare with what the sheet shows
 
 READINGS.json holds under "readings": condition, proving_ring_lb_per_div, mdd_g_cm3, water, density, swelling,
-penetration_in and dial_div, as a technician would type them. Texts are rounded in decimals, and the fits are solved in
-fractions: no figure here has a rounding error of its own, so that a difference of a digit is the program's. With just
-five penetrations the curve meets each reading, and a reading half-way between two tenths of a percent may fall to
-either: random sheets have fewer or more.
+penetration_in and dial_div, as a technician would type them, and ticks, the moulds whose correction is
+chosen. Texts are rounded in decimals, and the fits are solved in fractions: no figure here has a rounding error of its
+own, so that a difference of a digit is the program's. With just five penetrations the curve meets each reading, and a
+reading half-way between two tenths of a percent may fall to either: random sheets have fewer or more.
 """
 
-import argparse
 import datetime
-import json
 import math
-import pathlib
-import random
-import re
-import subprocess
 import sys
-import tempfile
-from decimal import ROUND_HALF_UP, Decimal
 from fractions import Fraction
 
+from checking import RuntimeFailure, as_text, divide, main, quoted, rounded, val
+
 MOULDS = 3
-OVERFLOW, DIVISION = "Overflow", "Division by zero"
-
-
-class Failure(Exception):
-    """A run-time error by its description."""
-
-
-def val(text):
-    found = re.match(r"\s*([+-]?(\d+\.?\d*|\.\d+)([eE][+-]?\d+)?)", str(text))
-    return float(found[1]) if found else 0.0
-
-
-def divide(a, b):
-    if b == 0:
-        raise Failure(OVERFLOW if a == 0 else DIVISION)
-    return a / b
-
-
-def text(value, places):
-    """The value's fifteen digits, rounded half away from zero."""
-    digits = Decimal(f"{value:.14e}").quantize(Decimal(1).scaleb(-places), ROUND_HALF_UP)
-    return str(digits + 0 if digits else abs(digits))
-
-
-def plain(value):
-    shown = f"{value:.15g}"
-    return shown
+DESCRIPTIONS = {6: "Overflow", 11: "Division by zero"}
+FIELDS = {"ticks": "the moulds whose correction is chosen: 13"}
 
 
 class Sheet:
     """The cells of one test: rows and columns are counted as on the sheet."""
 
     def __init__(self, readings):
-        self.readings = readings
+        self.readings, self.ticks = readings, readings.get("ticks", "")
         self.both = readings["condition"] == "both"
         self.soaked = readings["condition"] != "unsoaked"
         self.water = [""] * 7
         self.wet, self.dry = [""] * 7, [""] * 7
         self.result = {row: [""] * 4 for row in (1, 2, 3)}
-        self.swelling, self.loads = [], []
+        self.swelling, self.loads, self.shifts = [], [], {}
         self.message = None
 
     def cell(self, table, column, name):
@@ -83,15 +52,15 @@ class Sheet:
             if self.soaked:
                 self.swell()
             self.stresses()
-        except Failure as failure:
-            self.message = str(failure)
+        except RuntimeFailure as failure:
+            self.message = DESCRIPTIONS[failure.number]
 
     def waters(self, first):
         for c in range(first, first + 3):
             if not self.cell("water", c, "can_no").strip():
                 return
             wet, dry, can = (val(self.cell("water", c, n)) for n in ("can_wet_g", "can_dry_g", "can_g"))
-            self.water[c] = text(divide(wet - dry, dry - can) * 100, 2)
+            self.water[c] = rounded(divide(wet - dry, dry - can) * 100, 2)
 
     def densities(self, first):
         for c in range(first, first + 3):
@@ -99,8 +68,8 @@ class Sheet:
                 return
             names = ("diameter_cm", "height_cm", "mould_and_soil_g", "mould_g")
             d, h, whole, mould = (val(self.cell("density", c, n)) for n in names)
-            self.wet[c] = text(divide(whole - mould, math.pi * d * d / 4 * h), 2)
-            self.dry[c] = text(divide(val(self.wet[c]), 1 + val(self.water[c]) / 100), 2)
+            self.wet[c] = rounded(divide(whole - mould, math.pi * d * d / 4 * h), 2)
+            self.dry[c] = rounded(divide(val(self.wet[c]), 1 + val(self.water[c]) / 100), 2)
             self.result[1][c - first + 1] = self.dry[c]
 
     def swell(self):
@@ -108,15 +77,15 @@ class Sheet:
         dates = [datetime.datetime.strptime(r["date"], "%d/%m/%Y") for r in rows]
         for r in range(1, len(rows)):
             hours = (dates[r] - dates[0]).days * 24 + math.floor(val(rows[r]["time_h"]) - val(rows[0]["time_h"]))
-            line = [plain(hours)]
+            line = [as_text(hours)]
             for m in range(MOULDS):
                 height = val(self.cell("density", m + 1, "height_cm"))
                 rise = rows[r]["dial_mm"][m] - rows[0]["dial_mm"][m]
-                line.append(text(rise / height * 10, 2) if height else "")
+                line.append(rounded(rise / height * 10, 2) if height else "")
             self.swelling.append(line)
 
     def stresses(self):
-        k = val(str(self.readings["proving_ring_lb_per_div"]))
+        k = val(as_text(self.readings["proving_ring_lb_per_div"]))
         for row in range(len(self.readings["penetration_in"])):
             line = []
             for mould in range(1, 4):
@@ -124,37 +93,42 @@ class Sheet:
                 if row >= len(dials) or not str(dials[row]).strip():
                     line += ["", ""]
                     continue
-                load = text(k * val(str(dials[row])), 1)
-                line += [load, text(val(load) / 3, 2)]
+                load = rounded(k * val(dials[row]), 1)
+                line += [load, rounded(val(load) / 3, 2)]
             self.loads.append(line)
 
     def points(self, mould):
-        x = [val(str(p)) for p in self.readings["penetration_in"]]
+        x = [val(p) for p in self.readings["penetration_in"]]
         return x, [val(line[2 * mould - 1]) for line in self.loads]
 
-    def curves(self, ticks=""):
-        """The ratios of all moulds; the error's description where the command ends with one."""
+    def curves(self):
+        """The ratios of all moulds; the error's number where the command ends with one."""
         try:
             for mould in range(1, 4):
-                self.ratio(mould, str(mould) in ticks)
-        except Failure as failure:
-            return str(failure)
+                self.ratio(mould, str(mould) in self.ticks)
+        except RuntimeFailure as failure:
+            return failure.number
         return None
 
     def ratio(self, mould, ticked):
         x, y = self.points(mould)
         c = fit(x, y, 1, 5)
-        origin = zero_shift(c, x[-1]) if ticked else 0.0
+        if ticked:
+            self.shifts[mould] = zero_shift(c, x[-1])
+        origin = self.shifts.get(mould, 0.0)
         for row, at, standard in ((2, 0.1, 1000), (3, 0.2, 1500)):
             stress = value(c, origin + at)
             if stress != 0:
-                self.result[row][mould] = text(stress / standard * 100, 1)
+                self.result[row][mould] = rounded(stress / standard * 100, 1)
 
     def design(self, share, mdd):
-        """The value at the share's first two characters of the density; the description of an error."""
+        """The value at the share's first two characters of the density; without a curve the error's number."""
         x = [val(t) for t in self.result[1][1:]]
-        c = fit(x, [val(t) for t in self.result[3][1:]], 0, 2)
-        return text(value(c, mdd * val(share[:2]) / 100), 1)
+        try:
+            c = fit(x, [val(t) for t in self.result[3][1:]], 0, 2)
+        except RuntimeFailure as failure:
+            return failure.number
+        return rounded(value(c, mdd * val(share[:2]) / 100), 1)
 
 
 def fit(x, y, lowest, highest):
@@ -166,7 +140,7 @@ def fit(x, y, lowest, highest):
     n = len(right)
     for p in range(n):
         if matrix[p][p] == 0:
-            raise Failure(OVERFLOW)  # the row and its right side are zero: 0/0
+            raise RuntimeFailure(6)  # the row and its right side are zero: 0/0
         for r in range(p + 1, n):
             factor = matrix[r][p] / matrix[p][p]
             matrix[r] = [a - factor * b for a, b in zip(matrix[r], matrix[p])]
@@ -199,8 +173,10 @@ def zero_shift(c, last):
     return max(best[0] - divide(best[1], best[2]), 0.0)
 
 
-def show(sheet, ticks):
+def show(name, readings):
+    sheet = Sheet(readings)
     sheet.calculate()
+    print(name)
     print("water", sheet.water[1:])
     print("wet", sheet.wet[1:])
     print("dry", sheet.dry[1:])
@@ -209,11 +185,8 @@ def show(sheet, ticks):
     for line in sheet.loads:
         print("load, stress", line)
     print("message", sheet.message)
-    print("curves", sheet.curves(ticks))
-    for m in range(1, 4):
-        if sheet.loads and str(m) in ticks:
-            x, y = sheet.points(m)
-            print("zero shift", m, zero_shift(fit(x, y, 1, 5), x[-1]))
+    print("curves", sheet.curves())
+    print("zero shifts", sheet.shifts)
     for row in (1, 2, 3):
         print("result", row, sheet.result[row][1:])
     if sheet.readings.get("mdd_g_cm3"):
@@ -222,16 +195,15 @@ def show(sheet, ticks):
 
 def typed(readings):
     """The script lines that type a sheet."""
-    quote = json.dumps
     yield "click opt" + {"unsoaked": "Unsoak", "soaked": "Soak", "both": "Both"}[readings["condition"]]
-    yield f"set txtK {quote(str(readings['proving_ring_lb_per_div']))}"
-    yield f"set txtMDD {quote(str(readings.get('mdd_g_cm3') or ''))}"
+    yield f"set txtK {quoted(str(readings['proving_ring_lb_per_div']))}"
+    yield f"set txtMDD {quoted(str(readings.get('mdd_g_cm3') or ''))}"
     tables = (("water", "MSHWater", 1, ("can_no", "can_wet_g", "can_dry_g", "can_g")),
               ("density", "MSHCompaction", 2, ("blows", "diameter_cm", "height_cm", "mould_and_soil_g", "mould_g")))
     for table, grid, top, names in tables:
         for column, line in enumerate(readings[table], 1):
             for row, name in enumerate(names, top):
-                yield f"type {grid} {row} {column} {quote(str(line[name]))}"
+                yield f"type {grid} {row} {column} {quoted(str(line[name]))}"
     for row, line in enumerate(readings["swelling"], 3):
         yield f"put MSHSwell {row} 0 {line['date']}"
         yield f"put MSHSwell {row} 1 {line['time_h']}"
@@ -241,7 +213,7 @@ def typed(readings):
         yield f"type MSHPenetrate1 {row} 0 {depth}"
     for mould, column in ((1, 1), (2, 4), (3, 7)):
         for row, dial in enumerate(readings["dial_div"].get(f"mould_{mould}", [])):
-            yield f"type MSHPenetrate1 {row} {column} {quote(str(dial))}"
+            yield f"type MSHPenetrate1 {row} {column} {quoted(str(dial))}"
 
 
 def random_readings(chance):
@@ -269,47 +241,32 @@ def random_readings(chance):
             for d in depths]
     return {"condition": condition, "proving_ring_lb_per_div": chance.choice([4.9958, 5, 12.3, 0]),
             "mdd_g_cm3": chance.choice(["", "1.95", "2.10"]), "water": water, "density": density,
-            "swelling": swelling, "penetration_in": depths, "dial_div": dials}
+            "swelling": swelling, "penetration_in": depths, "dial_div": dials, "ticks": chance.choice(["", "1", "123"])}
 
 
-def compare(program, sheets, seed):
-    chance = random.Random(seed)
-    different = 0
-    for number in range(sheets):
-        readings = random_readings(chance)
-        ticks = chance.choice(["", "1", "123"])
-        different += bool(differences(program, readings, ticks, number))
-    print(f"{sheets} sheets, {different} with differences")
-    return 1 if different else 0
-
-
-def differences(program, readings, ticks, number):
+def worked(readings):
+    """What the sheet shows after its two commands; without a figure to stand on the second is not pressed here."""
     sheet = Sheet(readings)
     sheet.calculate()
-    expected = {"message": sheet.message}
+    out = {"message": sheet.message}
     if sheet.message is None:
-        expected["curves"] = sheet.curves(ticks)
-    expected["water"], expected["dry"] = sheet.water[1:], sheet.dry[1:]
-    expected["results"] = [sheet.result[row][1:] for row in (1, 2, 3)]
-    found = answers(program, readings, ticks)
-    wrong = {key: (expected[key], found.get(key)) for key in expected if expected[key] != found.get(key)}
-    for key, (mine, theirs) in wrong.items():
-        print(f"sheet {number} ({readings['condition']}, ticks {ticks!r}) {key}: here {mine}, program {theirs}")
-    return wrong
+        out["curves"] = sheet.curves()
+    return out | {"water": sheet.water[1:], "dry": sheet.dry[1:],
+                  "results": [sheet.result[row][1:] for row in (1, 2, 3)]}
 
 
-def answers(program, readings, ticks):
-    script = ["answer road.mdb", "menu mnuNew", "set txtID 1", "click cmdOK", "menu mnuCBR1", *typed(readings),
-              "click cmdCal", "dump MSHWater", "dump MSHCompaction"]
-    script += [f"check chkMold{mould} on" for mould in ticks] + ["click cmdLPen", "dump mshLPC"]
-    with tempfile.TemporaryDirectory() as folder:
-        ran = subprocess.run([program], input="\n".join(script), cwd=folder, text=True, capture_output=True, check=True)
+def script_of(readings):
+    return ["menu mnuCBR1", *typed(readings), "click cmdCal", "dump MSHWater", "dump MSHCompaction",
+            *(f"check chkMold{mould} on" for mould in readings.get("ticks", "")), "click cmdLPen", "dump mshLPC"]
+
+
+def shown(answers):
     found = {"message": None, "curves": None, "results": []}
-    for answer in map(json.loads, ran.stdout.splitlines()):
+    for answer in answers:
         if answer.get("title") == "Error Warning":
             found["message"] = answer["message"]
         if "error" in answer:
-            found["curves"] = answer["description"]
+            found["curves"] = answer["error"]
         cells, row = answer.get("cells", [])[1:], answer.get("row")
         if answer.get("dump") == "mshLPC" and row:
             found["results"].append(cells)
@@ -320,18 +277,5 @@ def answers(program, readings, ticks):
     return found
 
 
-def main():
-    parser = argparse.ArgumentParser(description=__doc__.split("\n")[0])
-    parser.add_argument("readings", nargs="?", type=pathlib.Path)
-    parser.add_argument("--ticks", default="")
-    parser.add_argument("--compare", metavar="PROGRAM")
-    parser.add_argument("--sheets", type=int, default=200)
-    parser.add_argument("--seed", type=int, default=1)
-    arguments = parser.parse_args()
-    if arguments.compare:
-        sys.exit(compare(str(pathlib.Path(arguments.compare).resolve()), arguments.sheets, arguments.seed))
-    show(Sheet(json.loads(arguments.readings.read_text(encoding="utf-8"))["readings"]), arguments.ticks)
-
-
 if __name__ == "__main__":
-    main()
+    sys.exit(main(sys.modules[__name__]))

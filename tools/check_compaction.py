@@ -11,43 +11,17 @@ assumed_water_pct, mould_wet_soil_g, mould_g; optionally specific_gravity (draws
 cells, every stage rounded through decimals, one literal line a step.
 """
 
-import argparse
 import itertools
-import json
 import math
-import pathlib
-import random
-import re
-import subprocess
 import sys
-import tempfile
-from decimal import ROUND_HALF_UP, Decimal
 from fractions import Fraction
+
+from checking import (NUMBER, RuntimeFailure, as_text, divide, main, quoted, rounded, second_derivatives, seven,
+                      val)
 
 TRIALS = 6
 MOST_ROWS = 1_000_000  # of a grid, its head among them; one more is error 7
-NUMBER = re.compile(r"[+-]?(\d+\.?\d*|\.\d+)([eE][+-]?\d+)?", re.ASCII)
 METHODS = {"optInt": "Interpolation", "optFit": "Curve Fitting"}
-
-
-class RuntimeFailure(Exception):
-    """An arithmetic failure with the number that the sheet answers; no number where a grid has no such row."""
-
-    def __init__(self, number):
-        super().__init__(f"error {number}")
-        self.number = number
-
-
-def val(text):
-    """The leading number of a text, 0 where there is none."""
-    found = NUMBER.match(text.strip())
-    return float(found[0]) if found else 0.0
-
-
-def rounded(number, decimals):
-    """The decimal value of a double at 15 digits, rounded half away from zero, without the sign of a zero."""
-    exact = Decimal(f"{number:.15g}").quantize(Decimal(1).scaleb(-decimals), rounding=ROUND_HALF_UP)
-    return f"{abs(exact) if exact == 0 else exact:.{decimals}f}"
 
 
 def masked(text, decimals):
@@ -56,17 +30,10 @@ def masked(text, decimals):
     return rounded(float(text), decimals) if NUMBER.fullmatch(text) else text
 
 
-def divide(a, b):
-    if b == 0:
-        raise RuntimeFailure(6 if a == 0 else 11)
-    return a / b
-
-
 class Sheet:
     """The texts of a compaction sheet, column 0 unused, and what Calculate and Compaction Curve make of them."""
 
     def __init__(self, readings):
-        as_text = lambda value: value if isinstance(value, str) else f"{value:.15g}" if value is not None else ""
         get = lambda name, default="": as_text(readings.get(name, default))
         self.height, self.dia = get("mould_height_cm"), get("mould_diameter_cm")
         self.gs, self.interval = get("specific_gravity"), get("interval", "0.01")
@@ -131,36 +98,12 @@ def tick_step(points):
     return float(raw[raw.index("."):])
 
 
-def seven(number):
-    return val(rounded(number, 7))
-
-
-def second_derivatives(points):
-    """Of the natural spline, seven decimals at each stage."""
+def spline_table(points, step):
+    """The walk along the spline: x to three decimals, y to seven."""
     n = len(points)
     if n < 2:
         raise RuntimeFailure(None)
-    x, y = ([0.0] + list(axis) for axis in zip(*points))
-    diagonal, h, right, m = ([0.0] * (n + 1) for _ in range(4))
-    h[1] = seven(x[2] - x[1])
-    for i in range(2, n):
-        diagonal[i] = seven(2 * (x[i + 1] - x[i - 1]))
-        h[i] = seven(x[i + 1] - x[i])
-        right[i] = seven(6 * (divide(y[i + 1] - y[i], h[i]) - divide(y[i] - y[i - 1], h[i - 1])))
-    for i in range(3, n):
-        was = diagonal[i - 1]
-        diagonal[i] = seven(diagonal[i] - divide(h[i - 1] ** 2, was))
-        right[i] = seven(right[i] - divide(h[i - 1] * right[i - 1], was))
-    m[n - 1] = seven(divide(right[n - 1], diagonal[n - 1]))
-    for i in range(n - 2, 1, -1):
-        m[i] = seven(divide(right[i] - h[i] * m[i + 1], diagonal[i]))
-    return m
-
-
-def spline_table(points, step):
-    """The walk along the spline: x to three decimals, y to seven."""
     m = second_derivatives(points)
-    n = len(points)
     x, y = ([0.0] + list(axis) for axis in zip(*points))
     rows = []
 
@@ -263,10 +206,6 @@ def show(name, readings):
             print(f"  {title}: OMC {result['omc']} %, MDD {result['mdd']} g/cm^3, the peak at {result['exact']}")
 
 
-def quoted(text):
-    return '"' + text.replace("\\", "\\\\").replace('"', '\\"') + '"'
-
-
 def script_of(readings):
     """The same readings typed into the program's sheet."""
     clean = Sheet({**readings, "trials": []})
@@ -275,8 +214,7 @@ def script_of(readings):
               ("assumed_water_pct", "MSHDensity", 0), ("mould_wet_soil_g", "MSHDensity", 1), ("mould_g", "MSHDensity", 2))
     for i, trial in enumerate(readings["trials"], 1):
         for name, grid, row in places:
-            text = trial.get(name, "")
-            lines.append(f"type {grid} {row} {i} {quoted(text if isinstance(text, str) else f'{text:.15g}')}")
+            lines.append(f"type {grid} {row} {i} {quoted(as_text(trial.get(name, '')))}")
     lines += ["echo calculate", "click cmdCal", "dump MSHWt", "dump MSHDensity"]
     lines += ["tab SSTData 1", f"set Text6 {quoted(clean.interval)}"]
     for method in METHODS:
@@ -304,8 +242,8 @@ def shown(answers):
     return out
 
 
-def differences(name, readings, seen):
-    mine, found = worked(readings), []
+def differences(mine, seen):
+    found = []
     if mine["error"] != seen["error"]:
         found.append(f"Calculate: error {mine['error']} here, {seen['error']} there")
     for title, first in (("water", 1), ("density", 0)):
@@ -313,7 +251,7 @@ def differences(name, readings, seen):
             if mine[title][row] != seen[title][row]:
                 found.append(f"{title} row {row}: {mine[title][row]} here, {seen[title][row]} there")
     if mine["error"] and seen["error"]:
-        return [f"{name}: {line}" for line in found]  # tab 1 is shut, the curve has not been drawn
+        return found  # tab 1 is shut, the curve has not been drawn
     for method in METHODS:
         if method == "optFit" and not mine["sound"]:
             continue
@@ -324,7 +262,7 @@ def differences(name, readings, seen):
             same = (a["omc"], a["mdd"]) == (b["omc"], b["mdd"])
         if not same:
             found.append(f"{METHODS[method]}: {a} here, {b} there")
-    return [f"{name}: {line}" for line in found]
+    return found
 
 
 def random_readings(rng):
@@ -369,42 +307,5 @@ def spoil(rng, readings):
     ])()
 
 
-def run_program(program, sheets):
-    """One run of the script tool a sheet, each on a project of its own, since a grid keeps what it held."""
-    for name, readings in sheets:
-        with tempfile.TemporaryDirectory() as folder:
-            script = pathlib.Path(folder, "sheet.trv")
-            start = [f"answer {quoted(folder + '/check.mdb')}", "menu mnuNew", "click frmProject.cmdOK"]
-            script.write_text("\n".join(start + script_of(readings)) + "\n", encoding="utf-8")
-            ran = subprocess.run([program, script], cwd=folder, capture_output=True, text=True, timeout=120, check=True)
-        yield name, readings, shown(json.loads(line) for line in ran.stdout.splitlines())
-
-
-def main():
-    parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
-    parser.add_argument("--program", help="terravane-script, to compare with")
-    parser.add_argument("--random", type=int, default=0, help="so many random sheets besides the files")
-    parser.add_argument("--seed", type=int, default=1)
-    parser.add_argument("--verbose", action="store_true", help="print the sheets that agree, too")
-    parser.add_argument("files", nargs="*", type=pathlib.Path)
-    mode = parser.parse_args()
-    rng = random.Random(mode.seed)
-    sheets = [(file.name, json.loads(file.read_text(encoding="utf-8"))["readings"]) for file in mode.files]
-    sheets += [(f"random {i} of seed {mode.seed}", random_readings(rng)) for i in range(mode.random)]
-    if not mode.program:
-        for name, readings in sheets:
-            show(name, readings)
-        return 0
-    found = 0
-    for name, readings, seen in run_program(str(pathlib.Path(mode.program).resolve()), sheets):
-        lines = differences(name, readings, seen)
-        found += bool(lines)
-        print("".join(line + "\n" for line in lines), end="")
-        if lines or mode.verbose:
-            show(name, readings)
-    print(f"{len(sheets)} sheets, {found} differ")
-    return 1 if found else 0
-
-
 if __name__ == "__main__":
-    sys.exit(main())
+    sys.exit(main(sys.modules[__name__]))

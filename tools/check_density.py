@@ -1,27 +1,23 @@
 #!/usr/bin/env python3
 """A second way to the field density sheet's figures, for comparing with the program.
 
-    tools/check_density.py READINGS.json              the sheet's cells
-    tools/check_density.py --compare PROGRAM [--sheets N] [--seed S]
-                                                      random sheets through terravane-script; every difference is told
-    tools/check_density.py --script READINGS.json     the script lines that type the sheet
+    tools/check_density.py READINGS.json ...              the sheet's cells
+    tools/check_density.py --program build/bin/terravane-script [--random N] [--seed S] [READINGS.json ...]
+                                                          compare with what the sheet shows
+    tools/check_density.py --script READINGS.json ...     the script lines that type the sheet
 
-READINGS.json holds under "readings": sand_in_cone, sand_density, holes and max_dry_density_g_cm3, as a technician would
-type them; a column left out is null, a reading left out may be missing. Quotients are fractions of the texts that the
-sheet shows, so that a figure here has no rounding error but the one that the sheet has by its method; only plain
-differences, which the sheet shows with all their digits, are those of binary numbers.
+READINGS.json holds under "readings": sand_in_cone, sand_density, holes, max_dry_density_g_cm3 and compaction ("Std" or
+"Mod", the test that the density comes from), as a technician would type them; a column left out is null, a reading left
+out may be missing. Quotients are fractions of the texts that the sheet shows, so that a figure here has no rounding
+error but the one that the sheet has by its method; only plain differences, which the sheet shows with all their digits,
+are those of binary numbers.
 """
 
-import argparse
-import json
-import pathlib
-import random
 import re
-import struct
-import subprocess
 import sys
-import tempfile
 from fractions import Fraction
+
+from checking import RuntimeFailure, divide, main, quoted, single
 
 COLUMNS = range(1, 7)
 PI = Fraction(3141592654, 10**9)
@@ -36,20 +32,10 @@ GRIDS = {
 }
 
 
-class Failure(Exception):
-    """A run-time error by its number."""
-
-
 def number(text):
     """The leading number of a text as typed, exactly."""
     found = re.match(r"\s*([+-]?(\d+\.?\d*|\.\d+))", text)
     return Fraction(found[1]) if found else Fraction(0)
-
-
-def divide(a, b):
-    if b == 0:
-        raise Failure(6 if a == 0 else 11)
-    return a / b
 
 
 def two_decimals(value):
@@ -72,10 +58,10 @@ def difference(*texts):
 
 def posted(average):
     """A number in single precision with a place for its sign and no zero before its point."""
-    single = struct.unpack("f", struct.pack("f", float(average)))[0]
-    shown = f"{abs(single):.7g}"
+    short = single(float(average))
+    shown = f"{abs(short):.7g}"
     shown = shown[1:] if shown.startswith("0.") else shown
-    return ("-" if single < 0 else " ") + shown
+    return ("-" if short < 0 else " ") + shown
 
 
 class Sheet:
@@ -118,8 +104,8 @@ class Sheet:
             self.sand()
             self.holes()
             self.compaction()
-        except Failure as failure:
-            self.error = failure.args[0]
+        except RuntimeFailure as failure:
+            self.error = failure.number
 
     def with_readings(self, grid):
         return [column for column in COLUMNS if self.value(grid, 1, column) != 0]
@@ -169,8 +155,10 @@ class Sheet:
         self.posted = posted(number(two_decimals(divide(Fraction(sum(shares)), len(shares)))))
 
 
-def show(sheet):
+def show(name, readings):
+    sheet = Sheet(readings)
     sheet.calculate()
+    print(name)
     for grid, rows in sheet.cells.items():
         for row, cells in enumerate(rows[1:], 1):
             print(grid, row, cells[1:])
@@ -184,7 +172,7 @@ def typed(readings):
         for column, line in enumerate(readings[table] if table else [], 1):
             for row, name in enumerate(names, 1):
                 if line and name in line:
-                    yield f"type {grid} {row} {column} {json.dumps(str(line[name]))}"
+                    yield f"type {grid} {row} {column} {quoted(str(line[name]))}"
 
 
 def chosen(chance, likely, *others):
@@ -227,63 +215,35 @@ def random_readings(chance):
             if holes[-1]:
                 del holes[-1][name]
     return {"sand_in_cone": columns_of(chance, cone), "sand_density": columns_of(chance, mould), "holes": holes,
-            "max_dry_density_g_cm3": chosen(chance, round(chance.uniform(1.6, 2.3), 2), "", 0, "1.9 g/cm3", -2)}
+            "max_dry_density_g_cm3": chosen(chance, round(chance.uniform(1.6, 2.3), 2), "", 0, "1.9 g/cm3", -2),
+            "compaction": chance.choice(["Std", "Mod"])}
 
 
-def compare(program, sheets, seed):
-    chance = random.Random(seed)
-    different = failed = 0
-    for index in range(sheets):
-        readings = random_readings(chance)
-        sheet = Sheet(readings)
-        sheet.calculate()
-        failed += sheet.error is not None
-        found = answers(program, readings, chance.choice(["Std", "Mod"]))
-        expected = {(grid, row): cells[1:] for grid, rows in sheet.cells.items() for row, cells in enumerate(rows)}
-        expected |= {"error": sheet.error, "posted": sheet.posted or "   "}
-        wrong = [key for key in found if found[key] != expected[key]]
-        for key in wrong:
-            print(f"sheet {index} {key}: here {expected[key]}, program {found[key]}")
-        different += bool(wrong) or len(found) != len(expected) - len(GRIDS)
-    print(f"{sheets} sheets, {failed} of them with an error, {different} with differences")
-    return 1 if different else 0
+def worked(readings):
+    sheet = Sheet(readings)
+    sheet.calculate()
+    cells = {f"{grid} {row}": cells[1:] for grid, rows in sheet.cells.items() for row, cells in enumerate(rows) if row}
+    return cells | {"error": sheet.error, "posted": sheet.posted or "   "}
 
 
-def answers(program, readings, test):
-    column = test.lower() + "_mdd"
-    script = ["answer road.mdb", "menu mnuNew", "set txtID 1", "click cmdOK",
-              f"sql \"UPDATE {test.upper()}SOIL Set {column} ='{readings['max_dry_density_g_cm3']}'\"",
-              "menu mnuDen1", *typed(readings), f"click opt{test}", "click cmdCal"]
-    script += [f"dump {grid}" for grid in GRIDS] + ["sql \"SELECT * from SUMMARY'\""]
-    with tempfile.TemporaryDirectory() as folder:
-        ran = subprocess.run([program], input="\n".join(script), cwd=folder, text=True, capture_output=True, check=True)
+def script_of(readings):
+    test = readings.get("compaction", "Std")
+    stored = f"UPDATE {test.upper()}SOIL Set {test.lower()}_mdd ='{readings.get('max_dry_density_g_cm3', '')}'"
+    return [f"sql {quoted(stored)}", "menu mnuDen1", *typed(readings), f"click opt{test}", "click cmdCal",
+            *(f"dump {grid}" for grid in GRIDS), "sql \"SELECT * from SUMMARY'\""]
+
+
+def shown(answers):
     found = {"error": None}
-    for answer in map(json.loads, ran.stdout.splitlines()):
+    for answer in answers:
         if answer.get("line") == "click cmdCal":
             found["error"] = answer["error"]
         if answer.get("row") and "dump" in answer:
-            found[answer["dump"], answer["row"]] = answer["cells"][1:]
+            found[f"{answer['dump']} {answer['row']}"] = answer["cells"][1:]
         if answer.get("row") == 1 and "columns" in answer:
             found["posted"] = dict(zip(answer["columns"], answer["values"]))["sum_compaction"]
     return found
 
 
-def main():
-    parser = argparse.ArgumentParser(description=__doc__.split("\n")[0])
-    parser.add_argument("readings", nargs="?", type=pathlib.Path)
-    parser.add_argument("--script", action="store_true")
-    parser.add_argument("--compare", metavar="PROGRAM")
-    parser.add_argument("--sheets", type=int, default=200)
-    parser.add_argument("--seed", type=int, default=1)
-    arguments = parser.parse_args()
-    if arguments.compare:
-        sys.exit(compare(str(pathlib.Path(arguments.compare).resolve()), arguments.sheets, arguments.seed))
-    readings = json.loads(arguments.readings.read_text(encoding="utf-8"))["readings"]
-    if arguments.script:
-        print("\n".join(typed(readings)))
-    else:
-        show(Sheet(readings))
-
-
 if __name__ == "__main__":
-    main()
+    sys.exit(main(sys.modules[__name__]))

@@ -11,16 +11,9 @@ mass_sieve_and_soil_g, coarse first. Written from the method of the test and kno
 code: texts in cells, every stage rounded through decimals, one literal line a step.
 """
 
-import argparse
-import json
-import pathlib
-import random
-import struct
-import subprocess
 import sys
-import tempfile
 
-from check_compaction import RuntimeFailure, divide, quoted, rounded, val
+from checking import RuntimeFailure, as_text, divide, main, quoted, rounded, second_derivatives, single, val
 
 OPENINGS = {"2 in": "50.0", "1 1/2 in": "38.1", "1 in": "25.0", "3/4 in": "19.0", "1/2 in": "12.5", "3/8 in": "9.51",
             "#4": "4.75", "#8": "2.60", "#10": "2.00", "#16": "1.19", "#20": "0.85", "#30": "0.59", "#40": "0.425",
@@ -30,15 +23,6 @@ LEVELS = (60, 30, 10)
 NUMBER, OPENING, EMPTY, BOTH, RETAINED, CUMULATIVE, PERCENT, PASSING = range(8)
 RESULTS = ("txtErr", "txtP4", "txtP10", "txtP40", "txtP200", "txtD60", "txtD30", "txtD10", "txtCu", "txtCc",
            "txtSuscs", "txtNuscs", "txtSaash", "txtMtype")
-
-
-def single(number):
-    """A number as single precision holds it."""
-    return struct.unpack("f", struct.pack("f", number))[0]
-
-
-def as_text(value):
-    return value if isinstance(value, str) else "" if value is None else f"{value:.15g}"
 
 
 def to_integer(number):
@@ -121,23 +105,7 @@ class Sheet:
     def read_spline(self, x, y, n):
         if n < 2:
             raise RuntimeFailure(9)
-        seven = lambda number: float(rounded(number, 7))
-        c = [[0.0] * 5 for _ in range(n + 2)]
-        c[1][2] = seven(x[2] - x[1])
-        for i in range(2, n):
-            c[i][0] = seven(x[i] - x[i - 1])
-            c[i][1] = seven(2 * (x[i + 1] - x[i - 1]))
-            c[i][2] = seven(x[i + 1] - x[i])
-            c[i][3] = seven(6 * (divide(y[i + 1] - y[i], c[i][2]) - divide(y[i] - y[i - 1], c[i][0])))
-        for i in range(3, n):
-            c[i][1] = seven(c[i][1] - divide(c[i][0] * c[i - 1][2], c[i - 1][1]))
-            c[i][3] = seven(c[i][3] - divide(c[i][0] * c[i - 1][3], c[i - 1][1]))
-        c[n - 1][4] = seven(divide(c[n - 1][3], c[n - 1][1]))
-        for j in range(2, n - 1):
-            i = n - j
-            c[i][4] = seven(divide(c[i][3] - c[i][2] * c[i + 1][4], c[i][1]))
-        m = [row[4] for row in c]
-        m[1] = m[n] = 0.0
+        m = second_derivatives(list(zip(x[1:], y[1:])))
 
         def s(k, at):
             h, a, b = x[k + 1] - x[k], at - x[k], x[k + 1] - at
@@ -346,39 +314,5 @@ def random_readings(rng):
     return readings
 
 
-def run_program(program, sheets):
-    for name, readings in sheets:
-        with tempfile.TemporaryDirectory() as folder:
-            script = pathlib.Path(folder, "sheet.trv")
-            start = [f"answer {quoted(folder + '/check.mdb')}", "menu mnuNew", "click frmProject.cmdOK"]
-            script.write_text("\n".join(start + script_of(readings)) + "\n", encoding="utf-8")
-            ran = subprocess.run([program, script], cwd=folder, capture_output=True, text=True, timeout=120, check=True)
-        yield name, readings, shown(json.loads(line) for line in ran.stdout.splitlines())
-
-
-def main():
-    parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
-    parser.add_argument("--program", help="terravane-script, to compare with")
-    parser.add_argument("--random", type=int, default=0, help="so many random sheets besides the files")
-    parser.add_argument("--seed", type=int, default=1)
-    parser.add_argument("files", nargs="*", type=pathlib.Path)
-    mode = parser.parse_args()
-    rng = random.Random(mode.seed)
-    sheets = [(file.name, json.loads(file.read_text(encoding="utf-8"))["readings"]) for file in mode.files]
-    sheets += [(f"random {i} of seed {mode.seed}", random_readings(rng)) for i in range(mode.random)]
-    if not mode.program:
-        for name, readings in sheets:
-            show(name, readings)
-        return 0
-    found = 0
-    for name, readings, seen in run_program(str(pathlib.Path(mode.program).resolve()), sheets):
-        mine = worked(readings)
-        lines = [f"{name}: {key}: {mine[key]} here, {seen.get(key)} there" for key in mine if mine[key] != seen.get(key)]
-        found += bool(lines)
-        print("".join(line + "\n" for line in lines), end="")
-    print(f"{len(sheets)} sheets, {found} differ")
-    return 1 if found else 0
-
-
 if __name__ == "__main__":
-    sys.exit(main())
+    sys.exit(main(sys.modules[__name__]))

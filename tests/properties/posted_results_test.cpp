@@ -73,11 +73,6 @@ void Expect(const SheetBench& bench, std::string_view command, Texts& expected)
     if (command == "cmdLPen" || command == "cmdCBR") ExpectBearingRatio(bench, command, expected);
 }
 
-bool CanPress(const SheetBench& bench, const SheetPress& command)
-{
-    return bench.Sheet().SSTData.TabEnabled(command.tab) && bench.Sheet().Find(command.button)->Enabled();
-}
-
 /// The columns that a command may post.
 std::set<std::string_view> Columns(const SheetUnderTest& sheet)
 {
@@ -100,7 +95,7 @@ TEST_P(PostedResults, AreTheTextsOnTheSheet)
         for (const SheetPress& command : bench.Table().commands) {
             const Texts before = bench.Stored("SUMMARY"), readings = bench.StoredReadings();
             Texts expected = before;
-            const bool can = CanPress(bench, command), done = bench.Press(command);
+            const bool can = bench.CanPress(command), done = bench.Press(command);
             if (can && done) Expect(bench, command.button, expected);
             const Texts after = bench.Stored("SUMMARY");
             EXPECT_EQ(Differences(expected, after), "") << command.button;

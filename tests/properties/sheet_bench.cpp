@@ -206,6 +206,11 @@ void SheetBench::Fetch(const Plan& plan)
     for (const auto fetch : plan.fetches) PressControl(*sheet_, fetch);
 }
 
+bool SheetBench::CanPress(const SheetPress& command) const
+{
+    return sheet_->SSTData.TabEnabled(command.tab) && sheet_->Find(command.button)->Enabled();
+}
+
 bool SheetBench::Press(const SheetPress& command)
 {
     return Quietly([&] {
@@ -225,9 +230,7 @@ bool SheetBench::Save()
 
 void SheetBench::Fill(RandomReadings& hand)
 {
-    for (const HeadBox& head : kHeadBoxes) TypeBox(head.box, BoxText(head.box, hand));
-    for (const Names& boxes : {Names(kGeneralBoxes), Table().boxes})
-        for (const auto box : boxes) TypeBox(box, BoxText(box, hand));
+    ForEachBox([&](std::string_view box) { TypeBox(box, BoxText(box, hand)); });
     TypeDate(hand);
     if (sheet_->Find("lstSieve")) PrepareStack(hand);
     if (sheet_->Find("dtpSwell")) TypeSwellDates(hand);
@@ -239,6 +242,46 @@ void SheetBench::Fill(RandomReadings& hand)
 void SheetBench::TypeBox(std::string_view box, const std::string& text)
 {
     sheet_->Get<TextControl>(box).Type(text);
+}
+
+void SheetBench::ForEachBox(const std::function<void(std::string_view box)>& act) const
+{
+    for (const HeadBox& head : kHeadBoxes) act(head.box);
+    for (const Names& boxes : {Names(kGeneralBoxes), Table().boxes}) std::ranges::for_each(boxes, act);
+}
+
+void SheetBench::ScaleEntries(double factor)
+{
+    const auto scaled = [factor](std::string_view text) { return NumberText(RoundedToPlaces(Val(text) * factor, 2)); };
+    ForEachBox([&](std::string_view box) {
+        const std::string text = sheet_->Get<TextControl>(box).Text();
+        if (Val(text) != 0) TypeBox(box, scaled(text));
+    });
+    ForEachTyped(*sheet_, [&](CellEditor& editor, int row, int column) {
+        const std::string text = editor.Grid()(row, column).Text();
+        if (Val(text) != 0) TypeCell(editor, row, column, scaled(text));
+    });
+}
+
+void SheetBench::Clear()
+{
+    ForEachBox([this](std::string_view box) { TypeBox(box, ""); });
+    if (auto* list = dynamic_cast<ListBox*>(sheet_->Find("lstSieve"))) {
+        for (std::size_t entry = 0; entry < list->List().size(); ++entry) list->SetSelected(entry, false);
+        PressControl(*sheet_, "cmdSieve");
+    }
+    if (sheet_->Find("MSHSwell")) {
+        PressControl(*sheet_, "optSoak");  // without soaking the grid takes no press
+        EraseRows("MSHSwell", cbr::swell::First, cbr::swell::Last);
+    }
+    if (sheet_->Find(kGrowingList)) EraseRows(kGrowingList, 0, sheet_->Get<TextGrid>(kGrowingList).Rows() - 1);
+    ForEachTyped(*sheet_, [this](CellEditor& editor, int row, int column) { TypeCell(editor, row, column, ""); });
+}
+
+/// By the right button, from the last one up; the question is answered with yes.
+void SheetBench::EraseRows(std::string_view grid, int from, int to)
+{
+    for (int row = to; row >= from; --row) sheet_->Get<TextGrid>(grid).PressMouse(MouseButton::Right, row, 1);
 }
 
 void SheetBench::TypeDate(RandomReadings& hand)
@@ -266,7 +309,8 @@ void SheetBench::TypeSwellDates(RandomReadings& hand)
     for (int row = cbr::swell::First; row <= last; ++row) {
         grid.PressMouse(MouseButton::Left, row, cbr::swell::Date);
         const int day = hand.Slips() ? 1 + hand.Pick(28) : row;
-        sheet.Get<DatePicker>("dtpSwell").Type(ShortDate(MakeMoment(2026, 3, day)));
+        auto& picker = sheet.Get<DatePicker>("dtpSwell");
+        if (picker.Visible()) picker.Type(ShortDate(MakeMoment(2026, 3, day)));  // it isn't where nothing is soaked
     }
 }
 
@@ -354,9 +398,7 @@ Texts SheetBench::Entries() const
 {
     Texts texts;
     const auto addBox = [&](std::string_view box) { texts[std::string(box)] = sheet_->Get<TextControl>(box).Text(); };
-    for (const HeadBox& head : kHeadBoxes) addBox(head.box);
-    for (const Names& boxes : {Names(kGeneralBoxes), Table().boxes})
-        for (const auto box : boxes) addBox(box);
+    ForEachBox(addBox);
     addBox("DTPDate");
     ForEachTyped(*sheet_, [&](const CellEditor& editor, int row, int column) {
         const std::string& text = editor.Grid()(row, column).Text();

@@ -2,6 +2,7 @@
 /// person opens it, typed into, commanded, saved and opened again.
 #pragma once
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <string>
@@ -59,8 +60,13 @@ class SheetBench {
     /// Types into every box and cell that the file keeps. Texts that no column takes are typed again as nothing.
     void Fill(RandomReadings& hand);
     void TypeBox(std::string_view box, const std::string& text);
+    /// Types the product with `factor` over each number that the file keeps: other readings in the same places.
+    void ScaleEntries(double factor);
+    /// Types nothing into every box and cell that the file keeps, and takes away the rows that a person can take away.
+    void Clear();
     /// The session's boxes and the fetches.
     void Fetch(const Plan& plan);
+    bool CanPress(const SheetPress& command) const;
     /// Presses one command, if it can be pressed. False where it ended in an error or a message.
     bool Press(const SheetPress& command);
     void PressAll();
@@ -91,6 +97,8 @@ class SheetBench {
     void PrepareStack(RandomReadings& hand);
     void TypeSwellDates(RandomReadings& hand);
     void DropWhatNoColumnTakes();
+    void ForEachBox(const std::function<void(std::string_view box)>& act) const;
+    void EraseRows(std::string_view grid, int from, int to);
     std::string BoxText(std::string_view box, RandomReadings& hand) const;
     std::string CellText(const TextGrid& grid, int row, int column, int trial, RandomReadings& hand) const;
     int Units(std::string_view control, int row, int column) const;

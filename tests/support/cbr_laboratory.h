@@ -1,7 +1,6 @@
 /// The laboratory with the bearing ratio sheet, and sheets as a technician types them.
 #pragma once
 
-#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -12,38 +11,15 @@
 namespace terravane::support {
 
 struct CbrLaboratory : Laboratory {
-    CbrLaboratory()
-    {
-        program.AddForm("frmCBR", [](Program& owner) { return std::make_unique<frmCBR>(owner); });
-    }
-
-    /// Opens the sheet as the frame does.
-    frmCBR& OpenCbr(Material material = Material::Soil)
-    {
-        program.Unload("frmCBR");
-        auto& sheet = dynamic_cast<frmCBR&>(program.Show("frmCBR"));
-        sheet.tblMenu.SetButtonEnabled(1, true);
-        program.CurrentTest = Test::CBRSoil;
-        program.CurrentMaterial = material;
-        program.Run("mdiBack.tbrLab_ButtonMenuClick", [&] { LoadTestSheet(sheet); });
-        return sheet;
-    }
+    frmCBR& OpenCbr(Material material = Material::Soil) { return Open<frmCBR>("frmCBR", Test::CBRSoil, material); }
 
     /// What stands in the summary for soil (row 0) and crushed rock.
     std::vector<std::string> PostedRatios() const { return StoredColumn("SUMMARY", "sum_CBR"); }
 };
 
-/// The cells of a grid's row between two columns, "a|b|c".
-inline std::string CellsOf(const TextGrid& grid, int row, int first, int last)
-{
-    std::string text;
-    for (int column = first; column <= last; ++column) text += (column == first ? "" : "|") + grid(row, column);
-    return text;
-}
-
 inline std::string RatiosOf(const frmCBR& sheet, cbr::result::Row row)
 {
-    return CellsOf(sheet.mshLPC, row, 1, cbr::kMoulds);
+    return RowOf(sheet.mshLPC, row);
 }
 
 /// One can: number, masses in g.
@@ -59,11 +35,6 @@ struct CbrSwell {
     std::string_view date, hour;
     std::vector<std::string_view> dials;
 };
-
-inline void TypeColumn(CellEditor& editor, int firstRow, int column, const std::vector<std::string_view>& texts)
-{
-    for (std::size_t i = 0; i < texts.size(); ++i) TypeCell(editor, firstRow + static_cast<int>(i), column, texts[i]);
-}
 
 inline void TypeCan(frmCBR& sheet, int column, const CbrCan& can)
 {

@@ -87,12 +87,12 @@ inline constexpr std::array kCompactionRanges{
     ReadingRange{"cboBlow", kBox, 25, 56, 0},
     ReadingRange{"cboLayer", kBox, 3, 5, 0},
     ReadingRange{"txtGs", kBox, 2.6, 2.8, 2},
-    ReadingRange{"MSHWt", wt::WetAndCan, 42, 43, 2, 0.5},
-    ReadingRange{"MSHWt", wt::DryAndCan, 40, 40.4, 2},
-    ReadingRange{"MSHWt", wt::Can, 20, 22, 2},
-    ReadingRange{"MSHDensity", density::AssumedWater, 4, 20, 0},
-    ReadingRange{"MSHDensity", density::WetAndMould, 3300, 3500, 1, 30},
-    ReadingRange{"MSHDensity", density::Mould, 1484, 1485, 1},
+    ReadingRange{"MSHWt", compaction::water::WetAndCan, 42, 43, 2, 0.5},
+    ReadingRange{"MSHWt", compaction::water::DryAndCan, 40, 40.4, 2},
+    ReadingRange{"MSHWt", compaction::water::Can, 20, 22, 2},
+    ReadingRange{"MSHDensity", compaction::density::AssumedWater, 4, 20, 0},
+    ReadingRange{"MSHDensity", compaction::density::WetAndMould, 3300, 3500, 1, 30},
+    ReadingRange{"MSHDensity", compaction::density::Mould, 1484, 1485, 1},
 };
 inline constexpr std::array kStandardPosts{Posting{"cmdOMC", "sum_omcS", "txtOMC"},
                                            Posting{"cmdOMC", "sum_mddS", "txtDmax"}};

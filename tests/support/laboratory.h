@@ -72,6 +72,15 @@ struct Laboratory {
         return texts;
     }
 
+    /// What is posted in the summary, of soil (row 0) and crushed rock.
+    std::string Posted(std::string_view column, std::size_t row = 0) const
+    {
+        return StoredColumn("SUMMARY", column).at(row);
+    }
+
+    /// The number of the only error so far; 0 for none or several.
+    int OnlyError() const { return ask.errors.size() == 1 ? ask.errors[0].number : 0; }
+
     /// A statement straight into the project file, as another program would.
     void Change(const std::string& statement)
     {
@@ -90,6 +99,26 @@ inline void TypeCell(CellEditor& editor, int row, int column, std::string_view t
     editor.PressKey(Key::Enter);
 }
 
+/// Texts one below the other.
+inline void TypeColumn(CellEditor& editor, int firstRow, int column, const std::vector<std::string_view>& texts)
+{
+    for (std::size_t i = 0; i < texts.size(); ++i) TypeCell(editor, firstRow + static_cast<int>(i), column, texts[i]);
+}
+
+/// The cells of a grid's row between two columns, "a|b|c".
+inline std::string CellsOf(const TextGrid& grid, int row, int first, int last)
+{
+    std::string text;
+    for (int column = first; column <= last; ++column) text += (column == first ? "" : "|") + grid(row, column);
+    return text;
+}
+
+/// The cells of a grid's row behind its title.
+inline std::string RowOf(const TextGrid& grid, int row)
+{
+    return CellsOf(grid, row, 1, grid.Columns() - 1);
+}
+
 /// One trial as a technician types it: can number, masses in g; assumed water content in percent.
 struct Trial {
     std::string_view can, wetAndCan, dryAndCan, justCan, assumedWater, wetAndMould, mould;
@@ -97,13 +126,10 @@ struct Trial {
 
 inline void TypeTrial(frmCompaction& sheet, int trial, const Trial& typed)
 {
-    TypeCell(sheet.txtData, wt::CanNumber, trial, typed.can);
-    TypeCell(sheet.txtData, wt::WetAndCan, trial, typed.wetAndCan);
-    TypeCell(sheet.txtData, wt::DryAndCan, trial, typed.dryAndCan);
-    TypeCell(sheet.txtData, wt::Can, trial, typed.justCan);
-    TypeCell(sheet.txtData1, density::AssumedWater, trial, typed.assumedWater);
-    TypeCell(sheet.txtData1, density::WetAndMould, trial, typed.wetAndMould);
-    TypeCell(sheet.txtData1, density::Mould, trial, typed.mould);
+    TypeColumn(sheet.txtData, compaction::water::CanNumber, trial,
+               {typed.can, typed.wetAndCan, typed.dryAndCan, typed.justCan});
+    TypeColumn(sheet.txtData1, compaction::density::AssumedWater, trial,
+               {typed.assumedWater, typed.wetAndMould, typed.mould});
 }
 
 inline void TypeTrials(frmCompaction& sheet, const std::vector<Trial>& trials)

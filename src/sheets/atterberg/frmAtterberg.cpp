@@ -1,9 +1,6 @@
 #include "sheets/atterberg/frmAtterberg.h"
 
-#include <algorithm>
-#include <array>
-
-#include "sheets/pattern/masks.h"
+#include "sheets/pattern/grids.h"
 #include "sheets/pattern/plot.h"
 #include "store/statements.h"
 
@@ -32,21 +29,14 @@ frmAtterberg::frmAtterberg(Program& owner)
       txtData1(*this, "txtData1", MSHPL, [] { return kPlasticReadings; })
 {
     WireEvents();
-    ChainFocus(kHeadBlockSteps);
+    ChainFocus(kHeadBlockWay);
 }
 
 void frmAtterberg::WireEvents()
 {
-    Command(cmdPlot, [this] { cmdPlot_Click(); });
-    cmdPlot.MouseMove = [] {};  // takes the hand, keeps its colour
-    SSTData.TabChanged = [this](int) { HideEditors(*this); };
-    const auto openAt = [](CellEditor& editor) {
-        return [&editor](MouseButton button, int row, int column) {
-            if (button == MouseButton::Left) editor.PressLeft(row, std::max(column, 1));
-        };
-    };
-    MSHLL.MouseDown = openAt(txtData);
-    MSHPL.MouseDown = openAt(txtData1);
+    cmdPlot.Click = [this] { cmdPlot_Click(); };
+    OpenByMouse(txtData);
+    OpenByMouse(txtData1);
 }
 
 void frmAtterberg::Form_Load()
@@ -69,8 +59,8 @@ void frmAtterberg::BuildGrids()
         grid->SetColumnTitles({"Test No. ", "1 ", "2 ", "3 ", "4 ", "5 "});
         grid->SetColumnWidth(0, kTitleWidth);
     }
-    for (int row = ll::Water; row < ll::kRows; ++row) MSHLL.MarkCalculatedRow(row);
-    for (int row = pl::Water; row < pl::kRows; ++row) MSHPL.MarkCalculatedRow(row);
+    MarkCalculatedFrom(MSHLL, ll::Water);
+    MarkCalculatedFrom(MSHPL, pl::Water);
 }
 
 void frmAtterberg::DrawEquations()

@@ -9,11 +9,7 @@ namespace {
 
 using enum ColumnPlace::Kind;
 
-constexpr std::array kPlaces{
-    ColumnPlace{"date", "DTPDate"},
-    ColumnPlace{"soil", "txtSoil"},
-    ColumnPlace{"test", "cboTest"},
-    ColumnPlace{"check", "cboCheck"},
+constexpr auto kPlaces = BehindGeneralData(std::array{
     ColumnPlace{"blows", "MSHLL", GridRow, ll::Blows},
     ColumnPlace{"wscan1", "MSHLL", GridRow, ll::WetAndCan},
     ColumnPlace{"dscan1", "MSHLL", GridRow, ll::DryAndCan},
@@ -25,7 +21,7 @@ constexpr std::array kPlaces{
     ColumnPlace{.suffix = "PL", .control = "txtPL", .loaded = false},
     ColumnPlace{.suffix = "PI", .control = "txtPI", .loaded = false},
     ColumnPlace{.suffix = "FI", .control = "txtFI", .loaded = false},
-};
+});
 
 constexpr std::array kPasses{TablePass{kLimitTrials, kPlaces}};
 

@@ -14,20 +14,13 @@ namespace terravane {
 
 namespace {
 
-constexpr double kAxisSize = 14;  // points
 constexpr double kFewestBlows = 10, kMostBlows = 100;
 constexpr int kBlowStep = 10;
 constexpr double kLimitBlows = 25;  // the liquid limit is the water content here
 constexpr double kFlowFrom = 20, kFlowTo = 40;
 constexpr int kTen = 10;          // percent between two lines
 constexpr double kHeadRoom = 10;  // percent above the wettest trial
-constexpr double kTickRoom = 40;  // twips between the plot and a label below it
 constexpr double kCaptionRoom = 30;
-
-double LogTen(double value)
-{
-    return Log(value) / Log(10);
-}
 
 /// Whole tens in a number of percent, which is rounded to a whole one first, halves to even.
 double WholeTens(double percent)
@@ -35,17 +28,11 @@ double WholeTens(double percent)
     return std::trunc(std::nearbyint(percent) / kTen);
 }
 
-/// The steps between two labels, so that they stand apart.
-int LabelStride(double lineHeight, double step)
-{
-    return std::max(1, static_cast<int>(std::ceil(lineHeight / step)));
-}
-
 }  // namespace
 
 double FlowScale::X(double blows) const
 {
-    return width * LogTen(blows / kFewestBlows) / LogTen(kMostBlows / kFewestBlows);
+    return width * DecimalLogarithm(blows / kFewestBlows) / DecimalLogarithm(kMostBlows / kFewestBlows);
 }
 
 double FlowScale::Y(double water) const
@@ -65,7 +52,7 @@ void frmAtterberg::cmdPlot_Click()
     DrawBlowTicks(scale);
 
     const StraightLine curve = FitFlowCurve();
-    DrawGuides(scale, curve.At(LogTen(kLimitBlows)));
+    DrawGuides(scale, curve.At(DecimalLogarithm(kLimitBlows)));
     DrawFlowCurve(scale, curve);
     ReadLimits(curve);
     PostLimits();
@@ -92,11 +79,11 @@ void frmAtterberg::DrawWaterTicks(const FlowScale& scale)
     const auto [left, top] = InsetOf(picGraph, picgraph1);
     const double step = Divide(scale.height, scale.tens);
     const double lineHeight = picgraph1.TextHeight("W");
-    const int stride = LabelStride(lineHeight, step);
+    const int every = LabelEvery(step, lineHeight);
     for (int i = 1; i <= scale.tens; ++i) {
         const double y = scale.height - i * step;
         picGraph.Line(0, y, scale.width, y, kGridGrey);
-        if (i % stride != 0) continue;
+        if (i % every != 0) continue;
         PrintAt(picgraph1, left + scale.width + 2 * kTickRoom, top + y - lineHeight / 2,
                 NumberText(static_cast<double>(i * kTen)));
     }
@@ -127,7 +114,7 @@ StraightLine frmAtterberg::FitFlowCurve() const
 {
     std::vector<float> logBlows, water;
     for (int trial = 1; HasTrial(MSHLL, trial); ++trial) {
-        logBlows.push_back(ToSingle(LogTen(Val(MSHLL(ll::Blows, trial)))));
+        logBlows.push_back(ToSingle(DecimalLogarithm(Val(MSHLL(ll::Blows, trial)))));
         water.push_back(ToSingle(Val(MSHLL(ll::WaterContent, trial))));
     }
     const auto [lowest, highest] = std::ranges::minmax_element(logBlows);
@@ -138,8 +125,8 @@ StraightLine frmAtterberg::FitFlowCurve() const
 
 void frmAtterberg::DrawFlowCurve(const FlowScale& scale, const StraightLine& curve)
 {
-    picGraph.Line(0, scale.Y(curve.At(LogTen(kFewestBlows))), scale.width, scale.Y(curve.At(LogTen(kMostBlows))),
-                  kBlue);
+    picGraph.Line(0, scale.Y(curve.At(DecimalLogarithm(kFewestBlows))), scale.width,
+                  scale.Y(curve.At(DecimalLogarithm(kMostBlows))), kBlue);
     std::vector<DrawnPoint> trials;
     for (int trial = 1; HasTrial(MSHLL, trial); ++trial)
         trials.push_back({scale.X(Val(MSHLL(ll::Blows, trial))), scale.Y(Val(MSHLL(ll::WaterContent, trial)))});
@@ -149,28 +136,25 @@ void frmAtterberg::DrawFlowCurve(const FlowScale& scale, const StraightLine& cur
 void frmAtterberg::DrawGuides(const FlowScale& scale, double liquidLimit)
 {
     const double x = scale.X(kLimitBlows), y = scale.Y(liquidLimit);
-    picGraph.Line(x, y, x, scale.height, kRed);
-    picGraph.Line(x, y, 0, y, kRed);
-
+    DrawGuideLines(picGraph, x, y, scale.height);
     const double lineHeight = picGraph.TextHeight("W");
     PrintAt(picGraph, x + kCaptionRoom, scale.height - 2 * kCaptionRoom - lineHeight, " N = 25");
     PrintAt(picGraph, x + 2 * kCaptionRoom, y - 3 * kCaptionRoom - lineHeight,
             "LL = " + Format(liquidLimit, kTwoDecimals) + " %");
-
-    const auto [left, top] = InsetOf(picGraph, picgraph1);
-    PrintAt(picgraph1, left - kTickRoom - picgraph1.TextWidth("LL"), top + y - lineHeight / 2, "LL");
+    PrintLeftOf(picgraph1, picGraph, y, "LL");
 }
 
 /// The plasticity index keeps what it showed where either limit reads zero: no word stands for soil that is not
 /// plastic.
 void frmAtterberg::ReadLimits(const StraightLine& curve)
 {
-    const auto waterAt = [&](double blows) { return curve.At(LogTen(blows)); };
+    const auto waterAt = [&](double blows) { return curve.At(DecimalLogarithm(blows)); };
     txtLL.SetText(Format(waterAt(kLimitBlows), kTwoDecimals));
     txtPL.SetText(Format(MeanPlasticLimit(), kTwoDecimals));
     const double liquid = Val(txtLL.Text()), plastic = Val(txtPL.Text());
     if (liquid != 0 && plastic != 0) txtPI.SetText(NumberText(liquid - plastic));
-    txtFI.SetText(Format((waterAt(kFlowFrom) - waterAt(kFlowTo)) / LogTen(kFlowTo / kFlowFrom), kTwoDecimals));
+    txtFI.SetText(
+        Format((waterAt(kFlowFrom) - waterAt(kFlowTo)) / DecimalLogarithm(kFlowTo / kFlowFrom), kTwoDecimals));
 }
 
 }  // namespace terravane

@@ -15,12 +15,6 @@ constexpr double kHalfSquare = 25;
 constexpr double kLabelGap = 50;  // between an axis and its labels
 constexpr int kDashed = 1;
 
-/// Every label, or every second, third ... so that they do not run into each other.
-int LabelEvery(double spacing, double needed)
-{
-    return spacing >= needed ? 1 : static_cast<int>(std::ceil(needed / spacing));
-}
-
 }  // namespace
 
 /// Whole divisions count the greatest value rounded to a whole number first.
@@ -34,23 +28,18 @@ RisingAxis AxisFor(double greatest, std::span<const AxisStep> steps, double heig
 
 void DrawRisingAxis(PictureBox& frame, PictureBox& plot, const RisingAxis& axis)
 {
-    const auto [left, top] = InsetOf(plot, frame);
-    const double line = frame.TextHeight("0");
-    const int every = LabelEvery(axis.height / axis.divisions, line);
+    const int every = LabelEvery(axis.height / axis.divisions, frame.TextHeight("0"));
     for (int division = 0; division <= axis.divisions; ++division) {
         const double value = division * axis.step, y = axis.Y(value);
-        plot.Line(0, y, plot.Width - kPlotMargin, y, kGridGrey);
-        if (division % every != 0) continue;
-        const std::string label = NumberText(value);
-        PrintAt(frame, left - kLabelGap - frame.TextWidth(label), top + y - line / 2, label);
+        plot.Line(0, y, plot.Width - kBoxMargin, y, kGridGrey);
+        if (division % every == 0) PrintLeftOf(frame, plot, y, NumberText(value), kLabelGap);
     }
 }
 
 void DrawTick(PictureBox& frame, PictureBox& plot, double x, std::string_view label)
 {
-    const auto [left, top] = InsetOf(plot, frame);
-    plot.Line(x, 0, x, plot.Height - kPlotMargin, kGridGrey);
-    PrintAt(frame, left + x - frame.TextWidth(label) / 2, top + plot.Height, label);
+    plot.Line(x, 0, x, plot.Height - kBoxMargin, kGridGrey);
+    PrintBelow(frame, plot, x, plot.Height, label, 0);
 }
 
 void DrawMark(DrawingSurface& surface, Mark mark, double x, double y)

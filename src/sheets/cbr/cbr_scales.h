@@ -8,11 +8,7 @@
 
 namespace terravane::cbr {
 
-inline constexpr double kTitleSize = 11;  // points, of the axis titles
-inline constexpr double kTitleLeft = 60;  // of the turned one: the labels take the rest of the margin
-
-/// Room that the plots' boxes leave at right and bottom.
-inline constexpr double kPlotMargin = 50;
+inline constexpr double kTitleLeft = 60;  // of the turned axis title: the labels take the rest of the margin
 
 /// A row of a step table: the first whose bound the greatest value stays below gives the step. The last bound is
 /// infinite.

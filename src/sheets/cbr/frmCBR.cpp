@@ -4,8 +4,7 @@
 
 #include "runtime/runtime_error.h"
 #include "runtime/text.h"
-#include "sheets/pattern/masks.h"
-#include "store/statements.h"
+#include "sheets/pattern/grids.h"
 
 namespace terravane {
 
@@ -18,17 +17,15 @@ constexpr double kResultWidth = 2100;  // of mshLPC's
 constexpr double kFigureWidth = 700;   // twips, of the readings' columns
 constexpr double kDateWidth = 1150;
 constexpr double kDepthWidth = 1000;
-constexpr std::string_view kDate = "dd/mm/yyyy";
+constexpr std::string_view kThisRow = "แถวนี้";
 
 constexpr CellRange kWeighings{water::CanNumber, water::Can, 1, kColumns};
 constexpr CellRange kMeasures{density::Blows, density::JustMould, 1, kColumns};
 constexpr CellRange kDials{swell::First, swell::Last, swell::Time, swell::Dial(kMoulds)};
 
-constexpr std::array kFocusSteps{
-    FocusStep{"txtClient", "txtID"},  FocusStep{"txtID", "txtProject"}, FocusStep{"txtProject", "txtLocation"},
-    FocusStep{"txtLocation", "txtK"}, FocusStep{"txtK", "txtWeight"},   FocusStep{"txtWeight", "txtSoil"},
-    FocusStep{"txtSoil", "cboTest"},  FocusStep{"cboTest", "cboCheck"},
-};
+/// The way that Enter takes.
+constexpr std::array<std::string_view, 9> kWay{"txtClient", "txtID",   "txtProject", "txtLocation", "txtK",
+                                               "txtWeight", "txtSoil", "cboTest",    "cboCheck"};
 
 /// The heads over a mould's three columns of the penetration grid, line by line.
 struct PenetrationHead {
@@ -57,7 +54,7 @@ void BuildSwellHeads(TextGrid& grid)
     grid(swell::Units, swell::Elapsed) = "Time(hr)";
     for (int mould = 1; mould <= kMoulds; ++mould) {
         const int dial = swell::Dial(mould);
-        grid(swell::Moulds, dial) = "Mold No." + std::to_string(mould);
+        grid(swell::Moulds, dial) = kMouldNames[static_cast<std::size_t>(mould - 1)];
         grid(swell::Heads, dial) = "Swelling ";
         grid(swell::Units, dial) = "mm";
         grid(swell::Units, dial + 1) = "%";
@@ -123,7 +120,7 @@ frmCBR::frmCBR(Program& owner)
     picGraph3.Container = &picGraph2;
     dtpSwell.SetVisible(false);
     WireEvents();
-    ChainFocus(kFocusSteps);
+    ChainFocus(kWay);
 }
 
 void frmCBR::WireEvents()
@@ -142,19 +139,7 @@ void frmCBR::WireEvents()
     lbl01.Click = [this] { lbl01_Click(); };
     lbl02.Click = [this] { lbl02_Click(); };
     SSTData.TabChanged = [this](int previousTab) { SSTData_Click(previousTab); };
-    MSHWater.MouseDown = [this](MouseButton button, int row, int column) {
-        if (button == MouseButton::Left) txtData.PressLeft(row, std::max(column, 1));
-    };
-    MSHCompaction.MouseDown = [this](MouseButton button, int row, int column) {
-        if (button == MouseButton::Left) txtData1.PressLeft(row, std::max(column, 1));
-    };
-    MSHSwell.MouseDown = [this](MouseButton button, int row, int column) { MSHSwell_MouseDown(button, row, column); };
-    MSHPenetrate1.MouseDown = [this](MouseButton button, int row, int column) {
-        MSHPenetrate1_MouseDown(button, row, column);
-    };
-    dtpSwell.Change = [this] { dtpSwell_Change(); };
-    dtpSwell.KeyPress = [this](Key key) { return dtpSwell_KeyPress(key); };
-    dtpSwell.LostFocus = [this] { dtpSwell.SetVisible(false); };
+    WireGrids();
     cmdView.Click = [this] {
         DropSpareRow();
         cmdView_Click();
@@ -163,6 +148,19 @@ void frmCBR::WireEvents()
         DropSpareRow();
         tblMenu_ButtonClick(number);
     };
+}
+
+void frmCBR::WireGrids()
+{
+    OpenByMouse(txtData);
+    OpenByMouse(txtData1);
+    MSHSwell.MouseDown = [this](MouseButton button, int row, int column) { MSHSwell_MouseDown(button, row, column); };
+    MSHPenetrate1.MouseDown = [this](MouseButton button, int row, int column) {
+        MSHPenetrate1_MouseDown(button, row, column);
+    };
+    dtpSwell.Change = [this] { dtpSwell_Change(); };
+    dtpSwell.KeyPress = [this](Key key) { return dtpSwell_KeyPress(key); };
+    dtpSwell.LostFocus = [this] { dtpSwell.SetVisible(false); };
 }
 
 void frmCBR::Form_Load()
@@ -184,8 +182,8 @@ void frmCBR::BuildGrids()
     for (TextGrid* grid : {&MSHWater, &MSHCompaction}) grid->SetColumnWidth(0, kTitleWidth);
     for (int column = 1; column <= kColumns; ++column)
         MSHCompaction(density::Mould, column) = std::to_string((column - 1) % kMoulds + 1);
-    MSHWater.MarkCalculatedRow(water::WaterContent);
-    for (const int row : {density::WetDensity, density::DryDensity}) MSHCompaction.MarkCalculatedRow(row);
+    MarkCalculatedFrom(MSHWater, water::WaterContent);
+    MarkCalculatedFrom(MSHCompaction, density::WetDensity);
     BuildSwellHeads(MSHSwell);
     BuildPenetrationHeads(MSHPenetrate);
     SetReadingWidths(MSHSwell, kDateWidth);
@@ -242,11 +240,9 @@ void frmCBR::optMod_Click()
 
 void frmCBR::FetchCompaction(Test test, std::string_view name)
 {
-    OpenProjectConnection(program);
-    const TableSchema& table = TableOf(test, program.CurrentMaterial);
-    const auto& trials = Query(program, program.ProjectConnection, SelectAll(table.name));
-    for (TextBox* box : {&txtOMC, &txtOMC1}) box->SetText(trials.Fields(table.ColumnName("omc")));
-    for (TextBox* box : {&txtMDD, &txtMDD1}) box->SetText(trials.Fields(table.ColumnName("mdd")));
+    const StoredResults compaction = ResultsOf(test);
+    for (TextBox* box : {&txtOMC, &txtOMC1}) box->SetText(compaction["omc"]);
+    for (TextBox* box : {&txtMDD, &txtMDD1}) box->SetText(compaction["mdd"]);
     txtCompaction.SetText(name);
 }
 
@@ -261,7 +257,7 @@ void frmCBR::MSHSwell_MouseDown(MouseButton button, int row, int column)
 
 void frmCBR::EraseSwelling(int row)
 {
-    if (row < swell::First || !AsksToErase()) return;
+    if (row < swell::First || !AsksToErase(kThisRow)) return;
     HideEditors(*this);
     for (int column = 0; column < MSHSwell.Columns(); ++column) MSHSwell(row, column) = "";
 }
@@ -277,7 +273,7 @@ void frmCBR::ShowSwellDate(int row)
 
 void frmCBR::dtpSwell_Change()
 {
-    if (MSHSwell.Row() >= swell::First) MSHSwell(MSHSwell.Row(), swell::Date) = Format(dtpSwell.Value(), kDate);
+    if (MSHSwell.Row() >= swell::First) MSHSwell(MSHSwell.Row(), swell::Date) = ShortDate(dtpSwell.Value());
 }
 
 /// Enter takes the date that is shown and goes down the column; Esc leaves the cell as it is.
@@ -298,17 +294,11 @@ bool frmCBR::dtpSwell_KeyPress(Key key)
 void frmCBR::MSHPenetrate1_MouseDown(MouseButton button, int row, int column)
 {
     if (button == MouseButton::Right) {
-        if (AsksToErase()) ErasePenetration(row);
+        if (AsksToErase(kThisRow)) ErasePenetration(row);
         return;
     }
     if (row != spareRow_) DropSpareRow();
     txtData3.PressLeft(row, column);
-}
-
-bool frmCBR::AsksToErase()
-{
-    const Message question{"คุณต้องการลบข้อมูลแถวนี้ใช่หรือไม่?", "ยืนยันการลบ", MessageStyle::Plain, MessageButtons::OkCancel};
-    return program.Ask().Show(question) == MessageAnswer::Ok;
 }
 
 void frmCBR::ErasePenetration(int row)
@@ -361,21 +351,10 @@ void frmCBR::SSTData_Click(int)
     DropSpareRow();
 }
 
-void frmCBR::LoadChoices(const jet::Recordset& records)
+void frmCBR::LoadChoice(std::string_view stored)
 {
     ShapePenetrations(MSHPenetrate1.Rows());
-    const auto stored = Trim(records.Fields("cbr_typ"));
-    if (stored == "0") optUnsoak.Choose();
-    if (stored == "1") optSoak.Choose();
-    if (stored == "2") optBoth.Choose();
-}
-
-/// The condition is the one head column that no box holds; a sheet without a choice stores none.
-std::string frmCBR::SavedChoice(std::string_view) const
-{
-    if (optUnsoak.Value()) return "0";
-    if (optSoak.Value()) return "1";
-    return optBoth.Value() ? "2" : "";
+    TestSheet::LoadChoice(stored);
 }
 
 }  // namespace terravane

@@ -5,6 +5,7 @@
 #pragma once
 
 #include <array>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -17,6 +18,10 @@ namespace terravane {
 namespace cbr {
 
 inline constexpr int kMoulds = 3;
+/// What heads and plots call the moulds and the curves of their ratios.
+inline constexpr std::array<std::string_view, kMoulds> kMouldNames{"Mold No.1", "Mold No.2", "Mold No.3"};
+inline constexpr std::string_view kRatioAt01 = "CBR at 0.1 in.", kRatioAt02 = "CBR at 0.2 in.";
+
 inline constexpr int kColumns = 6;  // cans and moulds: three before soaking, three after
 inline constexpr int kMostPenetrations = 20;
 inline constexpr int kValueTab = 3;         // of SSTData
@@ -136,17 +141,17 @@ struct frmCBR : TestSheet {
     CheckBox chkMold1{*this, "chkMold1", ""};  // beside the labels
     CheckBox chkMold2{*this, "chkMold2", ""};
     CheckBox chkMold3{*this, "chkMold3", ""};
-    Label lblMold1{*this, "lblMold1", "Mold No.1"};
-    Label lblMold2{*this, "lblMold2", "Mold No.2"};
-    Label lblMold3{*this, "lblMold3", "Mold No.3"};
+    Label lblMold1{*this, "lblMold1", std::string(cbr::kMouldNames[0])};
+    Label lblMold2{*this, "lblMold2", std::string(cbr::kMouldNames[1])};
+    Label lblMold3{*this, "lblMold3", std::string(cbr::kMouldNames[2])};
     PictureBox picGraph{*this, "picGraph", 0, 0, 3600, 4400};        // tick labels, axis titles and key
     PictureBox picgraph1{*this, "picgraph1", 800, 550, 2600, 3100};  // stress against penetration, standing on it
 
     CommandButton cmdCBR{*this, "cmdCBR", "CBR Value from Graph"};
     ComboBox cboCBR{*this, "cboCBR", "CBR at", {"90%", "95%", "98%", "100%"}, "95%"};
     TextBox txtCBR{*this, "txtCBR", "of MDD is"};  // %
-    Label lbl01{*this, "lbl01", "CBR at 0.1 in."};
-    Label lbl02{*this, "lbl02", "CBR at 0.2 in."};
+    Label lbl01{*this, "lbl01", std::string(cbr::kRatioAt01)};
+    Label lbl02{*this, "lbl02", std::string(cbr::kRatioAt02)};
     PictureBox picGraph2{*this, "picGraph2", 0, 0, 3600, 4400};
     PictureBox picGraph3{*this, "picGraph3", 800, 550, 2600, 3100};  // bearing ratio against density, standing on it
 
@@ -192,16 +197,16 @@ struct frmCBR : TestSheet {
     void FitDensityCurve02();
 
     std::span<const TablePass> TablePasses() const override;
-    void LoadChoices(const jet::Recordset& records) override;
-    std::string SavedChoice(std::string_view suffix) const override;
+    std::span<const StoredOption> StoredOptions() const override;
+    void LoadChoice(std::string_view stored) override;
 
   private:
     void BuildGrids();
     void WireEvents();
+    void WireGrids();
     void WriteConditions(std::string_view first, std::string_view second,
                          const std::array<std::string_view, 3>& moulds);
     void FetchCompaction(Test test, std::string_view name);
-    bool AsksToErase();
 
     void ShapePenetrations(int rows);
     void ErasePenetration(int row);

@@ -24,12 +24,8 @@ constexpr ColumnPlace Penetration(std::string_view suffix, int column)
     return {.suffix = suffix, .control = "MSHPenetrate1", .kind = GridLine, .line = column, .rowShift = -1};
 }
 
-constexpr std::array kPlaces{
-    ColumnPlace{"date", "DTPDate"},
-    ColumnPlace{"soil", "txtSoil"},
-    ColumnPlace{"test", "cboTest"},
-    ColumnPlace{"check", "cboCheck"},
-    ColumnPlace{"typ", ""},
+constexpr auto kPlaces = BehindGeneralData(std::array{
+    ColumnPlace{.suffix = "typ", .kind = Choice},
     ColumnPlace{"mcan", "MSHWater", GridRow, water::CanNumber},
     ColumnPlace{"wcanw", "MSHWater", GridRow, water::WetAndCan},
     ColumnPlace{"wcand", "MSHWater", GridRow, water::DryAndCan},
@@ -47,7 +43,7 @@ constexpr std::array kPlaces{
     Swelling("s3", swell::Dial(3)),
     ColumnPlace{"k", "txtK"},
     ColumnPlace{"sur", "txtWeight"},
-};
+});
 
 constexpr std::array kPenetrationPlaces{
     Penetration("pen", penetration::Depth),
@@ -55,6 +51,9 @@ constexpr std::array kPenetrationPlaces{
     Penetration("read2", penetration::Dial(2)),
     Penetration("read3", penetration::Dial(3)),
 };
+
+constexpr std::array kOptions{StoredOption{"optUnsoak", "0"}, StoredOption{"optSoak", "1"},
+                              StoredOption{"optBoth", "2"}};
 
 constexpr std::array kPasses{
     TablePass{kColumns, kPlaces},
@@ -66,6 +65,11 @@ constexpr std::array kPasses{
 std::span<const TablePass> frmCBR::TablePasses() const
 {
     return kPasses;
+}
+
+std::span<const StoredOption> frmCBR::StoredOptions() const
+{
+    return kOptions;
 }
 
 }  // namespace terravane

@@ -31,9 +31,9 @@ constexpr std::array kStressSteps{
 };
 
 constexpr std::array kKey{
-    KeyEntry{Mark::OpenCircle, "Mold No.1"},
-    KeyEntry{Mark::FilledCircle, "Mold No.2"},
-    KeyEntry{Mark::Square, "Mold No.3"},
+    KeyEntry{Mark::OpenCircle, kMouldNames[0]},
+    KeyEntry{Mark::FilledCircle, kMouldNames[1]},
+    KeyEntry{Mark::Square, kMouldNames[2]},
 };
 
 }  // namespace
@@ -47,7 +47,7 @@ LoadScale frmCBR::ScaleOfLoads() const
     LoadScale scale{};
     scale.divisions = LastPenetration() / kTickDistance + 1;
     scale.divisionWidth = Divide(picgraph1.ScaleWidth, scale.divisions);
-    scale.stress = AxisFor(greatest, kStressSteps, picgraph1.ScaleHeight - kPlotMargin);
+    scale.stress = AxisFor(greatest, kStressSteps, picgraph1.ScaleHeight - kBoxMargin);
     return scale;
 }
 
@@ -55,7 +55,7 @@ void frmCBR::DrawLoadAxes(const LoadScale& scale)
 {
     picGraph.Cls();
     picgraph1.Cls();
-    PrintAxisTitles(picGraph, picgraph1, "Penetration, in", "Resistance of Penetration, lb/in^2", kTitleSize,
+    PrintAxisTitles(picGraph, picgraph1, "Penetration, in", "Resistance of Penetration, lb/in^2", kSmallAxisSize,
                     kTitleLeft);
     DrawRisingAxis(picGraph, picgraph1, scale.stress);
     RefuseEndless(scale.divisions);

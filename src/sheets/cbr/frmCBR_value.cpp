@@ -21,7 +21,7 @@ using namespace cbr;
 
 constexpr double kDensityStep = 0.001;   // g/cm³, of the curve
 constexpr double kTickDistance = 0.1;    // g/cm³
-constexpr double kTickRoom = 300;        // twips that a tick's label needs
+constexpr double kLabelNeeds = 300;      // twips across
 constexpr std::size_t kDigits = 3;       // characters of a density that give the axis its end
 constexpr std::size_t kShareDigits = 2;  // characters of the share that are read: "100%" reads 10
 constexpr double kHalfMark = 45;         // twips, of the triangle at the design value
@@ -43,8 +43,8 @@ struct RatioCurve {
     std::string_view name;
 };
 constexpr std::array kCurves{
-    RatioCurve{result::At01, Mark::OpenCircle, "CBR at 0.1 in."},
-    RatioCurve{result::At02, Mark::FilledCircle, "CBR at 0.2 in."},
+    RatioCurve{result::At01, Mark::OpenCircle, kRatioAt01},
+    RatioCurve{result::At02, Mark::FilledCircle, kRatioAt02},
 };
 constexpr std::array kKey{
     KeyEntry{kCurves[0].mark, kCurves[0].name},
@@ -131,18 +131,19 @@ DensityScale frmCBR::ScaleOfDensities() const
         highest = std::max(highest, density);
         for (const RatioCurve& curve : kCurves) greatest = std::max(greatest, Val(mshLPC(curve.row, mould)));
     }
-    const RisingAxis ratio = AxisFor(greatest, kRatioSteps, picGraph3.ScaleHeight - kPlotMargin);
-    return {picGraph3.ScaleWidth - kPlotMargin, Cut(lowest), Cut(highest) + kTickDistance, ratio};
+    const RisingAxis ratio = AxisFor(greatest, kRatioSteps, picGraph3.ScaleHeight - kBoxMargin);
+    return {picGraph3.ScaleWidth - kBoxMargin, Cut(lowest), Cut(highest) + kTickDistance, ratio};
 }
 
 void frmCBR::DrawDensityAxes(const DensityScale& scale)
 {
     picGraph2.Cls();
     picGraph3.Cls();
-    PrintAxisTitles(picGraph2, picGraph3, "Dry Density, g/cm^3", "California Bearing Ratio, %", kTitleSize, kTitleLeft);
+    PrintAxisTitles(picGraph2, picGraph3, "Dry Density, g/cm^3", "California Bearing Ratio, %", kSmallAxisSize,
+                    kTitleLeft);
     DrawRisingAxis(picGraph2, picGraph3, scale.ratio);
     const double divisions = Int((scale.last - scale.first) / kTickDistance + 0.5);
-    const double most = Int(scale.width / kTickRoom);
+    const double most = Int(scale.width / kLabelNeeds);
     const double every = Int(divisions / most) + 1;
     for (double tick = 0; tick <= divisions; tick += every) {
         const double density = scale.first + tick * kTickDistance;

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "runtime/numbers.h"
+#include "sheets/pattern/grids.h"
 #include "sheets/pattern/masks.h"
 #include "store/statements.h"
 
@@ -10,23 +11,23 @@ namespace terravane {
 
 namespace {
 
+using namespace compaction;
+
 constexpr double kTitleWidth = 2500;  // twips, of the grids' titles
 constexpr double kPointWidth = 680;   // of MSHData's first column
-constexpr CellRange kWeighings{wt::CanNumber, wt::Can, 1, kTrials};
+constexpr CellRange kWeighings{water::CanNumber, water::Can, 1, kTrials};
 constexpr CellRange kMoulds{density::AssumedWater, density::Mould, 1, kTrials};
 constexpr std::string_view kDitto = "/";
 
-constexpr std::array kFocusSteps{
-    FocusStep{"txtClient", "txtID"},    FocusStep{"txtID", "txtProject"},    FocusStep{"txtProject", "txtLocation"},
-    FocusStep{"txtLocation", "txtDia"}, FocusStep{"txtDia", "txtHeight"},    FocusStep{"txtHeight", "txtSoil"},
-    FocusStep{"txtSoil", "cboTest"},    FocusStep{"cboTest", "cboCheck"},    FocusStep{"cboWt", "cboBlow"},
-    FocusStep{"cboBlow", "cboLayer"},   FocusStep{"cboLayer", "txtProject"},
-};
+/// The ways that Enter takes.
+constexpr std::array<std::string_view, 9> kWay{"txtClient", "txtID",   "txtProject", "txtLocation", "txtDia",
+                                               "txtHeight", "txtSoil", "cboTest",    "cboCheck"};
+constexpr std::array<std::string_view, 4> kHammerWay{"cboWt", "cboBlow", "cboLayer", "txtProject"};
 
 /// Masses are shown to 0.01 g as soon as they are typed; can numbers are names.
 std::string CommitWeighing(int row, int, std::string text)
 {
-    return row == wt::CanNumber ? text : Format(text, kTwoDecimals);
+    return row == water::CanNumber ? text : Format(text, kTwoDecimals);
 }
 
 /// The same mould serves trial after trial: a ditto mark takes the mass from the trial before.
@@ -51,21 +52,19 @@ frmCompaction::frmCompaction(Program& owner)
     MSH2.SetVisible(false);
     MSH3.SetVisible(false);
     WireEvents();
-    ChainFocus(kFocusSteps);
+    ChainFocus(kWay);
+    ChainFocus(kHammerWay);
 }
 
 void frmCompaction::WireEvents()
 {
-    Command(cmdOMC, [this] { cmdOMC_Click(); });
-    cmdOMC.MouseMove = [] {};  // takes the hand, keeps its colour
+    cmdOMC.Click = [this] { cmdOMC_Click(); };
     Command5.Click = [this] { Command5_Click(); };
     Command6.Click = [this] { Command6_Click(); };
     chkSatLine.Click = [this] { chkSatLine_Click(); };
     SSTData.TabChanged = [this](int previousTab) { SSTData_Click(previousTab); };
     MSHWt.MouseDown = [this](MouseButton button, int row, int column) { MSHWt_MouseDown(button, row, column); };
-    MSHDensity.MouseDown = [this](MouseButton button, int row, int column) {
-        MSHDensity_MouseDown(button, row, column);
-    };
+    OpenByMouse(txtData1);
 }
 
 void frmCompaction::Form_Load()
@@ -87,10 +86,8 @@ void frmCompaction::BuildGrids()
                              "Dry  Density, (g/cm^3)"});
     MSHWt.SetColumnWidth(0, kTitleWidth);
     MSHDensity.SetColumnWidth(0, kTitleWidth);
-    for (const int row : {wt::Water, wt::DrySoil, wt::WaterContent}) MSHWt.MarkCalculatedRow(row);
-    for (const int row : {density::WaterContent, density::WetSoil, density::WetDensity, density::DryDensity}) {
-        MSHDensity.MarkCalculatedRow(row);
-    }
+    MarkCalculatedFrom(MSHWt, water::Water);
+    MarkCalculatedFrom(MSHDensity, density::WaterContent);
     MSHData.SetTitleColumns(0);
     MSHData.SetColumnTitles({"wc\n  \n(%)", "Dry Density\n  \n(g/cm^3)"});
     MSHData.SetColumnWidth(0, kPointWidth);
@@ -98,15 +95,8 @@ void frmCompaction::BuildGrids()
 
 void frmCompaction::MSHWt_MouseDown(MouseButton button, int row, int column)
 {
-    const int trial = std::max(column, 1);  // a press on the titles counts as the first trial
-    if (button == MouseButton::Left) return txtData.PressLeft(row, trial);
-    const Message question{"คุณต้องการลบข้อมูลคอลัมภ์นี้ใช่หรือไม่?", "ยืนยันการลบ", MessageStyle::Plain, MessageButtons::OkCancel};
-    if (program.Ask().Show(question) == MessageAnswer::Ok) EraseTrial(trial);
-}
-
-void frmCompaction::MSHDensity_MouseDown(MouseButton button, int row, int column)
-{
-    if (button == MouseButton::Left) txtData1.PressLeft(row, std::max(column, 1));
+    if (button == MouseButton::Left) return PressCell(txtData, row, column);
+    if (AsksToErase("คอลัมภ์นี้")) EraseTrial(std::max(column, 1));  // a press on the titles counts as the first trial
 }
 
 void frmCompaction::SSTData_Click(int previousTab)
@@ -117,10 +107,7 @@ void frmCompaction::SSTData_Click(int previousTab)
 
 void frmCompaction::chkSatLine_Click()
 {
-    OpenProjectConnection(program);
-    const auto& trials =
-        Query(program, program.ProjectConnection, SelectAll(TableOf(Test::SpcSoil, program.CurrentMaterial).name));
-    txtGs.SetText(trials.Fields("spc_gs"));
+    txtGs.SetText(ResultsOf(Test::SpcSoil)["gs"]);
     if (!chkSatLine.Value()) txtGs.SetText("");
 }
 

@@ -12,8 +12,12 @@
 
 namespace terravane {
 
+namespace compaction {
+
+inline constexpr int kTrials = 6;
+
 /// Rows of MSHWt; columns 1 to 6 are the trials. Masses in g.
-namespace wt {
+namespace water {
 enum Row { Sample, CanNumber, WetAndCan, DryAndCan, Can, Water, DrySoil, WaterContent, kRows };
 }
 
@@ -23,7 +27,7 @@ namespace density {
 enum Row { AssumedWater, WetAndMould, Mould, WaterContent, WetSoil, WetDensity, DryDensity, kRows };
 }
 
-inline constexpr int kTrials = 6;
+}  // namespace compaction
 
 /// One accepted trial: water content in percent, dry density in g/cm³, as they stand on the sheet.
 struct CompactionPoints {
@@ -65,9 +69,9 @@ struct frmCompaction : TestSheet {
     ComboBox cboLayer{*this, "cboLayer", "No.Layers", {"3", "5"}};
 
     Frame FraWt{*this, "FraWt", "Water Content Determination"};
-    TextGrid MSHWt{*this, "MSHWt", wt::kRows, kTrials + 1};
+    TextGrid MSHWt{*this, "MSHWt", compaction::water::kRows, compaction::kTrials + 1};
     Frame fraDensity{*this, "fraDensity", "Dry Density Determination"};
-    TextGrid MSHDensity{*this, "MSHDensity", density::kRows, kTrials + 1};
+    TextGrid MSHDensity{*this, "MSHDensity", compaction::density::kRows, compaction::kTrials + 1};
     CellEditor txtData;   // over MSHWt
     CellEditor txtData1;  // over MSHDensity
 
@@ -112,7 +116,6 @@ struct frmCompaction : TestSheet {
     /// The specific gravity of the saved test of the same material, for the air-void line.
     void chkSatLine_Click();
     void MSHWt_MouseDown(MouseButton button, int row, int column);
-    void MSHDensity_MouseDown(MouseButton button, int row, int column);
     void SSTData_Click(int previousTab);
 
     std::span<const TablePass> TablePasses() const override;

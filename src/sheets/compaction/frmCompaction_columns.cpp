@@ -7,29 +7,26 @@ namespace terravane {
 
 namespace {
 
+using namespace compaction;
 using enum ColumnPlace::Kind;
 
-constexpr std::array kPlaces{
-    ColumnPlace{"date", "DTPDate"},
-    ColumnPlace{"soil", "txtSoil"},
-    ColumnPlace{"test", "cboTest"},
-    ColumnPlace{"check", "cboCheck"},
+constexpr auto kPlaces = BehindGeneralData(std::array{
     ColumnPlace{"height", "txtHeight"},
     ColumnPlace{"dia", "txtDia"},
     ColumnPlace{"blow", "cboBlow"},
     ColumnPlace{"layer", "cboLayer"},
     ColumnPlace{"wt", "cboWt"},
-    ColumnPlace{"can", "MSHWt", GridRow, wt::CanNumber},
-    ColumnPlace{"wcanw", "MSHWt", GridRow, wt::WetAndCan},
-    ColumnPlace{"wcand", "MSHWt", GridRow, wt::DryAndCan},
-    ColumnPlace{"wcan", "MSHWt", GridRow, wt::Can},
+    ColumnPlace{"can", "MSHWt", GridRow, water::CanNumber},
+    ColumnPlace{"wcanw", "MSHWt", GridRow, water::WetAndCan},
+    ColumnPlace{"wcand", "MSHWt", GridRow, water::DryAndCan},
+    ColumnPlace{"wcan", "MSHWt", GridRow, water::Can},
     ColumnPlace{"awc", "MSHDensity", GridRow, density::AssumedWater},
     ColumnPlace{"wsm", "MSHDensity", GridRow, density::WetAndMould},
     ColumnPlace{"wm", "MSHDensity", GridRow, density::Mould},
     ColumnPlace{.suffix = "omc", .control = "txtOMC", .loaded = false},
     ColumnPlace{.suffix = "mdd", .control = "txtDmax", .loaded = false},
     ColumnPlace{"gs", "txtGs"},
-};
+});
 
 constexpr std::array kPasses{TablePass{kTrials, kPlaces}};
 

@@ -7,11 +7,14 @@
 #include "runtime/numbers.h"
 #include "runtime/runtime_error.h"
 #include "sheets/compaction/frmCompaction.h"
+#include "sheets/pattern/grids.h"
 #include "sheets/pattern/masks.h"
 
 namespace terravane {
 
 namespace {
+
+using namespace compaction;
 
 constexpr int kQuarticFrom = 5;  // points; fewer take a cubic
 
@@ -32,12 +35,7 @@ void frmCompaction::FillPoints()
 
 CompactionPoints frmCompaction::Points() const
 {
-    CompactionPoints points;
-    for (int row = 1; row < MSHData.Rows(); ++row) {
-        points.water.push_back(Val(MSHData(row, 0)));
-        points.density.push_back(Val(MSHData(row, 1)));
-    }
-    return points;
+    return {NumbersOf(MSHData, 0), NumbersOf(MSHData, 1)};
 }
 
 void frmCompaction::Command5_Click()

@@ -9,6 +9,8 @@ namespace terravane {
 
 namespace {
 
+using namespace compaction;
+
 constexpr std::string_view kBlank = "     ";  // what a calculated cell shows while nothing is worked out for it
 
 }  // namespace
@@ -26,24 +28,24 @@ void frmCompaction::cmdCal_Click()
 void frmCompaction::BlankCalculatedRows()
 {
     for (int trial = 1; trial <= kTrials; ++trial) {
-        for (int row = wt::Water; row <= wt::WaterContent; ++row) MSHWt(row, trial) = kBlank;
+        for (int row = water::Water; row <= water::WaterContent; ++row) MSHWt(row, trial) = kBlank;
         for (int row = density::WaterContent; row <= density::DryDensity; ++row) MSHDensity(row, trial) = kBlank;
     }
 }
 
 void frmCompaction::WaterContentOf(int trial)
 {
-    const auto cell = [&](wt::Row row) { return MSHWt(row, trial); };
-    const auto value = [&](wt::Row row) { return Val(cell(row)); };
+    const auto cell = [&](water::Row row) { return MSHWt(row, trial); };
+    const auto value = [&](water::Row row) { return Val(cell(row)); };
 
-    if (value(wt::WetAndCan) != 0) {
-        cell(wt::Water) = Format(value(wt::WetAndCan) - value(wt::DryAndCan), kTwoDecimals);
+    if (value(water::WetAndCan) != 0) {
+        cell(water::Water) = Format(value(water::WetAndCan) - value(water::DryAndCan), kTwoDecimals);
     }
-    if (value(wt::DryAndCan) != 0) {
-        cell(wt::DrySoil) = Format(value(wt::DryAndCan) - value(wt::Can), kTwoDecimals);
+    if (value(water::DryAndCan) != 0) {
+        cell(water::DrySoil) = Format(value(water::DryAndCan) - value(water::Can), kTwoDecimals);
     }
-    if (value(wt::DrySoil) != 0) {
-        cell(wt::WaterContent) = Format(Divide(value(wt::Water), value(wt::DrySoil)) * 100, kTwoDecimals);
+    if (value(water::DrySoil) != 0) {
+        cell(water::WaterContent) = Format(Divide(value(water::Water), value(water::DrySoil)) * 100, kTwoDecimals);
     }
 }
 
@@ -53,7 +55,7 @@ void frmCompaction::DensityOf(int trial)
     const auto value = [&](density::Row row) { return Val(cell(row)); };
     if (value(density::Mould) == 0) return;  // no mould weighed, no trial in this column
 
-    cell(density::WaterContent) = Format(Val(MSHWt(wt::WaterContent, trial)), kTwoDecimals);
+    cell(density::WaterContent) = Format(Val(MSHWt(water::WaterContent, trial)), kTwoDecimals);
     cell(density::WetSoil) = Format(value(density::WetAndMould) - value(density::Mould), kTwoDecimals);
     cell(density::WetDensity) = Format(Divide(value(density::WetSoil), MouldVolume()), kTwoDecimals);
     cell(density::DryDensity) =
@@ -69,7 +71,7 @@ double frmCompaction::MouldVolume() const
 
 void frmCompaction::EraseTrial(int trial)
 {
-    for (int row = wt::CanNumber; row < wt::kRows; ++row) MSHWt(row, trial) = "";
+    for (int row = water::CanNumber; row < water::kRows; ++row) MSHWt(row, trial) = "";
     for (int row = 0; row < density::kRows; ++row) MSHDensity(row, trial) = "";
 }
 

@@ -15,8 +15,6 @@ namespace terravane {
 
 namespace {
 
-constexpr double kAxisSize = 14;  // points
-
 constexpr int kTicks = 13;
 constexpr double kNothingYet = 9999;  // above every density and water content
 constexpr double kFitStep = 0.001;    // percent of water
@@ -104,8 +102,7 @@ CompactionScale frmCompaction::ScaleOf(const CompactionPoints& points) const
 
 void frmCompaction::DrawTicks(const CompactionScale& scale)
 {
-    const auto [left, top] = InsetOf(picGraph, picgraph1);
-    const double lineHeight = picgraph1.TextHeight("W");
+    const double top = InsetOf(picGraph, picgraph1).top, lineHeight = picgraph1.TextHeight("W");
     for (int tick = 0; tick <= kTicks; ++tick) {
         const double y = scale.height - tick * scale.tickHeight;
         picGraph.Line(0, y, scale.width, y, kGridGrey);
@@ -117,8 +114,7 @@ void frmCompaction::DrawTicks(const CompactionScale& scale)
         if (!HasLabel(percent, scale.percents)) continue;
         const double x = percent * scale.percentWidth;
         picGraph.Line(x, 0, x, scale.height, kGridGrey);
-        const std::string label = NumberText(scale.firstWater + percent);
-        PrintAt(picgraph1, left + x - picgraph1.TextWidth(label) / 2, top + scale.height + 40, label);
+        PrintBelow(picgraph1, picGraph, x, scale.height, NumberText(scale.firstWater + percent));
     }
 }
 
@@ -176,9 +172,7 @@ void frmCompaction::MarkPoints(const CompactionScale& scale, const CompactionPoi
 void frmCompaction::DrawGuides(const CompactionScale& scale, CompactionPeak peak)
 {
     const double x = scale.X(peak.water), y = scale.Y(peak.density);
-    picGraph.Line(x, y, x, scale.height, kRed);
-    picGraph.Line(x, y, 0, y, kRed);
-
+    DrawGuideLines(picGraph, x, y, scale.height);
     const auto& captions = optInt.Value() ? kSplineCaptions : kFitCaptions;
     const double lineHeight = picGraph.TextHeight("W");
     PrintAt(picGraph, 30, y - lineHeight,

@@ -1,12 +1,10 @@
 #include "sheets/density/frmDensity.h"
 
-#include <algorithm>
 #include <array>
 #include <string>
 
 #include "runtime/numbers.h"
-#include "runtime/text.h"
-#include "store/statements.h"
+#include "sheets/pattern/grids.h"
 
 namespace terravane {
 
@@ -23,15 +21,9 @@ constexpr CellRange kWaterWeighings{water::WetAndCan, water::Can, 1, kColumns};
 constexpr CellRange kHoleWeighings{volume::Initial, volume::Final, 1, kColumns};
 constexpr CellRange kMaximumDensities{summary::MaximumDensity, summary::MaximumDensity, 1, kColumns};
 
-constexpr Reference kStandard{Test::StdSoil, "Standard", "Std"};
-constexpr Reference kModified{Test::ModSoil, "Modified", "Mod"};
-
-constexpr std::array kFocusSteps{
-    FocusStep{"txtClient", "txtID"},        FocusStep{"txtID", "txtProject"},
-    FocusStep{"txtProject", "txtLocation"}, FocusStep{"txtLocation", "txtPosition"},
-    FocusStep{"txtPosition", "txtSoil"},    FocusStep{"txtSoil", "cboTest"},
-    FocusStep{"cboTest", "cboCheck"},
-};
+/// The way that Enter takes.
+constexpr std::array<std::string_view, 8> kWay{"txtClient",   "txtID",   "txtProject", "txtLocation",
+                                               "txtPosition", "txtSoil", "cboTest",    "cboCheck"};
 
 /// The titles of the rows; those from `firstCalculated` on are worked out.
 void BuildGrid(TextGrid& grid, const std::vector<std::string_view>& titles, int firstCalculated)
@@ -39,7 +31,7 @@ void BuildGrid(TextGrid& grid, const std::vector<std::string_view>& titles, int 
     grid.SetRowTitles(titles);
     grid.SetColumnTitles({titles.front(), "1 ", "2 ", "3", "4 ", "5 ", "6 "});
     grid.SetColumnWidth(0, kTitleWidth);
-    for (int row = firstCalculated; row < grid.Rows(); ++row) grid.MarkCalculatedRow(row);
+    MarkCalculatedFrom(grid, firstCalculated);
 }
 
 }  // namespace
@@ -55,19 +47,14 @@ frmDensity::frmDensity(Program& owner)
       txtData5(*this, "txtData5", MSHSummary, [] { return kMaximumDensities; })
 {
     WireEvents();
-    ChainFocus(kFocusSteps);
+    ChainFocus(kWay);
 }
 
 void frmDensity::WireEvents()
 {
     optStd.Click = [this] { optStd_Click(); };
     optMod.Click = [this] { optMod_Click(); };
-    SSTData.TabChanged = [this](int) { HideEditors(*this); };
-    for (CellEditor* editor : {&txtData, &txtData1, &txtData2, &txtData3, &txtData4, &txtData5}) {
-        editor->Grid().MouseDown = [editor](MouseButton button, int row, int column) {
-            if (button == MouseButton::Left) editor->PressLeft(row, std::max(column, 1));
-        };
-    }
+    for (CellEditor* editor : {&txtData, &txtData1, &txtData2, &txtData3, &txtData4, &txtData5}) OpenByMouse(*editor);
 }
 
 void frmDensity::Form_Load()
@@ -106,38 +93,20 @@ void frmDensity::BuildGrids()
 
 void frmDensity::optStd_Click()
 {
-    FetchMaximumDensity(kStandard);
+    FetchMaximumDensity(Test::StdSoil, "Standard");
 }
 
 void frmDensity::optMod_Click()
 {
-    FetchMaximumDensity(kModified);
+    FetchMaximumDensity(Test::ModSoil, "Modified");
 }
 
-void frmDensity::FetchMaximumDensity(const Reference& reference)
+void frmDensity::FetchMaximumDensity(Test test, std::string_view name)
 {
-    fraSummary.SetCaption("Summary (Percent Compaction for " + std::string(reference.name) + " Compaction)");
-    OpenProjectConnection(program);
-    const TableSchema& table = TableOf(reference.test, program.CurrentMaterial);
-    const auto& trials = Query(program, program.ProjectConnection, SelectAll(table.name));
-    const std::string& stored = trials.Fields(table.ColumnName("mdd"));
+    fraSummary.SetCaption("Summary (Percent Compaction for " + std::string(name) + " Compaction)");
+    const std::string& stored = ResultsOf(test)["mdd"];
     for (int hole = 1; hole <= kColumns; ++hole)
         if (Val(MSHWater(water::WetAndCan, hole)) != 0) MSHSummary(summary::MaximumDensity, hole) = stored;
-}
-
-/// A choice queries anew, which takes the place of the records.
-void frmDensity::LoadChoices(const jet::Recordset& records)
-{
-    const std::string stored(Trim(records.Fields("den_comp")));
-    if (stored == kStandard.stored) optStd.Choose();
-    if (stored == kModified.stored) optMod.Choose();
-}
-
-/// The compaction test is the one head column that no box holds; a sheet without a choice stores none.
-std::string frmDensity::SavedChoice(std::string_view) const
-{
-    if (optStd.Value()) return std::string(kStandard.stored);
-    return optMod.Value() ? std::string(kModified.stored) : "";
 }
 
 }  // namespace terravane

@@ -44,13 +44,6 @@ namespace summary {
 enum Row { Hole, MaximumDensity, WetDensity, DryDensity, Compaction, kRows };
 }
 
-/// A compaction test that gives the maximum dry density.
-struct Reference {
-    Test test;
-    std::string_view name;    // in the summary's caption
-    std::string_view stored;  // in the table
-};
-
 }  // namespace field
 
 struct frmDensity : TestSheet {
@@ -92,13 +85,12 @@ struct frmDensity : TestSheet {
     void cmdCal_Click() override;
 
     std::span<const TablePass> TablePasses() const override;
-    void LoadChoices(const jet::Recordset& records) override;
-    std::string SavedChoice(std::string_view suffix) const override;
+    std::span<const StoredOption> StoredOptions() const override;
 
   private:
     void BuildGrids();
     void WireEvents();
-    void FetchMaximumDensity(const field::Reference& reference);
+    void FetchMaximumDensity(Test test, std::string_view name);
 
     void SandInCone();
     void SandDensity();

@@ -10,12 +10,8 @@ namespace {
 using namespace field;
 using enum ColumnPlace::Kind;
 
-constexpr std::array kPlaces{
-    ColumnPlace{"date", "DTPDate"},
-    ColumnPlace{"soil", "txtSoil"},
+constexpr auto kPlaces = BehindGeneralData(std::array{
     ColumnPlace{"pos", "txtPosition"},
-    ColumnPlace{"test", "cboTest"},
-    ColumnPlace{"check", "cboCheck"},
     ColumnPlace{"height", "MSHDsand", GridRow, sand::Height},
     ColumnPlace{"dia", "MSHDsand", GridRow, sand::Diameter},
     ColumnPlace{"imsjc", "MSHWsand", GridRow, cone::Initial},
@@ -30,8 +26,10 @@ constexpr std::array kPlaces{
     ColumnPlace{"mdsc", "MSHWater", GridRow, water::DryAndCan},
     ColumnPlace{"mc", "MSHWater", GridRow, water::Can},
     ColumnPlace{"mdd", "MSHSummary", GridRow, summary::MaximumDensity},
-    ColumnPlace{"comp", ""},
-};
+    ColumnPlace{.suffix = "comp", .kind = Choice},
+});
+
+constexpr std::array kOptions{StoredOption{"optStd", "Std"}, StoredOption{"optMod", "Mod"}};
 
 constexpr std::array kPasses{TablePass{kColumns, kPlaces}};
 
@@ -40,6 +38,11 @@ constexpr std::array kPasses{TablePass{kColumns, kPlaces}};
 std::span<const TablePass> frmDensity::TablePasses() const
 {
     return kPasses;
+}
+
+std::span<const StoredOption> frmDensity::StoredOptions() const
+{
+    return kOptions;
 }
 
 }  // namespace terravane

@@ -1,5 +1,9 @@
 #include "sheets/pattern/plot.h"
 
+#include <algorithm>
+#include <cmath>
+
+#include "runtime/numbers.h"
 #include "runtime/runtime_error.h"
 
 namespace terravane {
@@ -14,6 +18,16 @@ Inset InsetOf(const PictureBox& plot, const PictureBox& frame)
 {
     if (plot.Container == &frame) return {plot.Left, plot.Top};
     return {plot.Left - frame.Left, plot.Top - frame.Top};
+}
+
+double DecimalLogarithm(double value)
+{
+    return Log(value) / Log(10);
+}
+
+int LabelEvery(double spacing, double needed)
+{
+    return std::max(1, static_cast<int>(std::ceil(needed / spacing)));
 }
 
 void SetFont(DrawingSurface& surface, std::string_view name, double size)
@@ -40,6 +54,24 @@ void PrintAxisTitles(PictureBox& frame, PictureBox& plot, std::string_view below
                       top + (plot.Height + frame.TextWidth(beside)) / 2);
     SetFont(frame, kTickFont, kTickSize);
     SetFont(plot, kTickFont, kTickSize);
+}
+
+void PrintBelow(PictureBox& frame, const PictureBox& plot, double x, double bottom, std::string_view label, double room)
+{
+    const auto [left, top] = InsetOf(plot, frame);
+    PrintAt(frame, left + x - frame.TextWidth(label) / 2, top + bottom + room, label);
+}
+
+void PrintLeftOf(PictureBox& frame, const PictureBox& plot, double y, std::string_view label, double room)
+{
+    const auto [left, top] = InsetOf(plot, frame);
+    PrintAt(frame, left - room - frame.TextWidth(label), top + y - frame.TextHeight(label) / 2, label);
+}
+
+void DrawGuideLines(DrawingSurface& plot, double x, double y, double bottom)
+{
+    plot.Line(x, y, x, bottom, kRed);
+    plot.Line(x, y, 0, y, kRed);
 }
 
 void DrawPlotBoxes(PictureBox& frame, PictureBox& plot)

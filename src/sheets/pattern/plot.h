@@ -13,6 +13,8 @@ namespace terravane {
 inline constexpr std::string_view kTickFont = "MS Sans Serif";
 inline constexpr double kTickSize = 8.25;  // points
 inline constexpr std::string_view kAxisFont = "Times New Roman";
+inline constexpr double kAxisSize = 14;       // points, of the axis titles
+inline constexpr double kSmallAxisSize = 11;  // of those whose labels need the room
 
 /// A curve's steps past this are no plot but a slip of the pen.
 inline constexpr double kMostSteps = 5e6;
@@ -25,6 +27,12 @@ struct Inset {
 /// The two boxes stand side by side in one container, or the plot stands in the frame.
 Inset InsetOf(const PictureBox& plot, const PictureBox& frame);
 
+/// For logarithmic axes. Error 5 for zero or less.
+double DecimalLogarithm(double value);
+
+/// Every label of an axis, or every second, third ... so that they don't run into each other.
+int LabelEvery(double spacing, double needed);
+
 void SetFont(DrawingSurface& surface, std::string_view name, double size);
 
 /// One text with its upper left corner at (x, y).
@@ -36,6 +44,19 @@ void PrintAt(DrawingSurface& surface, double x, double y, std::string_view text)
 /// besideLeft  where the turned title begins; midway between the frame's edge and the plot's unless it is told
 void PrintAxisTitles(PictureBox& frame, PictureBox& plot, std::string_view below, std::string_view beside, double size,
                      std::optional<double> besideLeft = {});
+
+/// Room between a plot and the labels of its axes.
+inline constexpr double kTickRoom = 40;
+
+/// A label on the frame, centred below a point of the plot's lower edge.
+void PrintBelow(PictureBox& frame, const PictureBox& plot, double x, double bottom, std::string_view label,
+                double room = kTickRoom);
+
+/// A label on the frame, left of the plot and level with a line of it.
+void PrintLeftOf(PictureBox& frame, const PictureBox& plot, double y, std::string_view label, double room = kTickRoom);
+
+/// Red lines from a point of the curve down to one axis and across to the other.
+void DrawGuideLines(DrawingSurface& plot, double x, double y, double bottom);
 
 /// Room that the box around a plot leaves at the plot's right and bottom.
 inline constexpr double kBoxMargin = 50;

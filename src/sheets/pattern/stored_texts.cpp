@@ -1,5 +1,7 @@
 // How a sheet's texts come from the project file and go back: one walk over the places of the table's columns
 // serves both, so that what is saved is what is loaded.
+#include <algorithm>
+
 #include "runtime/text.h"
 #include "sheets/pattern/masks.h"
 #include "sheets/pattern/test_sheet.h"
@@ -9,20 +11,17 @@ namespace terravane {
 
 namespace {
 
+using enum ColumnPlace::Kind;
+
 const TableSchema& TableOf(const TestSheet& sheet)
 {
     return TableOf(sheet.program.CurrentTest, sheet.program.CurrentMaterial);
 }
 
-bool IsHead(const ColumnPlace& place)
-{
-    return place.kind == ColumnPlace::Kind::Head;
-}
-
 Cell CellOf(TestSheet& sheet, const ColumnPlace& place, int record)
 {
     auto& grid = sheet.Get<TextGrid>(place.control);
-    if (place.kind == ColumnPlace::Kind::GridRow) return grid(place.line, record);
+    if (place.kind == GridRow) return grid(place.line, record);
     return grid(record + place.rowShift, place.line);
 }
 
@@ -44,7 +43,6 @@ std::string DateOr(const TestSheet& sheet, const std::string& stored)
 
 void LoadHead(TestSheet& sheet, const ColumnPlace& place, const std::string& stored)
 {
-    if (!place.loaded || place.control.empty()) return;
     auto& control = sheet.Get<TextControl>(place.control);
     control.SetText(&control == &sheet.DTPDate ? DateOr(sheet, stored) : stored);
 }
@@ -54,12 +52,35 @@ void LoadRecord(TestSheet& sheet, const TablePass& pass, const jet::Recordset& r
     const TableSchema& table = TableOf(sheet);
     for (const ColumnPlace& place : pass.places) {
         const std::string& stored = records.Fields(table.ColumnName(place.suffix));
-        if (IsHead(place)) {
+        if (!place.loaded || place.kind == Choice) continue;
+        if (place.kind == Head) {
             if (record == 1) LoadHead(sheet, place, stored);
-        } else if (place.loaded && record >= place.firstLoaded) {
+        } else if (record >= place.firstLoaded) {
             CellOf(sheet, place, record) = sheet.TrimsLists() ? Trim(stored) : std::string_view(stored);
         }
     }
+}
+
+/// From a copy of its text: the click of a choice may query anew, which takes the place of the records.
+void LoadChoices(TestSheet& sheet, jet::Recordset& records)
+{
+    records.MoveFirst();
+    const TableSchema& table = TableOf(sheet);
+    for (const TablePass& pass : sheet.TablePasses()) {
+        const auto choice = std::ranges::find(pass.places, Choice, &ColumnPlace::kind);
+        if (choice == pass.places.end()) continue;
+        const std::string stored(Trim(records.Fields(table.ColumnName(choice->suffix))));
+        return sheet.LoadChoice(stored);
+    }
+}
+
+/// Of the option that is chosen; a sheet without a choice stores none.
+std::string SavedChoice(const TestSheet& sheet)
+{
+    const auto options = sheet.StoredOptions();
+    const auto chosen = std::ranges::find_if(
+        options, [&](const StoredOption& of) { return sheet.Get<OptionButton>(of.option).Value(); });
+    return chosen == options.end() ? std::string() : std::string(chosen->stored);
 }
 
 /// Whether a growing list ends before this record.
@@ -86,8 +107,8 @@ int RecordsToSave(const TestSheet& sheet, const TablePass& pass)
 
 std::string SavedText(TestSheet& sheet, const ColumnPlace& place, int record)
 {
-    if (place.control.empty()) return sheet.SavedChoice(place.suffix);
-    if (IsHead(place)) return sheet.Get<TextControl>(place.control).Text();
+    if (place.kind == Choice) return SavedChoice(sheet);
+    if (place.kind == Head) return sheet.Get<TextControl>(place.control).Text();
     return CellOf(sheet, place, record).Text();
 }
 
@@ -110,8 +131,13 @@ void LoadTestSheet(TestSheet& sheet)
     LoadHeadings(sheet);
     auto& records = Query(program, program.ProjectConnection, SelectAll(TableOf(sheet).name));
     for (const TablePass& pass : sheet.TablePasses()) LoadPass(sheet, pass, records);
-    records.MoveFirst();
-    sheet.LoadChoices(records);
+    LoadChoices(sheet, records);
+}
+
+void TestSheet::LoadChoice(std::string_view stored)
+{
+    const auto option = std::ranges::find(StoredOptions(), stored, &StoredOption::stored);
+    if (option != StoredOptions().end()) Get<OptionButton>(option->option).Choose();
 }
 
 void SaveTestSheet(TestSheet& sheet)

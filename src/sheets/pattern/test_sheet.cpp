@@ -17,6 +17,7 @@ TestSheet::TestSheet(Program& owner, std::string name, std::string caption, std:
     Command(cmdView, [this] { cmdView_Click(); });
     RestoreCommandColours();
     DTPDate.GotFocus = [this] { HideEditors(*this); };
+    SSTData.TabChanged = [this](int) { HideEditors(*this); };
 }
 
 void TestSheet::Form_Load()
@@ -47,11 +48,11 @@ void TestSheet::RestoreCommandColours()
     cmdView.SetBackColor(kCommandColour);
 }
 
-void TestSheet::ChainFocus(std::span<const FocusStep> steps)
+void TestSheet::ChainFocus(std::span<const std::string_view> way)
 {
-    for (const FocusStep& step : steps) {
-        auto& from = Get<TextControl>(step.from);
-        auto& to = Get<TextControl>(step.to);
+    for (std::size_t i = 0; i + 1 < way.size(); ++i) {
+        auto& from = Get<TextControl>(way[i]);
+        auto& to = Get<TextControl>(way[i + 1]);
         from.KeyPress = [&to](Key key) {
             if (key != Key::Enter) return false;
             to.SetFocus();
@@ -67,6 +68,20 @@ void TestSheet::Command(CommandButton& button, Handler handler)
     button.Click = std::move(handler);
     button.MouseMove = [&button] { button.SetBackColor(kCommandHover); };
     button.MouseLeave = [this] { Form_MouseMove(); };
+}
+
+bool TestSheet::AsksToErase(std::string_view what)
+{
+    const Message question{"คุณต้องการลบข้อมูล" + std::string(what) + "ใช่หรือไม่?", "ยืนยันการลบ", MessageStyle::Plain,
+                           MessageButtons::OkCancel};
+    return program.Ask().Show(question) == MessageAnswer::Ok;
+}
+
+StoredResults TestSheet::ResultsOf(Test test)
+{
+    OpenProjectConnection(program);
+    const TableSchema& table = TableOf(test, program.CurrentMaterial);
+    return {table, Query(program, program.ProjectConnection, SelectAll(table.name))};
 }
 
 void FillNameLists(Program& program, ComboBox& testerBox, ComboBox& checkerBox)

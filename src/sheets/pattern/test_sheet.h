@@ -3,6 +3,7 @@
 /// method.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <span>
 #include <string>
@@ -16,6 +17,7 @@
 #include "controls/picture_box.h"
 #include "controls/text_controls.h"
 #include "program/program.h"
+#include "store/schema.h"
 
 namespace terravane {
 
@@ -23,11 +25,13 @@ namespace terravane {
 ///   Head      one text of the sheet; saved into every row, loaded from the first
 ///   GridRow   record i is the grid's column i; `line` is the grid's row
 ///   GridLine  record i is the grid's row i + rowShift; `line` is the grid's column
+///   Choice    the stored text of the option that is chosen; saved into every row, taken up from the first when all
+///             else is loaded
 struct ColumnPlace {
-    enum class Kind { Head, GridRow, GridLine };
+    enum class Kind { Head, GridRow, GridLine, Choice };
 
     std::string_view suffix;   // of the column, behind the table's prefix
-    std::string_view control;  // name of the text control or grid
+    std::string_view control;  // name of the text control or grid; of a choice none
     Kind kind = Kind::Head;
     int line = 0;
     bool loaded = true;  // results are saved only
@@ -45,16 +49,34 @@ struct TablePass {
     std::string_view list = {};
 };
 
-/// One step of the way that Enter takes through the fields outside the grids.
-struct FocusStep {
-    std::string_view from, to;
+/// The columns of the general data, the first ones of every test's table, with a sheet's own places behind them.
+template <std::size_t kOwn>
+constexpr auto BehindGeneralData(const std::array<ColumnPlace, kOwn>& own)
+{
+    constexpr std::array kGeneral{ColumnPlace{"date", "DTPDate"}, ColumnPlace{"soil", "txtSoil"},
+                                  ColumnPlace{"test", "cboTest"}, ColumnPlace{"check", "cboCheck"}};
+    std::array<ColumnPlace, kGeneral.size() + kOwn> places{};
+    std::ranges::copy(own, std::ranges::copy(kGeneral, places.begin()).out);
+    return places;
+}
+
+/// An option button and the text that the table keeps where it is chosen.
+struct StoredOption {
+    std::string_view option, stored;
 };
 
-/// The way through the general data block, for the sheets without fields of their own between.
-inline constexpr std::array kHeadBlockSteps{
-    FocusStep{"txtClient", "txtID"},     FocusStep{"txtID", "txtProject"}, FocusStep{"txtProject", "txtLocation"},
-    FocusStep{"txtLocation", "txtSoil"}, FocusStep{"txtSoil", "cboTest"},  FocusStep{"cboTest", "cboCheck"},
+/// The texts that a test's table holds in its first row. They stay until the next query.
+struct StoredResults {
+    const TableSchema& table;
+    const jet::Recordset& records;
+
+    /// Of the column with that suffix.
+    const std::string& operator[](std::string_view suffix) const { return records.Fields(table.ColumnName(suffix)); }
 };
+
+/// The way that Enter takes through the fields outside the grids, for the sheets without fields of their own between.
+inline constexpr std::array<std::string_view, 7> kHeadBlockWay{"txtClient", "txtID",   "txtProject", "txtLocation",
+                                                               "txtSoil",   "cboTest", "cboCheck"};
 
 struct TestSheet : Form {
     TestSheet(Program& program, std::string name, std::string caption, std::vector<std::string> tabs);
@@ -99,15 +121,20 @@ struct TestSheet : Form {
     virtual std::span<const TablePass> TablePasses() const = 0;
     /// Whether the lists (not the heads) lose the blanks at their ends when they are loaded.
     virtual bool TrimsLists() const { return false; }
-    /// Takes up what the table keeps as a choice, after all else was loaded. The recordset stands at its
-    /// first row.
-    virtual void LoadChoices(const jet::Recordset&) {}
-    /// The value of a head column that no text control holds.
-    virtual std::string SavedChoice(std::string_view) const { return {}; }
+    /// The options of the table's choice.
+    virtual std::span<const StoredOption> StoredOptions() const { return {}; }
+    /// Chooses the option that is stored so; of a sheet that was saved without a choice none.
+    virtual void LoadChoice(std::string_view stored);
 
   protected:
-    /// Chains fields for Enter and hides the cell editors where one of them gets the focus.
-    void ChainFocus(std::span<const FocusStep> steps);
+    /// Chains fields for Enter, each to the next, and hides the cell editors where one of them gets the focus.
+    void ChainFocus(std::span<const std::string_view> way);
+    /// Asks whether the readings of `what`, a row or a column in the technician's words, shall go.
+    bool AsksToErase(std::string_view what);
+    /// What Save stored with a test of the current material.
+    StoredResults ResultsOf(Test test);
+
+  private:
     /// Runs `handler` for a press on the button, with the commands' hover colour.
     void Command(CommandButton& button, Handler handler);
 };

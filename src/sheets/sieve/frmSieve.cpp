@@ -6,7 +6,6 @@
 #include "runtime/text.h"
 #include "sheets/pattern/masks.h"
 #include "sheets/sieve/sieve_table.h"
-#include "store/statements.h"
 
 namespace terravane {
 
@@ -14,11 +13,6 @@ namespace {
 
 constexpr CellRange kMasses{1, kMostSieves, sieve::EmptySieve, sieve::SieveAndSoil};
 constexpr std::string_view kIndent = "     ";  // in front of a sieve's name
-
-constexpr std::array kFocusSteps{
-    FocusStep{"txtClient", "txtID"},     FocusStep{"txtID", "txtProject"}, FocusStep{"txtProject", "txtLocation"},
-    FocusStep{"txtLocation", "txtSoil"}, FocusStep{"txtSoil", "cboTest"},  FocusStep{"cboTest", "cboCheck"},
-};
 
 /// What a control tells under the mouse.
 struct Hint {
@@ -69,7 +63,7 @@ frmSieve::frmSieve(Program& owner)
     SetHints();
     LockResults();
     WireEvents();
-    ChainFocus(kFocusSteps);
+    ChainFocus(kHeadBlockWay);
 }
 
 void frmSieve::SetHints()
@@ -96,7 +90,6 @@ void frmSieve::WireEvents()
     Command6.Click = [this] { Command6_Click(); };
     chkEdit.Click = [this] { chkEdit_Click(); };
     MSHSieve.MouseDown = [this](MouseButton button, int row, int column) { MSHSieve_MouseDown(button, row, column); };
-    SSTData.TabChanged = [this](int) { HideEditors(*this); };
     for (TextBox* box : {&txtGsoil, &txtDwp, &txtWl, &txtLL, &txtPL}) box->GotFocus = [this] { HideEditors(*this); };
 }
 
@@ -175,11 +168,9 @@ void frmSieve::MSHSieve_MouseDown(MouseButton button, int row, int column)
 void frmSieve::cmdAtt_Click()
 {
     if (program.CurrentMaterial == Material::None) return;
-    OpenProjectConnection(program);
-    const auto& trials =
-        Query(program, program.ProjectConnection, SelectAll(TableOf(Test::AttSoil, program.CurrentMaterial).name));
-    txtLL.SetText(trials.Fields("att_LL"));
-    txtPL.SetText(trials.Fields("att_PL"));
+    const StoredResults atterberg = ResultsOf(Test::AttSoil);
+    txtLL.SetText(atterberg["LL"]);
+    txtPL.SetText(atterberg["PL"]);
 }
 
 }  // namespace terravane

@@ -137,8 +137,8 @@ struct frmSieve : TestSheet {
     void cmdClass_Click();
 
     std::span<const TablePass> TablePasses() const override;
-    void LoadChoices(const jet::Recordset& records) override;
-    std::string SavedChoice(std::string_view suffix) const override;
+    std::span<const StoredOption> StoredOptions() const override;
+    void LoadChoice(std::string_view stored) override;
 
   private:
     void BuildGrid();

@@ -3,7 +3,6 @@
 
 #include "runtime/numbers.h"
 #include "runtime/text.h"
-#include "sheets/pattern/masks.h"
 #include "sheets/pattern/plot.h"
 #include "sheets/sieve/aashto.h"
 #include "sheets/sieve/frmSieve.h"
@@ -14,9 +13,7 @@ namespace terravane {
 
 namespace {
 
-constexpr double kAxisSize = 14;   // points
 constexpr double kTitleLeft = 80;  // of the turned title
-constexpr double kLabelGap = 40;   // between chart and plasticity indices
 constexpr double kSampleRadius = 40;
 constexpr double kOverLetters = 40;   // white above the letters of a line
 constexpr int kColumns = 10;          // of 10 percent liquid limit
@@ -54,11 +51,6 @@ constexpr std::array kZones{
     Zone{"ML or OL", 40, 5},  Zone{"CL - ML", 15, 10, true},
 };
 
-double TwoDecimals(double value)
-{
-    return Val(Format(value, kTwoDecimals));
-}
-
 }  // namespace
 
 void frmSieve::cmdClass_Click()
@@ -76,8 +68,8 @@ void frmSieve::cmdClass_Click()
     DrawPlasticityChart();
     ClassifyUSCS();
     ClassifyAASHTO();
-    Gravel = TwoDecimals(100 - P4);
-    Sand = TwoDecimals(P4 - P200);
+    Gravel = RoundedToPlaces(100 - P4, 2);
+    Sand = RoundedToPlaces(P4 - P200, 2);
     PostClasses();
 }
 
@@ -135,20 +127,16 @@ void frmSieve::DrawPlasticityChart()
 
 void frmSieve::DrawChartGrid()
 {
-    const auto [left, top] = InsetOf(picChart, picChart1);
     const ChartScale scale = ScaleOf(picChart);
     for (int column = 0; column <= kColumns; ++column) {
         const double x = column * scale.columnWidth;
         picChart.Line(x, 0, x, scale.height, kGridGrey);
-        const std::string label = NumberText(column * 10.0);
-        PrintAt(picChart1, left + x - picChart1.TextWidth(label) / 2, top + scale.height + 40, label);
+        PrintBelow(picChart1, picChart, x, scale.height, NumberText(column * 10.0));
     }
     for (int row = 1; row <= kRows; ++row) {
         const double y = scale.Y(row * 10);
         picChart.Line(0, y, picChart.ScaleWidth, y, kGridGrey);
-        const std::string label = NumberText(row * 10.0);
-        PrintAt(picChart1, left - kLabelGap - picChart1.TextWidth(label), top + y - picChart1.TextHeight(label) / 2,
-                label);
+        PrintLeftOf(picChart1, picChart, y, NumberText(row * 10.0));
     }
 }
 

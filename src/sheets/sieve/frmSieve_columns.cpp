@@ -12,15 +12,10 @@ namespace {
 
 using enum ColumnPlace::Kind;
 
-constexpr std::string_view kWet = "1";
-constexpr std::string_view kDry = "0";
+constexpr std::array kOptions{StoredOption{"optNo", "0"}, StoredOption{"optYes", "1"}};
 
-constexpr std::array kPlaces{
-    ColumnPlace{"date", "DTPDate"},
-    ColumnPlace{"soil", "txtSoil"},
-    ColumnPlace{"test", "cboTest"},
-    ColumnPlace{"check", "cboCheck"},
-    ColumnPlace{"pwash", ""},
+constexpr auto kPlaces = BehindGeneralData(std::array{
+    ColumnPlace{.suffix = "pwash", .kind = Choice},
     ColumnPlace{"mos", "txtGsoil"},
     ColumnPlace{"maw", "txtDwp"},
     ColumnPlace{"mlw", "txtWl"},
@@ -30,7 +25,7 @@ constexpr std::array kPlaces{
     ColumnPlace{"mss", "MSHSieve", GridLine, sieve::SieveAndSoil},
     ColumnPlace{.suffix = "LL", .control = "txtLL", .loaded = false},
     ColumnPlace{.suffix = "PL", .control = "txtPL", .loaded = false},
-};
+});
 
 constexpr std::array kPasses{TablePass{kMostSieves, kPlaces}};
 
@@ -41,18 +36,14 @@ std::span<const TablePass> frmSieve::TablePasses() const
     return kPasses;
 }
 
-std::string frmSieve::SavedChoice(std::string_view) const
+std::span<const StoredOption> frmSieve::StoredOptions() const
 {
-    return std::string(optYes.Value() ? kWet : kDry);
+    return kOptions;
 }
 
-/// A choice runs its click, and "Dry" clears the masses of washing; what was stored for them stands all the same.
-void frmSieve::LoadChoices(const jet::Recordset& records)
+void frmSieve::LoadChoice(std::string_view stored)
 {
-    const std::string washed = txtDwp.Text(), lost = txtWl.Text();
-    (Trim(records.Fields("sie_pwash")) == kWet ? optYes : optNo).Choose();
-    txtDwp.SetText(washed);
-    txtWl.SetText(lost);
+    TestSheet::LoadChoice(stored);
     SelectStack();
 }
 

@@ -4,6 +4,7 @@
 
 #include "runtime/numbers.h"
 #include "runtime/text.h"
+#include "sheets/pattern/grids.h"
 #include "sheets/pattern/masks.h"
 #include "sheets/pattern/plot.h"
 #include "sheets/sieve/frmSieve.h"
@@ -67,12 +68,7 @@ void frmSieve::FillPoints()
 
 GrainSizes frmSieve::Points() const
 {
-    GrainSizes points;
-    for (int row = 1; row < MSHData.Rows(); ++row) {
-        points.size.push_back(Val(MSHData(row, 0)));
-        points.percent.push_back(Val(MSHData(row, 1)));
-    }
-    return points;
+    return {NumbersOf(MSHData, 0), NumbersOf(MSHData, 1)};
 }
 
 void frmSieve::Command5_Click()

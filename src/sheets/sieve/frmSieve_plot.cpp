@@ -14,9 +14,8 @@ namespace {
 
 constexpr int kDecades = 4;
 constexpr int kTens = 10;
-constexpr double kAxisSize = 14;    // points
 constexpr double kTitleLeft = 130;  // of the turned title
-constexpr double kLabelGap = 60;    // between plot and percentages
+constexpr double kPercentRoom = 60;
 constexpr std::string_view kSizeTitle = "Grain Size , mm";
 constexpr std::string_view kPassingTitle = "Percent Passing (%)";
 
@@ -40,11 +39,6 @@ constexpr std::array kSieveTicks{
     SieveTick{"#4", "#4"},    SieveTick{"#10", "#10"},      SieveTick{"#20", "#20"},      SieveTick{"#40", "#40"},
     SieveTick{"#60", "#60"},  SieveTick{"#100", "#100"},    SieveTick{"#140", "#140"},    SieveTick{"#200", "#200"},
 };
-
-double DecimalLogarithm(double value)
-{
-    return Log(value) / Log(10);
-}
 
 /// A whole number of twips, as an integer division gives it.
 double WholePart(double length, int parts)
@@ -78,29 +72,23 @@ void frmSieve::DrawGrainSizeGrid()
 
 void frmSieve::DrawSizeLines(const GrainSizeScale& scale)
 {
-    const auto [left, top] = InsetOf(picGraph, picgraph1);
     for (int decade = 0; decade < kDecades; ++decade) {
         for (int part = 1; part < 10; ++part) {
             const double x = scale.decade * (decade + 1 - DecimalLogarithm(part));
             picGraph.Line(x, 0, x, scale.height, kGridGrey);
         }
     }
-    for (int bound = 0; bound <= kDecades; ++bound) {
-        const std::string_view label = kSizeLabels[static_cast<std::size_t>(bound)];
-        PrintAt(picgraph1, left + bound * scale.decade - picgraph1.TextWidth(label) / 2, top + scale.height + 40,
-                label);
-    }
+    for (int bound = 0; bound <= kDecades; ++bound)
+        PrintBelow(picgraph1, picGraph, bound * scale.decade, scale.height,
+                   kSizeLabels[static_cast<std::size_t>(bound)]);
 }
 
 void frmSieve::DrawPercentLines(const GrainSizeScale& scale)
 {
-    const auto [left, top] = InsetOf(picGraph, picgraph1);
     for (int percent = 0; percent <= 100; percent += 10) {
         const double y = scale.Y(percent);
         picGraph.Line(0, y, picGraph.Width, y, kGridGrey);
-        const std::string label = NumberText(static_cast<double>(percent));
-        PrintAt(picgraph1, left - kLabelGap - picgraph1.TextWidth(label), top + y - picgraph1.TextHeight(label) / 2,
-                label);
+        PrintLeftOf(picgraph1, picGraph, y, NumberText(static_cast<double>(percent)), kPercentRoom);
     }
 }
 

@@ -1,6 +1,6 @@
 #include "sheets/specific/frmSpecific.h"
 
-#include <algorithm>
+#include "sheets/pattern/grids.h"
 
 namespace terravane {
 
@@ -19,21 +19,15 @@ frmSpecific::frmSpecific(Program& owner)
 {
     picgraph1.Container = &picGraph;
     WireEvents();
-    ChainFocus(kHeadBlockSteps);
+    ChainFocus(kHeadBlockWay);
 }
 
 void frmSpecific::WireEvents()
 {
-    Command(cmdgraph, [this] { cmdgraph_Click(); });
-    cmdgraph.MouseMove = [] {};  // takes the hand, keeps its colour
+    cmdgraph.Click = [this] { cmdgraph_Click(); };
     for (OptionButton* option : {&optAut, &optExp, &optLin, &optPol}) option->Click = [this] { optFit_Click(); };
-    SSTData.TabChanged = [this](int) { HideEditors(*this); };
-    MSHCalibration.MouseDown = [this](MouseButton button, int row, int column) {
-        if (button == MouseButton::Left) txtData.PressLeft(row, std::max<int>(column, calibration::FlaskAndWater));
-    };
-    MSHSpecific.MouseDown = [this](MouseButton button, int row, int column) {
-        if (button == MouseButton::Left) txtData1.PressLeft(row, std::max(column, 1));
-    };
+    OpenByMouse(txtData);
+    OpenByMouse(txtData1);
 }
 
 void frmSpecific::Form_Load()
@@ -52,10 +46,8 @@ void frmSpecific::BuildGrids()
                               "Specific Gravity at 20 Degree Celsius, Gs", "Average Specific Gravity, Gs(avg)"});
     MSHSpecific.SetColumnTitles({"Trial No.", "1", "2", "3"});
     MSHSpecific.SetColumnWidth(0, kTitleWidth);
-    for (const int row :
-         {gravity::FlaskAndWater, gravity::DrySoil, gravity::Correction, gravity::Gravity, gravity::Average}) {
-        MSHSpecific.MarkCalculatedRow(row);
-    }
+    MSHSpecific.MarkCalculatedRow(gravity::FlaskAndWater);
+    MarkCalculatedFrom(MSHSpecific, gravity::DrySoil);
 }
 
 void frmSpecific::optFit_Click()

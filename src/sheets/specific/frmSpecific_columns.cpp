@@ -10,14 +10,10 @@ namespace {
 
 using enum ColumnPlace::Kind;
 
-constexpr std::array kCalibrationPlaces{
-    ColumnPlace{"date", "DTPDate"},
-    ColumnPlace{"soil", "txtSoil"},
-    ColumnPlace{"test", "cboTest"},
-    ColumnPlace{"check", "cboCheck"},
+constexpr auto kCalibrationPlaces = BehindGeneralData(std::array{
     ColumnPlace{"temp1", "MSHCalibration", GridLine, calibration::Temperature},
     ColumnPlace{"fwater", "MSHCalibration", GridLine, calibration::FlaskAndWater},
-};
+});
 
 constexpr std::array kTrialPlaces{
     ColumnPlace{"temp2", "MSHSpecific", GridRow, gravity::Temperature},

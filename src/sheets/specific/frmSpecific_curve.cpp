@@ -12,9 +12,7 @@ namespace terravane {
 
 namespace {
 
-constexpr double kAxisSize = 11;         // points
 constexpr double kTurnedTitleLeft = 50;  // left of the widest mass label
-constexpr double kTickRoom = 40;         // twips between the plot and its labels
 constexpr double kFrameRoom = 120;       // from the frame's right edge to the last label
 constexpr double kCurveStep = 0.1;       // °C
 constexpr double kWantedSteps = 7;       // of an axis
@@ -130,15 +128,8 @@ CalibrationScale frmSpecific::ScaleOf(const CalibrationReadings& readings) const
 /// The title beside the mass axis stands at the frame's edge: the labels need the room next to the plot.
 void frmSpecific::DrawTitles()
 {
-    constexpr std::string_view kTemperatureTitle = "Temperature (Degree Celsius)";
-    constexpr std::string_view kMassTitle = "Weight of Water + Flask (g)";
-    const auto [left, top] = InsetOf(picgraph1, picGraph);
-    SetFont(picGraph, kAxisFont, kAxisSize);
-    PrintAt(picGraph, left + (picgraph1.Width - picGraph.TextWidth(kTemperatureTitle)) / 2,
-            picGraph.Height - 140 - picGraph.TextHeight(kTemperatureTitle), kTemperatureTitle);
-    picGraph.PrintTurned(kMassTitle, kTurnedTitleLeft, top + (picgraph1.Height + picGraph.TextWidth(kMassTitle)) / 2);
-    SetFont(picGraph, kTickFont, kTickSize);
-    SetFont(picgraph1, kTickFont, kTickSize);
+    PrintAxisTitles(picGraph, picgraph1, "Temperature (Degree Celsius)", "Weight of Water + Flask (g)", kSmallAxisSize,
+                    kTurnedTitleLeft);
     DrawPlotBoxes(picGraph, picgraph1);
 }
 
@@ -157,13 +148,10 @@ void frmSpecific::DrawTemperatureTicks(const CalibrationScale& scale)
 
 void frmSpecific::DrawMassTicks(const CalibrationScale& scale)
 {
-    const auto [left, top] = InsetOf(picgraph1, picGraph);
-    const double lineHeight = picGraph.TextHeight("0");
     for (const double grams : scale.mass.Ticks()) {
         const double y = scale.Y(grams);
         picgraph1.Line(0, y, scale.width, y, kGridGrey);
-        const std::string label = Format(grams, kMassMask);
-        PrintAt(picGraph, left - kTickRoom - picGraph.TextWidth(label), top + y - lineHeight / 2, label);
+        PrintLeftOf(picGraph, picgraph1, y, Format(grams, kMassMask));
     }
 }
 

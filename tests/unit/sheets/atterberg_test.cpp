@@ -90,11 +90,6 @@ struct Atterberg : testing::Test {
         return sheet.txtLL.Text() + "|" + sheet.txtPL.Text() + "|" + sheet.txtPI.Text() + "|" + sheet.txtFI.Text();
     }
 
-    std::string Summary(std::string_view column, std::size_t row = 0) const
-    {
-        return lab.StoredColumn("SUMMARY", column).at(row);
-    }
-
     struct GridCount {
         int horizontal = 0, vertical = 0;
     };
@@ -106,13 +101,6 @@ struct Atterberg : testing::Test {
             if (line.pen.colour == kGridGrey) ++(line.x1 == line.x2 ? count.vertical : count.horizontal);
         }
         return count;
-    }
-
-    static std::string RowOf(const TextGrid& grid, int row)
-    {
-        std::string text = grid(row, 1);
-        for (int column = 2; column < grid.Columns(); ++column) text += "|" + grid(row, column);
-        return text;
     }
 };
 
@@ -137,9 +125,10 @@ TEST_F(Atterberg, PublishedClayOfLowPlasticity)
     Type(kClay);
     Plot();
     EXPECT_EQ(Results(), "25.01|15.07|9.94|25.48");
-    EXPECT_EQ(Summary("sum_LL") + "|" + Summary("sum_PL") + "|" + Summary("sum_PI") + "|" + Summary("sum_swelling"),
+    EXPECT_EQ(lab.Posted("sum_LL") + "|" + lab.Posted("sum_PL") + "|" + lab.Posted("sum_PI") + "|" +
+                  lab.Posted("sum_swelling"),
               Results());
-    EXPECT_EQ(Summary("sum_LL", 1), "   ") << "the other material keeps its blanks";
+    EXPECT_EQ(lab.Posted("sum_LL", 1), "   ") << "the other material keeps its blanks";
 }
 
 // Published: 45.3 and 22.7.
@@ -171,9 +160,9 @@ TEST_F(Atterberg, CrushedRockPostsIntoItsOwnRow)
     crush.MSHPL(pl::PlasticLimit, 1) = "12";
     crush.cmdPlot.SetEnabled(true);
     crush.cmdPlot.Press();
-    EXPECT_EQ(Summary("sum_LL", 1), "22.63") << "30 - 10 log(25 / 15) / log 2";
-    EXPECT_EQ(Summary("sum_swelling", 1), "33.22") << "10 / log10 2";
-    EXPECT_EQ(Summary("sum_LL", 0), "   ");
+    EXPECT_EQ(lab.Posted("sum_LL", 1), "22.63") << "30 - 10 log(25 / 15) / log 2";
+    EXPECT_EQ(lab.Posted("sum_swelling", 1), "33.22") << "10 / log10 2";
+    EXPECT_EQ(lab.Posted("sum_LL", 0), "   ");
 }
 
 TEST_F(Atterberg, FirstGapInTheBlowsEndsTheTrials)
@@ -210,7 +199,7 @@ TEST_F(Atterberg, EmptySheetCalculatesAndTheSlopeFails)
     sheet.cmdPlot.Press();
     EXPECT_EQ(LastError(), error::kOverflow) << "0/0";
     EXPECT_EQ(Results(), "|||");
-    EXPECT_EQ(Summary("sum_LL"), "   ");
+    EXPECT_EQ(lab.Posted("sum_LL"), "   ");
 }
 
 TEST_F(Atterberg, PlotWaitsForCalculate)
@@ -244,7 +233,7 @@ TEST_F(Atterberg, WithoutAThreadTheLiquidLimitStandsAlone)
     Plot();
     EXPECT_EQ(LastError(), error::kOverflow) << "0/0 threads";
     EXPECT_EQ(Results(), "36.33|||");
-    EXPECT_EQ(Summary("sum_LL"), "   ") << "nothing is posted";
+    EXPECT_EQ(lab.Posted("sum_LL"), "   ") << "nothing is posted";
 }
 
 TEST_F(Atterberg, DryMassOfZeroStopsCalculate)
@@ -291,7 +280,7 @@ TEST_F(Atterberg, PlasticityIndexStaysWhereALimitIsZero)
     sheet.MSHPL(pl::PlasticLimit, 1) = "0.00";
     sheet.cmdPlot.Press();
     EXPECT_EQ(Results(), "22.63|0.00|as before|33.22");
-    EXPECT_EQ(Summary("sum_PI"), "as before");
+    EXPECT_EQ(lab.Posted("sum_PI"), "as before");
 }
 
 TEST_F(Atterberg, PlasticityIndexMayBeNegative)
@@ -311,7 +300,7 @@ TEST_F(Atterberg, PlasticityIndexTooLongForTheSummaryIsNotPosted)
     ASSERT_EQ(lab.ask.errors.size(), 1u);
     EXPECT_LT(lab.ask.errors.back().number, 0) << "the store's own error";
     EXPECT_EQ(Results(), "100.13|100.11|0.019999999999996|0.00") << "the boxes keep their texts";
-    EXPECT_EQ(Summary("sum_LL"), "   ");
+    EXPECT_EQ(lab.Posted("sum_LL"), "   ");
 }
 
 TEST_F(Atterberg, RisingLineHasANegativeFlowIndex)

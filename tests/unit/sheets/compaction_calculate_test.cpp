@@ -7,7 +7,9 @@
 namespace terravane {
 namespace {
 
+using namespace compaction;
 using support::Laboratory;
+using support::RowOf;
 using support::SetMould;
 using support::Trial;
 using support::TypeTrial;
@@ -16,14 +18,6 @@ using support::Untrapped;
 
 constexpr const char* kBlank = "     ";
 constexpr Trial kTrial{"A1", "140", "130", "15", "8", "3552", "1876"};
-
-/// The cells of a grid's row from column 1, "a|b|c".
-std::string RowOf(TextGrid& grid, int row)
-{
-    std::string text;
-    for (int column = 1; column < grid.Columns(); ++column) text += (column == 1 ? "" : "|") + grid(row, column).Text();
-    return text;
-}
 
 struct CompactionCalculate : testing::Test {
     Laboratory lab;
@@ -37,9 +31,9 @@ TEST_F(CompactionCalculate, DryDensityComesFromTheFiguresAsShown)
     SetMould(sheet);
     TypeTrial(sheet, 1, kTrial);
     sheet.cmdCal.Press();
-    EXPECT_EQ(sheet.MSHWt(wt::Water, 1), "10.00");
-    EXPECT_EQ(sheet.MSHWt(wt::DrySoil, 1), "115.00");
-    EXPECT_EQ(sheet.MSHWt(wt::WaterContent, 1), "8.70");
+    EXPECT_EQ(sheet.MSHWt(water::Water, 1), "10.00");
+    EXPECT_EQ(sheet.MSHWt(water::DrySoil, 1), "115.00");
+    EXPECT_EQ(sheet.MSHWt(water::WaterContent, 1), "8.70");
     EXPECT_EQ(sheet.MSHDensity(density::WaterContent, 1), "8.70");
     EXPECT_EQ(sheet.MSHDensity(density::WetSoil, 1), "1676.00");
     EXPECT_EQ(sheet.MSHDensity(density::WetDensity, 1), "1.78");
@@ -52,7 +46,7 @@ TEST_F(CompactionCalculate, OpensTheCurvesTab)
     EXPECT_FALSE(sheet.SSTData.TabEnabled(1)) << "Nothing has been calculated yet.";
     sheet.cmdCal.Press();
     EXPECT_TRUE(sheet.SSTData.TabEnabled(1)) << "An empty sheet calculates, too.";
-    for (int row = wt::Water; row <= wt::WaterContent; ++row) {
+    for (int row = water::Water; row <= water::WaterContent; ++row) {
         EXPECT_EQ(RowOf(sheet.MSHWt, row), "     |     |     |     |     |     ");
     }
     for (int row = density::WaterContent; row <= density::DryDensity; ++row) {
@@ -65,9 +59,9 @@ TEST_F(CompactionCalculate, ShowsTheWetMassWhereNothingElseWasWeighed)
     SetMould(sheet);
     TypeTrial(sheet, 1, {"A1", "140", "", "", "", "", ""});
     sheet.cmdCal.Press();
-    EXPECT_EQ(sheet.MSHWt(wt::Water, 1), "140.00") << "140 less nothing.";
-    EXPECT_EQ(sheet.MSHWt(wt::DrySoil, 1), kBlank);
-    EXPECT_EQ(sheet.MSHWt(wt::WaterContent, 1), kBlank);
+    EXPECT_EQ(sheet.MSHWt(water::Water, 1), "140.00") << "140 less nothing.";
+    EXPECT_EQ(sheet.MSHWt(water::DrySoil, 1), kBlank);
+    EXPECT_EQ(sheet.MSHWt(water::WaterContent, 1), kBlank);
     EXPECT_EQ(sheet.MSHDensity(density::WetSoil, 1), kBlank) << "No mould, no density.";
 }
 
@@ -75,9 +69,9 @@ TEST_F(CompactionCalculate, ShowsDrySoilAndNoWaterWhereOnlyTheDryMassWasTyped)
 {
     TypeTrial(sheet, 1, {"A1", "", "130", "15", "", "", ""});
     sheet.cmdCal.Press();
-    EXPECT_EQ(sheet.MSHWt(wt::Water, 1), kBlank);
-    EXPECT_EQ(sheet.MSHWt(wt::DrySoil, 1), "115.00");
-    EXPECT_EQ(sheet.MSHWt(wt::WaterContent, 1), "0.00") << "Nothing of 115 g is 0 %.";
+    EXPECT_EQ(sheet.MSHWt(water::Water, 1), kBlank);
+    EXPECT_EQ(sheet.MSHWt(water::DrySoil, 1), "115.00");
+    EXPECT_EQ(sheet.MSHWt(water::WaterContent, 1), "0.00") << "Nothing of 115 g is 0 %.";
 }
 
 // Can and dry soil of one mass leave no dry soil: 0.00, which reads 0, so that nothing is divided by it.
@@ -85,8 +79,8 @@ TEST_F(CompactionCalculate, LeavesTheWaterContentBlankWithoutDrySoil)
 {
     TypeTrial(sheet, 1, {"A1", "20", "15", "15", "", "", ""});
     sheet.cmdCal.Press();
-    EXPECT_EQ(sheet.MSHWt(wt::DrySoil, 1), "0.00");
-    EXPECT_EQ(sheet.MSHWt(wt::WaterContent, 1), kBlank);
+    EXPECT_EQ(sheet.MSHWt(water::DrySoil, 1), "0.00");
+    EXPECT_EQ(sheet.MSHWt(water::WaterContent, 1), kBlank);
     EXPECT_TRUE(lab.ask.errors.empty());
 }
 
@@ -137,8 +131,8 @@ TEST_F(CompactionCalculate, ReadsTheNumberAtTheHeadOfAText)
     SetMould(sheet, "11.64 cm", "10.16cm");
     TypeTrial(sheet, 1, {"A1", "140g", "130 g", "15", "", "3552g", "1876 g"});
     sheet.cmdCal.Press();
-    EXPECT_EQ(sheet.MSHWt(wt::WetAndCan, 1), "140g") << "What is no number stays as typed.";
-    EXPECT_EQ(sheet.MSHWt(wt::WaterContent, 1), "8.70");
+    EXPECT_EQ(sheet.MSHWt(water::WetAndCan, 1), "140g") << "What is no number stays as typed.";
+    EXPECT_EQ(sheet.MSHWt(water::WaterContent, 1), "8.70");
     EXPECT_EQ(sheet.MSHDensity(density::DryDensity, 1), "1.64");
 }
 
@@ -147,8 +141,8 @@ TEST_F(CompactionCalculate, ReadsLettersAsNothing)
     SetMould(sheet);
     TypeTrial(sheet, 1, {"A1", "abc", "130", "15", "", "3552", "x"});
     sheet.cmdCal.Press();
-    EXPECT_EQ(sheet.MSHWt(wt::Water, 1), kBlank);
-    EXPECT_EQ(sheet.MSHWt(wt::WaterContent, 1), "0.00");
+    EXPECT_EQ(sheet.MSHWt(water::Water, 1), kBlank);
+    EXPECT_EQ(sheet.MSHWt(water::WaterContent, 1), "0.00");
     EXPECT_EQ(sheet.MSHDensity(density::WetSoil, 1), kBlank) << "A mould of no number is no mould.";
 }
 
@@ -166,10 +160,10 @@ TEST_F(CompactionCalculate, BlanksWhatTheLastOneWrote)
     TypeTrial(sheet, 1, kTrial);
     sheet.cmdCal.Press();
     support::TypeCell(sheet.txtData1, density::Mould, 1, "");
-    support::TypeCell(sheet.txtData, wt::WetAndCan, 1, "");
-    support::TypeCell(sheet.txtData, wt::DryAndCan, 1, "");
+    support::TypeCell(sheet.txtData, water::WetAndCan, 1, "");
+    support::TypeCell(sheet.txtData, water::DryAndCan, 1, "");
     sheet.cmdCal.Press();
-    EXPECT_EQ(sheet.MSHWt(wt::WaterContent, 1), kBlank);
+    EXPECT_EQ(sheet.MSHWt(water::WaterContent, 1), kBlank);
     EXPECT_EQ(sheet.MSHDensity(density::DryDensity, 1), kBlank);
 }
 
@@ -180,9 +174,9 @@ TEST_F(CompactionCalculate, ReducesASandyClay)
     SetMould(sheet, "12.5", "10.0");
     TypeTrials(sheet, support::kSandyClay);
     sheet.cmdCal.Press();
-    EXPECT_EQ(RowOf(sheet.MSHWt, wt::Water), "0.65|1.10|1.08|1.49|1.46|     ");
-    EXPECT_EQ(RowOf(sheet.MSHWt, wt::DrySoil), "5.65|7.77|6.98|9.02|6.24|     ");
-    EXPECT_EQ(RowOf(sheet.MSHWt, wt::WaterContent), "11.50|14.16|15.47|16.52|23.40|     ");
+    EXPECT_EQ(RowOf(sheet.MSHWt, water::Water), "0.65|1.10|1.08|1.49|1.46|     ");
+    EXPECT_EQ(RowOf(sheet.MSHWt, water::DrySoil), "5.65|7.77|6.98|9.02|6.24|     ");
+    EXPECT_EQ(RowOf(sheet.MSHWt, water::WaterContent), "11.50|14.16|15.47|16.52|23.40|     ");
     EXPECT_EQ(RowOf(sheet.MSHDensity, density::WetDensity), "1.74|1.97|2.12|2.09|2.01|     ");
     EXPECT_EQ(RowOf(sheet.MSHDensity, density::DryDensity), "1.56|1.73|1.84|1.79|1.63|     ");
 }
@@ -195,7 +189,7 @@ TEST_F(CompactionCalculate, ReducesCrushedRockInAllSixColumns)
     TypeTrials(sheet, support::kCrushedRock);
     sheet.cmdCal.Press();
     EXPECT_EQ(RowOf(sheet.MSHDensity, density::Mould), "6480|6480|6480|6480|6480|6480");
-    EXPECT_EQ(RowOf(sheet.MSHWt, wt::WaterContent), "3.10|4.20|5.31|6.40|7.50|8.60");
+    EXPECT_EQ(RowOf(sheet.MSHWt, water::WaterContent), "3.10|4.20|5.31|6.40|7.50|8.60");
     EXPECT_EQ(RowOf(sheet.MSHDensity, density::DryDensity), "1.96|2.04|2.12|2.15|2.13|2.07");
 }
 

@@ -8,6 +8,7 @@
 namespace terravane {
 namespace {
 
+using namespace compaction;
 using support::Laboratory;
 
 struct Point {

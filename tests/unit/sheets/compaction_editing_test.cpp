@@ -6,6 +6,7 @@
 namespace terravane {
 namespace {
 
+using namespace compaction;
 using support::Laboratory;
 using support::TypeCell;
 using support::Untrapped;
@@ -15,63 +16,58 @@ struct CompactionEditing : testing::Test {
     frmCompaction& sheet = lab.OpenSheet();
 };
 
+/// A text typed into a cell, and what stands there afterwards.
+struct Typed {
+    int row, trial;
+    std::string_view text, shown;
+};
+
+/// All cells are typed before any is looked at.
+void ExpectShown(CellEditor& editor, const std::vector<Typed>& cells)
+{
+    for (const Typed& cell : cells) TypeCell(editor, cell.row, cell.trial, cell.text);
+    for (const Typed& cell : cells)
+        EXPECT_EQ(editor.Grid()(cell.row, cell.trial), cell.shown) << '"' << cell.text << "\" was typed.";
+}
+
+// Halves go away from zero.
 TEST_F(CompactionEditing, ShowsMassesToAHundredthAndCanNumbersAsTyped)
 {
-    TypeCell(sheet.txtData, wt::CanNumber, 1, "  12 ");
-    TypeCell(sheet.txtData, wt::WetAndCan, 1, " 12 ");
-    TypeCell(sheet.txtData, wt::DryAndCan, 1, "12.005");
-    TypeCell(sheet.txtData, wt::Can, 1, "-.5");
-    EXPECT_EQ(sheet.MSHWt(wt::CanNumber, 1), "12");
-    EXPECT_EQ(sheet.MSHWt(wt::WetAndCan, 1), "12.00");
-    EXPECT_EQ(sheet.MSHWt(wt::DryAndCan, 1), "12.01") << "Halves go away from zero.";
-    EXPECT_EQ(sheet.MSHWt(wt::Can, 1), "-0.50");
+    ExpectShown(sheet.txtData, {{water::CanNumber, 1, "  12 ", "12"},
+                                {water::WetAndCan, 1, " 12 ", "12.00"},
+                                {water::DryAndCan, 1, "12.005", "12.01"},
+                                {water::Can, 1, "-.5", "-0.50"}});
 }
 
 TEST_F(CompactionEditing, LeavesATextThatIsNoNumber)
 {
-    TypeCell(sheet.txtData, wt::WetAndCan, 1, "85.32g");
-    TypeCell(sheet.txtData, wt::DryAndCan, 1, "-");
-    TypeCell(sheet.txtData, wt::Can, 1, "  ");
-    TypeCell(sheet.txtData, wt::CanNumber, 2, "กระป๋อง");
-    EXPECT_EQ(sheet.MSHWt(wt::WetAndCan, 1), "85.32g");
-    EXPECT_EQ(sheet.MSHWt(wt::DryAndCan, 1), "-");
-    EXPECT_EQ(sheet.MSHWt(wt::Can, 1), "") << "An emptied cell is empty.";
-    EXPECT_EQ(sheet.MSHWt(wt::CanNumber, 2), "กระป๋อง");
+    ExpectShown(sheet.txtData, {{water::WetAndCan, 1, "85.32g", "85.32g"},
+                                {water::DryAndCan, 1, "-", "-"},
+                                {water::Can, 1, "  ", ""},
+                                {water::CanNumber, 2, "กระป๋อง", "กระป๋อง"}});
 }
 
 TEST_F(CompactionEditing, KeepsMouldMassesAsTyped)
 {
-    TypeCell(sheet.txtData1, density::AssumedWater, 1, " 8 ");
-    TypeCell(sheet.txtData1, density::WetAndMould, 1, "12");
-    TypeCell(sheet.txtData1, density::Mould, 1, "1876.0");
-    EXPECT_EQ(sheet.MSHDensity(density::AssumedWater, 1), "8");
-    EXPECT_EQ(sheet.MSHDensity(density::WetAndMould, 1), "12");
-    EXPECT_EQ(sheet.MSHDensity(density::Mould, 1), "1876.0");
+    ExpectShown(sheet.txtData1, {{density::AssumedWater, 1, " 8 ", "8"},
+                                 {density::WetAndMould, 1, "12", "12"},
+                                 {density::Mould, 1, "1876.0", "1876.0"}});
 }
 
 TEST_F(CompactionEditing, TakesTheMouldOfTheTrialBeforeForADittoMark)
 {
-    TypeCell(sheet.txtData1, density::Mould, 1, "1876");
-    TypeCell(sheet.txtData1, density::Mould, 2, " / ");
-    TypeCell(sheet.txtData1, density::Mould, 3, "/");
-    TypeCell(sheet.txtData1, density::Mould, 4, "//");
-    EXPECT_EQ(sheet.MSHDensity(density::Mould, 2), "1876");
-    EXPECT_EQ(sheet.MSHDensity(density::Mould, 3), "1876");
-    EXPECT_EQ(sheet.MSHDensity(density::Mould, 4), "//");
+    ExpectShown(sheet.txtData1, {{density::Mould, 1, "1876", "1876"},
+                                 {density::Mould, 2, " / ", "1876"},
+                                 {density::Mould, 3, "/", "1876"},
+                                 {density::Mould, 4, "//", "//"}});
 }
 
 TEST_F(CompactionEditing, KnowsADittoOnlyForMouldsBehindTheFirst)
 {
-    TypeCell(sheet.txtData1, density::Mould, 1, "/");
-    TypeCell(sheet.txtData1, density::WetAndMould, 2, "/");
-    TypeCell(sheet.txtData1, density::AssumedWater, 2, "/");
-    TypeCell(sheet.txtData, wt::Can, 2, "/");
-    TypeCell(sheet.txtData, wt::CanNumber, 2, "/");
-    EXPECT_EQ(sheet.MSHDensity(density::Mould, 1), "/");
-    EXPECT_EQ(sheet.MSHDensity(density::WetAndMould, 2), "/");
-    EXPECT_EQ(sheet.MSHDensity(density::AssumedWater, 2), "/");
-    EXPECT_EQ(sheet.MSHWt(wt::Can, 2), "/");
-    EXPECT_EQ(sheet.MSHWt(wt::CanNumber, 2), "/");
+    ExpectShown(
+        sheet.txtData1,
+        {{density::Mould, 1, "/", "/"}, {density::WetAndMould, 2, "/", "/"}, {density::AssumedWater, 2, "/", "/"}});
+    ExpectShown(sheet.txtData, {{water::Can, 2, "/", "/"}, {water::CanNumber, 2, "/", "/"}});
     support::SetMould(sheet);
     sheet.cmdCal.Press();
     EXPECT_EQ(sheet.MSHDensity(density::DryDensity, 1), "     ") << "The mark reads 0: no mould.";
@@ -142,11 +138,11 @@ TEST_F(CompactionEditing, ErasesATrialAfterAsking)
 
 TEST_F(CompactionEditing, KeepsATrialWhenTheQuestionIsCancelled)
 {
-    TypeCell(sheet.txtData, wt::CanNumber, 1, "A1");
+    TypeCell(sheet.txtData, water::CanNumber, 1, "A1");
     lab.ask.answer = MessageAnswer::Cancel;
     sheet.MSHWt.PressMouse(MouseButton::Right, 1, 1);
     EXPECT_EQ(lab.ask.messages.size(), 1U);
-    EXPECT_EQ(sheet.MSHWt(wt::CanNumber, 1), "A1");
+    EXPECT_EQ(sheet.MSHWt(water::CanNumber, 1), "A1");
 }
 
 TEST_F(CompactionEditing, AsksNothingOnTheDensityGrid)

@@ -9,6 +9,7 @@
 namespace terravane {
 namespace {
 
+using namespace compaction;
 using support::Laboratory;
 using TestKind = terravane::Test;  // inside a test "Test" is the test
 using Texts = std::vector<std::string>;
@@ -278,7 +279,7 @@ TEST_F(CompactionPlot, FailsAtALineWithoutSpecificGravityBeforePosting)
     ASSERT_EQ(lab.ask.errors.size(), 1U);
     EXPECT_EQ(lab.ask.errors[0].number, error::kDivisionByZero);
     EXPECT_EQ(sheet->txtOMC.Text(), "15.5") << "The boxes had been written.";
-    EXPECT_EQ(lab.StoredColumn("SUMMARY", "sum_omcS")[0], "   ") << "Nothing had been posted.";
+    EXPECT_EQ(lab.Posted("sum_omcS"), "   ") << "Nothing had been posted.";
     EXPECT_EQ(ItemsOf<CircleItem>(sheet->picGraph).size(), 5U) << "The picture stands half drawn.";
 }
 
@@ -328,8 +329,8 @@ TEST_F(CompactionPlot, PostsToTheColumnsOfTheTestInTheRowOfTheMaterial)
         lab.Change("UPDATE SUMMARY Set sum_omcS ='-', sum_mddS ='-', sum_omcM ='-', sum_mddM ='-'");
         Open(kind.test, kind.material);
         sheet->cmdOMC.Press();
-        EXPECT_EQ(lab.StoredColumn("SUMMARY", kind.omc)[kind.row], "15.5");
-        EXPECT_EQ(lab.StoredColumn("SUMMARY", kind.mdd)[kind.row], "1.84");
+        EXPECT_EQ(lab.Posted(kind.omc, kind.row), "15.5");
+        EXPECT_EQ(lab.Posted(kind.mdd, kind.row), "1.84");
         int posted = 0;
         for (const Texts& row : lab.Stored("SUMMARY")) posted += static_cast<int>(std::ranges::count(row, "15.5"));
         EXPECT_EQ(posted, 1) << "In one place and no other.";
@@ -341,9 +342,9 @@ TEST_F(CompactionPlot, PostsWhicheverMethodWasDrawnLast)
 {
     sheet->cmdOMC.Press();
     sheet->optFit.Choose();
-    EXPECT_EQ(lab.StoredColumn("SUMMARY", "sum_omcS")[0], "15.5") << "Choosing a method draws nothing.";
+    EXPECT_EQ(lab.Posted("sum_omcS"), "15.5") << "Choosing a method draws nothing.";
     sheet->cmdOMC.Press();
-    EXPECT_EQ(lab.StoredColumn("SUMMARY", "sum_omcS")[0], "15.6");
+    EXPECT_EQ(lab.Posted("sum_omcS"), "15.6");
 }
 
 TEST_F(CompactionPlot, TellsOfAFileThatIsGoneAfterDrawing)

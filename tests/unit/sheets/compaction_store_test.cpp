@@ -9,6 +9,7 @@
 namespace terravane {
 namespace {
 
+using namespace compaction;
 using support::kProject;
 using support::Laboratory;
 using support::TypeCell;
@@ -19,8 +20,6 @@ struct CompactionStore : testing::Test {
     Laboratory lab;
 
     void Save(frmCompaction& sheet) { sheet.tblMenu.Press(1); }
-
-    int OnlyError() const { return lab.ask.errors.size() == 1 ? lab.ask.errors[0].number : 0; }
 };
 
 struct Kind {
@@ -146,16 +145,16 @@ TEST_F(CompactionStore, BringsBackTheReadingsAndNotTheResults)
         EXPECT_EQ(sheet.cboLayer.Text(), "3");
         EXPECT_EQ(sheet.cboWt.Text(), "2.5 kg");
         EXPECT_EQ(sheet.txtGs.Text(), "2.71");
-        EXPECT_EQ(sheet.MSHWt(wt::CanNumber, 6), "ก-6-9");
-        EXPECT_EQ(sheet.MSHWt(wt::WetAndCan, 1), "61.11");
-        EXPECT_EQ(sheet.MSHWt(wt::DryAndCan, 2), "52.22");
-        EXPECT_EQ(sheet.MSHWt(wt::Can, 3), "13.33");
+        EXPECT_EQ(sheet.MSHWt(water::CanNumber, 6), "ก-6-9");
+        EXPECT_EQ(sheet.MSHWt(water::WetAndCan, 1), "61.11");
+        EXPECT_EQ(sheet.MSHWt(water::DryAndCan, 2), "52.22");
+        EXPECT_EQ(sheet.MSHWt(water::Can, 3), "13.33");
         EXPECT_EQ(sheet.MSHDensity(density::AssumedWater, 4), "4.5");
         EXPECT_EQ(sheet.MSHDensity(density::WetAndMould, 5), "3500.4");
         EXPECT_EQ(sheet.MSHDensity(density::Mould, 6), "1460.5");
         EXPECT_EQ(sheet.txtOMC.Text(), "") << "Results wait for the next plot.";
         EXPECT_EQ(sheet.txtDmax.Text(), "");
-        EXPECT_EQ(sheet.MSHWt(wt::WaterContent, 1), "") << "Calculated cells wait for Calculate.";
+        EXPECT_EQ(sheet.MSHWt(water::WaterContent, 1), "") << "Calculated cells wait for Calculate.";
         EXPECT_EQ(sheet.MSHDensity(density::DryDensity, 1), "");
         EXPECT_FALSE(sheet.SSTData.TabEnabled(1));
     }
@@ -168,7 +167,7 @@ TEST_F(CompactionStore, TrimsListsButNotTheHead)
     frmCompaction& sheet = lab.OpenSheet();
     EXPECT_EQ(sheet.txtClient.Text(), "  A client ");
     EXPECT_EQ(sheet.txtSoil.Text(), " S-1 ");
-    EXPECT_EQ(sheet.MSHWt(wt::CanNumber, 1), "A1");
+    EXPECT_EQ(sheet.MSHWt(water::CanNumber, 1), "A1");
     EXPECT_EQ(sheet.MSHDensity(density::Mould, 1), "1876");
 }
 
@@ -183,7 +182,7 @@ TEST_F(CompactionStore, FailsOnAStoredDateThatIsNone)
 {
     lab.Change("UPDATE STDSOIL Set std_date ='some day' Where std_ID =' 1'");
     frmCompaction& sheet = lab.OpenSheet();
-    EXPECT_EQ(OnlyError(), error::kTypeMismatch);
+    EXPECT_EQ(lab.OnlyError(), error::kTypeMismatch);
     EXPECT_EQ(sheet.DTPDate.Text(), "21/11/2026") << "The picker keeps today.";
 }
 
@@ -219,7 +218,7 @@ TEST_F(CompactionStore, ForgetsTheStoredResultsWhereASheetIsSavedWithoutAPlot)
     lab.Change("UPDATE SUMMARY Set sum_omcS ='12.3' Where sum_ID =' 1'");
     Save(lab.OpenSheet());
     EXPECT_EQ(lab.StoredColumn("STDSOIL", "std_omc"), Texts(6, ""));
-    EXPECT_EQ(lab.StoredColumn("SUMMARY", "sum_omcS")[0], "12.3") << "What was posted stays posted.";
+    EXPECT_EQ(lab.Posted("sum_omcS"), "12.3") << "What was posted stays posted.";
 }
 
 TEST_F(CompactionStore, StopsAtAnApostropheBehindTheHead)
@@ -228,12 +227,12 @@ TEST_F(CompactionStore, StopsAtAnApostropheBehindTheHead)
     FillEverything(sheet);
     sheet.txtSoil.Type("O'Hara pit");
     Save(sheet);
-    EXPECT_EQ(OnlyError(), jet::engine::kSyntax);
+    EXPECT_EQ(lab.OnlyError(), jet::engine::kSyntax);
     EXPECT_EQ(lab.ask.errors[0].event, "frmCompaction.tblMenu_ButtonClick");
     EXPECT_EQ(lab.StoredColumn("HEAD", "project_client")[0], "กรมทางหลวง") << "The head had been written.";
     EXPECT_EQ(lab.StoredColumn("STDSOIL", "std_can"), Texts(6, "   ")) << "No trial was.";
     EXPECT_EQ(sheet.txtSoil.Text(), "O'Hara pit") << "The sheet keeps what was typed.";
-    EXPECT_EQ(sheet.MSHWt(wt::CanNumber, 1), "ก-1-9");
+    EXPECT_EQ(sheet.MSHWt(water::CanNumber, 1), "ก-1-9");
 }
 
 TEST_F(CompactionStore, StopsAtAnApostropheInTheHeadBeforeAnything)
@@ -243,7 +242,7 @@ TEST_F(CompactionStore, StopsAtAnApostropheInTheHeadBeforeAnything)
     sheet.txtClient.Type("Surat's Dept.");
     const auto before = lab.files.Content(std::string(kProject));
     Save(sheet);
-    EXPECT_EQ(OnlyError(), jet::engine::kSyntax);
+    EXPECT_EQ(lab.OnlyError(), jet::engine::kSyntax);
     EXPECT_EQ(lab.files.Content(std::string(kProject)), before);
 }
 
@@ -252,9 +251,9 @@ TEST_F(CompactionStore, StopsAtATextThatIsTooLongAndKeepsTheTrialsBefore)
 {
     frmCompaction& sheet = lab.OpenSheet();
     FillEverything(sheet);
-    TypeCell(sheet.txtData, wt::CanNumber, 3, "123456");
+    TypeCell(sheet.txtData, water::CanNumber, 3, "123456");
     Save(sheet);
-    EXPECT_EQ(OnlyError(), jet::engine::kTextTooLong);
+    EXPECT_EQ(lab.OnlyError(), jet::engine::kTextTooLong);
     EXPECT_NE(lab.ask.errors[0].description.find("std_can"), std::string::npos) << lab.ask.errors[0];
     EXPECT_EQ(lab.StoredColumn("STDSOIL", "std_can"), (Texts{"ก-1-9", "ก-2-9", "   ", "   ", "   ", "   "}));
 }
@@ -264,7 +263,7 @@ TEST_F(CompactionStore, SaysThatTheFileIsGone)
     frmCompaction& sheet = lab.OpenSheet();
     lab.files.TakeAway(std::string(kProject));
     Save(sheet);
-    EXPECT_EQ(OnlyError(), jet::engine::kFile);
+    EXPECT_EQ(lab.OnlyError(), jet::engine::kFile);
     EXPECT_EQ(lab.ask.errors[0].description, "Could not find file '" + std::string(kProject) + "'.");
 }
 
@@ -275,7 +274,7 @@ TEST_F(CompactionStore, KeepsTheOldFileWhereTheDiskIsFull)
     const auto before = lab.files.Content(std::string(kProject));
     lab.files.FailAtStep(1, error::kDiskFull);
     Save(sheet);
-    EXPECT_EQ(OnlyError(), error::kDiskFull);
+    EXPECT_EQ(lab.OnlyError(), error::kDiskFull);
     EXPECT_EQ(lab.files.Content(std::string(kProject)), before);
     EXPECT_EQ(sheet.txtClient.Text(), "กรมทางหลวง");
     Save(sheet);

@@ -197,7 +197,7 @@ TEST_F(DensityCalculate, ACanWithoutDrySoilFails)
 TEST_F(DensityCalculate, AWaterContentOfMinusOneHundredFails)
 {
     TypeOneHole(sheet);
-    TypeCells(sheet.txtData3, water::WetAndCan, 1, {"20", "120", "20"});
+    TypeColumn(sheet.txtData3, water::WetAndCan, 1, {"20", "120", "20"});
     sheet.cmdCal.Press();
     EXPECT_EQ(lab.OnlyError(), error::kDivisionByZero);
     EXPECT_EQ(sheet.MSHWater(water::WaterContent, 1), "-100.00");

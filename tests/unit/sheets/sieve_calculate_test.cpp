@@ -6,7 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "runtime/numbers.h"
-#include "support/sieve_lab.h"
+#include "support/sieve_laboratory.h"
 
 namespace terravane {
 namespace {
@@ -15,7 +15,7 @@ using namespace support;
 using Texts = std::vector<std::string>;
 
 struct SieveCalculate : testing::Test {
-    SieveLab lab;
+    SieveLaboratory lab;
     frmSieve& sheet = lab.OpenSieve();
 
     void Calculate(const Stack& stack, std::string_view original)

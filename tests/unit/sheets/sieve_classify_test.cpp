@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "support/report_bench.h"
-#include "support/sieve_lab.h"
+#include "support/sieve_laboratory.h"
 
 namespace terravane {
 namespace {
@@ -10,7 +10,7 @@ namespace {
 using namespace support;
 
 struct SieveClassify : testing::Test {
-    SieveLab lab;
+    SieveLaboratory lab;
     frmSieve& sheet = lab.OpenSieve();
 
     /// The percentages as if they had been calculated, the command as if a plot had opened it.
@@ -26,10 +26,6 @@ struct SieveClassify : testing::Test {
         sheet.cmdClass.Press();
     }
     std::vector<CircleItem> Marks() const { return ItemsOf<CircleItem>(sheet.picChart.Items()); }
-    std::string Posted(std::string_view column, std::size_t row = 0) const
-    {
-        return lab.StoredColumn("SUMMARY", column).at(row);
-    }
 };
 
 TEST_F(SieveClassify, MissingLimitsAreAskedForAndTheBoxesKeep)
@@ -41,7 +37,7 @@ TEST_F(SieveClassify, MissingLimitsAreAskedForAndTheBoxesKeep)
     EXPECT_EQ(lab.ask.messages[0].title, "Soil Classification");
     EXPECT_EQ(lab.ask.messages[0].style, MessageStyle::Information);
     EXPECT_EQ(sheet.txtSuscs.Text(), "old");
-    EXPECT_EQ(Posted("sum_USCS"), "   ");
+    EXPECT_EQ(lab.Posted("sum_USCS"), "   ");
 }
 
 TEST_F(SieveClassify, APublishedClayeySand)
@@ -77,19 +73,19 @@ TEST_F(SieveClassify, PostsTheFractionsAndBothGroupsOfItsMaterial)
 {
     lab.program.CurrentMaterial = Material::Crush;
     Classify("86.0", "74.0", "51.0", "21.5", "25", "12");
-    EXPECT_EQ(Posted("sum_gravel", 1), " 14");
-    EXPECT_EQ(Posted("sum_sand", 1), " 64.5");
-    EXPECT_EQ(Posted("sum_finer", 1), " 21.5");
-    EXPECT_EQ(Posted("sum_USCS", 1), "SC");
-    EXPECT_EQ(Posted("sum_AASHTO", 1), "A-2-6(0)");
-    EXPECT_EQ(Posted("sum_USCS", 0), "   ");
+    EXPECT_EQ(lab.Posted("sum_gravel", 1), " 14");
+    EXPECT_EQ(lab.Posted("sum_sand", 1), " 64.5");
+    EXPECT_EQ(lab.Posted("sum_finer", 1), " 21.5");
+    EXPECT_EQ(lab.Posted("sum_USCS", 1), "SC");
+    EXPECT_EQ(lab.Posted("sum_AASHTO", 1), "A-2-6(0)");
+    EXPECT_EQ(lab.Posted("sum_USCS", 0), "   ");
 }
 
 TEST_F(SieveClassify, FractionsBelowOneLoseTheZeroAndNegativeOnesKeepTheSign)
 {
     Classify("99.5", "90", "80", "99.8", "60", "20");
-    EXPECT_EQ(Posted("sum_gravel"), " .5");
-    EXPECT_EQ(Posted("sum_sand"), "-.3");
+    EXPECT_EQ(lab.Posted("sum_gravel"), " .5");
+    EXPECT_EQ(lab.Posted("sum_sand"), "-.3");
 }
 
 // LL 32 and PI 14 on columns of 600 and rows of 600 twips: x 1920, y 4200 - 840.
@@ -119,7 +115,7 @@ TEST_F(SieveClassify, AnUnreadD10OfFewFinesFailsAndTheBoxesKeep)
     Classify("100", "90", "60", "12", "25", "12");
     EXPECT_EQ(lab.OnlyError(), 6);
     EXPECT_EQ(sheet.txtSuscs.Text(), "SC");
-    EXPECT_EQ(Posted("sum_finer"), " 21");
+    EXPECT_EQ(lab.Posted("sum_finer"), " 21");
     EXPECT_TRUE(Marks().empty());  // the chart had been drawn anew
 }
 
@@ -147,7 +143,7 @@ TEST_F(SieveClassify, WithoutAMaterialNothingIsPosted)
     Classify("86", "74", "51", "21", "25", "12");
     EXPECT_EQ(sheet.txtSuscs.Text(), "SC");
     EXPECT_EQ(lab.OnlyError(), 0);
-    EXPECT_EQ(Posted("sum_USCS"), "   ");
+    EXPECT_EQ(lab.Posted("sum_USCS"), "   ");
 }
 
 // 600 twips a column and a row. The A-line meets 4 at 20 + 320 / 58.4 = 25.479, 7 at 29.589.

@@ -6,7 +6,7 @@
 
 #include "runtime/numbers.h"
 #include "support/report_bench.h"
-#include "support/sieve_lab.h"
+#include "support/sieve_laboratory.h"
 
 namespace terravane {
 namespace {
@@ -14,7 +14,7 @@ namespace {
 using namespace support;
 
 struct SieveCurve : testing::Test {
-    SieveLab lab;
+    SieveLaboratory lab;
     frmSieve& sheet = lab.OpenSieve();
 
     void Plot(const Stack& stack, std::string_view original)

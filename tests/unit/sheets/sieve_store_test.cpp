@@ -1,7 +1,7 @@
 // The sieve sheet and the project file, and the state it opens in.
 #include <gtest/gtest.h>
 
-#include "support/sieve_lab.h"
+#include "support/sieve_laboratory.h"
 
 namespace terravane {
 namespace {
@@ -10,7 +10,7 @@ using namespace support;
 using Texts = std::vector<std::string>;
 
 struct SieveStore : testing::Test {
-    SieveLab lab;
+    SieveLaboratory lab;
 
     static void Save(frmSieve& sheet) { sheet.tblMenu.Press(1); }
 };

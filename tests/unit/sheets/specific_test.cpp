@@ -77,13 +77,6 @@ struct Specific : testing::Test {
         sheet.cmdCal.Press();
     }
 
-    std::string Row(int row) const
-    {
-        std::string text = sheet.MSHSpecific(row, 1).Text();
-        for (int trial = 2; trial <= kGravityTrials; ++trial) text += "|" + sheet.MSHSpecific(row, trial).Text();
-        return text;
-    }
-
     std::string LastMessage() const
     {
         if (lab.ask.messages.empty()) return "";
@@ -91,7 +84,7 @@ struct Specific : testing::Test {
         return message.title + ": " + message.text;
     }
 
-    std::string PostedGravity(std::size_t row = 0) const { return lab.StoredColumn("SUMMARY", "sum_Gs").at(row); }
+    std::string PostedGravity(std::size_t row = 0) const { return lab.Posted("sum_Gs", row); }
 };
 
 // Script: all three.
@@ -113,11 +106,11 @@ TEST_F(Specific, PublishedSilicaSand)
     Fit(sheet.optAut);
     EXPECT_TRUE(sheet.optLin.Value());
     sheet.cmdCal.Press();
-    EXPECT_EQ(Row(gravity::FlaskAndWater), "133.67||");
-    EXPECT_EQ(Row(gravity::DrySoil), "30.26||");
-    EXPECT_EQ(Row(gravity::Correction), "1.0000||");
-    EXPECT_EQ(Row(gravity::Gravity), "2.65||");
-    EXPECT_EQ(Row(gravity::Average), "2.65||");
+    EXPECT_EQ(RowOf(sheet.MSHSpecific, gravity::FlaskAndWater), "133.67||");
+    EXPECT_EQ(RowOf(sheet.MSHSpecific, gravity::DrySoil), "30.26||");
+    EXPECT_EQ(RowOf(sheet.MSHSpecific, gravity::Correction), "1.0000||");
+    EXPECT_EQ(RowOf(sheet.MSHSpecific, gravity::Gravity), "2.65||");
+    EXPECT_EQ(RowOf(sheet.MSHSpecific, gravity::Average), "2.65||");
     EXPECT_EQ(PostedGravity(), "2.65");
 }
 
@@ -131,9 +124,9 @@ TEST_F(Specific, PublishedSiltySand)
     EXPECT_EQ(Fit(sheet.optLin), " y = 65.37 + (-0.012095x); 0.9953");
     EXPECT_EQ(Fit(sheet.optPol), " y = 65.28 + (-0.004249x) + (-0.000174x^2); 0.9995");
     sheet.cmdCal.Press();
-    EXPECT_EQ(Row(gravity::FlaskAndWater), "65.15||");
-    EXPECT_EQ(Row(gravity::Correction), "1.0004||");
-    EXPECT_EQ(Row(gravity::Average), "2.68||");
+    EXPECT_EQ(RowOf(sheet.MSHSpecific, gravity::FlaskAndWater), "65.15||");
+    EXPECT_EQ(RowOf(sheet.MSHSpecific, gravity::Correction), "1.0004||");
+    EXPECT_EQ(RowOf(sheet.MSHSpecific, gravity::Average), "2.68||");
     EXPECT_NEAR(Val(PostedGravity()), 2.6805, 0.01);
 }
 
@@ -168,8 +161,8 @@ TEST_F(Specific, ATieForTheTopKeepsAutoAndThePolynomial)
     EXPECT_EQ(sheet.txtR.Text(), " 1.0000");
     Type(1, {"20", "740", "A", "100", "0"});
     sheet.cmdCal.Press();
-    EXPECT_EQ(Row(gravity::FlaskAndWater), "680.00||");
-    EXPECT_EQ(Row(gravity::Gravity), "2.50||") << "100 / (680 + 100 - 740)";
+    EXPECT_EQ(RowOf(sheet.MSHSpecific, gravity::FlaskAndWater), "680.00||");
+    EXPECT_EQ(RowOf(sheet.MSHSpecific, gravity::Gravity), "2.50||") << "100 / (680 + 100 - 740)";
 }
 
 TEST_F(Specific, AnotherModelNeedsAnotherPlot)
@@ -182,7 +175,7 @@ TEST_F(Specific, AnotherModelNeedsAnotherPlot)
     sheet.cmdCal.Press();
     EXPECT_EQ(LastMessage(), "Warning: กรุณากดปุ่ม Plot Graph Calibration ก่อน");
     EXPECT_EQ(lab.ask.messages.back().style, MessageStyle::Information);
-    EXPECT_EQ(Row(gravity::DrySoil), "||") << "nothing else happens";
+    EXPECT_EQ(RowOf(sheet.MSHSpecific, gravity::DrySoil), "||") << "nothing else happens";
     EXPECT_EQ(PostedGravity(), "   ");
 }
 
@@ -202,26 +195,27 @@ TEST_F(Specific, CurveOfTheChosenModelIsUsed)
 TEST_F(Specific, FirstTemperatureThatIsMissingEndsTheTrials)
 {
     GravitiesAt({"25", "", "30"});
-    EXPECT_EQ(Row(gravity::Correction), "0.9989||") << "0.9971 / 0.9982343 = 0.99886";
-    EXPECT_EQ(Row(gravity::Average), Row(gravity::Gravity)) << "one trial is its own mean";
+    EXPECT_EQ(RowOf(sheet.MSHSpecific, gravity::Correction), "0.9989||") << "0.9971 / 0.9982343 = 0.99886";
+    EXPECT_EQ(RowOf(sheet.MSHSpecific, gravity::Average), RowOf(sheet.MSHSpecific, gravity::Gravity))
+        << "one trial is its own mean";
 }
 
 // 100 / (690 + 100 - 752) = 2.6316 times the factor.
 TEST_F(Specific, AverageIsAPlainMean)
 {
     GravitiesAt({"20", "36", "40"});
-    EXPECT_EQ(Row(gravity::Correction), "1.0000|0.9916|0.9940");
-    EXPECT_EQ(Row(gravity::Gravity), "2.63|2.61|2.62");
-    EXPECT_EQ(Row(gravity::Average), "2.62|2.62|2.62") << "(2.63 + 2.61 + 2.62) / 3";
+    EXPECT_EQ(RowOf(sheet.MSHSpecific, gravity::Correction), "1.0000|0.9916|0.9940");
+    EXPECT_EQ(RowOf(sheet.MSHSpecific, gravity::Gravity), "2.63|2.61|2.62");
+    EXPECT_EQ(RowOf(sheet.MSHSpecific, gravity::Average), "2.62|2.62|2.62") << "(2.63 + 2.61 + 2.62) / 3";
     EXPECT_EQ(PostedGravity(), "2.62");
 }
 
 TEST_F(Specific, FortySixDegreesHaveNoDensity)
 {
     GravitiesAt({"46"});
-    EXPECT_EQ(Row(gravity::Correction), "0.0000||");
-    EXPECT_EQ(Row(gravity::Gravity), ".00||");
-    EXPECT_EQ(Row(gravity::Average), "0.00||");
+    EXPECT_EQ(RowOf(sheet.MSHSpecific, gravity::Correction), "0.0000||");
+    EXPECT_EQ(RowOf(sheet.MSHSpecific, gravity::Gravity), ".00||");
+    EXPECT_EQ(RowOf(sheet.MSHSpecific, gravity::Average), "0.00||");
     EXPECT_EQ(PostedGravity(), "0.00");
 }
 
@@ -231,14 +225,14 @@ TEST_F(Specific, GravityBelowOneHasNoZeroBeforeThePoint)
     Fit(sheet.optLin);
     Type(1, {"20", "580", "A", "100", "0"});
     sheet.cmdCal.Press();
-    EXPECT_EQ(Row(gravity::Gravity), ".50||") << "100 / (680 + 100 - 580)";
-    EXPECT_EQ(Row(gravity::Average), "0.50||");
+    EXPECT_EQ(RowOf(sheet.MSHSpecific, gravity::Gravity), ".50||") << "100 / (680 + 100 - 580)";
+    EXPECT_EQ(RowOf(sheet.MSHSpecific, gravity::Average), "0.50||");
 }
 
 TEST_F(Specific, TemperatureOfOneDigitCountsAsTens)
 {
     GravitiesAt({"9", "25.5", "25"});
-    EXPECT_EQ(Row(gravity::Correction), "0.9670|0.9989|0.9989") << "90 °C; 25 °C twice";
+    EXPECT_EQ(RowOf(sheet.MSHSpecific, gravity::Correction), "0.9670|0.9989|0.9989") << "90 °C; 25 °C twice";
 }
 
 TEST_F(Specific, TemperatureOfThreeDigitsIsNotInTheTable)
@@ -246,8 +240,8 @@ TEST_F(Specific, TemperatureOfThreeDigitsIsNotInTheTable)
     GravitiesAt({"125"});
     ASSERT_EQ(lab.ask.errors.size(), 1u);
     EXPECT_EQ(lab.ask.errors.back().number, error::kSubscriptOutOfRange);
-    EXPECT_EQ(Row(gravity::DrySoil), "100.00||");
-    EXPECT_EQ(Row(gravity::Correction), "||");
+    EXPECT_EQ(RowOf(sheet.MSHSpecific, gravity::DrySoil), "100.00||");
+    EXPECT_EQ(RowOf(sheet.MSHSpecific, gravity::Correction), "||");
 }
 
 TEST_F(Specific, NoTrialPostsTheCellAsItStands)
@@ -267,7 +261,7 @@ TEST_F(Specific, NothingDisplacedIsAnError)
     sheet.cmdCal.Press();
     ASSERT_EQ(lab.ask.errors.size(), 1u);
     EXPECT_EQ(lab.ask.errors.back(), (Untrapped{"frmSpecific.cmdCal_Click", 11, "Division by zero"}));
-    EXPECT_EQ(Row(gravity::Correction), "1.0000||") << "what came before stands";
+    EXPECT_EQ(RowOf(sheet.MSHSpecific, gravity::Correction), "1.0000||") << "what came before stands";
     EXPECT_EQ(PostedGravity(), "   ");
 }
 
@@ -322,7 +316,7 @@ TEST_F(Specific, FailedPlotLeavesTheLastCurveInForce)
     EXPECT_EQ(sheet.txtFormula.Text(), " y = 700.00 + (-1.000000x)");
     Type(1, {"20", "740", "A", "100", "0"});
     sheet.cmdCal.Press();
-    EXPECT_EQ(Row(gravity::FlaskAndWater), "680.00||");
+    EXPECT_EQ(RowOf(sheet.MSHSpecific, gravity::FlaskAndWater), "680.00||");
 }
 
 TEST_F(Specific, CurveRunsInTenthsFromTheColdestToTheWarmest)

@@ -1,7 +1,6 @@
 /// The laboratory with the sieve sheet in it, and stacks as a technician types them.
 #pragma once
 
-#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -19,25 +18,11 @@ struct SieveReading {
 };
 using Stack = std::vector<SieveReading>;
 
-struct SieveLab : Laboratory {
-    SieveLab()
-    {
-        program.AddForm("frmSieve", [](Program& owner) { return std::make_unique<frmSieve>(owner); });
-    }
-
+struct SieveLaboratory : Laboratory {
     frmSieve& OpenSieve(Material material = Material::Soil)
     {
-        program.Unload("frmSieve");
-        auto& sheet = dynamic_cast<frmSieve&>(program.Show("frmSieve"));
-        sheet.tblMenu.SetButtonEnabled(1, true);
-        program.CurrentTest = terravane::Test::SieSoil;
-        program.CurrentMaterial = material;
-        program.Run("mdiBack.tbrLab_ButtonMenuClick", [&] { LoadTestSheet(sheet); });
-        return sheet;
+        return Open<frmSieve>("frmSieve", Test::SieSoil, material);
     }
-
-    /// The number of the only error so far; 0 for none or several.
-    int OnlyError() const { return ask.errors.size() == 1 ? ask.errors[0].number : 0; }
 };
 
 inline void Choose(frmSieve& sheet, std::string_view name, bool selected = true)
