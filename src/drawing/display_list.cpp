@@ -27,9 +27,9 @@ struct Placement {
         item.font.size *= sy;
         return item;
     }
-    DrawnItem operator()(LineItem item) const { return Cornered(std::move(item)); }
-    DrawnItem operator()(BoxItem item) const { return Cornered(std::move(item)); }
-    DrawnItem operator()(FillItem item) const { return Cornered(std::move(item)); }
+    DrawnItem operator()(const LineItem& item) const { return Cornered(item); }
+    DrawnItem operator()(const BoxItem& item) const { return Cornered(item); }
+    DrawnItem operator()(const FillItem& item) const { return Cornered(item); }
     DrawnItem operator()(PolylineItem item) const
     {
         for (DrawnPoint& point : item.points) point = {X(point.x), Y(point.y)};
@@ -38,9 +38,9 @@ struct Placement {
     DrawnItem operator()(CircleItem item) const
     {
         item.radius *= sy;
-        return Centred(std::move(item));
+        return Centred(item);
     }
-    DrawnItem operator()(PointItem item) const { return Centred(std::move(item)); }
+    DrawnItem operator()(const PointItem& item) const { return Centred(item); }
     DrawnItem operator()(PictureItem item) const
     {
         item.width *= sx;

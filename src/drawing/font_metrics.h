@@ -13,9 +13,8 @@ namespace terravane {
 /// What a font that is asked for is drawn with.
 /// family        the installed family, "Loma"
 /// thaiFamily    the family for Thai characters where `family` has none, else the same
-/// unitsPerPoint twips of the em for one point of size: 12 for DilleniaUPC and Cordia New, whose letters are
-/// small for
-///               their size, 20 for the others
+/// unitsPerPoint twips of the em for one point of size: 12 for DilleniaUPC and Cordia New, whose letters are small
+///               for their size, 20 for the others
 /// lineHeight, ascent  twips a point of size
 struct FontSubstitute {
     std::string_view asked;

@@ -3,11 +3,9 @@
 #include <array>
 #include <string>
 
-#include "reports/copied_plot.h"
 #include "reports/open_sheet.h"
 #include "reports/report_table.h"
 #include "reports/signature_block.h"
-#include "runtime/text.h"
 #include "sheets/atterberg/frmAtterberg.h"
 
 namespace terravane {
@@ -16,7 +14,6 @@ namespace {
 
 using namespace std::string_view_literals;
 
-constexpr double kLabelWidth = 3000;
 constexpr double kPlotTop = 20.25;  // lines
 constexpr double kSummaryTop = 19.3;
 
@@ -31,126 +28,84 @@ constexpr std::array kPlasticLabels{
     "Plastic Limit, (%)"sv,          "Average Plastic Limit, (%)"sv,
 };
 
-/// A line of the summary box. The last label says PI, as the laboratory's form does.
-struct SummaryLine {
-    std::string_view label, control, unit;
+/// "Test No." stands where the compaction report's longer heading would be centred.
+constexpr std::string_view kHead = "Test No.", kHeadCentredAs = "Moisture Can No.";
+
+constexpr std::array kTables{
+    ReportTable{.caption = "Liquid Limit Determination",
+                .captionLine = 0,
+                .head = kHead,
+                .headCentredAs = kHeadCentredAs,
+                .columns = kLimitTrials,
+                .grid = "MSHLL",
+                .firstRow = ll::Blows,
+                .labels = kLiquidLabels,
+                .rules = RowRules::Below,
+                .verticals = {kLimitTrials}},
+    ReportTable{.caption = "Plastic Limit Determination",
+                .captionLine = 9,
+                .head = kHead,
+                .headCentredAs = kHeadCentredAs,
+                .columns = kLimitTrials,
+                .grid = "MSHPL",
+                .firstRow = pl::WetAndCan,
+                .labels = kPlasticLabels,
+                .rules = RowRules::Above,
+                .verticals = {1, 2, kLimitTrials},
+                .lastRow = LastRow::AverageAcross},
 };
 
+/// The lines of the summary box. The last label says PI, as the laboratory's form does.
 constexpr std::array kSummaryLines{
-    SummaryLine{"Liquid Limit (LL) ", "txtLL", " %"},
-    SummaryLine{"Plastic Limit (PL) ", "txtPL", " %"},
-    SummaryLine{"Plasticity Index (PI) ", "txtPI", " %"},
-    SummaryLine{"Flow Index (PI) ", "txtFI", ""},
+    ReportField{"Liquid Limit (LL) ", "txtLL", " %"},
+    ReportField{"Plastic Limit (PL) ", "txtPL", " %"},
+    ReportField{"Plasticity Index (PI) ", "txtPI", " %"},
+    ReportField{"Flow Index (PI) ", "txtFI"},
 };
 
-/// The page being drawn: its rows from the body's top, its five trial columns.
-struct AtterbergPage {
-    const frmAtterberg& sheet;
-    DrawingSurface& page;
-    PageLines y;
+/// The page being drawn, with its five trial columns.
+struct AtterbergPage : ReportPage {
     PageColumns trials;
 
-    AtterbergPage(const frmAtterberg& open, DrawingSurface& surface)
-        : sheet(open),
-          page(surface),
-          y(surface, kBodyTop),
-          trials{kLeft + kLabelWidth, (RightEdge(surface) - kLeft - kLabelWidth) / kLimitTrials}
+    AtterbergPage(const TestSheet& open, DrawingSurface& surface)
+        : ReportPage(open, surface), trials(ColumnsBeside(kLabelWidth, WholeWidth(surface), kLimitTrials))
     {}
-
-    double Right() const { return RightEdge(page); }
 };
-
-/// "Test No." stands where the compaction report's longer heading would be centred.
-void PrintHeads(const AtterbergPage& of, double line)
-{
-    of.page.FontBold = true;
-    of.page.CurrentY = of.y(line);
-    PrintFrom(of.page, kLeft + (kLabelWidth - of.page.TextWidth("Moisture Can No.")) / 2, "Test No.");
-    PrintColumnNumbers(of.page, of.trials, kLimitTrials);
-    of.page.FontBold = false;
-}
-
-/// Caption on line 0, heads on line 1, the seven rows below them to line 9.
-void DrawLiquidLimits(const AtterbergPage& of)
-{
-    PrintCaption(of.page, of.y(0), "Liquid Limit Determination");
-    DrawRules(of.page, of.y, {kLeft, of.Right(), 1, 9, of.trials, kLimitTrials, 2, 3, 7});
-    PrintHeads(of, 1);
-    PrintLabels(of.page, of.y, kLeft + kLabelInset, 2, kLiquidLabels);
-    PrintCells(of.page, of.y, of.trials, 2, of.sheet.MSHLL, {ll::Blows, ll::WaterContent, 1, kLimitTrials});
-}
-
-/// The last row is one cell across the trials.
-void DrawPlasticRules(const AtterbergPage& of)
-{
-    constexpr double kTop = 10, kBottom = 19, kAverage = 18;
-    DrawRules(of.page, of.y, {kLeft, of.Right(), kTop, kBottom, of.trials, 1, kTop + 1, kTop + 1, 7});
-    of.page.DrawWidth = kThickRule;
-    DrawVerticals(of.page, of.y, of.trials, 2, kLimitTrials, kTop, kAverage);
-    DrawRows(of.page, of.y, kLeft, of.Right(), kAverage, 1);
-}
-
-/// Caption on line 9, heads on line 10, the seven rows and the average below them to line 19.
-void DrawPlasticLimits(const AtterbergPage& of)
-{
-    PrintCaption(of.page, of.y(9), "Plastic Limit Determination");
-    DrawPlasticRules(of);
-    PrintHeads(of, 10);
-    PrintLabels(of.page, of.y, kLeft + kLabelInset, 11, kPlasticLabels);
-    PrintCells(of.page, of.y, of.trials, 11, of.sheet.MSHPL, {pl::WetAndCan, pl::PlasticLimit, 1, kLimitTrials});
-    of.page.CurrentY = of.y(18);
-    PrintCentred(of.page, of.trials.left, of.trials.width * kLimitTrials, Trim(of.sheet.MSHPL(pl::Average, 1)));
-}
 
 /// Beside the plot, under its own caption.
 void DrawSummaryBox(const AtterbergPage& of)
 {
-    const double left = of.trials.Left(4), right = of.trials.Left(6), split = of.trials.Left(5) + 300;
-    const double line = of.page.TextHeight("D"), top = of.y(kSummaryTop);
-    of.page.DrawWidth = kThickRule;
-    of.page.Box(left, top + line, right, top + line * 5);
-    of.page.Line(split, top + line, split, top + line * 5);
-    of.page.DrawWidth = kThinRule;
-    for (int row = 2; row <= 4; ++row) of.page.Line(left, top + line * row, right, top + line * row);
+    const PageLines y(of.page, of.y(kSummaryTop));
+    const double split = of.trials.Left(5) + 300;
+    const RuledBox box(of.page, y, {of.trials.Left(4), of.trials.Left(6)}, 1, 5);
+    of.page.Line(split, y(1), split, y(5));
+    box.Thin();
+    box.Rows(2, 3);
 }
 
 void PrintSummary(const AtterbergPage& of)
 {
     const double left = of.trials.Left(4);
-    of.page.CurrentY = of.y(kSummaryTop);
-    of.page.FontBold = true;
-    PrintLineFrom(of.page, left, "Summary of Test Results");
+    PrintCaption(of.page, left, of.y(kSummaryTop), "Summary of Test Results");
     of.page.FontBold = false;
-    for (const SummaryLine& line : kSummaryLines) {
+    for (const ReportField& line : kSummaryLines) {
         PrintFrom(of.page, left + kLabelInset, line.label);
-        PrintFrom(of.page, of.trials.Left(5) + 700, TextOf(of.sheet, line.control));
+        PrintFrom(of.page, of.trials.Left(5) + 700, of.Text(line.control));
         of.page.Print(line.unit);
     }
 }
 
-void DrawAtterberg(Program& program, DrawingSurface& page, Medium medium)
-{
-    page.FontSize = kBodySize;
-    page.FontTransparent = true;
-    const AtterbergPage of(program.Get<frmAtterberg>("frmAtterberg"), page);
-    DrawLiquidLimits(of);
-    DrawPlasticLimits(of);
-    DrawSummaryBox(of);
-    PrintSummary(of);
-    CopyPlot(page, of.sheet.picgraph1, of.sheet.picGraph, kLeft, of.y(kPlotTop));
-    DrawSignatures(program, page, medium);
-}
-
 }  // namespace
 
-void PrintAtterberg(Program& program, Printer& printer)
+void DrawAtterberg(Program& program, DrawingSurface& page, Medium medium)
 {
-    DrawAtterberg(program, printer, Medium::Printer);
-}
-
-void ShowAtterberg(Program& program, DrawingSurface& picView)
-{
-    DrawAtterberg(program, picView, Medium::Preview);
+    const auto& sheet = program.Get<frmAtterberg>("frmAtterberg");
+    const AtterbergPage of(sheet, page);
+    for (const ReportTable& table : kTables) DrawTable(of, {WholeWidth(page), of.trials}, table);
+    DrawSummaryBox(of);
+    PrintSummary(of);
+    CopyPlot(page, sheet.picgraph1, sheet.picGraph, kLeft, of.y(kPlotTop));
+    DrawSignatures(program, page, medium);
 }
 
 }  // namespace terravane

@@ -4,16 +4,14 @@
 #pragma once
 
 #include "program/program.h"
+#include "reports/medium.h"
 
 namespace terravane {
 
-/// Both pages on the printer: the first below frame and head block, the second with its own furniture.
-void PrintCBR(Program& program, Printer& printer);
+/// The first page's body, below frame and head block.
+void DrawCbrPage1(Program& program, DrawingSurface& page, Medium medium);
 
-/// The first page on the preview's page, below frame and head block.
-void ShowCBRPage1(Program& program, DrawingSurface& picView);
-
-/// The second one, with its furniture.
-void ShowCBRPage2(Program& program, DrawingSurface& picView);
+/// The second page with its furniture.
+void DrawCbrPage2(Program& program, DrawingSurface& page, Medium medium);
 
 }  // namespace terravane

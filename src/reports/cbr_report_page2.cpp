@@ -3,8 +3,10 @@
 #include <string>
 #include <string_view>
 
-#include "reports/cbr_report_pages.h"
+#include "reports/cbr_report.h"
+#include "reports/page_frame.h"
 #include "reports/report_table.h"
+#include "sheets/cbr/frmCBR.h"
 
 namespace terravane {
 
@@ -22,20 +24,15 @@ constexpr double kSummarySize = 15;    // points
 constexpr double kSummaryGap = 80;     // between the left curve and the summary
 
 /// The page being drawn: the table's lines and its ten columns.
-struct CbrTable {
-    const frmCBR& sheet;
-    DrawingSurface& page;
-    PageLines y;
+struct CbrTable : ReportPage {
+    const frmCBR& cbr;
     PageColumns columns;
-    double right;
     int bottom;  // line
 
     CbrTable(const frmCBR& open, DrawingSurface& surface)
-        : sheet(open),
-          page(surface),
-          y(surface, kTableTop),
-          columns{kLeft, (RightEdge(surface) - kLeft) / kColumnsAcross},
-          right(RightEdge(surface)),
+        : ReportPage(open, surface, kTableTop),
+          cbr(open),
+          columns(ColumnsBeside(0, WholeWidth(surface), kColumnsAcross)),
           bottom(kHeadLines + open.MSHPenetrate1.Rows())
     {}
 
@@ -45,20 +42,19 @@ struct CbrTable {
 
 void DrawTableRules(const CbrTable& of)
 {
-    of.page.DrawWidth = kThickRule;
-    of.page.Box(kLeft, of.y(0), of.right, of.y(of.bottom));
-    DrawRows(of.page, of.y, kLeft, of.right, kHeadLines, 1);
+    const auto onPage = [](int gridColumn) { return gridColumn + 1; };
+    const RuledBox box(of.page, of.y, WholeWidth(of.page), 0, of.bottom);
+    box.Rows(kHeadLines);
     for (int mould = 1; mould <= kMoulds; ++mould) {
-        const double x = of.Left(penetration::Dial(mould));
-        of.page.Line(x, of.y(0), x, of.y(of.bottom));
+        const int dial = onPage(penetration::Dial(mould));
+        box.Verticals(of.columns, dial, dial);
     }
-    of.page.DrawWidth = kThinRule;
+    box.Thin();
     for (int mould = 1; mould <= kMoulds; ++mould) {
-        for (const int column : {penetration::Load(mould), penetration::Stress(mould)})
-            of.page.Line(of.Left(column), of.y(1), of.Left(column), of.y(of.bottom));
+        box.Verticals(of.columns, onPage(penetration::Load(mould)), onPage(penetration::Stress(mould)), 1, of.bottom);
     }
-    DrawRows(of.page, of.y, kLeft, of.right, 1, 1);
-    DrawRows(of.page, of.y, kLeft, of.right, kHeadLines + 1, of.bottom - kHeadLines - 1);
+    box.Rows(1);
+    box.Rows(kHeadLines + 1, of.bottom - kHeadLines - 1);
 }
 
 /// The moulds' numbers stand in the first line, since the heads fill the three below; with both conditions the first
@@ -71,9 +67,9 @@ void PrintMouldHeads(const CbrTable& of)
     PrintCentred(of.page, kLeft, of.columns.width, "Mold No.");
     for (int mould = 1; mould <= kMoulds; ++mould) {
         const double left = of.Left(penetration::Dial(mould));
-        const std::string& number = of.sheet.MSHPenetrate(0, penetration::Load(mould));
+        const std::string& number = of.cbr.MSHPenetrate(0, penetration::Load(mould));
         const auto condition = kConditions[static_cast<std::size_t>(mould - 1)];
-        if (!of.sheet.optBoth.Value() || condition.empty()) {
+        if (!of.cbr.optBoth.Value() || condition.empty()) {
             PrintCentred(of.page, left, group, number);
             continue;
         }
@@ -82,7 +78,7 @@ void PrintMouldHeads(const CbrTable& of)
     }
 }
 
-void PrintHeads(const CbrTable& of)
+void PrintTableHeads(const CbrTable& of)
 {
     constexpr std::array<std::string_view, 2> kDepthHeads{"Penetration", "(in)"};
     constexpr std::array<std::array<std::string_view, kGroup>, 3> kGroupHeads{{
@@ -108,23 +104,16 @@ void PrintHeads(const CbrTable& of)
 
 void PrintReadings(const CbrTable& of)
 {
-    const TextGrid& grid = of.sheet.MSHPenetrate1;
+    const TextGrid& grid = of.cbr.MSHPenetrate1;
     PrintCells(of.page, of.y, of.columns, kHeadLines, grid, {0, grid.Rows() - 1, 0, kColumnsAcross - 1});
-}
-
-/// A frame as it stands on the sheet, its plot on top.
-void CopyPlot(DrawingSurface& page, const PictureBox& frame, const PictureBox& plot, double x, double y)
-{
-    page.PaintPicture(frame.Name(), frame.Image(), x, y, frame.Width, frame.Height);
-    page.PaintPicture(plot.Name(), plot.Image(), x + plot.Left, y + plot.Top, plot.Width, plot.Height);
 }
 
 void CopyCurves(const CbrTable& of)
 {
-    const frmCBR& sheet = of.sheet;
+    const frmCBR& sheet = of.cbr;
     const double top = of.y(of.bottom) + kCurvesBelow;
     CopyPlot(of.page, sheet.picGraph, sheet.picgraph1, kLeft, top);
-    CopyPlot(of.page, sheet.picGraph2, sheet.picGraph3, of.right - sheet.picGraph2.Width, top);
+    CopyPlot(of.page, sheet.picGraph2, sheet.picGraph3, of.Right() - sheet.picGraph2.Width, top);
 }
 
 void PrintValuesOf(const CbrTable& of, double x, int mould)
@@ -141,7 +130,7 @@ void PrintValuesOf(const CbrTable& of, double x, int mould)
     };
     for (const Line& line : kLines) {
         PrintFrom(of.page, x, line.label);
-        of.page.PrintOn(of.sheet.mshLPC(line.row, mould));
+        of.page.PrintOn(of.cbr.mshLPC(line.row, mould));
         of.page.Print(line.unit);
     }
 }
@@ -158,8 +147,8 @@ void PrintConditionOf(const CbrTable& of, double x, std::string_view caption, in
 void PrintSummary(const CbrTable& of)
 {
     of.page.FontSize = kSummarySize;
-    const bool isBoth = of.sheet.optBoth.Value();
-    const double x = kLeft + of.sheet.picGraph.Width + kSummaryGap;
+    const bool isBoth = of.cbr.optBoth.Value();
+    const double x = kLeft + of.cbr.picGraph.Width + kSummaryGap;
     of.page.CurrentY = of.y(of.bottom) + kSummaryBelow + LineHeight(of.page) * (isBoth ? 2 : 4);
     if (isBoth) {
         PrintConditionOf(of, x, "Unsoaked CBR", 1);
@@ -172,14 +161,13 @@ void PrintSummary(const CbrTable& of)
 
 }  // namespace
 
-void DrawCbrPage2(const frmCBR& sheet, DrawingSurface& page)
+void DrawCbrPage2(Program& program, DrawingSurface& page, Medium medium)
 {
-    page.FontSize = kBodySize;
-    page.FontTransparent = true;
-    const CbrTable of(sheet, page);
+    DrawFurniture(program, page, medium, "Page 2");
+    const CbrTable of(program.Get<frmCBR>("frmCBR"), page);
     DrawTableRules(of);
     page.FontBold = true;
-    PrintHeads(of);
+    PrintTableHeads(of);
     page.FontBold = false;
     PrintReadings(of);
     CopyCurves(of);

@@ -3,7 +3,6 @@
 #include <array>
 #include <string>
 
-#include "reports/copied_plot.h"
 #include "reports/open_sheet.h"
 #include "reports/report_table.h"
 #include "reports/signature_block.h"
@@ -15,7 +14,7 @@ namespace {
 using namespace std::string_view_literals;
 
 constexpr int kSamples = 6;
-constexpr double kLabelWidth = 2500;
+constexpr double kSampleLabelWidth = 2500;
 
 constexpr std::array kWaterLabels{
     "Moisture Can No."sv,   "Mass of Can + Wet Soil, (g)"sv, "Mass of Can + Dry Soil, (g)"sv, "Mass of Can, (g)"sv,
@@ -27,36 +26,47 @@ constexpr std::array kDensityLabels{
     "Mass of Soil in Mold, (g)"sv,  "Wet Density, (g/cm^3)"sv,    "Dry Density, (g/cm^3)"sv,
 };
 
-/// The page being drawn: its rows from the body's top, its six sample columns.
-struct CompactionPage {
-    const TestSheet& sheet;
-    DrawingSurface& page;
-    PageLines y;
+constexpr std::array kTables{
+    ReportTable{.caption = "Water Content Determination",
+                .captionLine = 2,
+                .head = "Sample No.",
+                .columns = kSamples,
+                .grid = "MSHWt",
+                .firstRow = 1,
+                .labels = kWaterLabels,
+                .rules = RowRules::Below,
+                .verticals = {kSamples + 1}},
+    ReportTable{.caption = "Density Determination",
+                .captionLine = 11,
+                .columns = kSamples,
+                .grid = "MSHDensity",
+                .firstRow = 0,
+                .labels = kDensityLabels,
+                .rules = RowRules::Below,
+                .verticals = {kSamples + 1}},
+};
+constexpr double kPlotLine = 20;
+
+/// The page being drawn, with its six sample columns.
+struct CompactionPage : ReportPage {
     PageColumns samples;
 
     CompactionPage(const TestSheet& open, DrawingSurface& surface)
-        : sheet(open),
-          page(surface),
-          y(surface, kBodyTop),
-          samples{kLeft + kLabelWidth, (surface.ScaleWidth - 3000 - kLeft) / 6}
+        : ReportPage(open, surface), samples(ColumnsBeside(kSampleLabelWidth, WholeWidth(surface), kSamples))
     {}
 
     /// The split between the first two fields of a mould row.
-    double Middle() const { return kLeft + (kLabelWidth + samples.width) / 2; }
+    double Middle() const { return kLeft + (kSampleLabelWidth + samples.width) / 2; }
     /// The left edge of the mould rows' third field.
     double ThirdField() const { return samples.Left(2); }
-    double Right() const { return RightEdge(page); }
-    std::string Text(std::string_view control) const { return TextOf(sheet, control); }
 };
 
 void DrawMoldBox(const CompactionPage& of)
 {
-    const double right = of.samples.Left(4);
-    of.page.DrawWidth = kThickRule;
-    of.page.Box(kLeft, of.y(0), right, of.y(2));
+    const RuledBox box(of.page, of.y, {kLeft, of.samples.Left(4)}, 0, 2);
     for (const double x : {of.ThirdField(), of.Middle()}) of.page.Line(x, of.y(0), x, of.y(2));
-    of.page.DrawWidth = kThinRule;
-    DrawRows(of.page, of.y, kLeft, right, 1, 1);
+    box.Thin();
+    box.Rows(1);
 }
 
 /// "Diameter of Mold : 10.16 cm". The stops count from the end of the longer label, so that both rows stand
@@ -88,11 +98,9 @@ void PrintMoldRows(const CompactionPage& of)
 void DrawResultsBox(const CompactionPage& of)
 {
     const double left = kLeft + 2600 + of.samples.width * 3;
-    const double right = of.samples.Left(kSamples + 1);
-    of.page.DrawWidth = kThickRule;
-    of.page.Box(left, of.y(0), right, of.y(2));
-    of.page.DrawWidth = kThinRule;
-    DrawRows(of.page, of.y, left, right, 1, 1);
+    const RuledBox box(of.page, of.y, {left, of.samples.Left(kSamples + 1)}, 0, 2);
+    box.Thin();
+    box.Rows(1);
 }
 
 /// A value stands right-aligned in the width of "00000,00", its unit behind it.
@@ -114,54 +122,18 @@ void PrintResults(const CompactionPage& of)
     PrintResult(of, 1, "Maximum Dry Density (MDD)  ", "txtDmax", "  g/cm^3");
 }
 
-/// Caption on line 2, header on line 3, the seven rows below it to line 11.
-void DrawWaterContents(const CompactionPage& of)
-{
-    PrintCaption(of.page, of.y(2), "Water Content Determination");
-    DrawRules(of.page, of.y, {kLeft, of.Right(), 3, 11, of.samples, kSamples + 1, 4, 5, 7});
-    of.page.CurrentY = of.y(3);
-    PrintFrom(of.page, kLeft + kLabelInset, "Sample No.");
-    PrintColumnNumbers(of.page, of.samples, kSamples);
-    of.page.FontBold = false;
-    PrintLabels(of.page, of.y, kLeft + kLabelInset, 4, kWaterLabels);
-    PrintCells(of.page, of.y, of.samples, 4, of.sheet.Get<TextGrid>("MSHWt"), {1, 7, 1, kSamples});
-}
-
-/// Caption on line 11, the seven rows without a header from line 12 to line 19.
-void DrawDensities(const CompactionPage& of)
-{
-    PrintCaption(of.page, of.y(11), "Density Determination");
-    of.page.FontBold = false;
-    DrawRules(of.page, of.y, {kLeft, of.Right(), 12, 19, of.samples, kSamples + 1, {}, 13, 7});
-    PrintLabels(of.page, of.y, kLeft + kLabelInset, 12, kDensityLabels);
-    PrintCells(of.page, of.y, of.samples, 12, of.sheet.Get<TextGrid>("MSHDensity"), {0, 6, 1, kSamples});
-}
+}  // namespace
 
 void DrawCompaction(Program& program, DrawingSurface& page, Medium medium)
 {
-    page.FontSize = kBodySize;
-    page.FontTransparent = true;
     const CompactionPage of(OpenSheet(program), page);
     DrawMoldBox(of);
     PrintMoldRows(of);
     DrawResultsBox(of);
     PrintResults(of);
-    DrawWaterContents(of);
-    DrawDensities(of);
-    CopyPlot(page, of.sheet.Get<PictureBox>("picgraph1"), of.sheet.Get<PictureBox>("picGraph"), kLeft, of.y(20));
+    for (const ReportTable& table : kTables) DrawTable(of, {WholeWidth(page), of.samples}, table);
+    CopyPlot(page, of.sheet.Get<PictureBox>("picgraph1"), of.sheet.Get<PictureBox>("picGraph"), kLeft, of.y(kPlotLine));
     DrawSignatures(program, page, medium);
-}
-
-}  // namespace
-
-void PrintCompaction(Program& program, Printer& printer)
-{
-    DrawCompaction(program, printer, Medium::Printer);
-}
-
-void ShowCompaction(Program& program, DrawingSurface& picView)
-{
-    DrawCompaction(program, picView, Medium::Preview);
 }
 
 }  // namespace terravane

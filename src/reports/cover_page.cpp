@@ -1,11 +1,9 @@
 #include "reports/cover_page.h"
 
-#include <algorithm>
-#include <array>
-
 #include "reports/brand.h"
 #include "reports/open_sheet.h"
-#include "reports/page_text.h"
+#include "reports/report.h"
+#include "reports/report_page.h"
 #include "runtime/text.h"
 #include "store/brand_pictures.h"
 
@@ -19,21 +17,6 @@ constexpr double kTitleTop = 4000;
 constexpr double kTitleSize = 28;  // points
 constexpr double kTextSize = 22;
 constexpr int kGap = 4;  // blank lines between the cover's parts
-
-struct CoverTitle {
-    Test test;
-    std::string_view text;
-};
-
-constexpr std::array kCoverTitles{
-    CoverTitle{Test::StdSoil, "ผลทดสอบการบดอัดดินแบบมาตรฐาน"},
-    CoverTitle{Test::ModSoil, "ผลทดสอบการบดอัดดินแบบสูงกว่ามาตรฐาน"},
-    CoverTitle{Test::CBRSoil, "ผลทดสอบการหาค่าซี.บี.อาร์."},
-    CoverTitle{Test::DenSoil, "ผลทดสอบการหาค่าความหนาแน่นของดินในสนามด้วยวิธีกรวยทราย"},
-    CoverTitle{Test::SieSoil, "ผลทดสอบหาขนาดเม็ดดินด้วยวิธีร่อนผ่านตะแกรงมาตรฐาน"},
-    CoverTitle{Test::AttSoil, "ผลทดสอบหาขีดจำกัดอัตเทอร์เบิร์ก"},
-    CoverTitle{Test::SpcSoil, "ผลทดสอบหาความถ่วงจำเพาะของดิน"},
-};
 
 void PaintLogo(Program& program, Printer& printer)
 {
@@ -89,7 +72,7 @@ void PrintCoverPage(Program& program, Printer& printer)
     printer.FontName = kReportFont;
     printer.FontSize = kTitleSize;
     printer.CurrentY = kTitleTop;
-    PrintBoldLine(printer, std::ranges::find(kCoverTitles, program.CurrentTest, &CoverTitle::test)->text);
+    PrintBoldLine(printer, ReportOf(program.CurrentTest).titles.cover);
     printer.FontSize = kTextSize;
     PrintJob(printer, sheet);
     PrintOrganisation(program, printer);

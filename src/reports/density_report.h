@@ -3,13 +3,11 @@
 #pragma once
 
 #include "program/program.h"
+#include "reports/medium.h"
 
 namespace terravane {
 
-/// The page's body on the printer, below frame and head block.
-void PrintFieldDensity(Program& program, Printer& printer);
-
-/// The same on the preview's page.
-void ShowFieldDensity(Program& program, DrawingSurface& picView);
+/// The page's body, below frame and head block.
+void DrawFieldDensity(Program& program, DrawingSurface& page, Medium medium);
 
 }  // namespace terravane

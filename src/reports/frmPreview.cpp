@@ -2,6 +2,7 @@
 
 #include "reports/open_sheet.h"
 #include "reports/page_frame.h"
+#include "reports/print_report.h"
 #include "runtime/numbers.h"
 
 namespace terravane {
@@ -28,7 +29,7 @@ void frmPreview::Form_Load()
     picPreview.SetVisible(false);
     SetScrollMaxima(program.printer.Width, program.printer.Height);
     const Report& report = ReportOf(program.CurrentTest);
-    cmdNext.SetVisible(report.showSecond != nullptr);
+    cmdNext.SetVisible(report.drawSecondPage != nullptr);
     ShowFirstPage(report);
     ShowPageAtFullSize();
     cboScale.SetText("100%");
@@ -46,15 +47,15 @@ void frmPreview::Form_Unload()
 void frmPreview::ShowFirstPage(const Report& report)
 {
     BeginPage(false);
-    ShowPageFrame(program, picView);
+    DrawPageFrame(program, picView, Medium::Preview);
     SetScrollMaxima(program.printer.Width, program.printer.Height);
-    report.show(program, picView);
+    report.drawBody(program, picView, Medium::Preview);
 }
 
 void frmPreview::ShowSecondPage(const Report& report)
 {
-    BeginPage(report.secondOnItsSide);
-    report.showSecond(program, picView);
+    BeginPage(report.isSecondOnItsSide);
+    report.drawSecondPage(program, picView, Medium::Preview);
     SetScrollMaxima(picView.Width, picView.Height);
 }
 

@@ -7,7 +7,7 @@
 #include "controls/picture_box.h"
 #include "controls/text_controls.h"
 #include "program/program.h"
-#include "reports/print_report.h"
+#include "reports/report.h"
 
 namespace terravane {
 

@@ -3,8 +3,8 @@
 #include <array>
 #include <string_view>
 
-#include "reports/open_sheet.h"
-#include "reports/page_text.h"
+#include "reports/report.h"
+#include "reports/report_page.h"
 
 namespace terravane {
 
@@ -14,26 +14,8 @@ constexpr double kHeadSize = 14;      // points
 constexpr double kBelowFactor = 200;  // twips between the factor's height and the first row
 constexpr std::string_view kColon = " : ";
 
-/// Height of the first row, as a multiple of the width of "D".
-struct HeadPlace {
-    std::string_view sheet;
-    PerMedium<double> factor;
-    bool hasPosition = false;
-};
-
-constexpr std::array kHeadPlaces{
-    HeadPlace{"frmCompaction", {20.5, 20.5}}, HeadPlace{"frmDensity", {20.5, 20.5}, true},
-    HeadPlace{"frmSpecific", {20.5, 23.5}},   HeadPlace{"frmAtterberg", {20.5, 22}},
-    HeadPlace{"frmSieve", {21.5, 22}},        HeadPlace{"frmCBR", {20.5, 20.5}},
-};
-
-/// A label and the control that its value comes from; no label, nothing is drawn.
-struct HeadField {
-    std::string_view label, control;
-};
-
 struct HeadRow {
-    HeadField left, right;
+    ReportField left, right;  // without a label nothing is drawn
 };
 
 constexpr std::array kHeadRows{
@@ -60,7 +42,7 @@ HeadColumn RightColumn(const DrawingSurface& page)
     return {label, label + page.TextWidth("Date of Test : ")};
 }
 
-void PrintField(const TestSheet& sheet, DrawingSurface& page, const HeadField& field, const HeadColumn& column)
+void PrintField(const TestSheet& sheet, DrawingSurface& page, const ReportField& field, const HeadColumn& column)
 {
     if (field.label.empty()) return;
     PrintFrom(page, column.label, field.label);
@@ -79,12 +61,12 @@ void PrintRow(const TestSheet& sheet, DrawingSurface& page, const HeadRow& row)
 
 void DrawHeadBlock(const TestSheet& sheet, DrawingSurface& page, Medium medium)
 {
-    const HeadPlace& place = RowOfSheet(kHeadPlaces, sheet.Name());
+    const Report& report = ReportOf(sheet.program.CurrentTest);
     page.FontSize = kHeadSize;
     page.FontBold = false;
-    page.CurrentY = page.TextWidth("D") * place.factor.On(medium) + kBelowFactor;
+    page.CurrentY = page.TextWidth("D") * report.headFactor.On(medium) + kBelowFactor;
     for (const HeadRow& row : kHeadRows) PrintRow(sheet, page, row);
-    if (place.hasPosition) PrintRow(sheet, page, kPositionRow);
+    if (report.hasPosition) PrintRow(sheet, page, kPositionRow);
 }
 
 }  // namespace terravane

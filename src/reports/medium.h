@@ -17,6 +17,9 @@ struct PerMedium {
     Fact printer;
     Fact preview;
 
+    constexpr PerMedium(Fact both) : printer(both), preview(both) {}
+    constexpr PerMedium(Fact onPrinter, Fact onPreview) : printer(onPrinter), preview(onPreview) {}
+
     constexpr const Fact& On(Medium medium) const { return medium == Medium::Printer ? printer : preview; }
 };
 

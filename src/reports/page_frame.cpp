@@ -1,13 +1,10 @@
 #include "reports/page_frame.h"
 
-#include <algorithm>
-#include <array>
-
 #include "reports/brand.h"
-#include "reports/cover_page.h"
 #include "reports/head_block.h"
 #include "reports/open_sheet.h"
-#include "reports/page_text.h"
+#include "reports/report.h"
+#include "reports/report_page.h"
 #include "runtime/text.h"
 #include "store/brand_pictures.h"
 
@@ -15,8 +12,7 @@ namespace terravane {
 
 namespace {
 
-constexpr double kFooterSize = 12;  // points
-constexpr double kBannerSize = 16;
+constexpr double kBannerSize = 16;  // points
 constexpr double kTitleSize = 14;
 constexpr double kFooterHeight = 700;  // from the page's bottom to the footer's top
 constexpr int kTitleBoxRule = 4;       // draw widths
@@ -41,32 +37,6 @@ constexpr PerMedium<FrameDifferences> kDifferences{
     {kBanner, 1240, 1235},
 };
 
-/// crossed  the Thai title is centred by the other medium's wording
-struct Title {
-    Test test;
-    PerMedium<std::string_view> thai;
-    std::string_view english;
-    bool crossed = false;
-};
-
-constexpr Title SameOnBoth(Test test, std::string_view thai, std::string_view english)
-{
-    return {test, {thai, thai}, english};
-}
-
-constexpr std::array kTitles{
-    SameOnBoth(Test::StdSoil, "การทดสอบการบดอัดแบบมาตรฐาน", "Standard Compaction Test"),
-    SameOnBoth(Test::ModSoil, "การทดสอบการบดอัดแบบสูงกว่ามาตรฐาน", "Modified Compaction Test"),
-    Title{Test::DenSoil,
-          {"การทดสอบความหนาแน่นของดินในสนามด้วยวิธีกรวยทราย", "การทดสอบหาความหนาแน่นของดินในสนามด้วยวิธีกรวยทราย"},
-          "Field Density Test by Sand Cone Method",
-          true},
-    Title{Test::SpcSoil, {"การทดสอบหาความถ่วงจำเพาะของดิน", "การทดสอบหาความความถ่วงจำเพาะของดิน"}, "Specific Gravity Test"},
-    SameOnBoth(Test::AttSoil, "การทดสอบหาขีดจำกัดอัตเทอร์เบิร์ก", "Atterberg Limits Test"),
-    SameOnBoth(Test::SieSoil, "การทดสอบหาขนาดเม็ดดินด้วยวิธีร่อนผ่านตะแกรงมาตรฐาน", "Sieve Analysis Test"),
-    SameOnBoth(Test::CBRSoil, "การทดสอบหาค่า ซี.บี.อาร์.", "California Bearing Ratio Test"),
-};
-
 /// A compaction page is titled by the sheet's banner, whatever the current test says.
 Test TitledTest(const Program& program)
 {
@@ -75,11 +45,9 @@ Test TitledTest(const Program& program)
     return isStandard ? Test::StdSoil : Test::ModSoil;
 }
 
-const Title& TitleOf(const Program& program)
+const ReportTitles& TitlesOf(const Program& program)
 {
-    const auto row = std::ranges::find(kTitles, TitledTest(program), &Title::test);
-    if (row == kTitles.end()) throw RuntimeError(error::kInvalidProcedureCall, "No test has been opened");
-    return *row;
+    return ReportOf(TitledTest(program)).titles;
 }
 
 void DrawFooter(const Program& program, DrawingSurface& page, std::string_view pageText)
@@ -135,12 +103,12 @@ void PrintNames(Program& program, DrawingSurface& page)
 
 void PrintTitles(const Program& program, DrawingSurface& page, Medium medium)
 {
-    const Title& title = TitleOf(program);
-    const double measured = page.TextWidth(title.thai.On(title.crossed ? TheOther(medium) : medium));
+    const ReportTitles& titles = TitlesOf(program);
+    const double measured = page.TextWidth(titles.thai.On(titles.crossed ? TheOther(medium) : medium));
     page.CurrentY = LineHeight(page) * 4.9;
-    PrintFrom(page, (page.ScaleWidth - measured) / 2, title.thai.On(medium));
+    PrintFrom(page, (page.ScaleWidth - measured) / 2, titles.thai.On(medium));
     page.CurrentY = LineHeight(page) * 5.7;
-    PrintCentred(page, 0, page.ScaleWidth, title.english);
+    PrintCentred(page, 0, page.ScaleWidth, titles.english);
 }
 
 void DrawLogos(Program& program, DrawingSurface& page, const TitleBox& box, Medium medium)
@@ -155,24 +123,12 @@ void DrawLogos(Program& program, DrawingSurface& page, const TitleBox& box, Medi
                       kDifferences.On(medium).instituteLogoTop, kInstituteSide, kInstituteSide);
 }
 
-void DrawFrame(Program& program, DrawingSurface& page, Medium medium)
+}  // namespace
+
+void DrawPageFrame(Program& program, DrawingSurface& page, Medium medium)
 {
     DrawFurniture(program, page, medium, "Page 1");
     DrawHeadBlock(OpenSheet(program), page, medium);
-}
-
-}  // namespace
-
-void PrintPageFrame(Program& program, Printer& printer)
-{
-    PrintCoverPage(program, printer);
-    printer.NewPage();
-    DrawFrame(program, printer, Medium::Printer);
-}
-
-void ShowPageFrame(Program& program, DrawingSurface& picView)
-{
-    DrawFrame(program, picView, Medium::Preview);
 }
 
 void DrawFurniture(Program& program, DrawingSurface& page, Medium medium, std::string_view pageText)
@@ -194,7 +150,7 @@ void DrawFurniture(Program& program, DrawingSurface& page, Medium medium, std::s
 
 std::string_view EnglishTitle(const Program& program)
 {
-    return TitleOf(program).english;
+    return TitlesOf(program).english;
 }
 
 }  // namespace terravane

@@ -9,12 +9,9 @@
 
 namespace terravane {
 
-/// Cover page, a new page, furniture and head block of the current test's report. Errors: what the brand
-/// store and its pictures raise; the page is left half drawn.
-void PrintPageFrame(Program& program, Printer& printer);
-
-/// Furniture and head block on the preview's page; no cover.
-void ShowPageFrame(Program& program, DrawingSurface& picView);
+/// Furniture and head block of the first page of the current test's report. Errors: what the brand store and its
+/// pictures raise; the page is left half drawn.
+void DrawPageFrame(Program& program, DrawingSurface& page, Medium medium);
 
 /// The furniture alone, for pages without a head block. `pageText` stands at the right of the footer: "Page
 /// 2".

@@ -6,39 +6,97 @@
 
 namespace terravane {
 
-void DrawRules(DrawingSurface& page, const PageLines& y, const RuledTable& table)
+namespace {
+
+void DrawRowRules(const RuledBox& box, const ReportTable& table)
 {
-    page.DrawWidth = kThickRule;
-    page.Box(table.left, y(table.top), table.right, y(table.bottom));
-    DrawVerticals(page, y, table.columns, 1, table.verticals, table.top, table.bottom);
-    if (table.headRule) DrawRows(page, y, table.left, table.right, *table.headRule, 1);
-    page.DrawWidth = kThinRule;
-    DrawRows(page, y, table.left, table.right, table.firstThin, table.thinRules);
+    const double first = table.rules == RowRules::Above ? table.FirstRow() : table.FirstRow() + 1;
+    box.Thin();
+    box.Rows(first, table.rules == RowRules::Below ? table.Rows() : table.Rows() - 1);
 }
 
-void DrawVerticals(DrawingSurface& page, const PageLines& y, const PageColumns& columns, int first, int last,
-                   double top, double bottom)
+void DrawInnerRules(const RuledBox& box, const PageColumns& columns, const ReportTable& table)
+{
+    const double average = table.Bottom() - 1;
+    const double bottom = table.lastRow == LastRow::Cells ? table.Bottom() : average;
+    box.Thick();
+    box.Verticals(columns, table.verticals.from, table.verticals.to, table.Top(), bottom);
+    if (table.rules == RowRules::Above) box.Rows(average);
+}
+
+void PrintHeadLine(const ReportPage& of, const TablePlace& place, const ReportTable& table)
+{
+    const double left = place.edges.left, labels = place.columns.left - left;
+    const double inset =
+        table.headCentredAs.empty() ? kLabelInset : (labels - of.page.TextWidth(table.headCentredAs)) / 2;
+    of.page.FontBold = true;
+    PrintFrom(of.page, left + inset, of.y(table.Top()), table.head);
+    for (int column = 1; column <= table.columns; ++column)
+        PrintCentred(of.page, place.columns.Left(column), place.columns.width, std::to_string(column));
+}
+
+void PrintAverage(const ReportPage& of, const TablePlace& place, const ReportTable& table, std::string_view text)
+{
+    const PageColumns& columns = place.columns;
+    const bool isAcross = table.lastRow == LastRow::AverageAcross;
+    of.page.CurrentY = of.y(table.Bottom() - 1);
+    PrintCentred(of.page, columns.left, isAcross ? place.edges.right - columns.left : columns.width, text);
+}
+
+}  // namespace
+
+void DrawTable(const ReportPage& of, const TablePlace& place, const ReportTable& table)
+{
+    PrintCaption(of.page, place.edges.left, of.y(table.captionLine), table.caption);
+    DrawRules(of, place, table);
+    PrintTable(of, place, table);
+}
+
+void DrawRules(const ReportPage& of, const TablePlace& place, const ReportTable& table)
+{
+    const RuledBox box(of.page, of.y, place.edges, table.Top(), table.Bottom());
+    box.Verticals(place.columns, 1, table.verticals.through);
+    if (!table.head.empty()) box.Rows(table.FirstRow());
+    DrawRowRules(box, table);
+    DrawInnerRules(box, place.columns, table);
+}
+
+void PrintTable(const ReportPage& of, const TablePlace& place, const ReportTable& table)
+{
+    const auto& grid = of.sheet.Get<TextGrid>(table.grid);
+    const int lastRow = table.firstRow + table.Rows() - 1;
+    const bool isAveraged = table.lastRow != LastRow::Cells;
+    if (!table.head.empty()) PrintHeadLine(of, place, table);
+    of.page.FontBold = false;
+    of.page.CurrentY = of.y(table.FirstRow());
+    for (const std::string_view label : table.labels) PrintLineFrom(of.page, place.edges.left + kLabelInset, label);
+    PrintCells(of.page, of.y, place.columns, table.FirstRow(), grid,
+               {table.firstRow, isAveraged ? lastRow - 1 : lastRow, 1, table.columns});
+    if (isAveraged) PrintAverage(of, place, table, Trim(grid(lastRow, 1)));
+}
+
+RuledBox::RuledBox(DrawingSurface& page, const PageLines& y, const Edges& edges, double top, double bottom)
+    : page_(page), y_(y), edges_(edges), top_(top), bottom_(bottom)
+{
+    Thick();
+    page.Box(edges.left, y(top), edges.right, y(bottom));
+}
+
+void RuledBox::Rows(const Edges& edges, double first, int count) const
+{
+    for (int row = 0; row < count; ++row) page_.Line(edges.left, y_(first + row), edges.right, y_(first + row));
+}
+
+void RuledBox::Verticals(const PageColumns& columns, int first, int last, double top, double bottom) const
 {
     for (int column = first; column <= last; ++column)
-        page.Line(columns.Left(column), y(top), columns.Left(column), y(bottom));
+        page_.Line(columns.Left(column), y_(top), columns.Left(column), y_(bottom));
 }
 
-void DrawRows(DrawingSurface& page, const PageLines& y, double x1, double x2, double first, int count)
+void PrintHeads(DrawingSurface& page, const PageColumns& columns, std::span<const std::string_view> heads)
 {
-    for (int row = 0; row < count; ++row) page.Line(x1, y(first + row), x2, y(first + row));
-}
-
-void PrintLabels(DrawingSurface& page, const PageLines& y, double x, double first,
-                 std::span<const std::string_view> labels)
-{
-    page.CurrentY = y(first);
-    for (const std::string_view label : labels) PrintLineFrom(page, x, label);
-}
-
-void PrintColumnNumbers(DrawingSurface& page, const PageColumns& columns, int count)
-{
-    for (int column = 1; column <= count; ++column)
-        PrintCentred(page, columns.Left(column), columns.width, std::to_string(column));
+    int column = 1;
+    for (const std::string_view head : heads) PrintCentred(page, columns.Left(column++), columns.width, head);
 }
 
 void PrintCells(DrawingSurface& page, const PageLines& y, const PageColumns& columns, double first,

@@ -7,18 +7,19 @@
 #include <vector>
 
 #include "controls/choice_controls.h"
-#include "reports/page_text.h"
+#include "reports/open_sheet.h"
+#include "reports/report_page.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
 #include "sheets/pattern/masks.h"
+#include "sheets/pattern/plot.h"
 #include "sheets/sieve/frmSieve.h"
 
 namespace terravane {
 
 namespace {
 
-constexpr double kFooterSize = 12;  // points
-constexpr double kChartSize = 14;
+constexpr double kChartSize = 14;  // points
 constexpr int kDecades = 4;
 constexpr int kTens = 10;
 
@@ -26,8 +27,6 @@ constexpr int kFinePen = 1;  // draw widths
 constexpr int kGridPen = 2;
 constexpr int kCurvePen = 6;
 constexpr int kHeavyPen = 10;
-constexpr int kSolid = 0;
-constexpr int kDotted = 2;
 
 constexpr double kTickLength = 240;
 constexpr double kMarkRadius = 40;
@@ -83,11 +82,6 @@ constexpr double kMainBandLine = 4;
 constexpr double kSubBandLine = 3;
 constexpr double kBoundaryLine = 2;
 constexpr double kSieveLine = 1;
-
-double DecimalLogarithm(double value)
-{
-    return Log(value) / Log(10);
-}
 
 /// Edges of the plot and how size and percent map to it, in twips of the page on its side.
 struct ChartPage {
@@ -258,9 +252,9 @@ void DrawCurve(const ChartPage& of)
 
 }  // namespace
 
-void DrawSieveChart(const TestSheet& sheet, DrawingSurface& page, Medium medium)
+void DrawSieveChart(Program& program, DrawingSurface& page, Medium medium)
 {
-    const ChartPage of(sheet, page);
+    const ChartPage of(OpenSheet(program), page);
     page.DrawStyle = kSolid;
     page.FontBold = false;
     page.FontName = kReportFont;

@@ -1,14 +1,13 @@
 /// Page 2 of the sieve report: the particle-size distribution, drawn anew from the sheet's grids in a scale of its own.
 #pragma once
 
-#include "drawing/drawing_surface.h"
+#include "program/program.h"
 #include "reports/medium.h"
-#include "sheets/pattern/test_sheet.h"
 
 namespace terravane {
 
-/// Draws the whole page, furniture included; it is on its side already. The pen is thin and solid afterwards. Error 5
+/// Draws the whole page, footer included; it is on its side already. The pen is thin and solid afterwards. Error 5
 /// for a curve through a size of zero or less.
-void DrawSieveChart(const TestSheet& sheet, DrawingSurface& page, Medium medium);
+void DrawSieveChart(Program& program, DrawingSurface& page, Medium medium);
 
 }  // namespace terravane

@@ -4,10 +4,8 @@
 #include <string>
 
 #include "controls/choice_controls.h"
-#include "reports/medium.h"
 #include "reports/open_sheet.h"
 #include "reports/report_table.h"
-#include "reports/sieve_chart.h"
 #include "reports/signature_block.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
@@ -18,7 +16,6 @@ namespace terravane {
 
 namespace {
 
-constexpr int kTableColumns = sieve::kColumns;
 constexpr double kTableTop = 4.5;  // lines of the page
 constexpr double kBodyLine = kTableTop + 3;
 constexpr double kRemarkLine = kBodyLine + kMostSieves;
@@ -29,66 +26,48 @@ constexpr PerMedium<double> kClassesLine{33.8, 34.8};
 
 constexpr double kMostLoss = 2;  // percent
 
-using HeadLines = std::array<std::string_view, 3>;
-constexpr std::array<HeadLines, sieve::kColumns> kHeads{
-    HeadLines{"Sieve", "Number", ""},
-    HeadLines{"Sieve", "Opening", "(mm)"},
-    HeadLines{"Mass of", "Sieve", "(g)"},
-    HeadLines{"Mass of Sieve", "+ Soil", "(g)"},
-    HeadLines{"Mass of Soil", "Retained", "(g)"},
-    HeadLines{"Cumulative", "Retained", "(g)"},
-    HeadLines{"Cumulative", "Retained", "(%)"},
-    HeadLines{"Percent", "Passing", "(%)"},
+using HeadLine = std::array<std::string_view, sieve::kColumns>;
+constexpr std::array kHeads{
+    HeadLine{"Sieve", "Sieve", "Mass of", "Mass of Sieve", "Mass of Soil", "Cumulative", "Cumulative", "Percent"},
+    HeadLine{"Number", "Opening", "Sieve", "+ Soil", "Retained", "Retained", "Retained", "Passing"},
+    HeadLine{"", "(mm)", "(g)", "(g)", "(g)", "(g)", "(%)", "(%)"},
 };
 
-/// A label and the control that its value comes from.
-struct Field {
-    std::string_view label, control;
-};
 constexpr std::array kMasses{
-    Field{"Dry Mass of Original Sample", "txtGsoil"},
-    Field{"Dry Mass after Washing", "txtDwp"},
-    Field{"Mass Loss through Washing", "txtWl"},
+    ReportField{"Dry Mass of Original Sample", "txtGsoil"},
+    ReportField{"Dry Mass after Washing", "txtDwp"},
+    ReportField{"Mass Loss through Washing", "txtWl"},
 };
 constexpr std::array kGrainSizes{
-    Field{"D10 (mm)", "txtD10"}, Field{"D30 (mm)", "txtD30"}, Field{"D60 (mm)", "txtD60"},
-    Field{"Cu", "txtCu"},        Field{"Cc", "txtCc"},
+    ReportField{"D10 (mm)", "txtD10"}, ReportField{"D30 (mm)", "txtD30"}, ReportField{"D60 (mm)", "txtD60"},
+    ReportField{"Cu", "txtCu"},        ReportField{"Cc", "txtCc"},
 };
 
 /// One classification system: a heading and two rows.
 struct System {
     std::string_view heading;
-    std::array<Field, 2> rows;
+    std::array<ReportField, 2> rows;
 };
 constexpr int kSystemLines = 3;
 constexpr std::array kSystems{
     System{"Unified Soil Classification System (USCS)",
-           {Field{"Group Symbol", "txtSuscs"}, Field{"Group Name", "txtNuscs"}}},
-    System{"AASHTO Classification System", {Field{"Group Symbol", "txtSaash"}, Field{"Typical Names", "txtMtype"}}},
+           {ReportField{"Group Symbol", "txtSuscs"}, ReportField{"Group Name", "txtNuscs"}}},
+    System{"AASHTO Classification System",
+           {ReportField{"Group Symbol", "txtSaash"}, ReportField{"Typical Names", "txtMtype"}}},
 };
 
-/// The page being drawn: its rows from the body's top, the eight columns of its tables.
-struct SievePage {
-    const TestSheet& sheet;
-    DrawingSurface& page;
+/// The page being drawn, with the eight columns of its tables.
+struct SievePage : ReportPage {
     Medium medium;
-    PageLines y;
     PageColumns columns;
 
     SievePage(const TestSheet& open, DrawingSurface& surface, Medium where)
-        : sheet(open),
-          page(surface),
-          medium(where),
-          y(surface, kBodyTop),
-          columns{kLeft, (surface.ScaleWidth - kLeft - 500) / kTableColumns}
+        : ReportPage(open, surface), medium(where), columns(ColumnsBeside(0, WholeWidth(surface), sieve::kColumns))
     {}
 
-    double Right() const { return RightEdge(page); }
     /// The right end of the method box.
     double MethodEnd() const { return columns.Left(3); }
-    /// The right end of what stands beside the signatures.
-    double NarrowEnd() const { return columns.Left(6); }
-    std::string Text(std::string_view control) const { return TextOf(sheet, control); }
+    Edges BesideSignatures() const { return {kLeft, columns.Left(6)}; }
     double Value(std::string_view control) const { return Val(Text(control)); }
     PageLines From(const PerMedium<double>& lines) const { return {page, LineHeight(page) * lines.On(medium)}; }
 };
@@ -97,9 +76,9 @@ void DrawMassBoxes(const SievePage& of)
 {
     of.page.DrawWidth = kThickRule;
     of.page.Box(kLeft, of.y(1), of.MethodEnd(), of.y(4));
-    of.page.Box(of.MethodEnd(), of.y(1), of.Right(), of.y(4));
-    of.page.DrawWidth = kThinRule;
-    DrawRows(of.page, of.y, of.MethodEnd(), of.Right(), 2, 2);
+    const RuledBox masses(of.page, of.y, {of.MethodEnd(), of.Right()}, 1, 4);
+    masses.Thin();
+    masses.Rows(2, 2);
 }
 
 void PrintMethod(const SievePage& of)
@@ -113,10 +92,10 @@ void PrintMethod(const SievePage& of)
 void PrintMasses(const SievePage& of)
 {
     const double stop = of.MethodEnd() + of.page.TextWidth(kMasses.front().label);
-    for (std::size_t row = 0; row < kMasses.size(); ++row) {
-        const std::string value = Format(of.Text(kMasses[row].control), kTwoDecimals);
-        of.page.CurrentY = of.y(1 + static_cast<double>(row));
-        PrintFrom(of.page, of.MethodEnd() + 900, kMasses[row].label);
+    double line = 1;
+    for (const ReportField& mass : kMasses) {
+        const std::string value = Format(of.Text(mass.control), kTwoDecimals);
+        PrintFrom(of.page, of.MethodEnd() + 900, of.y(line++), mass.label);
         PrintFrom(of.page, stop + 1100, " :     ");
         PrintFrom(of.page, stop + 1800 - of.page.TextWidth(value), value);
         PrintFrom(of.page, stop + 2100, " grams ");
@@ -147,20 +126,19 @@ void DrawTableRules(const SievePage& of)
     of.page.DrawWidth = kThickRule;
     of.page.FilledBox(kLeft, of.y(kTableTop), of.Right(), of.y(kBodyLine), kWhite);
     of.page.Box(kLeft, of.y(kTableTop), of.Right(), of.y(kBodyLine));
-    of.page.Box(kLeft, of.y(kBodyLine), of.Right(), of.y(kRemarkLine));
-    of.page.DrawWidth = kThinRule;
-    DrawRows(of.page, of.y, kLeft, of.Right(), kBodyLine + 1, kMostSieves - 1);
-    DrawVerticals(of.page, of.y, of.columns, 2, sieve::kColumns, kTableTop, kRemarkLine);
+    const RuledBox body(of.page, of.y, WholeWidth(of.page), kBodyLine, kRemarkLine);
+    body.Thin();
+    body.Rows(kBodyLine + 1, kMostSieves - 1);
+    body.Verticals(of.columns, 2, sieve::kColumns, kTableTop, kRemarkLine);
 }
 
-void PrintHeads(const SievePage& of)
+void PrintTableHeads(const SievePage& of)
 {
+    double line = kTableTop;
     of.page.FontBold = true;
-    for (std::size_t line = 0; line < std::tuple_size_v<HeadLines>; ++line) {
-        of.page.CurrentY = of.y(kTableTop + static_cast<double>(line));
-        for (std::size_t column = 0; column < kHeads.size(); ++column)
-            PrintCentred(of.page, of.columns.Left(static_cast<int>(column) + 1), of.columns.width,
-                         kHeads[column][line]);
+    for (const HeadLine& heads : kHeads) {
+        of.page.CurrentY = of.y(line++);
+        PrintHeads(of.page, of.columns, heads);
     }
     of.page.FontBold = false;
 }
@@ -168,7 +146,7 @@ void PrintHeads(const SievePage& of)
 void DrawSieveTable(const SievePage& of)
 {
     DrawTableRules(of);
-    PrintHeads(of);
+    PrintTableHeads(of);
     PrintCells(of.page, of.y, of.columns, kBodyLine, of.sheet.Get<TextGrid>("MSHSieve"),
                {1, kMostSieves, sieve::Number, sieve::Passing});
 }
@@ -188,43 +166,41 @@ void PrintRemark(const SievePage& of)
 void DrawGrainSizes(const SievePage& of)
 {
     const PageLines y = of.From(kGrainSizesLine);
-    of.page.DrawWidth = kThickRule;
-    of.page.Box(kLeft, y(0), of.NarrowEnd(), y(2));
-    of.page.DrawWidth = kThinRule;
-    DrawRows(of.page, y, kLeft, of.NarrowEnd(), 1, 1);
-    DrawVerticals(of.page, y, of.columns, 2, static_cast<int>(kGrainSizes.size()), 0, 2);
-    for (std::size_t i = 0; i < kGrainSizes.size(); ++i) {
-        const double left = of.columns.Left(static_cast<int>(i) + 1);
-        const std::string box = of.Text(kGrainSizes[i].control);
+    const RuledBox box(of.page, y, of.BesideSignatures(), 0, 2);
+    box.Thin();
+    box.Rows(1);
+    box.Verticals(of.columns, 2, static_cast<int>(kGrainSizes.size()));
+    int column = 1;
+    for (const ReportField& size : kGrainSizes) {
+        const double left = of.columns.Left(column++);
+        const std::string text = of.Text(size.control);
         of.page.FontBold = true;
         of.page.CurrentY = y(0);
-        PrintCentred(of.page, left, of.columns.width, kGrainSizes[i].label);
+        PrintCentred(of.page, left, of.columns.width, size.label);
         of.page.FontBold = false;
         of.page.CurrentY = y(1);
-        PrintCentred(of.page, left, of.columns.width, Trim(BehindEquals(box)));
+        PrintCentred(of.page, left, of.columns.width, Trim(BehindEquals(text)));
     }
 }
 
 void PrintClassesCaption(const SievePage& of, const PageLines& y)
 {
-    PrintCaption(of.page, y(0),
+    PrintCaption(of.page, kLeft, y(0),
                  "Engineering Soil Classification (LL = " + of.Text("txtLL") +
                      " % PI = " + NumberText(of.Value("txtLL") - of.Value("txtPL")) + " %)");
 }
 
-void DrawSystem(const SievePage& of, const PageLines& y, double top, const System& system)
+void DrawSystem(const SievePage& of, const RuledBox& box, const PageLines& y, double top, const System& system)
 {
-    const double split = kLeft + (of.page.ScaleWidth - kLeft - 500) / 6 + 150;
-    DrawRows(of.page, y, kLeft, of.NarrowEnd(), top + 1, kSystemLines - 1);
+    const double split = kLeft + WholeWidth(of.page).Width() / 6 + 150;
+    box.Rows(top + 1, kSystemLines - 1);
     of.page.Line(split, y(top + 1), split, y(top + kSystemLines));
     of.page.FontBold = true;
-    of.page.CurrentY = y(top);
-    PrintFrom(of.page, kLeft + kLabelInset, system.heading);
+    PrintFrom(of.page, kLeft + kLabelInset, y(top), system.heading);
     of.page.FontBold = false;
-    for (std::size_t row = 0; row < system.rows.size(); ++row) {
-        of.page.CurrentY = y(top + 1 + static_cast<double>(row));
-        PrintFrom(of.page, kLeft + kLabelInset, system.rows[row].label);
-        PrintFrom(of.page, split + kLabelInset, of.Text(system.rows[row].control));
+    for (const ReportField& row : system.rows) {
+        PrintFrom(of.page, kLeft + kLabelInset, y(++top), row.label);
+        PrintFrom(of.page, split + kLabelInset, of.Text(row.control));
     }
 }
 
@@ -232,17 +208,17 @@ void DrawClasses(const SievePage& of)
 {
     const PageLines y = of.From(kClassesLine);
     PrintClassesCaption(of, y);
-    of.page.DrawWidth = kThickRule;
-    of.page.Box(kLeft, y(1), of.NarrowEnd(), y(1 + 2 * kSystemLines));
-    DrawRows(of.page, y, kLeft, of.NarrowEnd(), 1 + kSystemLines, 1);
-    of.page.DrawWidth = kThinRule;
-    DrawSystem(of, y, 1, kSystems[0]);
-    DrawSystem(of, y, 1 + kSystemLines, kSystems[1]);
+    const RuledBox box(of.page, y, of.BesideSignatures(), 1, 1 + 2 * kSystemLines);
+    box.Rows(1 + kSystemLines);
+    box.Thin();
+    DrawSystem(of, box, y, 1, kSystems[0]);
+    DrawSystem(of, box, y, 1 + kSystemLines, kSystems[1]);
 }
 
-void DrawPage1(Program& program, DrawingSurface& page, Medium medium)
+}  // namespace
+
+void DrawSieve(Program& program, DrawingSurface& page, Medium medium)
 {
-    page.FontSize = kBodySize;
     const SievePage of(OpenSheet(program), page, medium);
     DrawMassBoxes(of);
     PrintMethod(of);
@@ -253,26 +229,6 @@ void DrawPage1(Program& program, DrawingSurface& page, Medium medium)
     DrawGrainSizes(of);
     DrawClasses(of);
     DrawSignatures(program, page, medium);
-}
-
-}  // namespace
-
-void PrintSieve(Program& program, Printer& printer)
-{
-    DrawPage1(program, printer, Medium::Printer);
-    printer.NewPage();
-    printer.SetOrientation(Orientation::Landscape);
-    DrawSieveChart(OpenSheet(program), printer, Medium::Printer);
-}
-
-void ShowSievePage1(Program& program, DrawingSurface& picView)
-{
-    DrawPage1(program, picView, Medium::Preview);
-}
-
-void ShowSievePage2(Program& program, DrawingSurface& picView)
-{
-    DrawSieveChart(OpenSheet(program), picView, Medium::Preview);
 }
 
 }  // namespace terravane

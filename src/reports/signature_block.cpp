@@ -1,12 +1,12 @@
 #include "reports/signature_block.h"
 
-#include <array>
 #include <string>
 #include <string_view>
 
 #include "reports/brand.h"
 #include "reports/open_sheet.h"
-#include "reports/page_text.h"
+#include "reports/report.h"
+#include "reports/report_page.h"
 
 namespace terravane {
 
@@ -18,26 +18,6 @@ constexpr std::string_view kTested = "Tested by ";
 constexpr std::string_view kChecked = "Checked by ";
 constexpr std::string_view kApproved = "Approved by ";
 constexpr std::string_view kPreviewApprover = "Head of Laboratory";
-
-/// Where a report's block stands, in lines of the body's size.
-/// anchor         from the page's top
-/// second, third  rows, from the anchor; the first stands one line below it
-/// fixedPreview   whether the preview shows the fixed approver
-struct SignaturePlace {
-    std::string_view sheet;
-    PerMedium<double> anchor;
-    double second, third;
-    bool fixedPreview = false;
-};
-
-constexpr std::array kPlaces{
-    SignaturePlace{"frmCompaction", {32.5, 32.5}, 5, 9, true},
-    SignaturePlace{"frmDensity", {39, 39}, 3.5, 6},
-    SignaturePlace{"frmSpecific", {29.4, 29.5}, 5, 9},
-    SignaturePlace{"frmAtterberg", {36, 37}, 4, 7},
-    SignaturePlace{"frmSieve", {31, 32}, 5, 9},
-    SignaturePlace{"frmCBR", {34.5, 34.5}, 4, 7},
-};
 
 /// The label, and the dots that end where the page's content ends. The last row is one text, the others' dots
 /// begin where its dots do.
@@ -74,7 +54,7 @@ std::string ApproverOn(Program& program, const SignaturePlace& place, Medium med
 void DrawSignatures(Program& program, DrawingSurface& page, Medium medium)
 {
     const TestSheet& sheet = OpenSheet(program);
-    const SignaturePlace& place = RowOfSheet(kPlaces, sheet.Name());
+    const SignaturePlace& place = ReportOf(program.CurrentTest).signatures;
     page.FontSize = kBodySize;
     const PageLines below(page, LineHeight(page) * place.anchor.On(medium));
     PrintSignature(page, below(1), kTested, sheet.cboTest.Text());

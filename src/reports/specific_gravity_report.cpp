@@ -2,11 +2,9 @@
 
 #include <array>
 
-#include "reports/copied_plot.h"
 #include "reports/open_sheet.h"
 #include "reports/report_table.h"
 #include "reports/signature_block.h"
-#include "runtime/text.h"
 #include "sheets/specific/frmSpecific.h"
 
 namespace terravane {
@@ -16,7 +14,6 @@ namespace {
 using namespace std::string_view_literals;
 
 constexpr double kGravityTop = 4500;  // lower than other bodies: the preview's head block reaches down to it
-constexpr double kLabelWidth = 3000;
 
 constexpr std::array kCalibrationHeads{
     std::array{"No."sv, "Flask + Water"sv, "Temperature"sv},
@@ -36,38 +33,52 @@ constexpr std::array kTrialLabels{
     "Average Specific Gravity"sv,
 };
 
-/// The page being drawn: its rows from the body's top, the columns of its two tables.
-struct GravityPage {
-    const frmSpecific& sheet;
-    DrawingSurface& page;
-    PageLines y;
+constexpr ReportTable kTrials{.caption = "Testing Data",
+                              .captionLine = 15,
+                              .head = "Trial No.",
+                              .headCentredAs = "Trial No.",
+                              .columns = kGravityTrials,
+                              .grid = "MSHSpecific",
+                              .firstRow = gravity::Temperature,
+                              .labels = kTrialLabels,
+                              .rules = RowRules::Above,
+                              .verticals = {1, 1, kGravityTrials + 1},
+                              .lastRow = LastRow::AverageInFirstColumn};
+
+/// The page being drawn, with the columns of its two tables.
+struct GravityPage : ReportPage {
     PageColumns trials;    // their width is a sixth of what the labels leave, also at three trials
     PageColumns readings;  // three across the labels and the first trial
 
-    GravityPage(const frmSpecific& open, DrawingSurface& surface)
-        : sheet(open),
-          page(surface),
-          y(surface, kGravityTop),
-          trials{kLeft + kLabelWidth, (RightEdge(surface) - kLeft - kLabelWidth) / 6},
-          readings{kLeft, (kLabelWidth + trials.width) / 3}
+    GravityPage(const TestSheet& open, DrawingSurface& surface)
+        : ReportPage(open, surface, kGravityTop),
+          trials(ColumnsBeside(kLabelWidth, WholeWidth(surface), 6)),
+          readings{kLeft, (kLabelWidth + trials.width) / int{calibration::kColumns}}
     {}
 };
+
+void DrawReadingRules(const GravityPage& of)
+{
+    const RuledBox box(of.page, of.y, {kLeft, of.trials.Left(2)}, 1, 10);
+    box.Rows(3);
+    box.Thin();
+    box.Rows(4, kCalibrationReadings - 1);
+    box.Thick();
+    box.Verticals(of.readings, 2, calibration::kColumns);
+}
 
 /// Caption on line 0, heads on lines 1 and 2, the seven readings below them to line 10.
 void DrawReadings(const GravityPage& of)
 {
-    PrintCaption(of.page, of.y(0), "Calibration Data");
-    DrawRules(of.page, of.y, {kLeft, of.trials.Left(2), 1, 10, of.readings, 0, 3, 4, 6});
-    of.page.DrawWidth = kThickRule;
-    DrawVerticals(of.page, of.y, of.readings, 2, 3, 1, 10);
-    for (std::size_t line = 0; line < kCalibrationHeads.size(); ++line) {
-        of.page.CurrentY = of.y(1 + static_cast<double>(line));
-        int column = 1;
-        for (const std::string_view head : kCalibrationHeads[line])
-            PrintCentred(of.page, of.readings.Left(column++), of.readings.width, head);
+    PrintCaption(of.page, kLeft, of.y(0), "Calibration Data");
+    DrawReadingRules(of);
+    double line = 1;
+    for (const auto& heads : kCalibrationHeads) {
+        of.page.CurrentY = of.y(line++);
+        PrintHeads(of.page, of.readings, heads);
     }
     of.page.FontBold = false;
-    PrintCells(of.page, of.y, of.readings, 3, of.sheet.MSHCalibration,
+    PrintCells(of.page, of.y, of.readings, line, of.sheet.Get<TextGrid>("MSHCalibration"),
                {1, kCalibrationReadings, calibration::Number, calibration::Temperature});
 }
 
@@ -75,7 +86,7 @@ void PrintEquationLine(const GravityPage& of, std::string_view label, std::strin
 {
     PrintFrom(of.page, kLeft, label);
     PrintFrom(of.page, kLeft + of.page.TextWidth("Equation of Curve"), " :  ");
-    PrintLineFrom(of.page, kLeft + of.page.TextWidth("Equation of Curve :  "), TextOf(of.sheet, control));
+    PrintLineFrom(of.page, kLeft + of.page.TextWidth("Equation of Curve :  "), of.Text(control));
 }
 
 void PrintEquation(const GravityPage& of)
@@ -85,55 +96,17 @@ void PrintEquation(const GravityPage& of)
     PrintEquationLine(of, "R-squared Value", "txtR");
 }
 
-/// The last row is one cell across the trials.
-void DrawTrialRules(const GravityPage& of)
-{
-    constexpr double kTop = 16, kBottom = 27, kAverage = 26;
-    const double right = of.trials.Left(kGravityTrials + 1);
-    DrawRules(of.page, of.y, {kLeft, right, kTop, kBottom, of.trials, 1, kTop + 1, kTop + 1, 9});
-    of.page.DrawWidth = kThickRule;
-    DrawVerticals(of.page, of.y, of.trials, 1, kGravityTrials + 1, kTop, kAverage);
-    DrawRows(of.page, of.y, kLeft, right, kAverage, 1);
-}
-
-/// Caption on line 15, heads on line 16, the nine rows and the average below them to line 27. The average stands below
-/// the first trial.
-void DrawTrials(const GravityPage& of)
-{
-    PrintCaption(of.page, of.y(15), "Testing Data");
-    DrawTrialRules(of);
-    of.page.CurrentY = of.y(16);
-    PrintCentred(of.page, kLeft, kLabelWidth, "Trial No.");
-    PrintColumnNumbers(of.page, of.trials, kGravityTrials);
-    of.page.FontBold = false;
-    PrintLabels(of.page, of.y, kLeft + kLabelInset, 17, kTrialLabels);
-    PrintCells(of.page, of.y, of.trials, 17, of.sheet.MSHSpecific,
-               {gravity::Temperature, gravity::Gravity, 1, kGravityTrials});
-    PrintCells(of.page, of.y, of.trials, 26, of.sheet.MSHSpecific, {gravity::Average, gravity::Average, 1, 1});
-}
+}  // namespace
 
 void DrawSpecificGravity(Program& program, DrawingSurface& page, Medium medium)
 {
-    page.FontSize = kBodySize;
-    page.FontTransparent = true;
-    const GravityPage of(program.Get<frmSpecific>("frmSpecific"), page);
+    const auto& sheet = program.Get<frmSpecific>("frmSpecific");
+    const GravityPage of(sheet, page);
     DrawReadings(of);
     PrintEquation(of);
-    CopyPlot(page, of.sheet.picGraph, of.sheet.picgraph1, RightEdge(page) - of.sheet.picGraph.Width, of.y(1));
-    DrawTrials(of);
+    CopyPlot(page, sheet.picGraph, sheet.picgraph1, of.Right() - sheet.picGraph.Width, of.y(1));
+    DrawTable(of, {{kLeft, of.trials.Left(kGravityTrials + 1)}, of.trials}, kTrials);
     DrawSignatures(program, page, medium);
-}
-
-}  // namespace
-
-void PrintSpecificGravity(Program& program, Printer& printer)
-{
-    DrawSpecificGravity(program, printer, Medium::Printer);
-}
-
-void ShowSpecificGravity(Program& program, DrawingSurface& picView)
-{
-    DrawSpecificGravity(program, picView, Medium::Preview);
 }
 
 }  // namespace terravane

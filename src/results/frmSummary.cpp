@@ -20,11 +20,12 @@ constexpr char kMark = '*';
 struct MaterialColumn {
     Material material;
     int column;
+    std::string_view head;
 };
 
 constexpr std::array kMaterialColumns{
-    MaterialColumn{Material::Soil, summary::kSoil},
-    MaterialColumn{Material::Crush, summary::kCrush},
+    MaterialColumn{Material::Soil, summary::kSoil, "Soil"},
+    MaterialColumn{Material::Crush, summary::kCrush, "Crushed Rock"},
 };
 
 /// A way of testing that is marked behind its results.
@@ -76,6 +77,7 @@ void frmSummary::Form_Load()
     ShowResults();
     MarkResults();
     LayOutGrid();
+    ShowTitles();
 }
 
 /// The recent entry counts, also where no file was opened since the program started.
@@ -96,7 +98,7 @@ void frmSummary::ShowHeadings()
 void frmSummary::ShowResults()
 {
     auto& results = Query(program, program.ProjectConnection, SelectAll("SUMMARY"));
-    for (const auto& [material, column] : kMaterialColumns) {
+    for (const auto& [material, column, head] : kMaterialColumns) {
         for (int row = summary::kHeadRows; row < summary::kRows; ++row) {
             const SummaryLine& line = summary::LineOf(row);
             const std::string posted = results.Fields(line.column);
@@ -109,7 +111,7 @@ void frmSummary::ShowResults()
 void frmSummary::MarkResults()
 {
     for (const Remark& remark : kRemarks) {
-        for (const auto& [material, column] : kMaterialColumns) {
+        for (const auto& [material, column, head] : kMaterialColumns) {
             const auto table = TableOf(remark.test, material).name;
             const auto& rows = Query(program, program.ProjectConnection, SelectAll(table));
             if (Trim(rows.Fields(remark.choice)) == remark.chosen) Mark(mshSum, remark, column);
@@ -122,17 +124,25 @@ void frmSummary::LayOutGrid()
     mshSum.SetHeadRows(summary::kHeadRows);
     mshSum.SetColumnWidth(summary::kTest, kTestWidth);
     mshSum.SetColumnWidth(summary::kProperty, kPropertyWidth);
-    for (const auto& [material, column] : kMaterialColumns)
+    for (const auto& [material, column, head] : kMaterialColumns)
         mshSum.SetColumnWidth(column, (kGridWidth - kTestWidth - kPropertyWidth) / 2);
     mshSum.MergeCells = Merging::Free;
     mshSum.SetMergeRow(0);
     mshSum.SetMergeCol(summary::kTest);
     mshSum.SetMergeCol(summary::kProperty);
-    mshSum.SetColumnTitles({"List of Testing", "Properties", "Values", "Values"});
-    const std::array<std::string_view, summary::kColumns> materials{"List of Testing", "Properties", "Soil",
-                                                                    "Crushed Rock"};
-    for (int column = 0; column < summary::kColumns; ++column)
-        mshSum(1, column) = materials[static_cast<std::size_t>(column)];
+}
+
+/// Equal neighbours stand as one cell.
+void frmSummary::ShowTitles()
+{
+    for (int row = 0; row < summary::kHeadRows; ++row) {
+        mshSum(row, summary::kTest) = "List of Testing";
+        mshSum(row, summary::kProperty) = "Properties";
+    }
+    for (const auto& [material, column, head] : kMaterialColumns) {
+        mshSum(0, column) = "Values";
+        mshSum(1, column) = head;
+    }
     for (int row = summary::kHeadRows; row < summary::kRows; ++row) {
         mshSum(row, summary::kTest) = summary::LineOf(row).test;
         mshSum(row, summary::kProperty) = summary::LineOf(row).property;

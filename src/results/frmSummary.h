@@ -38,6 +38,7 @@ struct frmSummary : Form {
     void ShowResults();
     void MarkResults();
     void LayOutGrid();
+    void ShowTitles();
 };
 
 }  // namespace terravane

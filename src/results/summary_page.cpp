@@ -1,5 +1,6 @@
 #include "results/summary_page.h"
 
+#include "drawing/placed_text.h"
 #include "runtime/text.h"
 
 namespace terravane {
@@ -13,7 +14,6 @@ constexpr std::string_view kMaker = "Written by the Terravane developers";
 constexpr std::string_view kRemarkText =
     "Remark: * indicates that the test was performed using a wet sieve or an unsoaked CBR.";
 
-constexpr std::string_view kFont = "DilleniaUPC";
 constexpr double kTitleSize = 20;  // points
 constexpr double kVersionSize = 14;
 constexpr double kTextSize = 16;
@@ -38,10 +38,6 @@ constexpr double kTestInset = 200;
 constexpr double kCaptionInset = 90;  // the longest caption leaves as much at its other end
 constexpr double kRemarkTop = 12100;
 
-constexpr int kThickRule = 2;  // draw widths
-constexpr int kThinRule = 1;
-constexpr int kSolid = 0;
-
 /// Where the grid's columns begin on the page, in thirds of the table, and where the last one ends.
 constexpr std::array kEdges{0.0, 1.0, 2.0, 2.5, 3.0};
 
@@ -50,23 +46,11 @@ double RightEdge(const DrawingSurface& page)
     return page.ScaleWidth - kMargin;
 }
 
-void PrintAt(DrawingSurface& page, double x, double y, std::string_view text)
-{
-    page.CurrentX = x;
-    page.CurrentY = y;
-    page.PrintOn(text);
-}
-
-void PrintCentred(DrawingSurface& page, double x, double width, double y, std::string_view text)
-{
-    PrintAt(page, x + (width - page.TextWidth(text)) / 2, y, text);
-}
-
 /// The table on the page: a line of text a row of the grid. The line is measured once, in the size then in force.
 class SummaryTable {
   public:
     SummaryTable(DrawingSurface& page, const TextGrid& grid)
-        : page_(page), grid_(grid), line_(page.TextHeight("H")), third_((page.ScaleWidth - 2 * kMargin) / 3)
+        : page_(page), grid_(grid), line_(LineHeight(page)), third_((page.ScaleWidth - 2 * kMargin) / 3)
     {}
 
     void DrawRules() const
@@ -87,7 +71,8 @@ class SummaryTable {
             for (int column = 0; column < summary::kColumns; ++column) {
                 const CellArea area = grid_.AreaOf(row, column);
                 if (area.row != row || area.column != column) continue;  // printed with the cell that it merged with
-                PrintCentred(page_, Left(column), Width(column, area.columns), Middle(area), grid_(row, column));
+                page_.CurrentY = Middle(area);
+                PrintCentred(page_, Left(column), Width(column, area.columns), grid_(row, column));
             }
         }
     }
@@ -95,9 +80,9 @@ class SummaryTable {
     void PrintTestsAndCaptions() const
     {
         for (const CellArea& test : Tests())
-            PrintAt(page_, Left(summary::kTest) + kTestInset, Middle(test), grid_(test.row, summary::kTest));
+            PrintFrom(page_, Left(summary::kTest) + kTestInset, Middle(test), grid_(test.row, summary::kTest));
         for (int row = summary::kHeadRows; row < summary::kRows; ++row)
-            PrintAt(page_, Left(summary::kProperty) + kCaptionInset, Top(row), summary::LineOf(row).caption);
+            PrintFrom(page_, Left(summary::kProperty) + kCaptionInset, Top(row), summary::LineOf(row).caption);
     }
 
     /// The unit stands behind a value that was posted, and behind a mark without a value.
@@ -106,7 +91,8 @@ class SummaryTable {
         for (int row = summary::kHeadRows; row < summary::kRows; ++row) {
             std::string text = grid_(row, column);
             if (!Trim(text).empty()) text += summary::LineOf(row).unit;
-            PrintCentred(page_, Left(column), Width(column, 1), Top(row), text);
+            page_.CurrentY = Top(row);
+            PrintCentred(page_, Left(column), Width(column, 1), text);
         }
     }
 
@@ -134,14 +120,14 @@ class SummaryTable {
 void PrintBanner(DrawingSurface& page)
 {
     page.ForeColor = kThaiColour;
-    PrintAt(page, kBannerLeft, kThaiTop, kThaiName);
+    PrintFrom(page, kBannerLeft, kThaiTop, kThaiName);
     page.ForeColor = kNameColour;
-    PrintAt(page, kBannerLeft, kNameTop, kName);
+    PrintFrom(page, kBannerLeft, kNameTop, kName);
     page.ForeColor = kBlack;
     page.FontSize = kVersionSize;
-    PrintAt(page, kBannerLeft, kVersionTop, kVersion);
+    PrintFrom(page, kBannerLeft, kVersionTop, kVersion);
     page.FontBold = false;
-    PrintAt(page, RightEdge(page) - page.TextWidth(kMaker), kVersionTop, kMaker);
+    PrintFrom(page, RightEdge(page) - page.TextWidth(kMaker), kVersionTop, kMaker);
     page.DrawWidth = kThinRule;
     page.Line(kBannerLeft, kBannerRule, RightEdge(page), kBannerRule);
 }
@@ -151,8 +137,8 @@ void PrintJob(const frmSummary& form, DrawingSurface& page)
     page.FontSize = kTextSize;
     double y = kJobTop;
     for (const TextBox* box : {&form.txtProject, &form.txtLocation}) {
-        PrintAt(page, kMargin, y, box->Caption());
-        PrintAt(page, kJobTextLeft, y, ":  " + box->Text());
+        PrintFrom(page, kMargin, y, box->Caption());
+        PrintFrom(page, kJobTextLeft, y, ":  " + box->Text());
         y += page.TextHeight(box->Caption());
     }
 }
@@ -163,7 +149,7 @@ void PrintRemark(DrawingSurface& page)
     page.FontSize = kRemarkSize;
     page.FontBold = false;
     page.FontItalic = true;
-    PrintAt(page, kMargin, kRemarkTop, kRemarkText);
+    PrintFrom(page, kMargin, kRemarkTop, kRemarkText);
     page.FontSize = kTextSize;
     page.FontBold = true;
     page.FontItalic = false;
@@ -174,7 +160,7 @@ void PrintRemark(DrawingSurface& page)
 void DrawSummaryPage(const frmSummary& form, Printer& page)
 {
     page.SetOrientation(Orientation::Portrait);
-    page.FontName = kFont;
+    page.FontName = kReportFont;
     page.FontSize = kTitleSize;
     page.FontBold = true;
     page.FontItalic = false;
@@ -184,7 +170,8 @@ void DrawSummaryPage(const frmSummary& form, Printer& page)
     PrintJob(form, page);
     page.FontBold = true;
     page.FontSize = kTitleSize;
-    PrintCentred(page, 0, page.ScaleWidth, kTitleTop, kSummaryTitle);
+    page.CurrentY = kTitleTop;
+    PrintCentred(page, 0, page.ScaleWidth, kSummaryTitle);
     page.FontSize = kTextSize;
     const SummaryTable table(page, form.mshSum);
     table.DrawRules();

@@ -1,13 +1,12 @@
 // The bearing ratio report as lists of drawn things. Lengths in twips; a line of the body's size 13 is 339.3: page 1
 // has y(n) = 3800 + 339.3 n, page 2's table starts at 3000. Left edge 500, right edge 11406; a half box is 5403 wide,
 // the right one starts at 6003; the six columns are (10906 - 3000) / 6 = 1317.67 wide, from 3500 on.
-#include <cmath>
-
 #include <gtest/gtest.h>
 
 #include "reports/cbr_report.h"
 #include "reports/print_report.h"
 #include "support/cbr_laboratory.h"
+#include "support/page_marks.h"
 #include "support/report_bench.h"
 
 namespace terravane {
@@ -15,19 +14,17 @@ namespace {
 
 using namespace support;
 
-constexpr double kTwip = 0.1;
-constexpr double kLine = 339.3;
 constexpr double kColumn = 7906 / 6.0;
 constexpr double kTenth = 1090.6;
 
 double Y(double line)
 {
-    return 3800 + kLine * line;
+    return 3800 + kBodyLine * line;
 }
 
 double TableY(double line)
 {
-    return 3000 + kLine * line;
+    return 3000 + kBodyLine * line;
 }
 
 struct CbrPage : ::testing::Test {
@@ -64,41 +61,15 @@ struct CbrPage : ::testing::Test {
     }
 
     /// A printed page: 1 or 2, behind the cover.
-    std::vector<DrawnItem> Printed(std::size_t page) { return PagesOfReport(bench.program).at(page).items; }
+    PageMarks Printed(std::size_t page) { return {PagesOfReport(bench.program).at(page).items}; }
 };
 
-bool Near(double value, double wanted)
-{
-    return std::abs(value - wanted) < kTwip;
-}
+constexpr auto Near = PageMarks::Near;
 
-/// The middle of a text.
-double Middle(const TextItem& text)
+void ExpectAt(const PageMarks& page, std::string_view text, double middle, double y)
 {
-    return text.x + TextWidth(text.font, text.text) / 2;
-}
-
-void ExpectAt(const std::vector<DrawnItem>& items, std::string_view text, double middle, double y)
-{
-    const TextItem found = TextOn(items, text);
-    EXPECT_TRUE(Near(Middle(found), middle) && Near(found.y, y))
-        << text << " is centred at " << Middle(found) << ", " << found.y << ", not at " << middle << ", " << y;
-}
-
-bool HasLine(const std::vector<DrawnItem>& items, double x1, double y1, double x2, double y2, int width)
-{
-    for (const LineItem& line : ItemsOf<LineItem>(items)) {
-        if (Near(line.x1, x1) && Near(line.y1, y1) && Near(line.x2, x2) && Near(line.y2, y2))
-            if (line.pen.width == width) return true;
-    }
-    return false;
-}
-
-bool HasBox(const std::vector<DrawnItem>& items, double x1, double y1, double x2, double y2)
-{
-    for (const BoxItem& box : ItemsOf<BoxItem>(items))
-        if (Near(box.x1, x1) && Near(box.y1, y1) && Near(box.x2, x2) && Near(box.y2, y2)) return true;
-    return false;
+    EXPECT_NEAR(page.Middle(text), middle, kTwip) << text;
+    EXPECT_NEAR(page.Text(text).y, y, kTwip) << text;
 }
 
 TEST_F(CbrPage, CaptionsStandInTheirLines)
@@ -108,30 +79,30 @@ TEST_F(CbrPage, CaptionsStandInTheirLines)
          {std::pair{"Type of Conpaction and CBR", 0}, std::pair{"CBR Solution", 0},
           std::pair{"Water Content Determination", 4}, std::pair{"Dry Density Determination", 11},
           std::pair{"Results of Testing ", 21}, std::pair{"Swelling Determination", 23}}) {
-        const TextItem caption = TextOn(page, text);
+        const TextItem caption = page.Text(text);
         EXPECT_TRUE(Near(caption.y, Y(line))) << text << " at " << caption.y;
         EXPECT_TRUE(caption.font.bold) << text;
     }
-    EXPECT_EQ(TextOn(page, "CBR Solution").x, 6003);
+    EXPECT_EQ(page.Text("CBR Solution").x, 6003);
 }
 
 TEST_F(CbrPage, BoxesHaveTheirPlaces)
 {
     const auto page = Printed(1);
-    EXPECT_TRUE(HasBox(page, 500, Y(1), 5903, Y(4)));
-    EXPECT_TRUE(HasBox(page, 6003, Y(1), 11406, Y(5)));
-    EXPECT_TRUE(HasBox(page, 500, Y(5), 11406, Y(11)));
-    EXPECT_TRUE(HasBox(page, 500, Y(12), 11406, Y(21)));
-    EXPECT_TRUE(HasBox(page, 500, Y(22), 3500 + 3 * kColumn, Y(23)));
-    EXPECT_TRUE(HasBox(page, 500, Y(24), 3500 + 3 * kColumn, Y(32)));
-    EXPECT_TRUE(HasLine(page, 3500 + 3 * kColumn, Y(5), 3500 + 3 * kColumn, Y(11), 2));
-    EXPECT_TRUE(HasLine(page, 3500 + kColumn, Y(13), 3500 + kColumn, Y(21), 1));
-    EXPECT_TRUE(HasLine(page, 500, Y(20), 11406, Y(20), 1));
-    EXPECT_TRUE(HasLine(page, 9003 + 801, Y(1), 9003 + 801, Y(5), 2));
-    EXPECT_TRUE(HasLine(page, 3500, Y(24), 3500, Y(32), 2));
-    EXPECT_TRUE(HasLine(page, 3500 + kColumn / 2, Y(26), 3500 + kColumn / 2, Y(32), 1));
-    EXPECT_TRUE(HasLine(page, 3500 + kColumn, Y(24), 3500 + kColumn, Y(32), 1)) << "Between two moulds.";
-    EXPECT_TRUE(HasLine(page, 1500, Y(25), 1500, Y(32), 1));
+    EXPECT_EQ(page.Boxes(500, Y(1), 5903, Y(4), 2), 1);
+    EXPECT_EQ(page.Boxes(6003, Y(1), 11406, Y(5), 2), 1);
+    EXPECT_EQ(page.Boxes(500, Y(5), 11406, Y(11), 2), 1);
+    EXPECT_EQ(page.Boxes(500, Y(12), 11406, Y(21), 2), 1);
+    EXPECT_EQ(page.Boxes(500, Y(22), 3500 + 3 * kColumn, Y(23), 2), 1);
+    EXPECT_EQ(page.Boxes(500, Y(24), 3500 + 3 * kColumn, Y(32), 2), 1);
+    EXPECT_EQ(page.Down(3500 + 3 * kColumn, Y(5), Y(11), 2), 1);
+    EXPECT_EQ(page.Down(3500 + kColumn, Y(13), Y(21), 1), 1);
+    EXPECT_EQ(page.Across(500, 11406, Y(20), 1), 1);
+    EXPECT_EQ(page.Down(9003 + 801, Y(1), Y(5), 2), 1);
+    EXPECT_EQ(page.Down(3500, Y(24), Y(32), 2), 1);
+    EXPECT_EQ(page.Down(3500 + kColumn / 2, Y(26), Y(32), 1), 1);
+    EXPECT_EQ(page.Down(3500 + kColumn, Y(24), Y(32), 1), 1) << "Between two moulds.";
+    EXPECT_EQ(page.Down(1500, Y(25), Y(32), 1), 1);
 }
 
 TEST_F(CbrPage, ValuesAreCentredInTheirCells)
@@ -147,48 +118,48 @@ TEST_F(CbrPage, ValuesAreCentredInTheirCells)
     ExpectAt(page, "s78", 3500 + kColumn * 2.75, Y(31));
     ExpectAt(page, "r21", 9003 + 400.5, Y(3));
     ExpectAt(page, "r33", 9003 + 2002.5, Y(4));
-    EXPECT_EQ(TextsOf(page, "d22").size(), 2U) << "The blows stand in the table and in the solution.";
-    EXPECT_TRUE(Near(TextOn(page, "Moistue Content, (%)").x, 700));
+    EXPECT_EQ(page.Texts("d22").size(), 2U) << "The blows stand in the table and in the solution.";
+    EXPECT_TRUE(Near(page.Text("Moistue Content, (%)").x, 700));
 }
 
 TEST_F(CbrPage, ParametersStandAtTheirStops)
 {
     const auto page = Printed(1);
-    const TextItem unit = TextOn(page, "%");
+    const TextItem unit = page.Text("%");
     EXPECT_TRUE(Near(unit.x, 700 + TextWidth(unit.font, "Opt. Moisture           "))) << unit.x;
     EXPECT_TRUE(Near(unit.y, Y(2)));
     EXPECT_TRUE(
-        Near(TextOn(page, "lb/div.").x, 500 + 2701.5 + 200 + TextWidth(unit.font, "Prv. Constant (K)           ")));
-    EXPECT_TRUE(Near(TextOn(page, "MDD ").y, Y(3)));
-    EXPECT_TRUE(Near(TextOn(page, "Surcharge Weight  ").x, 3401.5));
+        Near(page.Text("lb/div.").x, 500 + 2701.5 + 200 + TextWidth(unit.font, "Prv. Constant (K)           ")));
+    EXPECT_TRUE(Near(page.Text("MDD ").y, Y(3)));
+    EXPECT_TRUE(Near(page.Text("Surcharge Weight  ").x, 3401.5));
 }
 
 TEST_F(CbrPage, ALongConstantPushesItsUnit)
 {
     sheet.txtK.SetText("4.99581234");
     const auto page = Printed(1);
-    const TextItem value = TextOn(page, "4.99581234");
-    EXPECT_GT(TextOn(page, "lb/div.").x, value.x + TextWidth(value.font, value.text));
+    const TextItem value = page.Text("4.99581234");
+    EXPECT_GT(page.Text("lb/div.").x, value.x + TextWidth(value.font, value.text));
 }
 
 TEST_F(CbrPage, TheChoicesNameTheTest)
 {
     const double quarter = 5403 / 4.0;
     auto page = Printed(1);
-    EXPECT_EQ(TextsOf(page, "Soaked CBR").size() + TextsOf(page, "Unsoaked CBR").size(), 0U) << "Nothing is chosen.";
+    EXPECT_EQ(page.Texts("Soaked CBR").size() + page.Texts("Unsoaked CBR").size(), 0U) << "Nothing is chosen.";
     sheet.optSoak.Choose();
     ExpectAt(Printed(1), "Soaked CBR", 500 + 3 * quarter, Y(1));
     sheet.optUnsoak.Choose();
     ExpectAt(Printed(1), "Unsoaked CBR", 500 + 3 * quarter, Y(1));
     page = Printed(1);
-    EXPECT_EQ(TextsOf(page, "Unsoaked").size(), 3U) << "In the solution and over both tables.";
-    EXPECT_EQ(TextsOf(page, "Before Soaking").size(), 0U);
+    EXPECT_EQ(page.Texts("Unsoaked").size(), 3U) << "In the solution and over both tables.";
+    EXPECT_EQ(page.Texts("Before Soaking").size(), 0U);
     sheet.optBoth.Choose();
     page = Printed(1);
     ExpectAt(page, "Unsoaked and Soaked CBR", 500 + 3 * quarter, Y(1));
-    EXPECT_EQ(TextsOf(page, "Before Soaking").size(), 2U);
-    EXPECT_EQ(TextsOf(page, "After Soaking").size(), 2U);
-    EXPECT_EQ(TextsOf(page, "d24").size(), 2U) << "The soaked mould's blows stand in the solution.";
+    EXPECT_EQ(page.Texts("Before Soaking").size(), 2U);
+    EXPECT_EQ(page.Texts("After Soaking").size(), 2U);
+    EXPECT_EQ(page.Texts("d24").size(), 2U) << "The soaked mould's blows stand in the solution.";
 }
 
 TEST_F(CbrPage, WithoutAChoiceTheSwellingGridPrints)
@@ -196,8 +167,8 @@ TEST_F(CbrPage, WithoutAChoiceTheSwellingGridPrints)
     for (int row = cbr::swell::First; row < sheet.MSHSwell.Rows(); ++row)
         for (int column = 0; column < sheet.MSHSwell.Columns(); ++column) sheet.MSHSwell(row, column) = "";
     const auto page = Printed(1);
-    EXPECT_EQ(TextsOf(page, "Swell").size(), 3U);
-    EXPECT_TRUE(HasLine(page, 500, Y(31), 3500 + 3 * kColumn, Y(31), 1));
+    EXPECT_EQ(page.Texts("Swell").size(), 3U);
+    EXPECT_EQ(page.Across(500, 3500 + 3 * kColumn, Y(31), 1), 1);
 }
 
 TEST_F(CbrPage, ThreeMouldsPrintTheDesignValue)
@@ -214,9 +185,9 @@ TEST_F(CbrPage, ASingleMouldPrintsTheHigherRatio)
     sheet.mshLPC(cbr::result::At02, 1) = "8.0";
     sheet.mshLPC(cbr::result::At01, 2) = "9.5";
     sheet.mshLPC(cbr::result::At02, 2) = "9.1";
-    EXPECT_EQ(TextsOf(Printed(1), "CBR Value of Stardard Compaction is 8 %").size(), 1U);
+    EXPECT_EQ(Printed(1).Texts("CBR Value of Stardard Compaction is 8 %").size(), 1U);
     sheet.optBoth.Choose();
-    EXPECT_EQ(TextsOf(Printed(1), "CBR Value of Stardard Compaction is 9.5 %").size(), 1U) << "The soaked mould.";
+    EXPECT_EQ(Printed(1).Texts("CBR Value of Stardard Compaction is 9.5 %").size(), 1U) << "The soaked mould.";
 }
 
 TEST_F(CbrPage, PreviewAndPrinterShareTheFirstPagesBody)
@@ -225,36 +196,36 @@ TEST_F(CbrPage, PreviewAndPrinterShareTheFirstPagesBody)
     preview.FontName = "DilleniaUPC";
     Printer printer;
     printer.FontName = "DilleniaUPC";
-    ShowCBRPage1(bench.program, preview);
-    PrintCBR(bench.program, printer);
-    EXPECT_EQ(preview.Items(), printer.Pages().at(0).items);
+    DrawCbrPage1(bench.program, preview, Medium::Preview);
+    DrawCbrPage1(bench.program, printer, Medium::Printer);
+    EXPECT_EQ(preview.Items(), printer.Items());
 }
 
 // Nine rows below four lines of heads.
 TEST_F(CbrPage, TheSecondPagesTableHoldsItsRows)
 {
     const auto page = Printed(2);
-    EXPECT_TRUE(HasBox(page, 500, 3000, 11406, TableY(13)));
-    EXPECT_TRUE(HasLine(page, 500, TableY(4), 11406, TableY(4), 2));
-    EXPECT_TRUE(HasLine(page, 500 + kTenth, 3000, 500 + kTenth, TableY(13), 2));
-    EXPECT_TRUE(HasLine(page, 500 + 7 * kTenth, 3000, 500 + 7 * kTenth, TableY(13), 2));
-    EXPECT_TRUE(HasLine(page, 500 + 2 * kTenth, TableY(1), 500 + 2 * kTenth, TableY(13), 1));
-    EXPECT_TRUE(HasLine(page, 500, TableY(12), 11406, TableY(12), 1));
+    EXPECT_EQ(page.Boxes(500, 3000, 11406, TableY(13), 2), 1);
+    EXPECT_EQ(page.Across(500, 11406, TableY(4), 2), 1);
+    EXPECT_EQ(page.Down(500 + kTenth, 3000, TableY(13), 2), 1);
+    EXPECT_EQ(page.Down(500 + 7 * kTenth, 3000, TableY(13), 2), 1);
+    EXPECT_EQ(page.Down(500 + 2 * kTenth, TableY(1), TableY(13), 1), 1);
+    EXPECT_EQ(page.Across(500, 11406, TableY(12), 1), 1);
     ExpectAt(page, "p01", 500 + 1.5 * kTenth, TableY(4));
     ExpectAt(page, "p89", 500 + 9.5 * kTenth, TableY(12));
     ExpectAt(page, "0.200", 500 + 0.5 * kTenth, TableY(12));
-    EXPECT_EQ(TextsOf(page, "Load Dial").size(), 3U);
-    EXPECT_EQ(TextsOf(page, "(lb/in^2)").size(), 3U);
-    EXPECT_EQ(TextsOf(page, "Page 2").size(), 1U);
-    EXPECT_EQ(TextsOf(page, "Client Name ").size(), 0U) << "No head block on the second page.";
-    EXPECT_EQ(TextsOf(page, "การทดสอบหาค่า ซี.บี.อาร์.").size(), 1U);
+    EXPECT_EQ(page.Texts("Load Dial").size(), 3U);
+    EXPECT_EQ(page.Texts("(lb/in^2)").size(), 3U);
+    EXPECT_EQ(page.Texts("Page 2").size(), 1U);
+    EXPECT_EQ(page.Texts("Client Name ").size(), 0U) << "No head block on the second page.";
+    EXPECT_EQ(page.Texts("การทดสอบหาค่า ซี.บี.อาร์.").size(), 1U);
 }
 
 TEST_F(CbrPage, CurvesAreCopiedBelowTheTable)
 {
     const double top = TableY(13) + 400;
     sheet.picgraph1.Circle(100, 100, 30);
-    const auto pictures = ItemsOf<PictureItem>(Printed(2));
+    const auto pictures = ItemsOf<PictureItem>(Printed(2).items);
     const auto find = [&](std::string_view name) {
         for (const PictureItem& picture : pictures)
             if (picture.name == name) return picture;
@@ -279,19 +250,19 @@ TEST_F(CbrPage, TheSummaryStandsBetweenTheCurves)
 {
     const double top = TableY(13) + 500;
     auto page = Printed(2);
-    const TextItem density = TextOn(page, "Dry Density is ");
+    const TextItem density = page.Text("Dry Density is ");
     EXPECT_EQ(density.font.size, 15);
     EXPECT_TRUE(Near(density.x, 4180) && Near(density.y, top + 4 * 391.5)) << density.x << ", " << density.y;
-    EXPECT_TRUE(Near(TextOn(page, "r21").y, top + 5 * 391.5));
-    EXPECT_TRUE(Near(TextOn(page, "r31").y, top + 6 * 391.5));
+    EXPECT_TRUE(Near(page.Text("r21").y, top + 5 * 391.5));
+    EXPECT_TRUE(Near(page.Text("r31").y, top + 6 * 391.5));
 
     sheet.optBoth.Choose();
     page = Printed(2);
-    EXPECT_TRUE(Near(TextOn(page, "Unsoaked CBR").y, top + 2 * 391.5));
-    EXPECT_TRUE(TextOn(page, "Soaked CBR").font.bold);
-    EXPECT_TRUE(Near(TextOn(page, "Soaked CBR").y, top + 6 * 391.5));
-    EXPECT_TRUE(Near(TextOn(page, "r32").y, top + 9 * 391.5));
-    for (const TextItem& text : ItemsOf<TextItem>(page)) {
+    EXPECT_TRUE(Near(page.Text("Unsoaked CBR").y, top + 2 * 391.5));
+    EXPECT_TRUE(page.Text("Soaked CBR").font.bold);
+    EXPECT_TRUE(Near(page.Text("Soaked CBR").y, top + 6 * 391.5));
+    EXPECT_TRUE(Near(page.Text("r32").y, top + 9 * 391.5));
+    for (const TextItem& text : ItemsOf<TextItem>(page.items)) {
         if (text.font.size != 15 || text.x < 4000) continue;
         EXPECT_LT(text.x + TextWidth(text.font, text.text), 7806) << text.text << " runs into the right curve.";
     }
@@ -325,14 +296,14 @@ TEST_F(CbrPage, ALongCellIsNotClipped)
 {
     const std::string longText(60, 'W');
     sheet.MSHWater(1, 6) = longText;
-    EXPECT_EQ(TextsOf(Printed(1), longText).size(), 1U);
+    EXPECT_EQ(Printed(1).Texts(longText).size(), 1U);
 }
 
 // Twenty penetrations end the table at 3000 + 24 · 339.3; the curves end above the footer at 16138.
 TEST_F(CbrPage, TwentyPenetrationsLeaveRoomForTheCurves)
 {
     sheet.MSHPenetrate1.SetRows(20);
-    for (const PictureItem& picture : ItemsOf<PictureItem>(Printed(2)))
+    for (const PictureItem& picture : ItemsOf<PictureItem>(Printed(2).items))
         EXPECT_LE(picture.y + picture.height, 16138) << picture.name;
 }
 

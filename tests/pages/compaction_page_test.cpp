@@ -1,11 +1,10 @@
 // The compaction report as a list of drawn things. Lengths in twips; a line of the body's size 13 is 339.3, so that
 // y(n) = 3800 + 339.3 n. The six sample columns are (11906 - 3500) / 6 = 1401 wide, from 3000 on.
-#include <cmath>
-
 #include <gtest/gtest.h>
 
 #include "reports/compaction_report.h"
 #include "reports/print_report.h"
+#include "support/page_marks.h"
 #include "support/report_bench.h"
 
 namespace terravane {
@@ -13,13 +12,11 @@ namespace {
 
 using namespace support;
 
-constexpr double kTwip = 0.1;
-constexpr double kLine = 339.3;
 constexpr double kColumn = 1401;
 
 double Y(double line)
 {
-    return 3800 + kLine * line;
+    return 3800 + kBodyLine * line;
 }
 
 double ColumnMiddle(int column)
@@ -52,67 +49,39 @@ struct CompactionPage : ::testing::Test {
                 grid(row, column) = " " + mark + std::to_string(row) + std::to_string(column) + " ";
     }
 
-    std::vector<DrawnItem> Printed() { return PagesOfReport(bench.program).back().items; }
+    PageMarks Printed() { return {PagesOfReport(bench.program).back().items}; }
     std::vector<DrawnItem> Shown() { return bench.Preview().picView.Items(); }
 };
 
-bool Near(double value, double wanted)
-{
-    return std::abs(value - wanted) < kTwip;
-}
-
-int LinesAcross(const std::vector<DrawnItem>& items, double y, int width)
-{
-    int count = 0;
-    for (const LineItem& line : ItemsOf<LineItem>(items))
-        if (Near(line.y1, y) && Near(line.y2, y) && Near(line.x1, 500) && line.pen.width == width) ++count;
-    return count;
-}
-
-int Verticals(const std::vector<DrawnItem>& items, double x, double top, double bottom)
-{
-    int count = 0;
-    for (const LineItem& line : ItemsOf<LineItem>(items))
-        if (Near(line.x1, x) && Near(line.x2, x) && Near(line.y1, top) && Near(line.y2, bottom)) ++count;
-    return count;
-}
-
-int Boxes(const std::vector<DrawnItem>& items, double x1, double y1, double x2, double y2)
-{
-    int count = 0;
-    for (const BoxItem& box : ItemsOf<BoxItem>(items))
-        if (Near(box.x1, x1) && Near(box.y1, y1) && Near(box.x2, x2) && Near(box.y2, y2) && box.pen.width == 2) ++count;
-    return count;
-}
-
 TEST_F(CompactionPage, BoxesFrameMouldResultsAndTables)
 {
-    const auto items = Printed();
-    EXPECT_EQ(Boxes(items, 500, 3800, 7203, Y(2)), 1) << "mould";
-    EXPECT_EQ(Boxes(items, 7303, 3800, 11406, Y(2)), 1) << "results";
-    EXPECT_EQ(Boxes(items, 500, Y(3), 11406, Y(11)), 1) << "water contents";
-    EXPECT_EQ(Boxes(items, 500, Y(12), 11406, Y(19)), 1) << "densities";
+    const PageMarks page = Printed();
+    EXPECT_EQ(page.Boxes(500, 3800, 7203, Y(2), 2), 1) << "mould";
+    EXPECT_EQ(page.Boxes(7303, 3800, 11406, Y(2), 2), 1) << "results";
+    EXPECT_EQ(page.Boxes(500, Y(3), 11406, Y(11), 2), 1) << "water contents";
+    EXPECT_EQ(page.Boxes(500, Y(12), 11406, Y(19), 2), 1) << "densities";
 }
 
 TEST_F(CompactionPage, TablesAreRuled)
 {
-    const auto items = Printed();
-    EXPECT_EQ(LinesAcross(items, Y(4), 2), 1) << "below the sample numbers";
-    for (int line = 5; line <= 11; ++line) EXPECT_EQ(LinesAcross(items, Y(line), 1), 1) << "water, line " << line;
-    for (int line = 13; line <= 19; ++line) EXPECT_EQ(LinesAcross(items, Y(line), 1), 1) << "density, line " << line;
+    const PageMarks page = Printed();
+    EXPECT_EQ(page.Across(500, 11406, Y(4), 2), 1) << "below the sample numbers";
+    for (int line = 5; line <= 11; ++line) EXPECT_EQ(page.Across(500, 11406, Y(line), 1), 1) << "water, line " << line;
+    for (int line = 13; line <= 19; ++line)
+        EXPECT_EQ(page.Across(500, 11406, Y(line), 1), 1) << "density, line " << line;
     for (int column = 0; column <= 6; ++column) {
-        EXPECT_EQ(Verticals(items, 3000 + kColumn * column, Y(3), Y(11)), 1) << "water, column " << column;
-        EXPECT_EQ(Verticals(items, 3000 + kColumn * column, Y(12), Y(19)), 1) << "density, column " << column;
+        EXPECT_EQ(page.Down(3000 + kColumn * column, Y(3), Y(11), 2), 1) << "water, column " << column;
+        EXPECT_EQ(page.Down(3000 + kColumn * column, Y(12), Y(19), 2), 1) << "density, column " << column;
     }
-    EXPECT_EQ(Verticals(items, 4401, 3800, Y(2)), 1);
-    EXPECT_EQ(Verticals(items, 2450.5, 3800, Y(2)), 1);
+    EXPECT_EQ(page.Down(4401, 3800, Y(2), 2), 1);
+    EXPECT_EQ(page.Down(2450.5, 3800, Y(2), 2), 1);
 }
 
 TEST_F(CompactionPage, ValuesAreCentredInTheirCells)
 {
-    const auto items = Printed();
+    const PageMarks page = Printed();
     const auto check = [&](const std::string& text, int column, double line) {
-        const TextItem item = TextOn(items, text);
+        const TextItem item = page.Text(text);
         EXPECT_NEAR(item.x + TextWidth(item.font, text) / 2, ColumnMiddle(column), kTwip) << text;
         EXPECT_NEAR(item.y, Y(line), kTwip) << text;
         EXPECT_EQ(item.font, (Font{"DilleniaUPC", 13, false, false})) << text;
@@ -125,7 +94,7 @@ TEST_F(CompactionPage, ValuesAreCentredInTheirCells)
 
 TEST_F(CompactionPage, LabelsStandBesideTheirRows)
 {
-    const auto items = Printed();
+    const PageMarks page = Printed();
     const std::vector<std::pair<std::string, double>> labels{
         {"Moisture Can No.", 4},       {"Mass of Can + Wet Soil, (g)", 5}, {"Mass of Can + Dry Soil, (g)", 6},
         {"Mass of Can, (g)", 7},       {"Mass of Water, (g)", 8},          {"Mass of Dry Soil, (g)", 9},
@@ -133,25 +102,25 @@ TEST_F(CompactionPage, LabelsStandBesideTheirRows)
         {"Mass of Mold, (g)", 14},     {"Water Content, (g)", 15},         {"Mass of Soil in Mold, (g)", 16},
         {"Wet Density, (g/cm^3)", 17}, {"Dry Density, (g/cm^3)", 18}};
     for (const auto& [label, line] : labels) {
-        EXPECT_NEAR(TextOn(items, label).x, 700, kTwip) << label;
-        EXPECT_NEAR(TextOn(items, label).y, Y(line), kTwip) << label;
-        EXPECT_FALSE(TextOn(items, label).font.bold) << label;
+        EXPECT_NEAR(page.Text(label).x, 700, kTwip) << label;
+        EXPECT_NEAR(page.Text(label).y, Y(line), kTwip) << label;
+        EXPECT_FALSE(page.Text(label).font.bold) << label;
     }
 }
 
 TEST_F(CompactionPage, CaptionsAndHeaderAreBold)
 {
-    const auto items = Printed();
-    EXPECT_NEAR(TextOn(items, "Water Content Determination").y, Y(2), kTwip);
-    EXPECT_NEAR(TextOn(items, "Density Determination").y, Y(11), kTwip);
-    EXPECT_NEAR(TextOn(items, "Sample No.").y, Y(3), kTwip);
+    const PageMarks page = Printed();
+    EXPECT_NEAR(page.Text("Water Content Determination").y, Y(2), kTwip);
+    EXPECT_NEAR(page.Text("Density Determination").y, Y(11), kTwip);
+    EXPECT_NEAR(page.Text("Sample No.").y, Y(3), kTwip);
     for (const char* text : {"Water Content Determination", "Density Determination", "Sample No."})
-        EXPECT_TRUE(TextOn(items, text).font.bold) << text;
+        EXPECT_TRUE(page.Text(text).font.bold) << text;
     for (int column = 1; column <= 6; ++column) {
         const std::string number = std::to_string(column);
         int found = 0;
-        for (const TextItem& item : TextsOf(items, number)) {
-            if (!Near(item.y, Y(3))) continue;
+        for (const TextItem& item : page.Texts(number)) {
+            if (!PageMarks::Near(item.y, Y(3))) continue;
             ++found;
             EXPECT_NEAR(item.x + TextWidth(item.font, number) / 2, ColumnMiddle(column), kTwip);
         }
@@ -162,52 +131,52 @@ TEST_F(CompactionPage, CaptionsAndHeaderAreBold)
 // "Diameter of Mold  " ends its label; the colon stands there, the value 300 and the unit 800 further.
 TEST_F(CompactionPage, MouldRowsStandAtTheirStops)
 {
-    const auto items = Printed();
-    const TextItem diameter = TextOn(items, "Diameter of Mold");
+    const PageMarks page = Printed();
+    const TextItem diameter = page.Text("Diameter of Mold");
     const double stop = 4601 + TextWidth(diameter.font, "Diameter of Mold  ");
     EXPECT_NEAR(diameter.x, 4601, kTwip);
-    EXPECT_NEAR(TextOn(items, "10.16").x, stop + 300, kTwip);
-    EXPECT_NEAR(TextOn(items, "11.64").x, stop + 300, kTwip);
-    const auto units = TextsOf(items, "cm");
+    EXPECT_NEAR(page.Text("10.16").x, stop + 300, kTwip);
+    EXPECT_NEAR(page.Text("11.64").x, stop + 300, kTwip);
+    const auto units = page.Texts("cm");
     ASSERT_EQ(units.size(), 2u);
     for (const TextItem& unit : units) {
         EXPECT_NEAR(unit.x, stop + 800, kTwip);
         EXPECT_LT(unit.x + TextWidth(unit.font, "cm"), 7203) << "the unit stands inside its box";
     }
-    EXPECT_NEAR(TextOn(items, "Number of Layer  :  ").x, 700, kTwip);
-    EXPECT_NEAR(TextOn(items, "Blows per Layer  :  ").x, 2650.5, kTwip);
-    EXPECT_NEAR(TextOn(items, "2.5 kg").x, 2800.5, kTwip);
-    EXPECT_NEAR(TextOn(items, "2.5 kg").y, Y(1), kTwip);
-    EXPECT_NEAR(TextOn(items, "Height of Mold").y, Y(1), kTwip);
+    EXPECT_NEAR(page.Text("Number of Layer  :  ").x, 700, kTwip);
+    EXPECT_NEAR(page.Text("Blows per Layer  :  ").x, 2650.5, kTwip);
+    EXPECT_NEAR(page.Text("2.5 kg").x, 2800.5, kTwip);
+    EXPECT_NEAR(page.Text("2.5 kg").y, Y(1), kTwip);
+    EXPECT_NEAR(page.Text("Height of Mold").y, Y(1), kTwip);
 }
 
 // "00000,00" is 8542 units, 156 / 2048 twips each: 650.7 behind the colon at 3000 + 5 × 1401 = 10005.
 TEST_F(CompactionPage, ResultsEndWhereTheirUnitsBegin)
 {
-    const auto items = Printed();
-    const TextItem water = TextOn(items, "12.3");
+    const PageMarks page = Printed();
+    const TextItem water = page.Text("12.3");
     EXPECT_NEAR(water.x + TextWidth(water.font, "12.3"), 10655.7, kTwip);
     EXPECT_NEAR(water.y, 3800, kTwip);
-    EXPECT_NEAR(TextOn(items, "  %").x, 10655.7, kTwip);
-    EXPECT_NEAR(TextOn(items, "  g/cm^3").x, 10655.7, kTwip);
-    EXPECT_NEAR(TextOn(items, "1.98").y, Y(1), kTwip);
-    EXPECT_NEAR(TextOn(items, "Maximum Dry Density (MDD)  ").x, 7403, kTwip);
+    EXPECT_NEAR(page.Text("  %").x, 10655.7, kTwip);
+    EXPECT_NEAR(page.Text("  g/cm^3").x, 10655.7, kTwip);
+    EXPECT_NEAR(page.Text("1.98").y, Y(1), kTwip);
+    EXPECT_NEAR(page.Text("Maximum Dry Density (MDD)  ").x, 7403, kTwip);
 }
 
 TEST_F(CompactionPage, UnitsPrintWithoutResults)
 {
     sheet.txtOMC.SetText("");
     sheet.txtDmax.SetText("");
-    const auto items = Printed();
-    EXPECT_NEAR(TextOn(items, "  %").x, 10655.7, kTwip);
-    EXPECT_NEAR(TextOn(items, "  g/cm^3").x, 10655.7, kTwip);
+    const PageMarks page = Printed();
+    EXPECT_NEAR(page.Text("  %").x, 10655.7, kTwip);
+    EXPECT_NEAR(page.Text("  g/cm^3").x, 10655.7, kTwip);
 }
 
 TEST_F(CompactionPage, PictureBoxesAreCopiedWithTheirOwnSizes)
 {
     sheet.picgraph1.Line(0, 0, 100, 100);
-    const auto items = Printed();
-    const auto pictures = ItemsOf<PictureItem>(items);
+    const PageMarks page = Printed();
+    const auto pictures = ItemsOf<PictureItem>(page.items);
     ASSERT_EQ(pictures.size(), 4u) << "two logos, two boxes";
     const PictureItem& frame = pictures[2];
     const PictureItem& plot = pictures[3];
@@ -229,17 +198,17 @@ TEST_F(CompactionPage, UncalculatedSheetPrintsItsFrames)
     for (TextGrid* grid : {&sheet.MSHWt, &sheet.MSHDensity})
         for (int row = 0; row < grid->Rows(); ++row)
             for (int column = 1; column <= 6; ++column) (*grid)(row, column) = "";
-    const auto items = Printed();
-    EXPECT_EQ(Boxes(items, 500, Y(3), 11406, Y(11)), 1);
-    EXPECT_NEAR(TextOn(items, "Density Determination").y, Y(11), kTwip);
-    EXPECT_EQ(ItemsOf<PictureItem>(items).size(), 4u);
+    const PageMarks page = Printed();
+    EXPECT_EQ(page.Boxes(500, Y(3), 11406, Y(11), 2), 1);
+    EXPECT_NEAR(page.Text("Density Determination").y, Y(11), kTwip);
+    EXPECT_EQ(ItemsOf<PictureItem>(page.items).size(), 4u);
 }
 
 // The approver aside, the preview is the print: same things at the same places but for banner and logos.
 TEST_F(CompactionPage, PreviewDiffersInTheApproverAlone)
 {
     bench.MakePerson(1, "Chai Somsak", "Approver");
-    const auto printed = Printed();
+    const auto printed = Printed().items;
     const auto shown = Shown();
     ASSERT_EQ(printed.size(), shown.size());
     std::vector<std::string> differing;
@@ -256,27 +225,13 @@ TEST_F(CompactionPage, PreviewDiffersInTheApproverAlone)
 TEST_F(CompactionPage, UnsavedTextIsPrintedAsTyped)
 {
     sheet.txtDmax.SetText("about 2");
-    EXPECT_EQ(TextsOf(Printed(), "about 2").size(), 1u);
+    EXPECT_EQ(Printed().Texts("about 2").size(), 1u);
 }
 
-/// Right end of a text.
-double EndOf(const TextItem& item)
-{
-    return item.x + TextWidth(item.font, item.text);
-}
-
-// With readings of usual length no two texts of the page share a place, but for the colon on the mould box's rule.
+// But for the colon on the mould box's rule, which is no text.
 TEST_F(CompactionPage, NoTwoTextsOverlap)
 {
-    const auto texts = ItemsOf<TextItem>(Printed());
-    for (std::size_t one = 0; one < texts.size(); ++one) {
-        for (std::size_t other = one + 1; other < texts.size(); ++other) {
-            const TextItem &a = texts[one], &b = texts[other];
-            const bool sameRow = std::abs(a.y - b.y) < 100;
-            EXPECT_FALSE(sameRow && a.x < EndOf(b) - 1 && b.x < EndOf(a) - 1) << a.text << " over " << b.text;
-        }
-    }
-    for (const TextItem& text : texts) EXPECT_LE(EndOf(text), 11406 + 1) << text.text << " leaves the page's content";
+    ExpectNoTextOverText(Printed().items);
 }
 
 }  // namespace

@@ -245,9 +245,9 @@ TEST_F(DensityPage, PreviewAndPrinterShareTheBody)
     preview.FontName = "DilleniaUPC";
     Printer printer;
     printer.FontName = "DilleniaUPC";
-    ShowFieldDensity(bench.program, preview);
-    PrintFieldDensity(bench.program, printer);
-    EXPECT_EQ(preview.Items(), printer.Pages().at(0).items);
+    DrawFieldDensity(bench.program, preview, Medium::Preview);
+    DrawFieldDensity(bench.program, printer, Medium::Printer);
+    EXPECT_EQ(preview.Items(), printer.Items());
 }
 
 TEST_F(DensityPage, ThePreviewHasOnePage)

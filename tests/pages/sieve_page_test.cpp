@@ -5,21 +5,20 @@
 #include <gtest/gtest.h>
 
 #include "reports/print_report.h"
+#include "support/page_marks.h"
 #include "support/report_bench.h"
-#include "support/sieve_lab.h"
+#include "support/sieve_laboratory.h"
 
 namespace terravane {
 namespace {
 
 using namespace support;
 
-constexpr double kTwip = 0.1;
-constexpr double kLine = 339.3;
 constexpr double kColumn = 1363.25;
 
 double Y(double line)
 {
-    return 3800 + kLine * line;
+    return 3800 + kBodyLine * line;
 }
 
 double Width(std::string_view text, double size = 13, bool bold = false)
@@ -45,32 +44,22 @@ struct SievePage : testing::Test {
     }
 
     std::vector<DisplayList> Pages() { return PagesOfReport(bench.program); }
-    std::vector<DrawnItem> Printed() { return Pages().at(1).items; }
-    std::vector<DrawnItem> PrintedChart() { return Pages().at(2).items; }
-    std::vector<DrawnItem> Shown() { return bench.Preview().picView.Items(); }
-    std::vector<DrawnItem> ShownChart()
+    PageMarks Printed() { return {Pages().at(1).items}; }
+    PageMarks PrintedChart() { return {Pages().at(2).items}; }
+    PageMarks Shown() { return {bench.Preview().picView.Items()}; }
+    PageMarks ShownChart()
     {
         frmPreview& preview = bench.Preview();
         preview.cmdNext.Press();
-        return preview.picView.Items();
+        return {preview.picView.Items()};
     }
     /// The curve of the printed chart.
     std::vector<DrawnPoint> Curve()
     {
-        const auto curves = ItemsOf<PolylineItem>(PrintedChart());
+        const auto curves = ItemsOf<PolylineItem>(PrintedChart().items);
         return curves.size() == 1 ? curves[0].points : std::vector<DrawnPoint>{};
     }
 };
-
-bool HasBox(const std::vector<DrawnItem>& items, double x1, double y1, double x2, double y2, int width = 2)
-{
-    for (const BoxItem& box : ItemsOf<BoxItem>(items)) {
-        if (std::abs(box.x1 - x1) < kTwip && std::abs(box.y1 - y1) < kTwip && std::abs(box.x2 - x2) < kTwip &&
-            std::abs(box.y2 - y2) < kTwip && box.pen.width == width)
-            return true;
-    }
-    return false;
-}
 
 TEST_F(SievePage, APrintedReportIsACoverAndTwoPagesTheLastOnItsSide)
 {
@@ -84,54 +73,54 @@ TEST_F(SievePage, APrintedReportIsACoverAndTwoPagesTheLastOnItsSide)
 TEST_F(SievePage, BoxesStandWhereTheMethodHasThem)
 {
     const auto page = Printed();
-    EXPECT_TRUE(HasBox(page, 500, Y(1), 3226.5, Y(4)));
-    EXPECT_TRUE(HasBox(page, 3226.5, Y(1), 11406, Y(4)));
-    EXPECT_TRUE(HasBox(page, 500, Y(4.5), 11406, Y(7.5)));
-    EXPECT_TRUE(HasBox(page, 500, Y(7.5), 11406, Y(17.5)));
-    EXPECT_TRUE(HasBox(page, 500, kLine * 29.8, 500 + 5 * kColumn, kLine * 31.8));
-    EXPECT_TRUE(HasBox(page, 500, kLine * 34.8, 500 + 5 * kColumn, kLine * 40.8));
+    EXPECT_EQ(page.Boxes(500, Y(1), 3226.5, Y(4), 2), 1);
+    EXPECT_EQ(page.Boxes(3226.5, Y(1), 11406, Y(4), 2), 1);
+    EXPECT_EQ(page.Boxes(500, Y(4.5), 11406, Y(7.5), 2), 1);
+    EXPECT_EQ(page.Boxes(500, Y(7.5), 11406, Y(17.5), 2), 1);
+    EXPECT_EQ(page.Boxes(500, kBodyLine * 29.8, 500 + 5 * kColumn, kBodyLine * 31.8, 2), 1);
+    EXPECT_EQ(page.Boxes(500, kBodyLine * 34.8, 500 + 5 * kColumn, kBodyLine * 40.8, 2), 1);
     const auto preview = Shown();
-    EXPECT_TRUE(HasBox(preview, 500, kLine * 30.8, 500 + 5 * kColumn, kLine * 32.8));
-    EXPECT_TRUE(HasBox(preview, 500, kLine * 35.8, 500 + 5 * kColumn, kLine * 41.8));
+    EXPECT_EQ(preview.Boxes(500, kBodyLine * 30.8, 500 + 5 * kColumn, kBodyLine * 32.8, 2), 1);
+    EXPECT_EQ(preview.Boxes(500, kBodyLine * 35.8, 500 + 5 * kColumn, kBodyLine * 41.8, 2), 1);
 }
 
 TEST_F(SievePage, MassesEndAtTheirStop)
 {
     const auto page = Printed();
     const double stop = 3226.5 + Width("Dry Mass of Original Sample");
-    EXPECT_NEAR(TextOn(page, "Dry Mass of Original Sample").x, 4126.5, kTwip);
-    EXPECT_NEAR(TextOn(page, "3530.00").x + Width("3530.00"), stop + 1800, kTwip);
-    EXPECT_NEAR(TextOn(page, "3340.00").y, Y(2), kTwip);
-    EXPECT_NEAR(TextsOf(page, " grams ").at(2).x, stop + 2100, kTwip);
-    EXPECT_NEAR(TextOn(page, "Wet Sieving Method").x + Width("Wet Sieving Method") / 2, (500 + 3226.5) / 2, kTwip);
-    EXPECT_NEAR(TextOn(page, "Wet Sieving Method").y, Y(2), kTwip);
+    EXPECT_NEAR(page.Text("Dry Mass of Original Sample").x, 4126.5, kTwip);
+    EXPECT_NEAR(page.Text("3530.00").x + Width("3530.00"), stop + 1800, kTwip);
+    EXPECT_NEAR(page.Text("3340.00").y, Y(2), kTwip);
+    EXPECT_NEAR(page.Texts(" grams ").at(2).x, stop + 2100, kTwip);
+    EXPECT_NEAR(page.Middle("Wet Sieving Method"), (500 + 3226.5) / 2, kTwip);
+    EXPECT_NEAR(page.Text("Wet Sieving Method").y, Y(2), kTwip);
 }
 
 // 100 - 51.2, 51.2 - 5.8, 5.8.
 TEST_F(SievePage, FractionsAreWorkedOutHereAndStandClearOfTheMasses)
 {
     const auto page = Printed();
-    const double grams = TextsOf(page, " grams ").at(0).x + Width(" grams ");
+    const double grams = page.Texts(" grams ").at(0).x + Width(" grams ");
     for (const auto& [label, value, line] :
          {std::tuple{"Gravel Fraction ", "48.80", 1}, {"Sand Fraction ", "45.40", 2}, {"Fine Fraction ", "5.80", 3}}) {
-        const TextItem at = TextOn(page, label);
+        const TextItem at = page.Text(label);
         EXPECT_GT(at.x, grams);
         EXPECT_NEAR(at.y, Y(line), kTwip);
-        EXPECT_NEAR(TextOn(page, value).x, at.x + Width("Plasticity Index") + 400, kTwip) << label;
+        EXPECT_NEAR(page.Text(value).x, at.x + Width("Plasticity Index") + 400, kTwip) << label;
     }
-    EXPECT_LT(TextsOf(page, "%").at(0).x + Width("%"), 11406);
+    EXPECT_LT(page.Texts("%").at(0).x + Width("%"), 11406);
 }
 
 TEST_F(SievePage, TheTableIsTheGridTrimmedAndCentred)
 {
     const auto page = Printed();
     const auto middle = [](int column) { return 500 + kColumn * (column - 0.5); };
-    EXPECT_NEAR(TextOn(page, "3/4 in").x + Width("3/4 in") / 2, middle(1), kTwip);
-    EXPECT_NEAR(TextOn(page, "3/4 in").y, Y(8.5), kTwip);
-    EXPECT_NEAR(TextOn(page, "1118.60").x + Width("1118.60") / 2, middle(6), kTwip);
-    EXPECT_NEAR(TextOn(page, "91.0").x + Width("91.0") / 2, middle(8), kTwip);
-    EXPECT_NEAR(TextOn(page, "Pan").y, Y(15.5), kTwip);
-    const TextItem head = TextOn(page, "Mass of Sieve");
+    EXPECT_NEAR(page.Middle("3/4 in"), middle(1), kTwip);
+    EXPECT_NEAR(page.Text("3/4 in").y, Y(8.5), kTwip);
+    EXPECT_NEAR(page.Middle("1118.60"), middle(6), kTwip);
+    EXPECT_NEAR(page.Middle("91.0"), middle(8), kTwip);
+    EXPECT_NEAR(page.Text("Pan").y, Y(15.5), kTwip);
+    const TextItem head = page.Text("Mass of Sieve");
     EXPECT_TRUE(head.font.bold);
     EXPECT_NEAR(head.x + Width("Mass of Sieve", 13, true) / 2, middle(4), kTwip);
     EXPECT_NEAR(head.y, Y(4.5), kTwip);
@@ -142,7 +131,7 @@ TEST_F(SievePage, TheRemarkTurnsAtExactlyTwoPercent)
     const std::string opening = "Remark :  Percent mass loss due to sieving of this test is ";
     const auto remark = [&](std::string_view loss, std::string_view ending) {
         sheet->txtErr.SetText(loss);
-        const TextItem found = TextOn(Printed(), opening + std::string(loss) + std::string(ending));
+        const TextItem found = Printed().Text(opening + std::string(loss) + std::string(ending));
         EXPECT_NEAR(found.x, 500, kTwip) << loss;
         EXPECT_NEAR(found.y, Y(17.5), kTwip) << loss;
     };
@@ -157,27 +146,27 @@ TEST_F(SievePage, GrainSizesAreWhatStandsBehindTheSign)
     sheet->txtCc.SetText("");
     sheet->txtD10.SetText("  D10 =  ? = 3 ");
     const auto page = Printed();
-    const double line = kLine * 29.8;
-    EXPECT_NEAR(TextOn(page, "D60 (mm)").y, line, kTwip);
-    EXPECT_TRUE(TextOn(page, "D60 (mm)").font.bold);
-    EXPECT_NEAR(TextOn(page, "7.214").y, line + kLine, kTwip);
-    EXPECT_NEAR(TextOn(page, "7.214").x + Width("7.214") / 2, 500 + kColumn * 2.5, kTwip);
-    EXPECT_NEAR(TextOn(page, "? = 3").x + Width("? = 3") / 2, 500 + kColumn * 0.5, kTwip);
-    EXPECT_EQ(TextsOf(page, "41.04").size(), 1u);
+    const double line = kBodyLine * 29.8;
+    EXPECT_NEAR(page.Text("D60 (mm)").y, line, kTwip);
+    EXPECT_TRUE(page.Text("D60 (mm)").font.bold);
+    EXPECT_NEAR(page.Text("7.214").y, line + kBodyLine, kTwip);
+    EXPECT_NEAR(page.Middle("7.214"), 500 + kColumn * 2.5, kTwip);
+    EXPECT_NEAR(page.Middle("? = 3"), 500 + kColumn * 0.5, kTwip);
+    EXPECT_EQ(page.Texts("41.04").size(), 1u);
 }
 
 TEST_F(SievePage, ClassesStandUnderTheirCaption)
 {
     const auto page = Printed();
-    const TextItem caption = TextOn(page, "Engineering Soil Classification (LL = 22 % PI = 4 %)");
-    EXPECT_NEAR(caption.y, kLine * 33.8, kTwip);
+    const TextItem caption = page.Text("Engineering Soil Classification (LL = 22 % PI = 4 %)");
+    EXPECT_NEAR(caption.y, kBodyLine * 33.8, kTwip);
     EXPECT_TRUE(caption.font.bold);
-    EXPECT_NEAR(TextOn(page, "Unified Soil Classification System (USCS)").y, kLine * 34.8, kTwip);
-    EXPECT_NEAR(TextOn(page, "Well-graded gravel with silty clay and sand").y, kLine * 36.8, kTwip);
-    EXPECT_NEAR(TextOn(page, "AASHTO Classification System").y, kLine * 37.8, kTwip);
-    EXPECT_NEAR(TextOn(page, "A-1-a(0)").y, kLine * 38.8, kTwip);
-    EXPECT_NEAR(TextOn(page, "Stone or gravel fragments").y, kLine * 39.8, kTwip);
-    const TextItem name = TextOn(page, "Well-graded gravel with silty clay and sand");
+    EXPECT_NEAR(page.Text("Unified Soil Classification System (USCS)").y, kBodyLine * 34.8, kTwip);
+    EXPECT_NEAR(page.Text("Well-graded gravel with silty clay and sand").y, kBodyLine * 36.8, kTwip);
+    EXPECT_NEAR(page.Text("AASHTO Classification System").y, kBodyLine * 37.8, kTwip);
+    EXPECT_NEAR(page.Text("A-1-a(0)").y, kBodyLine * 38.8, kTwip);
+    EXPECT_NEAR(page.Text("Stone or gravel fragments").y, kBodyLine * 39.8, kTwip);
+    const TextItem name = page.Text("Well-graded gravel with silty clay and sand");
     EXPECT_GT(name.x, 500 + 10906 / 6.0 + 150);
     EXPECT_LT(name.x + Width(name.text), 500 + 5 * kColumn);
 }
@@ -187,8 +176,8 @@ TEST_F(SievePage, TheDryMethodStillPrintsTheMassAfterWashing)
     sheet->optNo.Choose();
     sheet->txtDwp.SetText("480");
     const auto page = Printed();
-    EXPECT_EQ(TextsOf(page, "Dry Sieving Method").size(), 1u);
-    EXPECT_EQ(TextsOf(page, "480.00").size(), 1u);
+    EXPECT_EQ(page.Texts("Dry Sieving Method").size(), 1u);
+    EXPECT_EQ(page.Texts("480.00").size(), 1u);
 }
 
 // Page on its side: xl = 16838 x 1.5 / 11 = 2296.09, xr = 15307.27, D = 13011 \ 4 = 3252, yt = 3348.56, yb = 9673.63,
@@ -209,48 +198,48 @@ double ChartY(double percent)
 TEST_F(SievePage, TheChartHasThickDecadesAndAFrame)
 {
     const auto page = PrintedChart();
-    EXPECT_TRUE(HasBox(page, kChartLeft, kChartTop, kChartRight, kChartBottom, 10));
+    EXPECT_EQ(page.Boxes(kChartLeft, kChartTop, kChartRight, kChartBottom, 10), 1);
     std::vector<double> decades;
-    for (const LineItem& line : ItemsOf<LineItem>(page))
+    for (const LineItem& line : ItemsOf<LineItem>(page.items))
         if (line.pen.width == 10) decades.push_back(line.x1);
     ASSERT_EQ(decades.size(), 4u);
     for (std::size_t i = 0; i < 4; ++i)
         EXPECT_NEAR(decades[i], kChartRight - kDecade * (static_cast<double>(i) + 1), kTwip);
-    EXPECT_NEAR(TextOn(page, "10.00").x + Width("10.00", 14) / 2, kChartRight - 3 * kDecade - 10, kTwip);
-    EXPECT_NEAR(TextOn(page, "0.01").x + Width("0.01", 14) / 2, kChartRight, kTwip);
-    EXPECT_NEAR(TextOn(page, "0.01").y, kChartBottom + 200, kTwip);
-    EXPECT_NEAR(TextOn(page, "50").y, ChartY(50) - 365.4 / 2, kTwip);
-    EXPECT_NEAR(TextOn(page, "50").x, kChartLeft - 600, kTwip);
+    EXPECT_NEAR(page.Middle("10.00"), kChartRight - 3 * kDecade - 10, kTwip);
+    EXPECT_NEAR(page.Middle("0.01"), kChartRight, kTwip);
+    EXPECT_NEAR(page.Text("0.01").y, kChartBottom + 200, kTwip);
+    EXPECT_NEAR(page.Text("50").y, ChartY(50) - 365.4 / 2, kTwip);
+    EXPECT_NEAR(page.Text("50").x, kChartLeft - 600, kTwip);
 }
 
 TEST_F(SievePage, TheLegendStandsAboveTheSieveLabelsAboveThePlot)
 {
     const auto page = PrintedChart();
-    EXPECT_NEAR(TextOn(page, "Gravel").y, kChartTop - 4 * 365.4, kTwip);
-    EXPECT_NEAR(TextOn(page, "Gravel").x + Width("Gravel", 14) / 2, (ChartX(75) + ChartX(4.75)) / 2, kTwip);
-    EXPECT_NEAR(TextOn(page, "Medium").y, kChartTop - 3 * 365.4, kTwip);
-    EXPECT_NEAR(TextOn(page, "Medium").x + Width("Medium", 14) / 2, (ChartX(2) + ChartX(0.425)) / 2, kTwip);
-    EXPECT_NEAR(TextOn(page, "0.425").y, kChartTop - 2 * 365.4, kTwip);
-    EXPECT_NEAR(TextOn(page, "0.425").x + Width("0.425", 14) / 2, ChartX(0.425), kTwip);
-    EXPECT_NEAR(TextOn(page, "Unified and USBR").x + Width("Unified and USBR", 14), kChartRight, kTwip);
-    EXPECT_NEAR(TextOn(page, "3''").y, kChartTop - 365.4, kTwip);
-    EXPECT_NEAR(TextOn(page, "3''").x + Width("3''", 14) / 2, ChartX(75), kTwip);
-    EXPECT_NEAR(TextOn(page, "U.S. Standard Sieve Size").x + Width("U.S. Standard Sieve Size", 14), kChartRight, kTwip);
-    EXPECT_EQ(TextsOf(page, "#16").size(), 0u);
+    EXPECT_NEAR(page.Text("Gravel").y, kChartTop - 4 * 365.4, kTwip);
+    EXPECT_NEAR(page.Middle("Gravel"), (ChartX(75) + ChartX(4.75)) / 2, kTwip);
+    EXPECT_NEAR(page.Text("Medium").y, kChartTop - 3 * 365.4, kTwip);
+    EXPECT_NEAR(page.Middle("Medium"), (ChartX(2) + ChartX(0.425)) / 2, kTwip);
+    EXPECT_NEAR(page.Text("0.425").y, kChartTop - 2 * 365.4, kTwip);
+    EXPECT_NEAR(page.Middle("0.425"), ChartX(0.425), kTwip);
+    EXPECT_NEAR(page.Text("Unified and USBR").x + Width("Unified and USBR", 14), kChartRight, kTwip);
+    EXPECT_NEAR(page.Text("3''").y, kChartTop - 365.4, kTwip);
+    EXPECT_NEAR(page.Middle("3''"), ChartX(75), kTwip);
+    EXPECT_NEAR(page.Text("U.S. Standard Sieve Size").x + Width("U.S. Standard Sieve Size", 14), kChartRight, kTwip);
+    EXPECT_EQ(page.Texts("#16").size(), 0u);
 }
 
 TEST_F(SievePage, TitlesFooterAndCaptionPicture)
 {
     const auto page = PrintedChart();
     const double middle = (kChartLeft + kChartRight) / 2;
-    const TextItem title = TextOn(page, "PATICLE SIZE DISTRIBUTION CURVE");
+    const TextItem title = page.Text("PATICLE SIZE DISTRIBUTION CURVE");
     EXPECT_NEAR(title.x + Width(title.text, 14, true) / 2, middle, kTwip);
     EXPECT_NEAR(title.y, 700, kTwip);
     EXPECT_TRUE(title.font.bold);
-    EXPECT_NEAR(TextOn(page, "Grain Size(mm)").y, kChartBottom + 2 * 365.4, kTwip);
-    EXPECT_NEAR(TextOn(page, "Database File is /home/road.mdb").y, 10906, kTwip);
-    EXPECT_NEAR(TextOn(page, "Page 2 ").x + Width("Page 2 ", 12), kChartRight, kTwip);
-    const auto pictures = ItemsOf<PictureItem>(page);
+    EXPECT_NEAR(page.Text("Grain Size(mm)").y, kChartBottom + 2 * 365.4, kTwip);
+    EXPECT_NEAR(page.Text("Database File is /home/road.mdb").y, 10906, kTwip);
+    EXPECT_NEAR(page.Text("Page 2 ").x + Width("Page 2 ", 12), kChartRight, kTwip);
+    const auto pictures = ItemsOf<PictureItem>(page.items);
     ASSERT_EQ(pictures.size(), 1u);
     EXPECT_EQ(pictures[0].name, "Image3");
     EXPECT_EQ(pictures[0].x, 700);
@@ -262,7 +251,7 @@ TEST_F(SievePage, TitlesFooterAndCaptionPicture)
 TEST_F(SievePage, MarksTakeTheirSizeFromTheLabelAndThePanStandsBelowTheLast)
 {
     sheet->MSHSieve(5, sieve::Opening) = "999";  // of No. 10; the label counts
-    const auto marks = ItemsOf<CircleItem>(PrintedChart());
+    const auto marks = ItemsOf<CircleItem>(PrintedChart().items);
     ASSERT_EQ(marks.size(), 9u);  // row 10 has no name
     EXPECT_NEAR(marks[4].x, ChartX(2), kTwip);
     EXPECT_NEAR(marks[4].y, ChartY(32.9), kTwip);
@@ -276,14 +265,14 @@ TEST_F(SievePage, MarksTakeTheirSizeFromTheLabelAndThePanStandsBelowTheLast)
 TEST_F(SievePage, NumberSixteenIsMarkedInItsPlaceOnThePreviewOnly)
 {
     sheet->MSHSieve(6, sieve::Number) = "     #16";
-    EXPECT_NEAR(ItemsOf<CircleItem>(PrintedChart()).at(5).x, ChartX(2), kTwip);
-    EXPECT_NEAR(ItemsOf<CircleItem>(ShownChart()).at(5).x, ChartX(1.19), kTwip);
+    EXPECT_NEAR(ItemsOf<CircleItem>(PrintedChart().items).at(5).x, ChartX(2), kTwip);
+    EXPECT_NEAR(ItemsOf<CircleItem>(ShownChart().items).at(5).x, ChartX(1.19), kTwip);
 }
 
 TEST_F(SievePage, ALabelWithoutASizeBeforeAnyOtherIsNotMarked)
 {
     sheet->MSHSieve(1, sieve::Number) = "     1 1/2 in";
-    EXPECT_EQ(ItemsOf<CircleItem>(PrintedChart()).size(), 8u);
+    EXPECT_EQ(ItemsOf<CircleItem>(PrintedChart().items).size(), 8u);
 }
 
 // With a smooth curve the points are drawn, without one the spline; where the sheet never made the spline, the points.
@@ -306,7 +295,7 @@ TEST_F(SievePage, AnEmptySheetHasPagesToo)
     sheet = dynamic_cast<frmSieve*>(&bench.Open(terravane::Test::SieSoil, "frmSieve"));
     EXPECT_EQ(Pages().size(), 3u);
     EXPECT_TRUE(Curve().empty());
-    EXPECT_TRUE(ItemsOf<CircleItem>(PrintedChart()).empty());
+    EXPECT_TRUE(ItemsOf<CircleItem>(PrintedChart().items).empty());
 }
 
 TEST_F(SievePage, ThePreviewTurnsThePageAndNotThePrinter)

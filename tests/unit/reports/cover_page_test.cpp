@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "support/page_marks.h"
 #include "support/report_bench.h"
 #include "unit/runtime/raises.h"
 
@@ -10,7 +11,6 @@ namespace {
 
 using namespace support;
 
-constexpr double kTwip = 0.1;
 constexpr double kLine = 574.2;  // size 22
 
 std::vector<DrawnItem> CoverOf(ReportBench& bench)

@@ -20,14 +20,6 @@ struct DensityReport : ::testing::Test {
     }
 };
 
-TEST_F(DensityReport, BelongsToTheFieldDensityTest)
-{
-    const Report& report = ReportOf(terravane::Test::DenSoil);
-    EXPECT_EQ(report.print, PrintFieldDensity);
-    EXPECT_EQ(report.show, ShowFieldDensity);
-    EXPECT_EQ(report.showSecond, nullptr) << "One page, so the preview turns to none.";
-}
-
 // The program's folder has no approver: the last signature's brackets stay empty.
 TEST_F(DensityReport, ANewSheetPrintsItsEmptyTables)
 {

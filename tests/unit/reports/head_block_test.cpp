@@ -2,14 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include "support/page_marks.h"
 #include "support/report_bench.h"
 
 namespace terravane {
 namespace {
 
 using namespace support;
-
-constexpr double kTwip = 0.1;
 
 std::vector<DrawnItem> HeadOf(const TestSheet& sheet, Medium medium)
 {

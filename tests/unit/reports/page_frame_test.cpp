@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "reports/print_report.h"
+#include "support/page_marks.h"
 #include "support/report_bench.h"
 #include "unit/runtime/raises.h"
 
@@ -11,21 +11,19 @@ namespace {
 
 using namespace support;
 
-constexpr double kTwip = 0.1;  // the figures below are worked to one decimal
-
 const std::string kBanner = "Terravane Program for Road Construction Materials 2022 (Terravane Version 1.0)";
 
 std::vector<DrawnItem> PreviewFrame(ReportBench& bench)
 {
     DrawingSurface page(kA4Short, kA4Long);
-    ShowPageFrame(bench.program, page);
+    DrawPageFrame(bench.program, page, Medium::Preview);
     return page.Items();
 }
 
 std::vector<DrawnItem> PrintedFrame(ReportBench& bench)
 {
     Printer printer;
-    PrintPageFrame(bench.program, printer);
+    DrawPageFrame(bench.program, printer, Medium::Printer);
     return printer.Items();
 }
 
@@ -191,22 +189,11 @@ TEST(PageFrame, NamesCentreOnTheSheetAndTitlesOnThePrintableWidth)
     bench.OpenCompaction();
     DrawingSurface page(kA4Short, kA4Long);
     page.ScaleWidth = kA4Short - 200;
-    ShowPageFrame(bench.program, page);
+    DrawPageFrame(bench.program, page, Medium::Preview);
     const TextItem name = TextOn(page.Items(), "Institute of Roads");
     const TextItem title = TextOn(page.Items(), "Standard Compaction Test");
     EXPECT_NEAR(name.x + WidthOf(name, name.text) / 2, 5953, kTwip);
     EXPECT_NEAR(title.x + WidthOf(title, title.text) / 2, 5853, kTwip);
-}
-
-TEST(PageFrame, PrinterGetsTheCoverOnAPageOfItsOwn)
-{
-    ReportBench bench;
-    bench.OpenCompaction();
-    Printer printer;
-    PrintPageFrame(bench.program, printer);
-    ASSERT_EQ(printer.Pages().size(), 2u);
-    EXPECT_EQ(TextsOf(printer.Pages()[0].items, "เสนอ").size(), 1u);
-    EXPECT_EQ(TextsOf(printer.Pages()[1].items, "เสนอ").size(), 0u);
 }
 
 TEST(PageFrame, PageTwoHasItsNumberAndNoHeadBlock)

@@ -10,13 +10,15 @@ namespace {
 
 using namespace support;
 
-TEST(PrintReport, LeavesTheJobOpenOnTheLastPage)
+TEST(PrintReport, LeavesTheJobOpenOnTheLastPageBehindTheCover)
 {
     ReportBench bench;
     bench.OpenCompaction();
     Printer printer;
     PrintReport(bench.program, printer);
-    EXPECT_EQ(printer.Pages().size(), 2u);
+    ASSERT_EQ(printer.Pages().size(), 2u);
+    EXPECT_EQ(TextsOf(printer.Pages()[0].items, "เสนอ").size(), 1u);
+    EXPECT_EQ(TextsOf(printer.Items(), "เสนอ").size(), 0u);
     EXPECT_EQ(TextsOf(printer.Items(), "Density Determination").size(), 1u);
 }
 

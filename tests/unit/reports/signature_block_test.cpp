@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "reports/brand.h"
+#include "support/page_marks.h"
 #include "support/report_bench.h"
 
 namespace terravane {
@@ -10,7 +11,6 @@ namespace {
 
 using namespace support;
 
-constexpr double kTwip = 0.1;
 const std::string kDots(50, '.');
 
 std::vector<DrawnItem> SignaturesOn(ReportBench& bench, Medium medium)

@@ -1,11 +1,6 @@
-#include "reports/page_text.h"
+#include "drawing/placed_text.h"
 
 namespace terravane {
-
-double RightEdge(const DrawingSurface& page)
-{
-    return page.ScaleWidth - kRightMargin;
-}
 
 double LineHeight(const DrawingSurface& page)
 {
@@ -18,6 +13,12 @@ void PrintFrom(DrawingSurface& page, double x, std::string_view text)
     page.PrintOn(text);
 }
 
+void PrintFrom(DrawingSurface& page, double x, double y, std::string_view text)
+{
+    page.CurrentY = y;
+    PrintFrom(page, x, text);
+}
+
 void PrintLineFrom(DrawingSurface& page, double x, std::string_view text)
 {
     page.CurrentX = x;
@@ -27,13 +28,6 @@ void PrintLineFrom(DrawingSurface& page, double x, std::string_view text)
 void PrintCentred(DrawingSurface& page, double x, double width, std::string_view text)
 {
     PrintFrom(page, x + (width - page.TextWidth(text)) / 2, text);
-}
-
-void PrintCaption(DrawingSurface& page, double y, std::string_view text)
-{
-    page.FontBold = true;
-    page.CurrentY = y;
-    PrintLineFrom(page, kLeft, text);
 }
 
 }  // namespace terravane

@@ -1,0 +1,74 @@
+#include "reports/report_page.h"
+
+#include "sheets/pattern/plot.h"
+
+namespace terravane {
+
+namespace {
+
+constexpr double kRightMargin = 500;
+constexpr double kHalfGap = 50;  // from the middle of the page to either half
+
+double Middle(const DrawingSurface& page)
+{
+    return kLeft + WholeWidth(page).Width() / 2;
+}
+
+void CopyBox(DrawingSurface& page, const PictureBox& box, double x, double y)
+{
+    page.PaintPicture(box.Name(), box.Image(), x, y, box.Width, box.Height);
+}
+
+}  // namespace
+
+double RightEdge(const DrawingSurface& page)
+{
+    return page.ScaleWidth - kRightMargin;
+}
+
+Edges WholeWidth(const DrawingSurface& page)
+{
+    return {kLeft, RightEdge(page)};
+}
+
+Edges LeftHalf(const DrawingSurface& page)
+{
+    return {kLeft, Middle(page) - kHalfGap};
+}
+
+Edges RightHalf(const DrawingSurface& page)
+{
+    return {Middle(page) + kHalfGap, RightEdge(page)};
+}
+
+PageColumns ColumnsBeside(double labelWidth, const Edges& edges, int count)
+{
+    return {edges.left + labelWidth, (edges.Width() - labelWidth) / count};
+}
+
+PageLines BodyLines(DrawingSurface& page, double top)
+{
+    page.FontSize = kBodySize;
+    return {page, top};
+}
+
+std::string TextOf(const TestSheet& sheet, std::string_view control)
+{
+    return sheet.Get<TextControl>(control).Text();
+}
+
+void PrintCaption(DrawingSurface& page, double x, double y, std::string_view text)
+{
+    page.FontBold = true;
+    page.CurrentY = y;
+    PrintLineFrom(page, x, text);
+}
+
+void CopyPlot(DrawingSurface& page, const PictureBox& frame, const PictureBox& plot, double x, double y)
+{
+    const Inset inset = InsetOf(plot, frame);
+    CopyBox(page, frame, x, y);
+    CopyBox(page, plot, x + inset.left, y + inset.top);
+}
+
+}  // namespace terravane

@@ -1,0 +1,89 @@
+/// The measures that all report pages share, and a sheet on its way to a page. Lengths are twips.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "controls/picture_box.h"
+#include "drawing/placed_text.h"
+#include "sheets/pattern/test_sheet.h"
+
+namespace terravane {
+
+inline constexpr double kBodySize = 13;      // points
+inline constexpr double kFooterSize = 12;    // points
+inline constexpr double kLeft = 500;         // left edge of a page's content
+inline constexpr double kBodyTop = 3800;     // where most reports' bodies begin
+inline constexpr double kLabelWidth = 3000;  // what most tables leave for the labels of their rows
+inline constexpr double kLabelInset = 200;   // from a cell's left edge to its label
+
+/// The right edge of a page's content.
+double RightEdge(const DrawingSurface& page);
+
+/// The room that something takes across a page.
+struct Edges {
+    double left, right;
+
+    double Width() const { return right - left; }
+};
+
+Edges WholeWidth(const DrawingSurface& page);
+/// The halves of the width, a little apart.
+Edges LeftHalf(const DrawingSurface& page);
+Edges RightHalf(const DrawingSurface& page);
+
+/// Equal columns side by side, counted from 1.
+struct PageColumns {
+    double left;
+    double width;
+
+    double Left(int column) const { return left + width * (column - 1); }
+};
+
+/// `count` columns on what the labels leave.
+PageColumns ColumnsBeside(double labelWidth, const Edges& edges, int count);
+
+/// Rows of a page: y(n) lies n lines below the top. The line is measured once, in the size then in force.
+class PageLines {
+  public:
+    PageLines(const DrawingSurface& page, double top) : top_(top), height_(LineHeight(page)) {}
+
+    double operator()(double lines) const { return top_ + height_ * lines; }
+
+  private:
+    double top_, height_;
+};
+
+/// The rows of a body in the body's size, which is in force afterwards.
+PageLines BodyLines(DrawingSurface& page, double top);
+
+/// A label, the text control that its value comes from, and what stands behind the value.
+struct ReportField {
+    std::string_view label, control, unit = {};
+};
+
+/// What a text control of the sheet shows, as it stands.
+std::string TextOf(const TestSheet& sheet, std::string_view control);
+
+/// The body of a page being drawn: the sheet that it is about, and its rows.
+struct ReportPage {
+    const TestSheet& sheet;
+    DrawingSurface& page;
+    PageLines y;
+
+    ReportPage(const TestSheet& open, DrawingSurface& surface, double top = kBodyTop)
+        : sheet(open), page(surface), y(BodyLines(surface, top))
+    {}
+
+    double Right() const { return RightEdge(page); }
+    std::string Text(std::string_view control) const { return TextOf(sheet, control); }
+};
+
+/// A caption at (x, y), bold, ending the line; bold stays on.
+void PrintCaption(DrawingSurface& page, double x, double y, std::string_view text);
+
+/// A sheet's plot, copied as it stands and not drawn anew: both boxes in their own sizes, the frame with its upper left
+/// corner at (x, y), the plot on top of it as far inside as on the sheet.
+void CopyPlot(DrawingSurface& page, const PictureBox& frame, const PictureBox& plot, double x, double y);
+
+}  // namespace terravane
