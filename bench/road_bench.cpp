@@ -100,6 +100,15 @@ void RecordReport(benchmark::State& state, const ReportRow& report)
     for (auto _ : state) benchmark::DoNotOptimize(PagesOfReport(Road().OfProgram()));
 }
 
+void RecordOverallResults(benchmark::State& state)
+{
+    Road().Do("menu mnuSum");
+    const auto& form = Road().OfProgram().Get<frmSummary>("frmSummary");
+    for (auto _ : state) benchmark::DoNotOptimize(PagesOfSummary(form));
+    Road().Do("close");
+    CheckOrEnd("Overall results");
+}
+
 template <class PagesOf>
 void WriteReport(benchmark::State& state, const PagesOf& pagesOf)
 {
@@ -149,6 +158,7 @@ bool RegisterAll()
                                      [&report](benchmark::State& state) { RecordReport(state, report); })
             ->Unit(benchmark::kMillisecond);
     }
+    benchmark::RegisterBenchmark("Report drawn/Overall results", RecordOverallResults)->Unit(benchmark::kMillisecond);
     for (const auto& report : Reports()) RegisterPages(std::string(report.name), [&report] { return PagesOf(report); });
     RegisterPages("Overall results", OverallPage);
     return true;

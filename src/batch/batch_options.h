@@ -12,7 +12,7 @@
 
 namespace terravane {
 
-/// What --today, --curve, --smooth and --correct said; nothing where they were not given.
+/// What --curve, --smooth and --correct said; nothing where they were not given.
 struct GivenChoices {
     std::optional<std::string_view> curve;
     bool isSmooth = false;

@@ -12,13 +12,14 @@ namespace exit_status {
 inline constexpr int kDone = 0, kSomeFailed = 1, kUsage = 2, kStale = 3;
 }
 
-/// says       takes a line for each project and, under a check, a line for each stale result; under a bar the latter
-/// only complains  takes what failed, at the end bar        takes the progress bar; nullptr where nobody watches
+/// says           takes a line for each stale result under a check, and a line for each project if tellsProjects
+/// complains      takes what failed, at the end
+/// bar            takes the progress bar; nullptr where nobody watches
 struct Listeners {
     std::ostream& says;
     std::ostream& complains;
     std::ostream* bar = nullptr;
-    bool tellsProjects = true;  // on `says`
+    bool tellsProjects = true;
 };
 
 /// Returns the exit status: 1 also where the run was broken off. RuntimeError where brand folder, CSV, JSON or manifest

@@ -48,7 +48,8 @@ class Work {
     void PressCommands(TestSheet& sheet)
     {
         const auto variants = PossibleChoices(*outcome_.test, options_);
-        if (TryChoices(sheet, variants.front()) || variants.size() == 1 || !HasPosted()) return;
+        Press(sheet, variants.front());
+        if (variants.size() == 1 || !HasPosted() || GivesWhatWasPosted()) return;
         for (std::size_t i = 1; i < variants.size(); ++i) {
             if (TryAgain(variants[i])) return;
         }
@@ -58,24 +59,25 @@ class Work {
     bool TryAgain(const Choices& choices)
     {
         TestSheet* const sheet = Open();
-        return sheet && TryChoices(*sheet, choices);
+        if (!sheet) return false;
+        Press(*sheet, choices);
+        return GivesWhatWasPosted();
     }
 
-    /// Whether the choices give what was posted.
-    bool TryChoices(TestSheet& sheet, const Choices& choices)
+    void Press(TestSheet& sheet, const Choices& choices)
     {
         const std::size_t before = CountOfTroubles();
         outcome_.gives = session_.Press(sheet, *outcome_.test, choices, saved_);
         AddTroublesSince(before);
-        return outcome_.gives && GivesWhatWasPosted();
     }
 
     bool GivesWhatWasPosted() const
     {
-        const ProjectTexts now = session_.Texts();
+        if (!outcome_.gives) return false;
+        const ProjectTexts now = session_.Texts(kSummary);
         return std::ranges::all_of(outcome_.test->posts, [&](std::string_view column) {
-            const std::string posted = saved_.Trimmed("SUMMARY", column, SummaryRow());
-            return posted.empty() || SaysTheSame(posted, now.Text("SUMMARY", column, SummaryRow()));
+            const std::string posted = saved_.Trimmed(kSummary, column, SummaryRow());
+            return posted.empty() || SaysTheSame(posted, now.Text(kSummary, column, SummaryRow()));
         });
     }
 
@@ -91,7 +93,7 @@ class Work {
     bool HasPosted() const
     {
         return std::ranges::any_of(outcome_.test->posts, [&](std::string_view column) {
-            return !saved_.Trimmed("SUMMARY", column, SummaryRow()).empty();
+            return !saved_.Trimmed(kSummary, column, SummaryRow()).empty();
         });
     }
 

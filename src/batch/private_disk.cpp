@@ -1,19 +1,13 @@
 #include "batch/private_disk.h"
 
 #include "batch/sha256.h"
-#include "program/program.h"
+#include "program/folders.h"
 #include "runtime/runtime_error.h"
 #include "store/new_stores.h"
 
 namespace terravane {
 
 namespace {
-
-std::string WithMark(std::string folder)
-{
-    if (!folder.ends_with(kFolderMark)) folder += kFolderMark;
-    return folder;
-}
 
 bool Begins(const std::map<std::string, Bytes>& files, const std::string& folder)
 {
@@ -80,7 +74,7 @@ std::vector<std::string> PrivateDisk::Names(const std::string& folder) const
     return names;
 }
 
-Bytes PrivateDisk::Read(const std::string& path) const
+const Bytes& PrivateDisk::Known(const std::string& path) const
 {
     if (const Bytes* content = Find(path)) return *content;
     throw RuntimeError(error::kFileNotFound, "Could not find file '" + path + "'.");

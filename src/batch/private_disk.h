@@ -42,9 +42,10 @@ class PrivateDisk : public FileSystem {
     bool IsWritableFolder(const std::string& path) const override { return IsFolder(path); }
     std::vector<std::string> Names(const std::string& folder) const override;
     void MakeFolders(const std::string& path) override;
-    Bytes Read(const std::string& path) const override;
+    Bytes Read(const std::string& path) const override { return Known(path); }
 
   protected:
+    std::uint64_t SizeOf(const std::string& path) const override { return Known(path).size(); }
     void WriteNew(const std::string& path, std::span<const std::uint8_t> content, const std::string& like) override;
     void SyncFile(const std::string&) override {}
     void Rename(const std::string& from, const std::string& to) override;
@@ -53,6 +54,7 @@ class PrivateDisk : public FileSystem {
 
   private:
     const Bytes* Find(const std::string& path) const;
+    const Bytes& Known(const std::string& path) const;
 
     const Brand* brand_;
     std::map<std::string, Bytes> files_;  // before the brand's of the same path

@@ -31,8 +31,8 @@ class ProjectSession {
     /// The page of the overall results; none, with a trouble heard, where it can't be drawn.
     std::vector<DisplayList> ResultsPages();
 
-    /// The copy's texts now.
-    ProjectTexts Texts() const { return ProjectTexts(disk_.Content(path_)); }
+    /// The copy's texts now, of one table or of all.
+    ProjectTexts Texts(std::string_view only = {}) const { return ProjectTexts(disk_.Content(path_), only); }
 
   private:
     void SaveResults(TestSheet& sheet, const BatchTest& test);

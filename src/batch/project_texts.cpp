@@ -8,11 +8,11 @@
 
 namespace terravane {
 
-ProjectTexts::ProjectTexts(const Bytes& content)
+ProjectTexts::ProjectTexts(const Bytes& content, std::string_view only)
 {
     const auto database = jet::Database::FromBytes(content);
     for (const TableSchema& table : ProjectTables()) {
-        tables_.emplace(std::string(table.name), database.ReadRows(table.name));
+        if (only.empty() || table.name == only) tables_.emplace(std::string(table.name), database.ReadRows(table.name));
     }
 }
 

@@ -10,10 +10,14 @@
 
 namespace terravane {
 
+/// The table of the results that tests post.
+inline constexpr std::string_view kSummary = "SUMMARY";
+
 class ProjectTexts {
   public:
-    /// Reads the sixteen tables. The engine's error for bytes that are no project file, or a damaged one.
-    explicit ProjectTexts(const Bytes& content);
+    /// Reads one table, or all sixteen where none is named. The engine's error for bytes that are no project file, or a
+    /// damaged one.
+    explicit ProjectTexts(const Bytes& content, std::string_view only = {});
 
     const jet::Rows& Table(std::string_view name) const { return tables_.find(name)->second; }
 

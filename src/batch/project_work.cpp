@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <future>
 
 #include "batch/pressing.h"
 #include "batch/result_rows.h"
@@ -73,14 +74,11 @@ class ProjectWork {
             if (MakesPages()) TakeReport(session, outcome);
         });
         if (MakesPages() && options_.wantsSummary) TakeResults(session);
-        const ProjectTexts now = session.Texts();
-        const auto stale = options_.checks ? FindStale(saved, now, outcomes) : std::vector<StaleResult>();
-        std::ranges::transform(stale, std::back_inserter(answer_.stale), Sentence);
         if (!options_.checks) TellTroubles(outcomes);
-        TakeRows(options_.isAsSaved || options_.checks ? saved : now, outcomes, stale);
-        if (answer_.wasThere || options_.checks) return;
+        if (options_.checks || WantsRows()) TakeTexts(saved, session.Texts(), outcomes);
+        if (!MakesPages()) return;
         WriteOutputs();
-        if (options_.posts) Post(saved, now);
+        if (options_.posts) Post(saved, session.Texts());
     }
 
     void TakeReport(ProjectSession& session, const TestOutcome& outcome)
@@ -119,24 +117,30 @@ class ProjectWork {
         }
     }
 
-    void TakeRows(const ProjectTexts& texts, const std::vector<TestOutcome>& outcomes,
-                  const std::vector<StaleResult>& stale)
+    void TakeTexts(const ProjectTexts& saved, const ProjectTexts& now, const std::vector<TestOutcome>& outcomes)
     {
+        const auto stale = options_.checks ? FindStale(saved, now, outcomes) : std::vector<StaleResult>();
+        std::ranges::transform(stale, std::back_inserter(answer_.stale), Sentence);
+        const ProjectTexts& texts = options_.isAsSaved || options_.checks ? saved : now;
         if (!options_.csv.empty()) answer_.csvRows = CsvRows(project_.path, texts, options_);
         if (!options_.json.empty()) answer_.json = JsonObject(project_.path, texts, options_, outcomes, stale);
     }
 
     void WriteOutputs()
     {
-        if (!parts_.empty()) outputs_.MakeFolders(FolderOf(project_.stem));
-        if (options_.isOneFile) return WriteOneFile();
-        for (const Part& part : parts_)
-            Write(project_.stem + "_" + part.name + ".pdf", part.pages, {part.title, options_.today, {}});
+        if (parts_.empty()) return;
+        outputs_.MakeFolders(FolderOf(project_.stem));
+        if (options_.isOneFile) {
+            WriteOneFile();
+        } else {
+            for (const Part& part : parts_)
+                Write(project_.stem + "_" + part.name + ".pdf", part.pages, {part.title, options_.today, {}});
+        }
+        writing_.get();
     }
 
     void WriteOneFile()
     {
-        if (parts_.empty()) return;
         std::vector<DisplayList> pages;
         PdfDocument document{NameOf(project_.stem), options_.today, {}};
         for (Part& part : parts_) {
@@ -146,11 +150,14 @@ class ProjectWork {
         Write(project_.stem + ".pdf", pages, document);
     }
 
+    /// While one output is on its way to the disk, the next one is made.
     void Write(const std::string& path, std::span<const DisplayList> pages, const PdfDocument& document)
     {
-        const Bytes content = MakePdf(pages, document);
-        outputs_.ReplaceWhole(path, content);
+        Bytes content = MakePdf(pages, document);
         answer_.entry.outputs.push_back({path, pages.size(), content.size(), Sha256(content)});
+        if (writing_.valid()) writing_.get();
+        writing_ = std::async(std::launch::async,
+                              [this, path, content = std::move(content)] { outputs_.ReplaceWhole(path, content); });
     }
 
     /// Results that the commands changed go into the project file, all at once; one that the commands could not work
@@ -191,6 +198,7 @@ class ProjectWork {
     Bytes content_;
     std::vector<Part> parts_;
     ProjectAnswer answer_;
+    std::future<void> writing_;  // one output at a time; what fails in it fails the next one
 };
 
 ProjectAnswer Failed(const ProjectFile& project, const BatchOptions& options, const std::string& failure)

@@ -8,8 +8,6 @@ namespace terravane {
 
 namespace {
 
-constexpr std::string_view kSummary = "SUMMARY";
-
 /// Compares one project before and after its commands were pressed.
 class Comparison {
   public:

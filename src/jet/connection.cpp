@@ -67,11 +67,9 @@ void Connection::Open(FileSystem& files, const std::string& path)
     FlushOrGiveUp();
     if (!files.Exists(path)) throw RuntimeError(engine::kFile, "Could not find file " + Quoted(path) + ".");
     Bytes bytes = files.ReadAtMost(path, kLargestFile);
-    const Fingerprint read = Fingerprint::Of(bytes);
     database_.emplace(OpenBytes(std::move(bytes), path));
     files_ = &files;
     path_ = path;
-    onDisk_ = read;
     unsaved_.clear();
 }
 
@@ -83,11 +81,15 @@ try {
     throw;
 }
 
+/// Most openings change nothing: the file's fingerprint is taken before the first change.
 Recordset Connection::Execute(std::string_view statement)
 {
     if (!database_) throw RuntimeError(engine::kFile, "No database is open.");
-    Recordset result = ExecuteOn(*database_, statement);
-    if (!result.IsQuery()) unsaved_.emplace_back(statement);
+    const Statement read = ReadStatement(statement);
+    const bool isQuery = std::holds_alternative<SelectStatement>(read);
+    if (!isQuery && unsaved_.empty()) onDisk_ = Fingerprint::Of(database_->Content());
+    Recordset result = std::visit(Executor{*database_}, read);
+    if (!isQuery) unsaved_.emplace_back(statement);
     return result;
 }
 
@@ -131,7 +133,6 @@ void Connection::Flush()
     CheckNotOpenElsewhere();
     CatchUp();
     if (HasChanges()) files_->ReplaceWhole(path_, database_->Content());
-    onDisk_ = Fingerprint::Of(database_->Content());
     database_->MarkSaved();
     unsaved_.clear();
 }

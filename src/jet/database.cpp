@@ -124,6 +124,7 @@ void CheckOpenToRows(const TableDefinition& table, std::string_view name)
 std::vector<const Column*> ChosenColumns(const TableDefinition& table, const std::vector<std::string>& names)
 {
     std::vector<const Column*> columns;
+    columns.reserve(std::max(names.size(), table.columns.size()));
     for (const std::string& name : names) columns.push_back(&ColumnOf(table, name));
     if (!names.empty()) return columns;
     for (const Column& column : table.columns) columns.push_back(&column);

@@ -27,7 +27,7 @@ Token Sign(std::string_view statement, std::size_t begin)
 Token BracketedName(std::string_view statement, std::size_t begin)
 {
     const std::size_t close = statement.find(']', begin);
-    if (close == statement.npos) return Sign(statement, begin);
+    if (close == std::string_view::npos) return Sign(statement, begin);
     return {TokenKind::Name, std::string(statement.substr(begin + 1, close - begin - 1)), begin, close + 1};
 }
 
@@ -51,7 +51,7 @@ Token Text(std::string_view statement, std::size_t begin)
 Token NextToken(std::string_view statement, std::size_t at)
 {
     const std::size_t begin = statement.find_first_not_of(kBlanks, at);
-    if (begin == statement.npos) return {TokenKind::End, "", statement.size(), statement.size()};
+    if (begin == std::string_view::npos) return {TokenKind::End, "", statement.size(), statement.size()};
     if (statement[begin] == '\'') return Text(statement, begin);
     if (statement[begin] == '[') return BracketedName(statement, begin);
     return IsWordCharacter(statement[begin]) ? Word(statement, begin) : Sign(statement, begin);

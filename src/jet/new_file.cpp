@@ -152,7 +152,7 @@ bool IsName(std::string_view name)
     constexpr std::string_view kForbidden = ".!`[]";
     return !name.empty() && CharacterCount(name) <= kMaxName && name.front() != ' ' &&
            std::ranges::none_of(name, [&](char c) {
-               return kForbidden.find(c) != kForbidden.npos || static_cast<unsigned char>(c) < ' ';
+               return kForbidden.find(c) != std::string_view::npos || static_cast<unsigned char>(c) < ' ';
            });
 }
 

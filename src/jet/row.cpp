@@ -63,6 +63,13 @@ std::size_t FixedSize(const TableDefinition& table)
     return size;
 }
 
+void AppendOffsets(Bytes& row, const std::vector<std::size_t>& starts)
+{
+    Append<std::uint16_t>(row, U16(row.size()));
+    for (std::size_t i = starts.size(); i-- > 0;) Append<std::uint16_t>(row, U16(starts[i]));
+    Append<std::uint16_t>(row, U16(starts.size()));
+}
+
 }  // namespace
 
 bool RowView::Has(std::uint16_t number) const
@@ -127,13 +134,6 @@ void RowParts::Set(const Column& column, ByteView value)
     }
 }
 
-void RowParts::AppendOffsets(Bytes& row, const std::vector<std::size_t>& starts, std::size_t end) const
-{
-    Append<std::uint16_t>(row, U16(end));
-    for (std::size_t i = starts.size(); i-- > 0;) Append<std::uint16_t>(row, U16(starts[i]));
-    Append<std::uint16_t>(row, U16(starts.size()));
-}
-
 Bytes RowParts::Build() const
 {
     Bytes row;
@@ -144,7 +144,7 @@ Bytes RowParts::Build() const
         starts.push_back(row.size());
         Append(row, value);
     }
-    if (hasVariable_) AppendOffsets(row, starts, row.size());
+    if (hasVariable_) AppendOffsets(row, starts);
     Append(row, mask_);
     if (row.size() > kMaxRow)
         throw Refused("The record is too large: " + std::to_string(row.size()) + " bytes; a row takes 4060.");

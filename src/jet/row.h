@@ -42,8 +42,6 @@ class RowParts {
     Bytes Build() const;
 
   private:
-    void AppendOffsets(Bytes& row, const std::vector<std::size_t>& starts, std::size_t end) const;
-
     std::uint16_t columns_;
     bool hasVariable_;
     Bytes fixed_;

@@ -74,7 +74,7 @@ RuntimeError Reader::Unexpected() const
 RuntimeError Reader::MissingOperator(std::size_t literal, std::size_t literalEnd) const
 {
     const std::size_t close = statement_.find('\'', literalEnd);
-    const std::size_t end = close == statement_.npos ? statement_.size() : close + 1;
+    const std::size_t end = close == std::string_view::npos ? statement_.size() : close + 1;
     return SyntaxError("Syntax error (missing operator) in query expression '" +
                        std::string(statement_.substr(literal, end - literal)) + "'.");
 }

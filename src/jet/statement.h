@@ -1,8 +1,10 @@
-/// The statements that the engine reads, as values. What they do to a database is execute.h's business.
+/// The statements that the engine reads, as values. What they do to a database is connection.h's business.
 ///
-///   SELECT * from T          also a list of columns, a stray apostrophe at the end, and WHERE a ='x' AND b
-///   ='y' UPDATE T Set a ='x', b ='y' Where c ='z'        the condition may be missing CREATE TABLE T(a
-///   text(10),b text(100)) insert into T (a,b) Values ('x','y')
+///   SELECT * from T                                also a list of columns, a stray apostrophe at the end, and
+///                                                  WHERE a ='x' AND b ='y'
+///   UPDATE T Set a ='x', b ='y' Where c ='z'       the condition may be missing
+///   CREATE TABLE T(a text(10),b text(100))
+///   insert into T (a,b) Values ('x','y')
 ///
 /// Keywords and names are read without case, blanks are free, a name with blanks stands in [ ]. A text stands
 /// in apostrophes; two of them in a row inside it are one.

@@ -38,9 +38,8 @@ std::u16string Expanded(ByteView bytes)
 
 std::u16string Units(ByteView bytes)
 {
-    std::u16string text;
-    text.reserve(bytes.size() / 2);
-    for (std::size_t at = 0; at + 2 <= bytes.size(); at += 2) text.push_back(Get<std::uint16_t>(bytes, at));
+    std::u16string text(bytes.size() / 2, u'\0');
+    for (std::size_t at = 0; at < text.size(); ++at) text[at] = Get<std::uint16_t>(bytes, 2 * at);
     return text;
 }
 

@@ -93,10 +93,10 @@ void CheckPages(const Image& image, const std::vector<PageNumber>& pages)
     }
 }
 
-void WriteInline(MutableBytes row, std::size_t first, const std::vector<PageNumber>& pages)
+void WriteInline(MutableBytes row, PageNumber first, const std::vector<PageNumber>& pages)
 {
     std::ranges::fill(row, std::uint8_t{0});
-    Put<std::uint32_t>(row, kFirstAt, static_cast<std::uint32_t>(first));
+    Put<std::uint32_t>(row, kFirstAt, first);
     for (const PageNumber page : pages) WriteBit(row.subspan(kBitsAt), page - first, true);
 }
 
@@ -130,7 +130,7 @@ void AddOutsideWindow(Image& image, RowPointer map, PageNumber page)
 {
     std::vector<PageNumber> pages = PagesOf(image, map);
     pages.insert(std::ranges::upper_bound(pages, page), page);
-    const std::size_t first = pages.front() / 8 * 8;
+    const PageNumber first = pages.front() / 8 * 8;
     const MutableBytes row = MapRowToChange(image, map);
     if (pages.back() - first < WindowSize(row)) {
         WriteInline(row, first, pages);

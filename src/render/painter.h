@@ -1,5 +1,5 @@
-/// A display list replayed with Qt's painter: the one way in which screen, PDF, printer and picture files
-/// come to their ink.
+/// A display list replayed with Qt's painter: the one way in which screen, printer and picture files come to
+/// their ink.
 #pragma once
 
 #include "drawing/display_list.h"

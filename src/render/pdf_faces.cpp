@@ -5,8 +5,6 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
-#include <memory>
-#include <mutex>
 #include <tuple>
 
 #include <hb-ot.h>
@@ -20,6 +18,8 @@ namespace {
 /// What shaping, cutting out glyphs and the font's dictionary read of a font file.
 constexpr std::array kTables{"head", "hhea", "hmtx", "maxp", "cmap", "loca", "glyf", "name",
                              "OS/2", "post", "GDEF", "GSUB", "GPOS", "cvt ", "fpgm", "prep"};
+
+constexpr std::size_t kMostTexts = 2000;  // remembered: some projects' reports, a megabyte or two
 
 bool IsThai(char16_t unit) noexcept
 {
@@ -100,7 +100,16 @@ Face::Face(const QRawFont& font)
       usualProgram_(ProgramOf(*usual_))
 {}
 
-std::vector<PlacedGlyph> Face::Shape(std::u16string_view text) const
+ShapedText Face::Shape(const std::u16string& text) const
+{
+    const std::scoped_lock lock(mutex_);
+    if (shaped_.size() > kMostTexts) shaped_.clear();
+    ShapedText& shaped = shaped_[text];
+    if (!shaped) shaped = std::make_shared<const std::vector<PlacedGlyph>>(GlyphsOf(text));
+    return shaped;
+}
+
+std::vector<PlacedGlyph> Face::GlyphsOf(std::u16string_view text) const
 {
     std::vector<PlacedGlyph> glyphs;
     double x = 0;
@@ -121,10 +130,9 @@ void Face::ShapeStretch(std::u16string_view text, std::vector<PlacedGlyph>& glyp
     const hb_glyph_info_t* infos = hb_buffer_get_glyph_infos(buffer.get(), &count);
     const hb_glyph_position_t* places = hb_buffer_get_glyph_positions(buffer.get(), nullptr);
     for (unsigned at = 0, start = 0; at < count; ++at) {
-        glyphs.push_back({static_cast<GlyphId>(infos[at].codepoint),
-                          {},
-                          x + places[at].x_offset / unitsPerEm_,
-                          places[at].y_offset / unitsPerEm_});
+        const auto glyph = static_cast<GlyphId>(infos[at].codepoint);
+        glyphs.push_back(
+            {glyph, {}, x + places[at].x_offset / unitsPerEm_, places[at].y_offset / unitsPerEm_, AdvanceOf(glyph)});
         x += places[at].x_advance / unitsPerEm_;
         const bool isLast = at + 1 == count || infos[at + 1].cluster != infos[at].cluster;
         if (!isLast) continue;
@@ -155,6 +163,7 @@ void Face::NameCluster(std::u16string_view cluster, std::span<PlacedGlyph> glyph
         const bool isLast = at + 1 == unnamed.size();
         unnamed[at]->text = rest.substr(std::min(at, rest.size()), isLast ? rest.npos : 1);
     }
+    if (glyphs.size() == 1) return;
     // Marks are drawn in any order, but copied out in the order of the file.
     std::stable_sort(glyphs.begin(), glyphs.end(), [&](const PlacedGlyph& one, const PlacedGlyph& other) {
         return cluster.find(one.text) < cluster.find(other.text);

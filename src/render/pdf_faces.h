@@ -3,9 +3,12 @@
 
 #include <cstdint>
 #include <map>
+#include <memory>
+#include <mutex>
 #include <span>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 #include "drawing/display_list.h"
@@ -21,24 +24,27 @@ using GlyphId = std::uint16_t;
 /// glyph  its number in the face
 /// text   the characters it stands for in a text that is copied out, the same wherever it stands
 /// x, y   its origin, in ems from the text's start, y upwards
+/// step   by how much a reader steps on behind it, in ems
 struct PlacedGlyph {
     GlyphId glyph = 0;
     std::u16string text;
-    double x = 0, y = 0;
+    double x = 0, y = 0, step = 0;
 };
+
+/// A text's glyphs, in the order in which they are copied out. Whoever draws the text again has the same ones.
+using ShapedText = std::shared_ptr<const std::vector<PlacedGlyph>>;
 
 /// The glyphs that a document draws from a face, with the characters they stand for.
 using UsedGlyphs = std::map<GlyphId, std::u16string>;
 
-/// One installed face. Nothing of it changes: it may be used from several threads.
+/// One installed face. It remembers what it was asked for, which nothing shows but the time that it takes: most texts
+/// of a report stand in the next one too. May be used from several threads.
 class Face {
   public:
     explicit Face(const QRawFont& font);
 
     /// A text with its ligatures and Thai marks as the screen shows them, without kerning.
-    std::vector<PlacedGlyph> Shape(std::u16string_view text) const;
-    /// By how much a reader steps on behind a glyph, in ems.
-    double AdvanceOf(GlyphId glyph) const;
+    ShapedText Shape(const std::u16string& text) const;
     /// Adds the font for a document that uses these glyphs; the number of its dictionary.
     int AddTo(Objects& objects, const UsedGlyphs& used) const;
 
@@ -51,10 +57,13 @@ class Face {
         std::string widths;
     };
 
+    std::vector<PlacedGlyph> GlyphsOf(std::u16string_view text) const;
+    double AdvanceOf(GlyphId glyph) const;
     hb::Set UsualGlyphs() const;
     std::map<GlyphId, char16_t> Characters() const;
     void NameCluster(std::u16string_view cluster, std::span<PlacedGlyph> glyphs) const;
     Program ProgramOf(const hb_set_t& glyphs) const;
+    std::string PackedToUnicode(const UsedGlyphs& used) const;
     std::string Name() const;
     std::string Descriptor(std::string_view name, int fontFile) const;
     std::string Widths(const hb_set_t& glyphs) const;
@@ -67,6 +76,10 @@ class Face {
     std::map<GlyphId, char16_t> characters_;  // of glyphs that stand for one of the usual characters
     hb::Set usual_;
     Program usualProgram_;
+
+    mutable std::mutex mutex_;  // of what is remembered
+    mutable std::unordered_map<std::u16string, ShapedText> shaped_;
+    mutable std::map<UsedGlyphs, std::string> packedToUnicode_;  // by the glyphs that are no usual character's own
 };
 
 /// The face of an installed family, bold or italic as the font is; made when it is first asked for.

@@ -24,6 +24,7 @@ constexpr std::array kUsual{
 };
 constexpr int kSymbolic = 4;  // glyphs are found by their number, not by a character
 constexpr double kThousandths = 1000;
+constexpr std::size_t kMostTables = 50;  // from glyphs to texts, remembered: 50 kilobytes
 
 hb_tag_t Tag(const char* name)
 {
@@ -39,22 +40,15 @@ std::string PartMark(const hb_set_t& glyphs)
     return mark + "+";
 }
 
-void AppendUtf16(std::string& out, std::u16string_view text)
-{
-    constexpr std::string_view kDigits = "0123456789ABCDEF";
-    for (const char16_t unit : text)
-        for (const int shift : {12, 8, 4, 0}) out += kDigits[(static_cast<unsigned>(unit) >> shift) & 15U];
-}
-
-std::string ToUnicode(const UsedGlyphs& used)
+std::string ToUnicode(const UsedGlyphs& glyphs)
 {
     std::string lines;
-    for (const auto& [glyph, text] : used) {
+    for (const auto& [glyph, text] : glyphs) {
         if (text.empty()) continue;
         lines += "1 beginbfchar <";
-        AppendUtf16(lines, std::u16string(1, static_cast<char16_t>(glyph)));
+        AppendHexadecimal(lines, glyph);
         lines += "> <";
-        AppendUtf16(lines, text);
+        for (const char16_t unit : text) AppendHexadecimal(lines, unit);
         lines += "> endbfchar\n";
     }
     return "/CIDInit /ProcSet findresource begin 12 dict begin begincmap\n"
@@ -144,6 +138,24 @@ std::string Face::Descriptor(std::string_view name, int fontFile) const
     return text + " /StemV 80 /FontFile2 " + Reference(fontFile) + " >>";
 }
 
+/// Of the usual characters' glyphs and those used. Few texts use others, and those the same: the table is packed a few
+/// times a process.
+std::string Face::PackedToUnicode(const UsedGlyphs& used) const
+{
+    UsedGlyphs others;
+    for (const auto& glyph : used)
+        if (!characters_.contains(glyph.first)) others.insert(glyph);
+
+    const std::scoped_lock lock(mutex_);
+    if (packedToUnicode_.size() > kMostTables) packedToUnicode_.clear();
+    std::string& packed = packedToUnicode_[others];
+    if (packed.empty()) {
+        for (const auto& [glyph, character] : characters_) others.emplace(glyph, std::u16string(1, character));
+        packed = Deflated(ToUnicode(others), Packing::Small);
+    }
+    return packed;
+}
+
 int Face::AddTo(Objects& objects, const UsedGlyphs& used) const
 {
     const hb::Set glyphs(hb_set_copy(usual_.get()));
@@ -160,7 +172,7 @@ int Face::AddTo(Objects& objects, const UsedGlyphs& used) const
                                        " /CIDSystemInfo << /Registry (Adobe) /Ordering (Identity) /Supplement 0 >>"
                                        " /CIDToGIDMap /Identity /DW 0 /FontDescriptor " +
                                        Reference(descriptor) + " /W " + program.widths + " >>");
-    const int toUnicode = objects.AddStream("/Filter /FlateDecode", Deflated(ToUnicode(used), Packing::Quick));
+    const int toUnicode = objects.AddStream("/Filter /FlateDecode", PackedToUnicode(used));
     return objects.Add("<< /Type /Font /Subtype /Type0 /BaseFont /" + name + " /Encoding /Identity-H" +
                        " /DescendantFonts [" + Reference(descendant) + "] /ToUnicode " + Reference(toUnicode) + " >>");
 }

@@ -4,6 +4,7 @@
 #include <QCryptographicHash>
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <cmath>
 #include <cstdint>
 #include <cstdio>
@@ -18,7 +19,7 @@ namespace {
 constexpr std::int64_t kParts = 1000;  // of a unit, in numbers
 constexpr double kFarOff = 1e9;        // beyond every page; a curve that failed may go there
 constexpr int kSmall = 6;              // zlib's levels
-constexpr int kQuick = 3;
+constexpr int kQuick = 1;
 constexpr qsizetype kLengthInFront = 4;  // Qt writes the length of the content before the compressed bytes
 
 QByteArray View(std::string_view text)
@@ -47,11 +48,15 @@ std::string Reference(int object)
 
 std::string TextString(std::string_view text)
 {
-    constexpr std::string_view kDigits = "0123456789ABCDEF";
     std::string result = "<FEFF";
-    for (const char16_t unit : ToUtf16(text))
-        for (const int shift : {12, 8, 4, 0}) result += kDigits[(static_cast<unsigned>(unit) >> shift) & 15U];
+    for (const char16_t unit : ToUtf16(text)) AppendHexadecimal(result, unit);
     return result + ">";
+}
+
+void AppendHexadecimal(std::string& out, std::uint16_t unit)
+{
+    constexpr std::string_view kDigits = "0123456789ABCDEF";
+    for (const int shift : {12, 8, 4, 0}) out += kDigits[(unsigned{unit} >> shift) & 15U];
 }
 
 std::string DateString(Moment moment)
@@ -63,14 +68,16 @@ void AppendNumber(std::string& out, double value)
 {
     const double bounded = std::isfinite(value) ? std::clamp(value, -kFarOff, kFarOff) : 0;
     const std::int64_t parts = std::llround(bounded * static_cast<double>(kParts));
-    out += parts < 0 ? " -" : " ";
+    std::array<char, 32> text{' ', '-'};
+    char* at = text.data() + (parts < 0 ? 2 : 1);
     const std::int64_t size = std::llabs(parts);
-    out += std::to_string(size / kParts);
-    std::int64_t rest = size % kParts;
-    if (rest == 0) return;
-    out += '.';
-    for (std::int64_t digit = kParts / 10; rest > 0; rest %= digit, digit /= 10)
-        out += static_cast<char>('0' + rest / digit);
+    at = std::to_chars(at, text.data() + text.size(), size / kParts).ptr;
+    if (std::int64_t rest = size % kParts; rest > 0) {
+        *at++ = '.';
+        for (std::int64_t digit = kParts / 10; rest > 0; rest %= digit, digit /= 10)
+            *at++ = static_cast<char>('0' + rest / digit);
+    }
+    out.append(text.data(), at);
 }
 
 std::string Deflated(std::string_view content, Packing packing)
@@ -92,10 +99,9 @@ int Objects::Reserve()
 
 void Objects::Put(int object, std::string_view body)
 {
-    places_[static_cast<std::size_t>(object - 1)] = bytes_.size();
-    Append(std::to_string(object) + " 0 obj\n");
+    Begin(object);
     Append(body);
-    Append("\nendobj\n");
+    End();
 }
 
 int Objects::Add(std::string_view body)
@@ -107,9 +113,13 @@ int Objects::Add(std::string_view body)
 
 int Objects::AddStream(std::string_view dictionary, std::string_view content)
 {
-    std::string body = "<< " + std::string(dictionary) + " /Length " + std::to_string(content.size()) + " >>\nstream\n";
-    body += content;
-    return Add(body += "\nendstream");
+    const int object = Reserve();
+    Begin(object);
+    Append("<< " + std::string(dictionary) + " /Length " + std::to_string(content.size()) + " >>\nstream\n");
+    Append(content);
+    Append("\nendstream");
+    End();
+    return object;
 }
 
 Bytes Objects::Finish(int catalog, int information, std::string_view identity)
@@ -122,6 +132,17 @@ Bytes Objects::Finish(int catalog, int information, std::string_view identity)
     Append("trailer\n<< /Size " + count + " /Root " + Reference(catalog) + " /Info " + Reference(information) +
            " /ID [" + identifier + identifier + "] >>\nstartxref\n" + std::to_string(table) + "\n%%EOF\n");
     return std::move(bytes_);
+}
+
+void Objects::Begin(int object)
+{
+    places_[static_cast<std::size_t>(object - 1)] = bytes_.size();
+    Append(std::to_string(object) + " 0 obj\n");
+}
+
+void Objects::End()
+{
+    Append("\nendobj\n");
 }
 
 void Objects::Append(std::string_view text)

@@ -3,6 +3,7 @@
 ///     %PDF-1.5   objects, each "n 0 obj ... endobj"   xref: the place of each   trailer
 #pragma once
 
+#include <cstdint>
 #include <span>
 #include <string>
 #include <string_view>
@@ -22,10 +23,13 @@ std::string TextString(std::string_view text);
 /// "(D:20261121120000)": local time without a zone.
 std::string DateString(Moment moment);
 
+/// A unit of UTF-16 or a glyph's number as a string "<0041>" has it: four digits.
+void AppendHexadecimal(std::string& out, std::uint16_t unit);
+
 /// A length or coordinate with at most three decimals, without needless zeros, behind a blank.
 void AppendNumber(std::string& out, double value);
 
-/// Small for what is packed once, quick for pages: a third of the time for a tenth more.
+/// Small for what is packed once, quick for pages: a quarter of the time for a quarter more.
 enum class Packing { Small, Quick };
 
 /// As the filter FlateDecode takes it.
@@ -47,6 +51,8 @@ class Objects {
     Bytes Finish(int catalog, int information, std::string_view identity);
 
   private:
+    void Begin(int object);
+    void End();
     void Append(std::string_view text);
 
     Bytes bytes_;

@@ -173,13 +173,13 @@ class PageWriter {
     void WriteRun(const TextItem& item, const FontRun& run, double x)
     {
         const Face& face = FaceOf(run.family, item.font);
-        const std::vector<PlacedGlyph> glyphs = face.Shape(run.text);
+        const ShapedText glyphs = face.Shape(run.text);
         const double size = SubstituteFor(item.font.name).unitsPerPoint * item.font.size;
         FillWith(item.colour);
-        out_ += " BT " + resources_.NameOf(face, glyphs);
+        out_ += " BT " + resources_.NameOf(face, *glyphs);
         Numbers({size}, "Tf");
         PlaceText(item, x);
-        WriteGlyphs(face, glyphs, size);
+        WriteGlyphs(*glyphs, size);
         out_ += " ET";
     }
 
@@ -195,7 +195,7 @@ class PageWriter {
     }
 
     /// One string as far as each glyph stands where the reader's step from the last one leads.
-    void WriteGlyphs(const Face& face, const std::vector<PlacedGlyph>& glyphs, double size)
+    void WriteGlyphs(const std::vector<PlacedGlyph>& glyphs, double size)
     {
         constexpr double kStraight = 1e-4;  // ems
         double startX = 0;
@@ -212,16 +212,10 @@ class PageWriter {
             }
             if (!isOpen || !follows) out_ += " <";
             isOpen = true;
-            AppendGlyph(glyph.glyph);
-            nextX = glyph.x + face.AdvanceOf(glyph.glyph);
+            AppendHexadecimal(out_, glyph.glyph);
+            nextX = glyph.x + glyph.step;
         }
         if (isOpen) out_ += "> Tj";
-    }
-
-    void AppendGlyph(GlyphId glyph)
-    {
-        constexpr std::string_view kDigits = "0123456789ABCDEF";
-        for (const int shift : {12, 8, 4, 0}) out_ += kDigits[(static_cast<unsigned>(glyph) >> shift) & 15U];
     }
 
     void WritePicture(const PictureItem& item)

@@ -158,6 +158,8 @@ std::u16string ToUtf16(std::string_view text)
 
 std::string ToUtf8(std::u16string_view text)
 {
+    const bool isAscii = std::ranges::all_of(text, [](char16_t unit) { return unit < 0x80; });
+    if (isAscii) return {text.begin(), text.end()};
     std::string bytes;
     bytes.reserve(text.size());
     ForEachCharacter(text, [&](char32_t code) { Append(bytes, code); });

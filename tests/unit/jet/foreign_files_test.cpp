@@ -158,55 +158,70 @@ struct OddColumn {
     std::u16string name;
 };
 
-/// A definition of any columns and at most one index on the first column, as another program writes it.
-Bytes Definition(const std::vector<OddColumn>& columns, std::uint16_t variableColumns, bool indexed = false)
+void AppendNumber(Bytes& block, std::uint64_t value, std::size_t size)
+{
+    block.resize(block.size() + size);
+    PutNumber(block, block.size() - size, value, size);
+}
+
+Bytes DefinitionHead(std::size_t columns, std::uint16_t variableColumns, bool indexed)
 {
     Bytes block(0x3F, 0);
-    const auto number = [&](std::uint64_t value, std::size_t size) {
-        block.resize(block.size() + size);
-        PutNumber(block, block.size() - size, value, size);
-    };
     PutNumber(block, 0, 0x0102, 2);
     block[0x28] = 'N';
-    PutNumber(block, 0x29, columns.size(), 2);
+    PutNumber(block, 0x29, columns, 2);
     PutNumber(block, 0x2B, variableColumns, 2);
-    PutNumber(block, 0x2D, columns.size(), 2);
+    PutNumber(block, 0x2D, columns, 2);
     PutNumber(block, 0x2F, indexed ? 1 : 0, 4);
     PutNumber(block, 0x33, indexed ? 1 : 0, 4);
     PutNumber(block, 0x37, kMaps << 8 | 0, 4);
     PutNumber(block, 0x3B, kMaps << 8 | 1, 4);
     if (indexed) block.resize(block.size() + 12);
-    for (const OddColumn& column : columns) {
-        number(column.type, 1);
-        number(1625, 4);
-        number(column.number, 2);
-        number(column.variableIndex, 2);
-        number(column.number, 2);
-        number(0x0409, 4);
-        number(column.flags, 1);
-        number(0, 5);
-        number(column.offset, 2);
-        number(column.size, 2);
-    }
-    for (const OddColumn& column : columns) {
-        number(2 * column.name.size(), 2);
-        const Bytes name = Utf16(column.name);
-        block.insert(block.end(), name.begin(), name.end());
-    }
-    if (indexed) {
-        number(1923, 4);
-        number(0, 2);  // column 0
-        number(1, 1);
-        for (int i = 1; i < 10; ++i) {
-            number(0xFFFF, 2);
-            number(0, 1);
-        }
-        block.resize(block.size() + 4 + 4 + 4 + 6);
-        block.resize(block.size() + 28);  // the logical index
-        number(2, 2);
-        number('I', 2);
-    }
-    number(0xFFFF, 2);
+    return block;
+}
+
+void AppendColumn(Bytes& block, const OddColumn& column)
+{
+    AppendNumber(block, column.type, 1);
+    AppendNumber(block, 1625, 4);
+    AppendNumber(block, column.number, 2);
+    AppendNumber(block, column.variableIndex, 2);
+    AppendNumber(block, column.number, 2);
+    AppendNumber(block, 0x0409, 4);
+    AppendNumber(block, column.flags, 1);
+    AppendNumber(block, 0, 5);
+    AppendNumber(block, column.offset, 2);
+    AppendNumber(block, column.size, 2);
+}
+
+void AppendName(Bytes& block, const OddColumn& column)
+{
+    AppendNumber(block, 2 * column.name.size(), 2);
+    const Bytes name = Utf16(column.name);
+    block.insert(block.end(), name.begin(), name.end());
+}
+
+/// An index named "I" on column 0.
+void AppendIndex(Bytes& block)
+{
+    AppendNumber(block, 1923, 4);
+    AppendNumber(block, 0, 2);
+    AppendNumber(block, 1, 1);
+    for (int unused = 1; unused < 10; ++unused) AppendNumber(block, 0x00FFFF, 3);
+    block.resize(block.size() + 4 + 4 + 4 + 6);
+    block.resize(block.size() + 28);  // the logical index
+    AppendNumber(block, 2, 2);
+    AppendNumber(block, 'I', 2);
+}
+
+/// A definition of any columns and at most one index on the first column, as another program writes it.
+Bytes Definition(const std::vector<OddColumn>& columns, std::uint16_t variableColumns, bool indexed = false)
+{
+    Bytes block = DefinitionHead(columns.size(), variableColumns, indexed);
+    for (const OddColumn& column : columns) AppendColumn(block, column);
+    for (const OddColumn& column : columns) AppendName(block, column);
+    if (indexed) AppendIndex(block);
+    AppendNumber(block, 0xFFFF, 2);
     PutNumber(block, 8, block.size(), 4);
     block.resize(kPage);
     return block;

@@ -178,6 +178,17 @@ TEST_F(MadePdf, IsTheSameBytesInManyThreadsAtOnce)
     for (const Bytes& bytes : made) EXPECT_EQ(bytes, alone);
 }
 
+// A face forgets the texts that it has drawn when there are too many.
+TEST_F(MadePdf, IsTheSameBytesBehindThousandsOfOtherTexts)
+{
+    const Bytes before = MakePdf(Report(), kDocument);
+    DrawingSurface figures(11906, 16838);
+    figures.FontName = "DilleniaUPC";
+    for (int number = 0; number < 5000; ++number) figures.Print(std::to_string(number) + " ฟ");
+    MakePdf(std::vector<DisplayList>{*figures.Image()}, {"Figures", kDay, {}});
+    EXPECT_EQ(MakePdf(Report(), kDocument), before);
+}
+
 // The test program runs itself: the one that is started finds a path and writes the file.
 TEST_F(MadePdf, IsTheSameBytesInEveryProcess)
 {
