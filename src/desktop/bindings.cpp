@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QCompleter>
 #include <QDateEdit>
 #include <QLabel>
 #include <QLineEdit>
@@ -13,7 +14,6 @@
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QStatusBar>
-#include <QStyle>
 #include <QTabWidget>
 #include <QTimer>
 #include <QToolBar>
@@ -65,13 +65,41 @@ void ShowEntry(QComboBox& view, const std::string& text)
     view.lineEdit()->setCursorPosition(cursor);
 }
 
-QIcon IconOf(const QToolBar& view, const std::string& caption)
+/// A new view is shown with its window; telling it so before costs its styling anew.
+void ShowOrHide(QWidget& view, bool visible)
 {
-    if (caption.starts_with("Save")) return view.style()->standardIcon(QStyle::SP_DialogSaveButton);
+    const bool hidden = view.isHidden() && view.testAttribute(Qt::WA_WState_ExplicitShowHide);
+    if (visible == hidden) view.setVisible(visible);
+}
+
+/// Line height of Thai is more than a font's own; Qt centres such a line by its height and lifts it by its ascent as
+/// well. The difference, to the pixel for a box as high as its font asks for.
+void StandOnBaseline(QLineEdit& edit, const QString& text)
+{
+    const QFontMetrics font = edit.fontMetrics();
+    const int lifted = (font.size(0, text).height() - font.height() - 1) / 2;
+    if (edit.textMargins().top() != lifted) edit.setTextMargins(0, lifted, 0, -lifted);
+}
+
+/// With a box to type in. Qt would give it a completer, which costs more than the rest of the combo; where there is one
+/// already it makes none.
+void MakeEditable(QComboBox& view)
+{
+    QCompleter none;
+    auto* box = new QLineEdit(&view);
+    box->setCompleter(&none);
+    view.setLineEdit(box);
+    view.setCompleter(nullptr);
+    KeepOnBaseline(*box);
+}
+
+QIcon IconOf(const std::string& caption)
+{
+    if (caption.starts_with("Save")) return looks::StandardIcon(QStyle::SP_DialogSaveButton);
     if (caption.starts_with("Exit") || caption.starts_with("Close")) {
-        return view.style()->standardIcon(QStyle::SP_DialogCloseButton);
+        return looks::StandardIcon(QStyle::SP_DialogCloseButton);
     }
-    if (caption.starts_with("Print")) return view.style()->standardIcon(QStyle::SP_FileDialogDetailedView);
+    if (caption.starts_with("Print")) return looks::StandardIcon(QStyle::SP_FileDialogDetailedView);
     return {};
 }
 
@@ -82,7 +110,7 @@ QToolButton* MakeToolButton(Toolbar& bar, int number, QToolBar& view)
     tool->setText(ToQt(button.caption));
     tool->setToolTip(ToQt(button.toolTip.empty() ? button.caption : button.toolTip));
     tool->setAccessibleName(ToQt(button.caption));
-    tool->setIcon(IconOf(view, button.caption));
+    tool->setIcon(IconOf(button.caption));
     tool->setToolButtonStyle(tool->icon().isNull() ? Qt::ToolButtonTextOnly : Qt::ToolButtonTextBesideIcon);
     tool->setFocusPolicy(Qt::TabFocus);
     if (button.items.empty()) {
@@ -99,6 +127,12 @@ QToolButton* MakeToolButton(Toolbar& bar, int number, QToolBar& view)
 }
 
 }  // namespace
+
+void KeepOnBaseline(QLineEdit& edit)
+{
+    QObject::connect(&edit, &QLineEdit::textChanged, &edit,
+                     [&edit](const QString& text) { StandOnBaseline(edit, text); });
+}
 
 void ShowText(QLineEdit& edit, const std::string& text)
 {
@@ -119,7 +153,7 @@ Subscription BindFurniture(Control& control, QWidget& view)
     view.setObjectName(ToQt(control.Name()));
     return control.Show([&control, &view] {
         view.setEnabled(control.Enabled());
-        view.setVisible(control.Visible());
+        ShowOrHide(view, control.Visible());
         if (!control.ToolTip().empty()) view.setToolTip(ToQt(control.ToolTip()));
         const auto ground = control.BackColor();
         if (ground) looks::SetGround(view, looks::ToQt(*ground));
@@ -128,6 +162,7 @@ Subscription BindFurniture(Control& control, QWidget& view)
 
 Subscription Bind(TextBox& box, QLineEdit& edit)
 {
+    KeepOnBaseline(edit);
     QObject::connect(&edit, &QLineEdit::textEdited, &edit,  // the user's typing only, never setText
                      [&box](const QString& text) { box.Type(text.toStdString()); });
     return box.Show([&box, &edit, select = SelectsWhenAsked(box, edit)]() mutable {
@@ -139,9 +174,8 @@ Subscription Bind(TextBox& box, QLineEdit& edit)
 
 Subscription Bind(ComboBox& combo, QComboBox& view)
 {
-    view.setEditable(true);
+    MakeEditable(view);
     view.setInsertPolicy(QComboBox::NoInsert);
-    view.setCompleter(nullptr);
     QObject::connect(view.lineEdit(), &QLineEdit::textEdited, &view,
                      [&combo](const QString& text) { combo.Type(text.toStdString()); });
     QObject::connect(&view, &QComboBox::activated, &view,

@@ -46,6 +46,9 @@ using Bindings = std::vector<Subscription>;
 /// typed there begins without them.
 void ShowText(QLineEdit& edit, const std::string& text);
 
+/// Thai texts stand on the line that Latin ones stand on.
+void KeepOnBaseline(QLineEdit& edit);
+
 /// What every control has: enabled, visible, tool tip, accessible name, colours.
 [[nodiscard]] Subscription BindFurniture(Control& control, QWidget& view);
 

@@ -114,7 +114,7 @@ FormView::FormView(Form& form, const Place& layout, QWidget* parent) : QWidget(p
     auto* box = new QVBoxLayout(this);
     box->setContentsMargins(looks::kMargin, looks::kMargin, looks::kMargin, looks::kMargin);
     box->setSpacing(looks::kGap);
-    box->addWidget(Make(layout), 1);
+    box->addWidget(Make(layout, *this), 1);
     for (Control* control : form.Controls()) {
         auto* timer = dynamic_cast<Timer*>(control);
         if (!timer) continue;
@@ -139,41 +139,41 @@ QWidget* FormView::ViewOf(const Control& control) const
     return found == views_.end() ? nullptr : found->second;
 }
 
-QWidget* FormView::Make(const Place& place)
+QWidget* FormView::Make(const Place& place, QWidget& parent)
 {
     switch (place.kind) {
         case Place::Kind::Row:
         case Place::Kind::Column:
         case Place::Kind::Fields:
-            return MakeBox(place);
+            return MakeBox(place, parent);
         case Place::Kind::Pair:
-            return MakePair(place);
+            return MakePair(place, parent);
         case Place::Kind::Group:
-            return MakeGroup(place);
+            return MakeGroup(place, parent);
         case Place::Kind::Tabs:
-            return MakeTabs(place);
+            return MakeTabs(place, parent);
         case Place::Kind::Field:
-            return MakeField(place);
+            return MakeField(place, parent);
         case Place::Kind::Result:
-            return MakeResult(place);
+            return MakeResult(place, parent);
         case Place::Kind::Banner:
-            return MakeBanner(place);
+            return MakeBanner(place, parent);
         case Place::Kind::Plot:
-            return MakePlot(place);
+            return MakePlot(place, parent);
         case Place::Kind::Picture:
-            return MakePicture(place);
+            return MakePicture(place, parent);
         case Place::Kind::Control:
-            return MakeControl(form_.Get<Control>(place.control));
+            return MakeControl(form_.Get<Control>(place.control), parent);
         case Place::Kind::Space:
             break;
     }
-    return new QWidget(this);
+    return new QWidget(&parent);
 }
 
 void FormView::Add(QBoxLayout& box, const Place& place)
 {
     if (place.kind == Place::Kind::Space) return box.addStretch(place.stretch);
-    box.addWidget(Make(place), place.stretch);
+    box.addWidget(Make(place, *box.parentWidget()), place.stretch);
 }
 
 void FormView::AddAll(QBoxLayout& box, const std::vector<Place>& parts)
@@ -183,9 +183,9 @@ void FormView::AddAll(QBoxLayout& box, const std::vector<Place>& parts)
     for (const Place& part : parts) Add(box, part);
 }
 
-QWidget* FormView::MakeBox(const Place& place)
+QWidget* FormView::MakeBox(const Place& place, QWidget& parent)
 {
-    auto* widget = new QWidget(this);
+    auto* widget = new QWidget(&parent);
     if (place.kind == Place::Kind::Fields) {
         auto* fields = new QFormLayout(widget);
         fields->setContentsMargins(0, 0, 0, 0);
@@ -200,9 +200,9 @@ QWidget* FormView::MakeBox(const Place& place)
     return widget;
 }
 
-QWidget* FormView::MakePair(const Place& place)
+QWidget* FormView::MakePair(const Place& place, QWidget& parent)
 {
-    auto* pair = new PairBox(this);
+    auto* pair = new PairBox(&parent);
     AddAll(*pair->Box(), place.parts);
     pair->Box()->setSpacing(looks::kGap);
     return pair;
@@ -211,8 +211,9 @@ QWidget* FormView::MakePair(const Place& place)
 void FormView::AddFieldRow(QFormLayout& fields, const Place& place)
 {
     auto& control = form_.Get<Control>(place.control);
-    QWidget* view = MakeControl(control);
-    auto* caption = MakeCaption(control, view, this);
+    QWidget& parent = *fields.parentWidget();
+    QWidget* view = MakeControl(control, parent);
+    auto* caption = MakeCaption(control, view, &parent);
     if (!place.text.empty()) {
         caption->setText(ToQt(place.text));
         view->setAccessibleName(caption->text());
@@ -220,10 +221,10 @@ void FormView::AddFieldRow(QFormLayout& fields, const Place& place)
     fields.addRow(caption, view);
 }
 
-QWidget* FormView::MakeGroup(const Place& place)
+QWidget* FormView::MakeGroup(const Place& place, QWidget& parent)
 {
     auto& frame = form_.Get<Control>(place.control);
-    auto* group = new QGroupBox(PlainCaption(frame), this);
+    auto* group = new QGroupBox(PlainCaption(frame), &parent);
     auto* box = new QVBoxLayout(group);
     AddAll(*box, place.parts);
     box->setContentsMargins(looks::kGap, looks::kGap, looks::kGap, looks::kGap);
@@ -237,16 +238,16 @@ QWidget* FormView::MakeGroup(const Place& place)
     return group;
 }
 
-QWidget* FormView::MakeTabs(const Place& place)
+QWidget* FormView::MakeTabs(const Place& place, QWidget& parent)
 {
     auto& control = form_.Get<TabControl>(place.control);
-    auto* tabs = new QTabWidget(this);
+    auto* tabs = new QTabWidget(&parent);
     for (std::size_t i = 0; i < place.parts.size(); ++i) {
         auto* page = new QWidget(tabs);
+        tabs->addTab(page, QString::fromStdString(control.TabCaption(static_cast<int>(i))));
         auto* box = new QVBoxLayout(page);
         box->setContentsMargins(looks::kMargin, looks::kMargin, looks::kMargin, looks::kMargin);
-        box->addWidget(Make(place.parts[i]));
-        tabs->addTab(page, QString::fromStdString(control.TabCaption(static_cast<int>(i))));
+        box->addWidget(Make(place.parts[i], *page));
     }
     bindings_.push_back(BindFurniture(control, *tabs));
     bindings_.push_back(Bind(control, *tabs));
@@ -254,45 +255,45 @@ QWidget* FormView::MakeTabs(const Place& place)
     return tabs;
 }
 
-QWidget* FormView::MakeField(const Place& place)
+QWidget* FormView::MakeField(const Place& place, QWidget& parent)
 {
     auto& control = form_.Get<Control>(place.control);
-    auto* widget = new QWidget(this);
+    auto* widget = new QWidget(&parent);
     auto* box = new QHBoxLayout(widget);
     box->setContentsMargins(0, 0, 0, 0);
     box->setSpacing(looks::kGap);
-    QWidget* view = MakeControl(control);
-    box->addWidget(MakeCaption(control, view, this));
+    QWidget* view = MakeControl(control, *widget);
+    box->addWidget(MakeCaption(control, view, widget));
     box->addWidget(view, 1);
     bindings_.push_back(control.Show([&control, widget] { widget->setVisible(control.Visible()); }));
     return widget;
 }
 
-QWidget* FormView::MakeResult(const Place& place)
+QWidget* FormView::MakeResult(const Place& place, QWidget& parent)
 {
     auto& box = form_.Get<TextBox>(place.control);
-    auto* widget = new QWidget(this);
+    auto* widget = new QWidget(&parent);
     auto* column = new QVBoxLayout(widget);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(2);
-    QWidget* figure = MakeControl(box);
+    QWidget* figure = MakeControl(box, *widget);
     figure->setFont(looks::Scaled(figure->font(), looks::kFigureSize, true));
-    auto* caption = MakeCaption(box, figure, this);
+    auto* caption = MakeCaption(box, figure, widget);
     caption->setFont(looks::Scaled(caption->font(), looks::kCaptionSize));
     column->addWidget(caption);
     auto* row = new QHBoxLayout;
     row->setSpacing(looks::kGap);
     row->addWidget(figure, 1);
-    row->addWidget(new QLabel(ToQt(place.text), this));
+    row->addWidget(new QLabel(ToQt(place.text), widget));
     column->addLayout(row);
     return widget;
 }
 
 /// The test's Thai and English names in white on the material's colour.
-QWidget* FormView::MakeBanner(const Place& place)
+QWidget* FormView::MakeBanner(const Place& place, QWidget& parent)
 {
     auto& box = form_.Get<TextBox>(place.control);
-    auto* banner = new QLabel(this);
+    auto* banner = new QLabel(&parent);
     banner->setAlignment(Qt::AlignCenter);
     banner->setFont(looks::Scaled(banner->font(), looks::kBannerSize, true));
     banner->setContentsMargins(looks::kMargin, 6, looks::kMargin, 6);
@@ -303,28 +304,28 @@ QWidget* FormView::MakeBanner(const Place& place)
     return banner;
 }
 
-QWidget* FormView::MakePlot(const Place& place)
+QWidget* FormView::MakePlot(const Place& place, QWidget& parent)
 {
     auto& frame = form_.Get<PictureBox>(place.control);
     PictureBox* plot = place.text.empty() ? nullptr : &form_.Get<PictureBox>(place.text);
-    auto* view = new PlotView(frame, plot, this);
+    auto* view = new PlotView(frame, plot, &parent);
     views_[&frame] = view;
     if (plot) views_[plot] = view;
     return view;
 }
 
-QWidget* FormView::MakePicture(const Place& place)
+QWidget* FormView::MakePicture(const Place& place, QWidget& parent)
 {
     auto& box = form_.Get<PictureBox>(place.control);
-    auto* view = new PictureView(box, ToQt(place.text), this);
+    auto* view = new PictureView(box, ToQt(place.text), &parent);
     views_[&box] = view;
     return view;
 }
 
 /// A picture of the control's own, else the program's mark.
-QWidget* FormView::MakeImage(Image& image)
+QWidget* FormView::MakeImage(Image& image, QWidget& parent)
 {
-    auto* view = new QLabel(this);
+    auto* view = new QLabel(&parent);
     const QImage own = image.Content() ? Decoded(image.Content()) : QImage();
     view->setPixmap(own.isNull() ? looks::ProgramIcon().pixmap(kImageSide, kImageSide)
                                  : QPixmap::fromImage(own.scaled(kImageSide, kImageSide, Qt::KeepAspectRatio,
@@ -335,36 +336,36 @@ QWidget* FormView::MakeImage(Image& image)
 }
 
 template <class View, class Kind>
-QWidget* FormView::MakeBound(Kind& control)
+QWidget* FormView::MakeBound(Kind& control, QWidget& parent)
 {
-    auto* view = new View(this);
+    auto* view = new View(&parent);
     bindings_.push_back(BindFurniture(control, *view));
     bindings_.push_back(Bind(control, *view));
     Watch(control, *view);
     return view;
 }
 
-QWidget* FormView::MakeControl(Control& control)
+QWidget* FormView::MakeControl(Control& control, QWidget& parent)
 {
-    if (auto* box = dynamic_cast<TextBox*>(&control)) return MakeBound<QLineEdit>(*box);
-    if (auto* combo = dynamic_cast<ComboBox*>(&control)) return MakeBound<QComboBox>(*combo);
-    if (auto* picker = dynamic_cast<DatePicker*>(&control)) return MakeBound<QDateEdit>(*picker);
-    if (auto* button = dynamic_cast<CommandButton*>(&control)) return MakeBound<QPushButton>(*button);
-    if (auto* option = dynamic_cast<OptionButton*>(&control)) return MakeBound<QRadioButton>(*option);
-    if (auto* check = dynamic_cast<CheckBox*>(&control)) return MakeBound<QCheckBox>(*check);
+    if (auto* box = dynamic_cast<TextBox*>(&control)) return MakeBound<QLineEdit>(*box, parent);
+    if (auto* combo = dynamic_cast<ComboBox*>(&control)) return MakeBound<QComboBox>(*combo, parent);
+    if (auto* picker = dynamic_cast<DatePicker*>(&control)) return MakeBound<QDateEdit>(*picker, parent);
+    if (auto* button = dynamic_cast<CommandButton*>(&control)) return MakeBound<QPushButton>(*button, parent);
+    if (auto* option = dynamic_cast<OptionButton*>(&control)) return MakeBound<QRadioButton>(*option, parent);
+    if (auto* check = dynamic_cast<CheckBox*>(&control)) return MakeBound<QCheckBox>(*check, parent);
     if (auto* list = dynamic_cast<ListBox*>(&control)) {
-        QWidget* view = MakeBound<QListWidget>(*list);
+        QWidget* view = MakeBound<QListWidget>(*list, parent);
         view->setMinimumHeight(2 * looks::kGridRowHeight);
         return view;
     }
-    if (auto* label = dynamic_cast<Label*>(&control)) return MakeBound<QLabel>(*label);
-    if (auto* image = dynamic_cast<Image*>(&control)) return MakeImage(*image);
-    return MakeGrid(form_.Get<TextGrid>(control.Name()));
+    if (auto* label = dynamic_cast<Label*>(&control)) return MakeBound<QLabel>(*label, parent);
+    if (auto* image = dynamic_cast<Image*>(&control)) return MakeImage(*image, parent);
+    return MakeGrid(form_.Get<TextGrid>(control.Name()), parent);
 }
 
-QWidget* FormView::MakeGrid(TextGrid& grid)
+QWidget* FormView::MakeGrid(TextGrid& grid, QWidget& parent)
 {
-    auto* view = new GridView(grid, this);
+    auto* view = new GridView(grid, &parent);
     bindings_.push_back(BindFurniture(grid, *view));
     Watch(grid, *view);
     if (view->EditorBox()) Watch(*grid.Editor(), *view->EditorBox());

@@ -29,25 +29,26 @@ class FormView : public QWidget {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
+    // Each widget is made in the parent that it stays in: a subtree that moves is styled anew.
     void Add(QBoxLayout& box, const Place& place);
     void AddAll(QBoxLayout& box, const std::vector<Place>& parts);
     void AddFieldRow(QFormLayout& fields, const Place& place);
-    QWidget* MakeBox(const Place& place);
-    QWidget* MakePair(const Place& place);
-    QWidget* MakeGroup(const Place& place);
-    QWidget* MakeTabs(const Place& place);
-    QWidget* MakeField(const Place& place);
-    QWidget* MakeResult(const Place& place);
-    QWidget* MakeBanner(const Place& place);
-    QWidget* MakePlot(const Place& place);
-    QWidget* MakePicture(const Place& place);
-    QWidget* MakeGrid(class TextGrid& grid);
-    QWidget* MakeImage(class Image& image);
-    QWidget* MakeControl(Control& control);
-    QWidget* Make(const Place& place);
+    QWidget* MakeBox(const Place& place, QWidget& parent);
+    QWidget* MakePair(const Place& place, QWidget& parent);
+    QWidget* MakeGroup(const Place& place, QWidget& parent);
+    QWidget* MakeTabs(const Place& place, QWidget& parent);
+    QWidget* MakeField(const Place& place, QWidget& parent);
+    QWidget* MakeResult(const Place& place, QWidget& parent);
+    QWidget* MakeBanner(const Place& place, QWidget& parent);
+    QWidget* MakePlot(const Place& place, QWidget& parent);
+    QWidget* MakePicture(const Place& place, QWidget& parent);
+    QWidget* MakeGrid(class TextGrid& grid, QWidget& parent);
+    QWidget* MakeImage(class Image& image, QWidget& parent);
+    QWidget* MakeControl(Control& control, QWidget& parent);
+    QWidget* Make(const Place& place, QWidget& parent);
 
     template <class View, class Kind>
-    QWidget* MakeBound(Kind& control);
+    QWidget* MakeBound(Kind& control, QWidget& parent);
 
     void Watch(Control& control, QWidget& view);
     void FollowFocus();

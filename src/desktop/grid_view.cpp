@@ -6,6 +6,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
+#include <QSignalBlocker>
 #include <QStyledItemDelegate>
 #include <algorithm>
 
@@ -19,6 +20,7 @@ namespace {
 constexpr int kLeastRowsShown = 4;
 constexpr int kMostRowsUnscrolled = 12;
 constexpr int kLeastColumnWidth = 56;
+constexpr int kUnbroken = 4000;  // room for any title in one line
 
 bool IsMerged(const TextGrid& grid, int column)
 {
@@ -114,8 +116,6 @@ class GridModel : public QAbstractTableModel {
 
 GridView::GridView(TextGrid& grid, QWidget* parent) : QTableView(parent), grid_(grid), model_(new GridModel(grid, this))
 {
-    setModel(model_);
-    setItemDelegate(new CellPainter(grid, this));
     horizontalHeader()->hide();
     verticalHeader()->hide();
     horizontalHeader()->setMinimumSectionSize(kLeastColumnWidth);
@@ -128,7 +128,7 @@ GridView::GridView(TextGrid& grid, QWidget* parent) : QTableView(parent), grid_(
     if (CellEditor* editor = grid.Editor()) MakeEditorBox(*editor);
     MakeEditorList();
     bindings_.push_back(grid.Show([this] {
-        if (model_->TakeUp()) ShareRoom();
+        if (model_->TakeUp() && model()) ShareRoom();
         ShowMerged();
         ShowEditors();
     }));
@@ -137,7 +137,7 @@ GridView::GridView(TextGrid& grid, QWidget* parent) : QTableView(parent), grid_(
 /// Cells that merge stand as one, their text in its middle.
 void GridView::ShowMerged()
 {
-    if (grid_.MergeCells == Merging::Never) return;
+    if (!model() || grid_.MergeCells == Merging::Never) return;
     clearSpans();
     for (int row = 0; row < grid_.Rows(); ++row) {
         for (int column = 0; column < grid_.Columns(); ++column) {
@@ -152,7 +152,7 @@ void GridView::MakeEditorBox(CellEditor& editor)
 {
     box_ = new QLineEdit(viewport());
     box_->setAlignment(Qt::AlignHCenter);
-    box_->setTextMargins(0, 0, 0, 0);
+    KeepOnBaseline(*box_);
     box_->setStyleSheet("QLineEdit { border: 2px solid palette(highlight); padding: 0px; }");
     box_->setAccessibleName(QObject::tr("Cell"));
     box_->hide();
@@ -205,14 +205,29 @@ void GridView::ShowEditors()
     selectRequestsSeen_ = editor.SelectAllRequests();
 }
 
+/// Layouts ask for the same sizes many times over, and breaking texts into lines is slow.
+QSize GridView::TextSize(const std::string& text, int room) const
+{
+    const auto [known, isNew] = textSizes_.try_emplace({text, room});
+    if (isNew) {
+        const auto shown = QString::fromStdString(text).trimmed();
+        known->second = fontMetrics().boundingRect(QRect(0, 0, room, 1000), Qt::TextWordWrap, shown).size();
+    }
+    return known->second;
+}
+
+/// Until the cells are there, of the width that new columns have.
+int GridView::WidthNow(int column) const
+{
+    return std::max(kLeastColumnWidth, model() ? columnWidth(column) : horizontalHeader()->defaultSectionSize());
+}
+
 int GridView::LeastRowHeight(int row) const
 {
     int height = looks::kGridRowHeight;
     if (row >= grid_.HeadRows()) return height;
     for (int column = 0; column < grid_.Columns(); ++column) {
-        const QRect room(0, 0, std::max(kLeastColumnWidth, columnWidth(column)) - 4, 1000);
-        const auto text = model_->index(row, column).data().toString();
-        height = std::max(height, fontMetrics().boundingRect(room, Qt::TextWordWrap, text).height() + 8);
+        height = std::max(height, TextSize(std::as_const(grid_)(row, column), WidthNow(column) - 4).height() + 8);
     }
     return height;
 }
@@ -237,8 +252,25 @@ QSize GridView::sizeHint() const
     return SizeFor(grid_.Rows()).expandedTo({static_cast<int>(width), 0});
 }
 
+void GridView::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::FontChange) textSizes_.clear();
+    QTableView::changeEvent(event);
+}
+
+/// Qt makes much of a table's cells, and many a grid stands on a tab that is not looked at.
+void GridView::TakeUpCells()
+{
+    setModel(model_);
+    setItemDelegate(new CellPainter(grid_, this));
+    ShowMerged();
+    executeDelayedItemsLayout();  // else a timer does it after the first painting, which then comes twice
+}
+
+/// The first one comes when the view is first seen.
 void GridView::resizeEvent(QResizeEvent* event)
 {
+    if (!model()) TakeUpCells();
     QTableView::resizeEvent(event);
     ShareRoom();
     ShowEditors();
@@ -260,14 +292,28 @@ int GridView::TitleWidth(int column) const
 {
     int width = 0;
     for (int row = 0; row < grid_.Rows(); ++row) {
-        const auto text = model_->index(row, column).data().toString();
-        width = std::max(width, fontMetrics().boundingRect(QRect(0, 0, 4000, 400), 0, text).width() + 20);
+        width = std::max(width, TextSize(std::as_const(grid_)(row, column), kUnbroken).width() + 20);
     }
     return width;
 }
 
-/// Titles as wide as they need, the other columns share the rest; rows of equal height fill the view.
+/// The headers keep quiet meanwhile: what they tell, Qt's table takes up one by one, after the next painting, and
+/// paints again.
 void GridView::ShareRoom()
+{
+    {
+        const QSignalBlocker quietAcross(horizontalHeader()), quietDown(verticalHeader());
+        ShareWidth();
+        FillHeight();
+    }
+    const int width = viewport()->width();
+    updateGeometries();
+    if (viewport()->width() != width) updateGeometries();  // a scroll bar came or went, and all was shared anew
+    viewport()->update();
+}
+
+/// Titles as wide as they need, the other columns share the rest; rows of equal height fill the view.
+void GridView::ShareWidth()
 {
     const int rows = grid_.Rows();
     int left = viewport()->width();
@@ -282,7 +328,6 @@ void GridView::ShareRoom()
     const bool headsAlone = grid_.HeadRows() == rows;  // are never scrolled; rows may come later
     setMinimumHeight(headsAlone ? least + 2 * frameWidth() : 0);
     setMaximumHeight(headsAlone ? least + 2 * frameWidth() : QWIDGETSIZE_MAX);
-    FillHeight();
 }
 
 /// The rows that have room share what is left of it, so that none stands there by half.

@@ -4,6 +4,9 @@
 
 #include <QLineEdit>
 #include <QTableView>
+#include <map>
+#include <string>
+#include <utility>
 
 #include "controls/cell_editor.h"
 #include "controls/list_cell_editor.h"
@@ -33,6 +36,7 @@ class GridView : public QTableView {
     QSize sizeHint() const override;
 
   protected:
+    void changeEvent(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent*) override {}
@@ -43,7 +47,9 @@ class GridView : public QTableView {
 
   private:
     QSize SizeFor(int mostRows) const;
+    void TakeUpCells();
     void ShareRoom();
+    void ShareWidth();
     void FillHeight();
     void ShowMerged();
     void MakeEditorBox(CellEditor& editor);
@@ -53,6 +59,8 @@ class GridView : public QTableView {
     int TitleWidth(int column) const;
     int ShareOf(int column, int left) const;
     int LeastRowHeight(int row) const;
+    int WidthNow(int column) const;
+    QSize TextSize(const std::string& text, int room) const;
 
     TextGrid& grid_;
     GridModel* model_;
@@ -60,6 +68,7 @@ class GridView : public QTableView {
     ListCellEditor* listEditor_ = nullptr;
     QComboBox* list_ = nullptr;
     int selectRequestsSeen_ = 0;
+    mutable std::map<std::pair<std::string, int>, QSize> textSizes_;  // by text and its room, in the view's font
     Bindings bindings_;
 };
 

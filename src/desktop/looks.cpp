@@ -1,9 +1,11 @@
 #include "desktop/looks.h"
 
-#include <QIcon>
+#include <QApplication>
 #include <QPainter>
 #include <QPalette>
 #include <QPixmap>
+#include <QVariant>
+#include <QWidget>
 #include <cmath>
 #include <vector>
 
@@ -40,6 +42,34 @@ std::vector<DrawnPoint> CurveOverProfile()
         points.push_back({(0.08 + 0.84 * t) * kMarkSize, y * kMarkSize});
     }
     return points;
+}
+
+/// An icon is made once and goes with the application: to paint the mark takes longer than to make the preview's
+/// window, and so does the search for two of the platform's icons.
+template <class Make>
+QIcon KeptIcon(const QByteArray& name, const Make& make)
+{
+    if (const QVariant kept = qApp->property(name); kept.isValid()) return kept.value<QIcon>();
+    const QIcon icon = make();
+    qApp->setProperty(name, icon);
+    return icon;
+}
+
+QIcon PaintMark()
+{
+    QIcon icon;
+    const DisplayList mark = ProgramMark();
+    for (const int size : {16, 24, 32, 48, 64, 128, 256}) {
+        QPixmap pixmap(size, size);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.scale(size / mark.width, size / mark.height);
+        PaintList(painter, mark);
+        painter.end();
+        icon.addPixmap(pixmap);
+    }
+    return icon;
 }
 
 }  // namespace
@@ -94,19 +124,13 @@ DisplayList ProgramMark()
 
 QIcon ProgramIcon()
 {
-    QIcon icon;
-    const DisplayList mark = ProgramMark();
-    for (const int size : {16, 24, 32, 48, 64, 128, 256}) {
-        QPixmap pixmap(size, size);
-        pixmap.fill(Qt::transparent);
-        QPainter painter(&pixmap);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.scale(size / mark.width, size / mark.height);
-        PaintList(painter, mark);
-        painter.end();
-        icon.addPixmap(pixmap);
-    }
-    return icon;
+    return KeptIcon("programIcon", PaintMark);
+}
+
+QIcon StandardIcon(QStyle::StandardPixmap which)
+{
+    return KeptIcon("standardIcon" + QByteArray::number(which),
+                    [which] { return QApplication::style()->standardIcon(which); });
 }
 
 }  // namespace terravane::looks

@@ -4,7 +4,8 @@
 
 #include <QColor>
 #include <QFont>
-#include <QPushButton>
+#include <QIcon>
+#include <QStyle>
 
 #include "drawing/display_list.h"
 
@@ -32,6 +33,8 @@ QFont Scaled(QFont font, double factor, bool bold = false);
 void SetGround(QWidget& widget, const QColor& ground);
 /// The program's own mark.
 QIcon ProgramIcon();
+/// One of the platform's.
+QIcon StandardIcon(QStyle::StandardPixmap which);
 /// The mark as a drawing, in twips: a compaction curve over a soil profile.
 DisplayList ProgramMark();
 }  // namespace looks

@@ -96,7 +96,6 @@ PreviewWindow::PreviewWindow(Program& program, QtSurroundings& surroundings, For
     : QDialog(parent), program_(program), surroundings_(surroundings), form_(preview)
 {
     setWindowTitle(QString::fromStdString(preview.Caption()));
-    setWindowIcon(looks::ProgramIcon());
     setWindowModality(Qt::ApplicationModal);
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     auto* column = new QVBoxLayout(this);
@@ -127,7 +126,7 @@ void PreviewWindow::BuildBar(QToolBar& bar)
     pdf->setText(tr("Save as PDF"));
     pdf->setAccessibleName(pdf->text());
     pdf->setObjectName("savePdf");
-    pdf->setIcon(style()->standardIcon(QStyle::SP_DialogSaveButton));
+    pdf->setIcon(looks::StandardIcon(QStyle::SP_DialogSaveButton));
     pdf->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     connect(pdf, &QToolButton::clicked, this, [this] { SaveAsPdf(); });
     bar.addWidget(pdf);

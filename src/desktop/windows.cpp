@@ -15,6 +15,7 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <chrono>
 
 #include "desktop/looks.h"
 #include "render/painter.h"
@@ -26,6 +27,15 @@ namespace {
 QString ToQt(const std::string& text)
 {
     return QString::fromStdString(text);
+}
+
+constexpr std::chrono::milliseconds kFrameSeen{200};
+
+/// Where words end in Thai Qt looks up in a dictionary. It reads it with the first text of such letters, for some
+/// milliseconds: better before a sheet is opened than while it is.
+void ReadThaiDictionary(const QFontMetrics& font)
+{
+    font.size(Qt::TextWordWrap, QStringLiteral(u"\u0e44\u0e17\u0e22"));
 }
 
 QToolBar* MakeBar(QWidget* parent)
@@ -57,6 +67,7 @@ FrameWindow::FrameWindow(Program& program, Form& frame) : program_(program), for
     setCentralWidget(area_);
     BuildMenu();
     BuildBands();
+    QTimer::singleShot(kFrameSeen, this, [this] { ReadThaiDictionary(fontMetrics()); });
 }
 
 void FrameWindow::BuildMenu()
@@ -106,10 +117,16 @@ void FrameWindow::BuildBands()
 QWidget* FrameWindow::ShowSheet(Form& sheet)
 {
     auto* window = new SheetWindow(program_, sheet);
+    window->setWindowIcon(windowIcon());
     area_->addSubWindow(window);
+    window->Fill();
+    window->resize(window->sizeHint().boundedTo(area_->viewport()->size()).expandedTo(window->minimumSizeHint()));
     window->move(static_cast<int>(sheet.Left / looks::kTwipsPerPixel),
                  static_cast<int>(sheet.Top / looks::kTwipsPerPixel));
+    window->widget()->hide();  // Qt shows a window in its own size before it fills the area: laid out once is enough
     window->showMaximized();
+    window->widget()->show();
+    window->resize(window->size().expandedTo(window->minimumSizeHint()));
     return window;
 }
 
@@ -122,19 +139,22 @@ void FrameWindow::closeEvent(QCloseEvent* event)
 SheetWindow::SheetWindow(Program& program, Form& sheet) : program_(program), form_(sheet)
 {
     setWindowTitle(ToQt(sheet.Caption()));
-    setWindowIcon(looks::ProgramIcon());
+}
+
+void SheetWindow::Fill()
+{
     auto* content = new QWidget(this);
     auto* column = new QVBoxLayout(content);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     auto* bar = MakeBar(content);
     bar->setObjectName("tblMenu");
-    bindings_.push_back(Bind(sheet.Get<Toolbar>("tblMenu"), *bar));
+    bindings_.push_back(Bind(form_.Get<Toolbar>("tblMenu"), *bar));
     column->addWidget(bar);
-    column->addWidget(new FormView(sheet, LayoutOf(sheet.Name()), content), 1);
+    column->addWidget(new FormView(form_, LayoutOf(form_.Name()), content), 1);
     auto* status = new QStatusBar(content);
     status->setObjectName("stbDes");
-    bindings_.push_back(Bind(sheet.Get<StatusBar>("stbDes"), *status));
+    bindings_.push_back(Bind(form_.Get<StatusBar>("stbDes"), *status));
     column->addWidget(status);
     setWidget(content);
 }
@@ -146,10 +166,9 @@ void SheetWindow::closeEvent(QCloseEvent* event)
 }
 
 DialogWindow::DialogWindow(Program& program, Form& form, Modality modality, QWidget* parent)
-    : QDialog(parent), program_(program), form_(form)
+    : SettledWindow(parent), program_(program), form_(form)
 {
     setWindowTitle(ToQt(form.Caption()));
-    setWindowIcon(looks::ProgramIcon());
     if (modality == Modality::Modal) setWindowModality(Qt::ApplicationModal);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);

@@ -1,7 +1,9 @@
 /// The windows around the forms' views: the frame with its area of sheets, sheets, dialogs, the splash.
 #pragma once
 
+#include <QCoreApplication>
 #include <QDialog>
+#include <QEvent>
 #include <QMainWindow>
 #include <QMdiSubWindow>
 
@@ -15,8 +17,28 @@ namespace terravane {
 /// Asks the program to take a form away, as the form's title bar does.
 void CloseForm(Program& program, const Form& form);
 
+/// A window that is painted when its layouts have settled. A change is told from layout to layout, outwards, an event a
+/// step, and Qt would paint the steps.
+template <class Window>
+class SettledWindow : public Window {
+  public:
+    using Window::Window;
+
+  protected:
+    bool event(QEvent* event) override
+    {
+        constexpr int kMostSteps = 16;  // deeper than windows are nested
+        if (event->type() == QEvent::UpdateRequest) {
+            for (int step = 0; step < kMostSteps; ++step) {
+                QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+            }
+        }
+        return Window::event(event);
+    }
+};
+
 /// The main window: menu, the two bands, the area of sheets.
-class FrameWindow : public QMainWindow {
+class FrameWindow : public SettledWindow<QMainWindow> {
   public:
     FrameWindow(Program& program, Form& frame);
 
@@ -41,6 +63,10 @@ class SheetWindow : public QMdiSubWindow {
   public:
     SheetWindow(Program& program, Form& sheet);
 
+    /// Makes what stands in the window. It waits until the window stands in its area: moved there full, all of it would
+    /// be styled twice.
+    void Fill();
+
   protected:
     void closeEvent(QCloseEvent* event) override;
 
@@ -51,7 +77,7 @@ class SheetWindow : public QMdiSubWindow {
 };
 
 /// A form of its own above the frame.
-class DialogWindow : public QDialog {
+class DialogWindow : public SettledWindow<QDialog> {
   public:
     DialogWindow(Program& program, Form& form, Modality modality, QWidget* parent);
 

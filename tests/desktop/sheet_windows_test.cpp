@@ -150,6 +150,32 @@ INSTANTIATE_TEST_SUITE_P(
                               {{"MSHSummary", 3, 1, "1.88"}, {"MSHSummary", 4, 6, "93.17"}}}));
 
 /// A choice that renames a frame shows in its window.
+/// The last row of a box's picture, its frame left out, that has ink.
+int LowestInk(QLineEdit& box)
+{
+    constexpr int kFrame = 4, kFirstLetter = 30, kDark = 128;
+    const QImage picture = box.grab().toImage();
+    for (int y = picture.height() - kFrame; y > kFrame; --y) {
+        for (int x = kFrame; x < kFirstLetter; ++x) {
+            if (qGray(picture.pixel(x, y)) < kDark) return y;
+        }
+    }
+    return 0;
+}
+
+// Neither letter goes below the line that it stands on.
+TEST(TextBoxes, ThaiStandsOnTheLineOfLatin)
+{
+    DesktopFixture running;
+    running.MakeProject();
+    running.OpenSheet("mnuStd1");
+    auto* box = running.Widget<QLineEdit>("frmCompaction", "txtSoil");
+    box->setText("n");
+    const int latin = LowestInk(*box);
+    box->setText("\u0e01");
+    EXPECT_EQ(LowestInk(*box), latin) << "The Thai letter stands higher or lower than the Latin one.";
+}
+
 TEST(DensityWindow, TheSummaryNamesTheChosenCompactionTest)
 {
     DesktopFixture running;
