@@ -4,6 +4,7 @@
 #include "controls/choice_controls.h"
 #include "controls/furniture.h"
 #include "program/program.h"
+#include "program/version.h"
 
 namespace terravane {
 
@@ -15,7 +16,7 @@ struct frmAbout : Form {
     Image imgMark{*this, "imgMark"};
     Image imgRoad{*this, "imgRoad"};
     Label lblName{*this, "lblName", "Terravane"};
-    Label lblVersion{*this, "lblVersion", "Version 1.0"};
+    Label lblVersion{*this, "lblVersion", "Version " TERRAVANE_VERSION};
     Label lblInstitution{*this, "lblInstitution", "For laboratories that test road materials"};
     Label lblDepartment{*this, "lblDepartment", "Soil, crushed rock and field control sections"};
     Label lblDeveloper{*this, "lblDeveloper", "Written by the Terravane developers"};

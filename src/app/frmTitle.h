@@ -4,6 +4,7 @@
 #include "controls/furniture.h"
 #include "controls/text_controls.h"
 #include "program/program.h"
+#include "program/version.h"
 
 namespace terravane {
 
@@ -15,7 +16,7 @@ struct frmTitle : Form {
     Image Image1{*this, "Image1"};
     Label lblName{*this, "lblName", "Terravane"};
     Label lblSubject{*this, "lblSubject", "Materials for Road Construction"};
-    Label lblVersion{*this, "lblVersion", "Version 1.0"};
+    Label lblVersion{*this, "lblVersion", "Version " TERRAVANE_VERSION};
     Label lblPress{*this, "lblPress", "Press any key"};
     TextBox txtLoad{*this, "txtLoad"};  // takes the key that ends the splash
     Timer Timer1{*this, "Timer1", std::chrono::milliseconds(3000)};

@@ -4,6 +4,7 @@
 #include <array>
 #include <utility>
 
+#include "program/version.h"
 #include "runtime/text.h"
 #include "store/new_stores.h"
 #include "store/statements.h"
@@ -74,7 +75,8 @@ std::string ProjectPathFor(std::string_view fileName, std::string_view fileTitle
 }
 
 mdiBack::mdiBack(Program& owner)
-    : Form(owner, std::string(kFrameName), "Terravane Program : Version 1.0 -  [Materials for Road Construction]"),
+    : Form(owner, std::string(kFrameName),
+           "Terravane Program : Version " TERRAVANE_VERSION " -  [Materials for Road Construction]"),
       program(owner),
       tbrLab(*this, "tbrLab", TestButtons())
 {

@@ -4,6 +4,7 @@
 
 #include "app/mdiBack.h"
 #include "reports/open_sheet.h"
+#include "reports/report.h"
 #include "sheets/pattern/test_sheet.h"
 
 namespace terravane {
@@ -14,18 +15,17 @@ namespace {
 struct TestItem {
     std::string_view stem;
     Test test;
-    std::string_view thai, english;  // the banner's two lines
+    std::string_view thai;  // the banner's first line; the second is the report's title
 };
 
 constexpr std::array kTestItems{
-    TestItem{"mnuStd", Test::StdSoil, "การทดสอบการบดอัดแบบมาตรฐาน", "Standard Compaction Test"},
-    TestItem{"mnuMod", Test::ModSoil, "การทดสอบการบดอัดแบบสูงกว่ามาตรฐาน", "Modified Compaction Test"},
-    TestItem{"mnuDen", Test::DenSoil, "การทดสอบหาความหนาแน่นของดินในสนามด้วยวิธีกรวยทราย",
-             "Field Density Test by Sand Cone Method"},
-    TestItem{"mnuSpe", Test::SpcSoil, "การทดสอบหาความถ่วงจำเพาะของดิน", "Specific Gravity Test"},
-    TestItem{"mnuAtt", Test::AttSoil, "การทดสอบหาขีดจำกัดอัตเทอร์เบิร์ก", "Atterberg Limits Test"},
-    TestItem{"mnuSie", Test::SieSoil, "การทดสอบหาขนาดเม็ดดินด้วยวิธีร่อนผ่านตะแกรงมาตรฐาน", "Sieve Analysis Test"},
-    TestItem{"mnuCBR", Test::CBRSoil, "การทดสอบหาค่า ซี.บี.อาร์.", "California Bearing Ratio Test"},
+    TestItem{"mnuStd", Test::StdSoil, "การทดสอบการบดอัดแบบมาตรฐาน"},
+    TestItem{"mnuMod", Test::ModSoil, "การทดสอบการบดอัดแบบสูงกว่ามาตรฐาน"},
+    TestItem{"mnuDen", Test::DenSoil, "การทดสอบหาความหนาแน่นของดินในสนามด้วยวิธีกรวยทราย"},
+    TestItem{"mnuSpe", Test::SpcSoil, "การทดสอบหาความถ่วงจำเพาะของดิน"},
+    TestItem{"mnuAtt", Test::AttSoil, "การทดสอบหาขีดจำกัดอัตเทอร์เบิร์ก"},
+    TestItem{"mnuSie", Test::SieSoil, "การทดสอบหาขนาดเม็ดดินด้วยวิธีร่อนผ่านตะแกรงมาตรฐาน"},
+    TestItem{"mnuCBR", Test::CBRSoil, "การทดสอบหาค่า ซี.บี.อาร์."},
 };
 
 struct MaterialItem {
@@ -41,7 +41,7 @@ constexpr std::array kMaterialItems{
 
 std::string BannerOf(const TestItem& item)
 {
-    return std::string(item.thai).append("\r\n").append(item.english);
+    return std::string(item.thai).append("\r\n").append(ReportOf(item.test).titles.english);
 }
 
 }  // namespace

@@ -3,12 +3,11 @@
 #include <algorithm>
 
 #include "batch/sha256.h"
+#include "program/version.h"
 
 namespace terravane {
 
 namespace {
-
-constexpr std::string_view kVersion = "1.0";  // another program may draw other pages
 
 bool IsNamed(const std::vector<std::string>& names, std::string_view name)
 {
@@ -47,7 +46,7 @@ Choices BatchOptions::PressedChoices() const
 std::string BatchOptions::Fingerprint() const
 {
     const Choices choices = PressedChoices();
-    std::string text(kVersion);
+    std::string text(TERRAVANE_VERSION);  // another program may draw other pages
     text += ';' + Joined(tests) + ';' + Joined(materials) + ';' + std::string(choices.curve) + ';';
     for (const bool flag : {wantsSummary, isOneFile, isAsSaved, posts, choices.isSmooth, choices.corrects[0],
                             choices.corrects[1], choices.corrects[2]}) {

@@ -77,6 +77,7 @@ void ProjectSession::SaveResults(TestSheet& sheet, const BatchTest& test)
         const auto places = ResultPlaces(pass, test);
         for (int record = 1; record <= pass.records && !places.empty(); ++record) {
             std::vector<Assignment> results;
+            results.reserve(places.size());
             for (const ColumnPlace& place : places)
                 results.push_back({table.ColumnName(place.suffix), TextAt(sheet, place, record)});
             Execute(program_, program_.ProjectConnection, UpdateRow(table, results, record));

@@ -397,7 +397,8 @@ bool FormView::eventFilter(QObject* watched, QEvent* event)
     if (event->type() == QEvent::Leave && control.MouseMove && control.MouseLeave) control.MouseLeave();
     if (event->type() != QEvent::KeyPress) return false;
     const auto* press = static_cast<QKeyEvent*>(event);
-    const auto key = press->modifiers() & (Qt::ControlModifier | Qt::AltModifier) ? std::nullopt : KeyOf(press->key());
+    const bool isShortcut = press->modifiers() & (Qt::ControlModifier | Qt::AltModifier);
+    const auto key = isShortcut ? std::nullopt : KeyOf(press->key());
     return key && control.PressKey(*key);
 }
 

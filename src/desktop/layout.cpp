@@ -24,7 +24,7 @@ Place Pair(std::vector<Place> parts, int stretch)
     return {Place::Kind::Pair, {}, std::move(parts), {}, stretch};
 }
 
-Place Fields(std::vector<std::string_view> controls, int stretch)
+Place Fields(const std::vector<std::string_view>& controls, int stretch)
 {
     Place fields{Place::Kind::Fields, {}, {}, {}, stretch};
     for (const auto control : controls) fields.parts.push_back(One(control));

@@ -36,7 +36,7 @@ namespace layout {
 Place Row(std::vector<Place> parts, int stretch = 0);
 Place Column(std::vector<Place> parts, int stretch = 0);
 Place Pair(std::vector<Place> parts, int stretch = 1);
-Place Fields(std::vector<std::string_view> controls, int stretch = 0);
+Place Fields(const std::vector<std::string_view>& controls, int stretch = 0);
 Place Group(std::string_view frame, std::vector<Place> parts, int stretch = 0);
 Place Tabs(std::string_view control, std::vector<Place> pages);
 Place One(std::string_view control, int stretch = 0);

@@ -50,7 +50,7 @@ template <class Make>
 QIcon KeptIcon(const QByteArray& name, const Make& make)
 {
     if (const QVariant kept = qApp->property(name); kept.isValid()) return kept.value<QIcon>();
-    const QIcon icon = make();
+    QIcon icon = make();
     qApp->setProperty(name, icon);
     return icon;
 }

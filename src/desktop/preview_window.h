@@ -27,7 +27,7 @@ class PageView : public QWidget {
     void wheelEvent(QWheelEvent* event) override;
 
   private:
-    void PaintPage(QPainter& painter, const PictureBox& page);
+    static void PaintPage(QPainter& painter, const PictureBox& page);
 
     Form& form_;
     PictureBox& viewport_;

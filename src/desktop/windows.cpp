@@ -2,6 +2,7 @@
 
 #include <QCloseEvent>
 #include <QCursor>
+#include <QImage>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMdiArea>
@@ -31,11 +32,20 @@ QString ToQt(const std::string& text)
 
 constexpr std::chrono::milliseconds kFrameSeen{200};
 
-/// Where words end in Thai Qt looks up in a dictionary. It reads it with the first text of such letters, for some
-/// milliseconds: better before a sheet is opened than while it is.
-void ReadThaiDictionary(const QFontMetrics& font)
+/// Where words end in Thai Qt looks up in a dictionary, which it reads with the first text of such letters; and each
+/// letter's shape is made for its first text. That takes some milliseconds: better before a sheet is opened than while
+/// it is.
+void ReadyLetters(const QFont& font)
 {
-    font.size(Qt::TextWordWrap, QStringLiteral(u"\u0e44\u0e17\u0e22"));
+    QString letters;
+    for (char16_t letter = u' '; letter <= u'~'; ++letter) letters.append(QChar(letter));
+    for (char16_t letter = u'\u0e01'; letter <= u'\u0e4c'; ++letter) letters.append(QChar(letter));
+    QImage unseen(1, 1, QImage::Format_RGB32);  // as a window is
+    QPainter painter(&unseen);
+    for (const QFont& used : {font, looks::Scaled(font, looks::kBannerSize, true)}) {
+        painter.setFont(used);
+        painter.drawText(QRect(0, 0, 1, 1), Qt::TextWordWrap | Qt::TextDontClip, letters);
+    }
 }
 
 QToolBar* MakeBar(QWidget* parent)
@@ -67,7 +77,7 @@ FrameWindow::FrameWindow(Program& program, Form& frame) : program_(program), for
     setCentralWidget(area_);
     BuildMenu();
     BuildBands();
-    QTimer::singleShot(kFrameSeen, this, [this] { ReadThaiDictionary(fontMetrics()); });
+    QTimer::singleShot(kFrameSeen, this, [this] { ReadyLetters(font()); });
 }
 
 void FrameWindow::BuildMenu()
@@ -222,22 +232,23 @@ SplashWindow::SplashWindow(Form& form) : QWidget(nullptr, Qt::SplashScreen), for
 
 void SplashWindow::paintEvent(QPaintEvent*)
 {
+    const auto text = [this](std::string_view label) { return PlainCaption(form_.Get<Label>(label)); };
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.fillRect(rect(), palette().window());
     painter.save();
-    painter.translate(looks::kMargin * 2, (height() - 240) / 2);
+    painter.translate(looks::kMargin * 2, (height() - 240) / 2.0);
     const DisplayList mark = looks::ProgramMark();
     painter.scale(240 / mark.width, 240 / mark.height);
     PaintList(painter, mark);
     painter.restore();
     painter.setPen(palette().color(QPalette::WindowText));
     painter.setFont(looks::Scaled(font(), 2.6, true));
-    painter.drawText(QRect(288, 96, 260, 56), Qt::AlignLeft | Qt::AlignVCenter, "Terravane");
+    painter.drawText(QRect(288, 96, 260, 56), Qt::AlignLeft | Qt::AlignVCenter, text("lblName"));
     painter.setFont(looks::Scaled(font(), 1.1));
-    painter.drawText(QRect(288, 152, 260, 28), Qt::AlignLeft | Qt::AlignVCenter, tr("Materials for Road Construction"));
+    painter.drawText(QRect(288, 152, 260, 28), Qt::AlignLeft | Qt::AlignVCenter, text("lblSubject"));
     painter.setFont(font());
-    painter.drawText(QRect(288, 184, 260, 24), Qt::AlignLeft | Qt::AlignVCenter, tr("Version 1.0"));
+    painter.drawText(QRect(288, 184, 260, 24), Qt::AlignLeft | Qt::AlignVCenter, text("lblVersion"));
 }
 
 void SplashWindow::keyPressEvent(QKeyEvent*)

@@ -59,7 +59,7 @@ class DecodedPictures {
             entries_.insert(entries_.begin(), Entry(picture, Decode(*picture)));
         else
             std::rotate(entries_.begin(), known, known + 1);
-        const QImage image = entries_.front().second;
+        QImage image = entries_.front().second;
         ForgetUnused();
         return image;
     }

@@ -157,11 +157,11 @@ void Face::NameCluster(std::u16string_view cluster, std::span<PlacedGlyph> glyph
             continue;
         }
         glyph.text.assign(1, own->second);
-        if (const std::size_t at = rest.find(own->second); at != rest.npos) rest.erase(at, 1);
+        if (const std::size_t at = rest.find(own->second); at != std::u16string::npos) rest.erase(at, 1);
     }
     for (std::size_t at = 0; at < unnamed.size(); ++at) {
         const bool isLast = at + 1 == unnamed.size();
-        unnamed[at]->text = rest.substr(std::min(at, rest.size()), isLast ? rest.npos : 1);
+        unnamed[at]->text = rest.substr(std::min(at, rest.size()), isLast ? std::u16string::npos : 1);
     }
     if (glyphs.size() == 1) return;
     // Marks are drawn in any order, but copied out in the order of the file.

@@ -1,5 +1,6 @@
 #include "reports/page_frame.h"
 
+#include "program/version.h"
 #include "reports/brand.h"
 #include "reports/head_block.h"
 #include "reports/open_sheet.h"
@@ -23,7 +24,8 @@ constexpr double kBoxLines = 3.5;
 constexpr double kNameLines = 1.6;  // the part of the box above its inner rule
 constexpr double kLogoCellLines = 3.5;
 
-constexpr std::string_view kBanner = "Terravane Program for Road Construction Materials 2022 (Terravane Version 1.0)";
+constexpr std::string_view kBanner =
+    "Terravane Program for Road Construction Materials 2022 (Terravane Version " TERRAVANE_VERSION ")";
 
 /// What printer and preview have differently. On the printer the banner is centred by a text one blank
 /// shorter.
@@ -33,7 +35,7 @@ struct FrameDifferences {
 };
 
 constexpr PerMedium<FrameDifferences> kDifferences{
-    {"Terravane Program for Road Construction Materials 2022 (Terravane Version1.0)", 1200, 1225},
+    {"Terravane Program for Road Construction Materials 2022 (Terravane Version" TERRAVANE_VERSION ")", 1200, 1225},
     {kBanner, 1240, 1235},
 };
 

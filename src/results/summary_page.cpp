@@ -1,6 +1,7 @@
 #include "results/summary_page.h"
 
 #include "drawing/placed_text.h"
+#include "program/version.h"
 #include "runtime/text.h"
 
 namespace terravane {
@@ -9,7 +10,7 @@ namespace {
 
 constexpr std::string_view kThaiName = "โปรแกรมเทอร์ราเวน สำหรับงานทดสอบวัสดุก่อสร้างทาง";
 constexpr std::string_view kName = "Terravane Program";
-constexpr std::string_view kVersion = "Terravane version 1.0";
+constexpr std::string_view kVersion = "Terravane version " TERRAVANE_VERSION;
 constexpr std::string_view kMaker = "Written by the Terravane developers";
 constexpr std::string_view kRemarkText =
     "Remark: * indicates that the test was performed using a wet sieve or an unsoaked CBR.";

@@ -69,7 +69,7 @@ struct frmAtterberg : TestSheet {
     void WireEvents();
     void DrawEquations();
 
-    bool HasTrial(const TextGrid& grid, int column) const;
+    static bool HasTrial(const TextGrid& grid, int column);
     void LiquidWaterContentOf(int trial);
     void PlasticLimitOf(int thread);
     void AveragePlasticLimits();

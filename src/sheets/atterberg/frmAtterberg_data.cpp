@@ -17,7 +17,7 @@ void frmAtterberg::cmdCal_Click()
 }
 
 /// Whether a column was filled: its first typed row, the number of blows or the wet mass, is there.
-bool frmAtterberg::HasTrial(const TextGrid& grid, int column) const
+bool frmAtterberg::HasTrial(const TextGrid& grid, int column)
 {
     constexpr int kFirstTyped = 1;
     return column < grid.Columns() && Val(grid(kFirstTyped, column)) != 0;

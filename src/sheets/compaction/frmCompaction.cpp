@@ -25,7 +25,7 @@ constexpr std::array<std::string_view, 9> kWay{"txtClient", "txtID",   "txtProje
 constexpr std::array<std::string_view, 4> kHammerWay{"cboWt", "cboBlow", "cboLayer", "txtProject"};
 
 /// Masses are shown to 0.01 g as soon as they are typed; can numbers are names.
-std::string CommitWeighing(int row, int, std::string text)
+std::string CommitWeighing(int row, int, const std::string& text)
 {
     return row == water::CanNumber ? text : Format(text, kTwoDecimals);
 }
@@ -33,7 +33,7 @@ std::string CommitWeighing(int row, int, std::string text)
 /// The same mould serves trial after trial: a ditto mark takes the mass from the trial before.
 CommitRule CommitMould(TextGrid& grid)
 {
-    return [&grid](int row, int column, std::string text) {
+    return [&grid](int row, int column, const std::string& text) {
         const bool isDitto = row == density::Mould && column > 1 && text == kDitto;
         return isDitto ? grid(row, column - 1).Text() : text;
     };

@@ -135,7 +135,7 @@ struct frmCompaction : TestSheet {
     CompactionPoints Points() const;
     void TabulateSpline(const CompactionPoints& points);
     void EvaluateOnePoint(const CompactionPoints& points);
-    std::vector<double> FitCurve(const CompactionPoints& points);
+    static std::vector<double> FitCurve(const CompactionPoints& points);
 
     void DrawAxes();
     CompactionScale ScaleOf(const CompactionPoints& points) const;

@@ -36,6 +36,7 @@ std::string Indented(std::string_view text)
 std::vector<std::string> SieveList()
 {
     std::vector<std::string> list;
+    list.reserve(kSieves.size());
     for (const Sieve& sieve : kSieves) list.push_back(Indented(sieve.listed));
     return list;
 }

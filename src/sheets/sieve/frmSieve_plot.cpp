@@ -2,6 +2,7 @@
 #include <array>
 #include <cmath>
 
+#include "drawing/placed_text.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
 #include "sheets/pattern/plot.h"
@@ -136,7 +137,7 @@ void frmSieve::DrawCurve(const TextGrid& table)
 void frmSieve::DrawAxisCaption()
 {
     Image3.Cls();
-    SetFont(Image3, "DilleniaUPC", 15);
+    SetFont(Image3, kReportFont, 15);
     Image3.FontBold = true;
     Image3.PrintTurned(kPassingTitle, (Image3.Width - Image3.TextHeight(kPassingTitle)) / 2,
                        (Image3.Height + Image3.TextWidth(kPassingTitle)) / 2);

@@ -151,7 +151,7 @@ std::string FineSymbol(const UscsSample& sample)
 std::string CoarseSymbol(SoilKind kind, const UscsSample& sample)
 {
     if (sample.passing200 > kManyFinesAbove) return std::string(FinesSymbol(kind, sample));
-    const std::string grade(GradeSymbol(kind, sample));
+    std::string grade(GradeSymbol(kind, sample));
     if (sample.passing200 < kFewFinesBelow) return grade;
     return grade + "-" + std::string(FinesSymbol(kind, sample));
 }

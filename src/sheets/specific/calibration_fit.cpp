@@ -130,7 +130,7 @@ std::string CalibrationCurve::Equation() const
     const std::string start = " y = " + Format(a, kTwoDecimals);
     const std::string factor = Format(b, kSixDecimals);
     if (model == CalibrationModel::Exponential) return start + "e^(" + factor + "x)";
-    const std::string line = start + " + (" + factor + "x)";
+    std::string line = start + " + (" + factor + "x)";
     if (model == CalibrationModel::Linear) return line;
     return line + " + (" + Format(c, kSixDecimals) + "x^2)";
 }
