@@ -3,7 +3,6 @@
 #include <array>
 #include <string>
 
-#include "reports/open_sheet.h"
 #include "reports/report_table.h"
 #include "reports/signature_block.h"
 #include "sheets/atterberg/frmAtterberg.h"

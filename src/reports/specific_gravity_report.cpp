@@ -2,7 +2,6 @@
 
 #include <array>
 
-#include "reports/open_sheet.h"
 #include "reports/report_table.h"
 #include "reports/signature_block.h"
 #include "sheets/specific/frmSpecific.h"
