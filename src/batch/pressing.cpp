@@ -5,6 +5,7 @@
 #include "batch/posted_choices.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
+#include "store/schema.h"
 
 namespace terravane {
 
@@ -74,10 +75,10 @@ class Work {
     bool GivesWhatWasPosted() const
     {
         if (!outcome_.gives) return false;
-        const ProjectTexts now = session_.Texts(kSummary);
+        const ProjectTexts now = session_.Texts(kSummaryTable);
         return std::ranges::all_of(outcome_.test->posts, [&](std::string_view column) {
-            const std::string posted = saved_.Trimmed(kSummary, column, SummaryRow());
-            return posted.empty() || SaysTheSame(posted, now.Text(kSummary, column, SummaryRow()));
+            const std::string posted = saved_.Trimmed(kSummaryTable, column, SummaryRow());
+            return posted.empty() || SaysTheSame(posted, now.Text(kSummaryTable, column, SummaryRow()));
         });
     }
 
@@ -93,7 +94,7 @@ class Work {
     bool HasPosted() const
     {
         return std::ranges::any_of(outcome_.test->posts, [&](std::string_view column) {
-            return !saved_.Trimmed(kSummary, column, SummaryRow()).empty();
+            return !saved_.Trimmed(kSummaryTable, column, SummaryRow()).empty();
         });
     }
 

@@ -10,16 +10,14 @@
 
 namespace terravane {
 
-/// The table of the results that tests post.
-inline constexpr std::string_view kSummary = "SUMMARY";
-
 class ProjectTexts {
   public:
     /// Reads one table, or all sixteen where none is named. The engine's error for bytes that are no project file, or a
     /// damaged one.
     explicit ProjectTexts(const Bytes& content, std::string_view only = {});
 
-    const jet::Rows& Table(std::string_view name) const { return tables_.find(name)->second; }
+    /// One that was read.
+    const jet::Rows& Table(std::string_view name) const { return tables_.at(std::string(name)); }
 
     /// The text of a column in a row from 1; empty where the table has no such row or column, and for a null.
     std::string Text(std::string_view table, std::string_view column, int row) const;

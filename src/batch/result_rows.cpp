@@ -10,11 +10,6 @@ namespace terravane {
 
 namespace {
 
-const TableSchema& SummaryTable()
-{
-    return ProjectTables().back();
-}
-
 std::string Quoted(const std::string& field)
 {
     if (field.find_first_of("\",\r\n") == std::string::npos) return field;

@@ -76,11 +76,11 @@ class Comparison {
     {
         const int row = RowOf(outcome.material).summaryRow;
         for (const std::string_view column : outcome.test->posts) {
-            const std::string stands = saved_.Trimmed(kSummary, column, row);
-            const std::string follows = outcome.gives ? now_.Trimmed(kSummary, column, row) : std::string();
+            const std::string stands = saved_.Trimmed(kSummaryTable, column, row);
+            const std::string follows = outcome.gives ? now_.Trimmed(kSummaryTable, column, row) : std::string();
             if (stands.empty() || (outcome.gives && SaysTheSame(stands, follows))) continue;
             found_.push_back({outcome.material,
-                              std::string(kSummary),
+                              std::string(kSummaryTable),
                               std::string(column),
                               {row},
                               stands,
@@ -137,7 +137,7 @@ int RowsOf(std::string_view table)
 /// Which rows; nothing for a result that all rows repeat.
 std::string Where(const StaleResult& stale)
 {
-    if (stale.table == kSummary || static_cast<int>(stale.rows.size()) == RowsOf(stale.table)) return {};
+    if (stale.table == kSummaryTable || static_cast<int>(stale.rows.size()) == RowsOf(stale.table)) return {};
     std::string rows;
     for (const int row : stale.rows) rows += (rows.empty() ? "" : ", ") + std::to_string(row);
     return std::string(stale.rows.size() == 1 ? " in row " : " in rows ") + rows;

@@ -97,7 +97,7 @@ void frmSummary::ShowHeadings()
 /// SUMMARY has a row a material, soil first.
 void frmSummary::ShowResults()
 {
-    auto& results = Query(program, program.ProjectConnection, SelectAll("SUMMARY"));
+    auto& results = Query(program, program.ProjectConnection, SelectAll(kSummaryTable));
     for (const auto& [material, column, head] : kMaterialColumns) {
         for (int row = summary::kHeadRows; row < summary::kRows; ++row) {
             const SummaryLine& line = summary::LineOf(row);

@@ -87,7 +87,7 @@ constexpr std::array kProjectTables{
     TableSchema{"STDCRUSH", "std_", kCompaction, 6},  TableSchema{"MODCRUSH", "mod_", kCompaction, 6},
     TableSchema{"DENCRUSH", "den_", kDensity, 6},     TableSchema{"CBRCRUSH", "cbr_", kCbr, 20},
     TableSchema{"SPCCRUSH", "spc_", kSpecific, 7},    TableSchema{"ATTCRUSH", "att_", kAtterberg, 5},
-    TableSchema{"SIECRUSH", "sie_", kSieve, 10},      TableSchema{"SUMMARY", "sum_", kSummary, 2},
+    TableSchema{"SIECRUSH", "sie_", kSieve, 10},      TableSchema{kSummaryTable, "sum_", kSummary, 2},
 };
 
 constexpr std::array kLogo{
@@ -136,6 +136,11 @@ std::span<const TableSchema> ProjectTables()
 std::span<const TableSchema> BrandTables()
 {
     return kBrandTables;
+}
+
+const TableSchema& SummaryTable()
+{
+    return ProjectTable(kSummaryTable);
 }
 
 const TableSchema& TableOf(Test test, Material material)

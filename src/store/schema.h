@@ -37,6 +37,10 @@ std::span<const TableSchema> ProjectTables();
 /// LOGO and PERSON.
 std::span<const TableSchema> BrandTables();
 
+/// The table of the results that tests post: a row a material, soil first.
+inline constexpr std::string_view kSummaryTable = "SUMMARY";
+const TableSchema& SummaryTable();
+
 /// The table of a test and material; error 5 while no sheet has been opened.
 const TableSchema& TableOf(Test test, Material material);
 

@@ -11,11 +11,6 @@ std::string Quoted(std::string_view value)
     return "'" + std::string(value) + "'";
 }
 
-const TableSchema& SummaryTable()
-{
-    return ProjectTables().back();
-}
-
 }  // namespace
 
 std::string SelectAll(std::string_view table)

@@ -31,7 +31,7 @@ TEST(BatchTests, EveryColumnOfSummaryButTheKeyIsPostedByOneTest)
     std::map<std::string, int> posted;
     for (const BatchTest& test : BatchTests())
         for (const auto column : test.posts) ++posted[std::string(column)];
-    const TableSchema& summary = ProjectTables().back();
+    const TableSchema& summary = SummaryTable();
     for (const ColumnSchema& column : summary.columns.subspan(1))
         EXPECT_EQ(posted[summary.ColumnName(column.suffix)], 1) << column.suffix;
     EXPECT_EQ(posted.size(), summary.columns.size() - 1);
