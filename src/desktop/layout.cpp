@@ -90,8 +90,9 @@ Place GeneralData(std::string_view ownField)
 {
     std::vector<std::string_view> job{"txtClient", "txtProject", "txtLocation"};
     if (!ownField.empty()) job.push_back(ownField);
-    return Group("fraGeneral", {Row({Fields(std::move(job), 5), Fields({"txtID", "txtSoil", "DTPDate"}, 3),
-                                     Fields({"cboTest", "cboCheck"}, 4)})});
+    return Group(
+        "fraGeneral",
+        {Row({Fields(job, 5), Fields({"txtID", "txtSoil", "DTPDate"}, 3), Fields({"cboTest", "cboCheck"}, 4)})});
 }
 
 }  // namespace layout
