@@ -87,7 +87,7 @@ Recordset Connection::Execute(std::string_view statement)
     if (!database_) throw RuntimeError(engine::kFile, "No database is open.");
     const Statement read = ReadStatement(statement);
     const bool isQuery = std::holds_alternative<SelectStatement>(read);
-    if (!isQuery && unsaved_.empty()) onDisk_ = Fingerprint::Of(database_->Content());
+    if (!isQuery && !HasChanges()) onDisk_ = Fingerprint::Of(database_->Content());
     Recordset result = std::visit(Executor{*database_}, read);
     if (!isQuery) unsaved_.emplace_back(statement);
     return result;
