@@ -15,6 +15,7 @@
 #include "reports/print_report.h"
 #include "results/frmSummary.h"
 #include "results/summary_page.h"
+#include "source_folder.h"
 #include "support/road_project.h"
 #include "support/sheet_commands.h"
 
@@ -27,7 +28,7 @@ using Lines = std::span<const std::string_view>;
 /// Typed once, when the first benchmark needs it.
 RoadProject& Road()
 {
-    static RoadProject road{TERRAVANE_SOURCE_DIR};
+    static RoadProject road{kSourceFolder};
     return road;
 }
 

@@ -15,6 +15,7 @@
 #include "desktop/grid_view.h"
 #include "script/commands.h"
 #include "script/script_program.h"
+#include "source_folder.h"
 #include "support/road_project.h"
 #include "support/sheet_commands.h"
 
@@ -125,7 +126,7 @@ class Hands {
 void OpenRoadProject(DesktopFixture& running)
 {
     ScriptOptions options;
-    for (const auto& script : support::RoadScripts(TERRAVANE_SOURCE_DIR)) options.files.push_back(script.string());
+    for (const auto& script : support::RoadScripts(kSourceFolder)) options.files.push_back(script.string());
     QDir::setCurrent(running.home.path());
     std::istringstream nothing;
     std::ostringstream told;

@@ -14,6 +14,7 @@
 #include <gtest/gtest.h>
 #include <sys/wait.h>
 
+#include "source_folder.h"
 #include "store/schema.h"
 #include "store/statements.h"
 #include "support/every_sheet.h"
@@ -36,7 +37,7 @@ long Asked(const char* variable, long otherwise)
 const Bytes& RoadFile()
 {
     static const Bytes file = [] {
-        support::RoadProject road(TERRAVANE_SOURCE_DIR);
+        support::RoadProject road(kSourceFolder);
         Program& program = road.OfProgram();
         return program.Files().Read(program.CurrentProjectPath);
     }();

@@ -14,6 +14,7 @@
 #include "desktop/desktop_fixture.h"
 #include "desktop/grid_view.h"
 #include "script/script_line.h"
+#include "source_folder.h"
 
 namespace terravane {
 namespace {
@@ -120,7 +121,7 @@ class Hands {
 /// The script's lines from the opening of the sheet to its preview, without those that only look.
 std::vector<std::vector<std::string>> StepsOf(const SheetCase& sheet)
 {
-    std::ifstream file(std::string(TERRAVANE_SOURCE_DIR) + "/tests/acceptance/" + sheet.folder + "/report.trv");
+    std::ifstream file(std::string(kSourceFolder) + "/tests/acceptance/" + sheet.folder + "/report.trv");
     EXPECT_TRUE(file.is_open());
     std::vector<std::vector<std::string>> steps;
     bool opened = false;

@@ -8,11 +8,13 @@
 
 #include <gtest/gtest.h>
 
+#include "source_folder.h"
+
 namespace terravane::house {
 
 namespace {
 
-const std::filesystem::path kRoot = TERRAVANE_SOURCE_DIR;
+const std::filesystem::path kRoot = kSourceFolder;
 
 constexpr auto kPage = R"(
 | folder | holds | may include | today |

@@ -7,13 +7,14 @@
 
 #include <gtest/gtest.h>
 
+#include "source_folder.h"
 #include "unit/house/include_rules.h"
 
 namespace terravane::house {
 
 namespace {
 
-const std::filesystem::path kRoot = TERRAVANE_SOURCE_DIR;
+const std::filesystem::path kRoot = kSourceFolder;
 
 /// What runs a program, loads code or hands a name to the desktop, and the only files that may.
 struct Power {
