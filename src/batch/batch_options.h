@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "batch/choices.h"
-#include "program/current_test.h"
+#include "laboratory/current_test.h"
 #include "runtime/dates.h"
 
 namespace terravane {

@@ -10,7 +10,7 @@
 #include "batch/choices.h"
 #include "batch/presser.h"
 #include "batch/project_texts.h"
-#include "program/current_test.h"
+#include "laboratory/current_test.h"
 
 namespace terravane {
 

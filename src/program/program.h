@@ -12,7 +12,7 @@
 #include "controls/form.h"
 #include "jet/connection.h"
 #include "jet/recordset.h"
-#include "program/current_test.h"
+#include "laboratory/current_test.h"
 #include "program/folders.h"
 #include "program/printer.h"
 #include "program/surroundings.h"

@@ -7,11 +7,11 @@
 #include <vector>
 
 #include "controls/choice_controls.h"
+#include "laboratory/masks.h"
 #include "reports/open_sheet.h"
 #include "reports/report_page.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
-#include "sheets/pattern/masks.h"
 #include "sheets/pattern/plot.h"
 #include "sheets/sieve/frmSieve.h"
 

@@ -4,12 +4,12 @@
 #include <string>
 
 #include "controls/choice_controls.h"
+#include "laboratory/masks.h"
 #include "reports/open_sheet.h"
 #include "reports/report_table.h"
 #include "reports/signature_block.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
-#include "sheets/pattern/masks.h"
 #include "sheets/sieve/frmSieve.h"
 
 namespace terravane {

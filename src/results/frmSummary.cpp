@@ -1,5 +1,6 @@
 #include "results/frmSummary.h"
 
+#include "laboratory/tests.h"
 #include "results/product_picture.h"
 #include "results/summary_page.h"
 #include "runtime/numbers.h"
@@ -24,8 +25,8 @@ struct MaterialColumn {
 };
 
 constexpr std::array kMaterialColumns{
-    MaterialColumn{Material::Soil, summary::kSoil, "Soil"},
-    MaterialColumn{Material::Crush, summary::kCrush, "Crushed Rock"},
+    MaterialColumn{Material::Soil, summary::kSoil, laboratory::kMaterials[0].caption},
+    MaterialColumn{Material::Crush, summary::kCrush, laboratory::kMaterials[1].caption},
 };
 
 /// A way of testing that is marked behind its results.
@@ -40,12 +41,9 @@ struct Remark {
 };
 
 constexpr std::array kRemarks{
-    Remark{Test::SieSoil, "sie_pwash", "1", 6, 8, false},  // a wet sieve
-    Remark{Test::CBRSoil, "cbr_typ", "0", 16, 16, true},   // unsoaked
+    Remark{Test::SieSoil, "sie_pwash", "1", summary::RowOf("gravel"), summary::RowOf("finer"), false},  // a wet sieve
+    Remark{Test::CBRSoil, "cbr_typ", "0", summary::RowOf("CBR"), summary::RowOf("CBR"), true},          // unsoaked
 };
-static_assert(summary::LineOf(kRemarks[0].firstRow).column == "sum_gravel" &&
-              summary::LineOf(kRemarks[0].lastRow).column == "sum_finer" &&
-              summary::LineOf(kRemarks[1].firstRow).column == "sum_CBR");
 
 std::shared_ptr<const Picture> ProductLogo()
 {
@@ -100,9 +98,9 @@ void frmSummary::ShowResults()
     auto& results = Query(program, program.ProjectConnection, SelectAll(kSummaryTable));
     for (const auto& [material, column, head] : kMaterialColumns) {
         for (int row = summary::kHeadRows; row < summary::kRows; ++row) {
-            const SummaryLine& line = summary::LineOf(row);
-            const std::string posted = results.Fields(line.column);
-            mshSum(row, column) = line.mask.empty() ? posted : Format(posted, line.mask);
+            const laboratory::Posted& result = *summary::LineOf(row).result;
+            const std::string posted = results.Fields(SummaryTable().ColumnName(result.column));
+            mshSum(row, column) = result.mask.empty() ? posted : Format(posted, result.mask);
         }
         results.MoveNext();
     }
@@ -144,8 +142,8 @@ void frmSummary::ShowTitles()
         mshSum(1, column) = head;
     }
     for (int row = summary::kHeadRows; row < summary::kRows; ++row) {
-        mshSum(row, summary::kTest) = summary::LineOf(row).test;
-        mshSum(row, summary::kProperty) = summary::LineOf(row).property;
+        mshSum(row, summary::kTest) = summary::LineOf(row).group;
+        mshSum(row, summary::kProperty) = summary::LineOf(row).result->property;
     }
 }
 

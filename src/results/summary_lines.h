@@ -1,49 +1,43 @@
-/// The overall results as data: a line a result, in the order of the grid. The grid, its filling from SUMMARY and the
-/// print walk this one table.
+/// The overall results as data: a line for each result that a test posts, in the order of the grid. The grid, its
+/// filling from SUMMARY and the print walk this one table.
 #pragma once
 
 #include <array>
+#include <string>
 #include <string_view>
+
+#include "laboratory/all_tests.h"
 
 namespace terravane {
 
-/// test, property  what the grid's first two columns say
-/// column          of SUMMARY
-/// caption         the property on the print
-/// unit            behind a value on the print
-/// mask            the value's format; empty: the text as it was posted
+/// group  what the line stands under in the grid's first column: the test, or a part of it
 struct SummaryLine {
-    std::string_view test, property;
-    std::string_view column;
-    std::string_view caption;
-    std::string_view unit = {};
-    std::string_view mask = {};
+    std::string_view group;
+    const laboratory::Posted* result = nullptr;
+
+    /// Behind a value on the print.
+    std::string Unit() const
+    {
+        return result->unit.symbol.empty() ? std::string() : " " + std::string(result->unit.symbol);
+    }
 };
 
-inline constexpr std::string_view kPercent = " %";
-inline constexpr std::string_view kDensityUnit = " g/cm^3";
-inline constexpr std::string_view kFractionMask = "#0.0";
+constexpr auto SummaryLines()
+{
+    constexpr std::size_t kLines = [] {
+        std::size_t count = 0;
+        for (const laboratory::Description* test : laboratory::kTests) count += test->posts.size();
+        return count;
+    }();
+    std::array<SummaryLine, kLines> lines{};
+    auto next = lines.begin();
+    for (const laboratory::Description* test : laboratory::kTests)
+        for (const laboratory::Posted& posted : test->posts)
+            *next++ = {posted.group.empty() ? test->names.title : posted.group, &posted};
+    return lines;
+}
 
-/// The flow index has no unit and prints the sign of its neighbours all the same; its column bears an old name.
-inline constexpr std::array kSummaryLines{
-    SummaryLine{"Atterberg Limits", "LL (%)", "sum_LL", "Liquid Limit (LL)", kPercent},
-    SummaryLine{"Atterberg Limits", "PL (%)", "sum_PL", "Plastic Limit (PL)", kPercent},
-    SummaryLine{"Atterberg Limits", "PI (%)", "sum_PI", "Plasticity Index (PI)", kPercent},
-    SummaryLine{"Atterberg Limits", "FI", "sum_swelling", "Flow Index (FI)", kPercent},
-    SummaryLine{"Sieve Analysis", "Gravel Fraction (%)", "sum_gravel", "Gravel Fraction (GF)", kPercent, kFractionMask},
-    SummaryLine{"Sieve Analysis", "Sand Fraction (%)", "sum_sand", "Sand Fraction (SF)", kPercent, kFractionMask},
-    SummaryLine{"Sieve Analysis", "Fine Fraction  (%)", "sum_finer", "Fine Fraction (Passing #200)", kPercent,
-                kFractionMask},
-    SummaryLine{"Soil Classification", "USCS", "sum_USCS", "USCS"},
-    SummaryLine{"Soil Classification", "AASHTO", "sum_AASHTO", "AASHTO"},
-    SummaryLine{"Specific Gravity", "Avg. Gs", "sum_Gs", "Average Specific Gravity (Gs)"},
-    SummaryLine{"Standard Compaction", "OMC (%)", "sum_omcS", "Optimum Moisture Content (OMC)", kPercent},
-    SummaryLine{"Standard Compaction", "MDD (g/cm^3)", "sum_mddS", "Maximum Dry Density (MDD)", kDensityUnit},
-    SummaryLine{"Modified Compaction", "OMC (%)", "sum_omcM", "Optimum Moisture Content (OMC)", kPercent},
-    SummaryLine{"Modified Compaction", "MDD (g/cm^3)", "sum_mddM", "Maximum Dry Density (MDD)", kDensityUnit},
-    SummaryLine{"California Bearing Ratio", "CBR (%)", "sum_CBR", "Percent CBR", kPercent},
-    SummaryLine{"Field Density by Sand Cone", "Avg. PC (%)", "sum_compaction", "Average Percent Compaction", kPercent},
-};
+inline constexpr auto kSummaryLines = SummaryLines();
 
 /// Places on the grid: two rows of heads, then a row a line; the values of a material in a column each.
 namespace summary {
@@ -56,6 +50,14 @@ inline constexpr int kColumns = 4;
 constexpr const SummaryLine& LineOf(int row)
 {
     return kSummaryLines[static_cast<std::size_t>(row - kHeadRows)];
+}
+
+/// The row of the result that is posted into a column of SUMMARY, which is there.
+constexpr int RowOf(std::string_view column)
+{
+    int row = kHeadRows;
+    while (LineOf(row).result->column != column) ++row;
+    return row;
 }
 }  // namespace summary
 

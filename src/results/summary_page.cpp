@@ -83,7 +83,7 @@ class SummaryTable {
         for (const CellArea& test : Tests())
             PrintFrom(page_, Left(summary::kTest) + kTestInset, Middle(test), grid_(test.row, summary::kTest));
         for (int row = summary::kHeadRows; row < summary::kRows; ++row)
-            PrintFrom(page_, Left(summary::kProperty) + kCaptionInset, Top(row), summary::LineOf(row).caption);
+            PrintFrom(page_, Left(summary::kProperty) + kCaptionInset, Top(row), summary::LineOf(row).result->printed);
     }
 
     /// The unit stands behind a value that was posted, and behind a mark without a value.
@@ -91,7 +91,7 @@ class SummaryTable {
     {
         for (int row = summary::kHeadRows; row < summary::kRows; ++row) {
             std::string text = grid_(row, column);
-            if (!Trim(text).empty()) text += summary::LineOf(row).unit;
+            if (!Trim(text).empty()) text += summary::LineOf(row).Unit();
             page_.CurrentY = Top(row);
             PrintCentred(page_, Left(column), Width(column, 1), text);
         }

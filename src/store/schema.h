@@ -1,13 +1,13 @@
 /// The tables of the project file and of the brand store as data: their order, their columns in order with
-/// their lengths, how many rows they are born with. Every column is text. Creation, load, save and tests walk
-/// these tables.
+/// their lengths, how many rows they are born with. Every column is text. The tests' tables and SUMMARY come from the
+/// descriptions of the tests; creation, load, save and tests walk these tables.
 #pragma once
 
 #include <span>
 #include <string>
 #include <string_view>
 
-#include "program/current_test.h"
+#include "laboratory/current_test.h"
 
 namespace terravane {
 
@@ -38,7 +38,7 @@ std::span<const TableSchema> ProjectTables();
 std::span<const TableSchema> BrandTables();
 
 /// The table of the results that tests post: a row a material, soil first.
-inline constexpr std::string_view kSummaryTable = "SUMMARY";
+inline constexpr std::string_view kSummaryTable = "SUMMARY", kSummaryPrefix = "sum_";
 const TableSchema& SummaryTable();
 
 /// The table of a test and material; error 5 while no sheet has been opened.

@@ -6,7 +6,7 @@
 #include <span>
 #include <string_view>
 
-#include "program/current_test.h"
+#include "laboratory/current_test.h"
 #include "sheets/atterberg/frmAtterberg.h"
 #include "sheets/cbr/frmCBR.h"
 #include "sheets/compaction/frmCompaction.h"

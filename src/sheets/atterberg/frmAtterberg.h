@@ -3,22 +3,11 @@
 #pragma once
 
 #include "controls/text_grid.h"
+#include "laboratory/atterberg.h"
 #include "numeric/straight_line.h"
 #include "sheets/pattern/test_sheet.h"
 
 namespace terravane {
-
-/// Rows of MSHLL; columns 1 to 5 are the trials. Masses in g, water contents in percent.
-namespace ll {
-enum Row { TestNumber, Blows, WetAndCan, DryAndCan, Can, Water, DrySoil, WaterContent, kRows };
-}
-
-/// Rows of MSHPL; columns 1 to 5 are the threads.
-namespace pl {
-enum Row { TestNumber, WetAndCan, DryAndCan, Can, Water, DrySoil, WaterContent, PlasticLimit, Average, kRows };
-}
-
-inline constexpr int kLimitTrials = 5;
 
 /// How blows and water content map to the plot: 10 to 100 blows across on a logarithmic axis, whole tens of percent
 /// upwards from 0. Twips, blows, percent.

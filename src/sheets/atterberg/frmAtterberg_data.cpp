@@ -1,7 +1,7 @@
 // Calculate: from weighings to water contents and the mean plastic limit.
+#include "laboratory/masks.h"
 #include "runtime/numbers.h"
 #include "sheets/atterberg/frmAtterberg.h"
-#include "sheets/pattern/masks.h"
 
 namespace terravane {
 

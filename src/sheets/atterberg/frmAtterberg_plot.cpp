@@ -4,10 +4,10 @@
 #include <cmath>
 #include <vector>
 
+#include "laboratory/masks.h"
 #include "runtime/numbers.h"
 #include "runtime/runtime_error.h"
 #include "sheets/atterberg/frmAtterberg.h"
-#include "sheets/pattern/masks.h"
 #include "sheets/pattern/plot.h"
 
 namespace terravane {

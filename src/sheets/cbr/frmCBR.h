@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "controls/text_grid.h"
+#include "laboratory/bearing_ratio.h"
 #include "sheets/cbr/cbr_scales.h"
 #include "sheets/pattern/test_sheet.h"
 
@@ -17,58 +18,8 @@ namespace terravane {
 
 namespace cbr {
 
-inline constexpr int kMoulds = 3;
-/// What heads and plots call the moulds and the curves of their ratios.
-inline constexpr std::array<std::string_view, kMoulds> kMouldNames{"Mold No.1", "Mold No.2", "Mold No.3"};
-inline constexpr std::string_view kRatioAt01 = "CBR at 0.1 in.", kRatioAt02 = "CBR at 0.2 in.";
-
-inline constexpr int kColumns = 6;  // cans and moulds: three before soaking, three after
-inline constexpr int kMostPenetrations = 20;
 inline constexpr int kValueTab = 3;         // of SSTData
 inline constexpr double kScanStep = 0.001;  // in, from point to point of a curve
-
-/// Rows of MSHWater; columns 1 to 6 are the cans. Masses in g.
-namespace water {
-enum Row { Condition, CanNumber, WetAndCan, DryAndCan, Can, WaterContent, kRows };
-}
-
-/// Rows of MSHCompaction; column i is the mould of MSHWater's column i. Lengths in cm, masses in g, densities in g/cm³.
-namespace density {
-enum Row { Condition, Mould, Blows, Diameter, Height, MouldAndSoil, JustMould, WetDensity, DryDensity, kRows };
-}
-
-/// MSHSwell: three rows of heads, the first reading, four later ones. A mould's dial (mm) has its percentage beside it.
-namespace swell {
-enum Row { Moulds, Heads, Units, First, Second, Last = 7, kRows };
-enum Column { Date, Time, Elapsed, FirstDial, kColumns = 9 };
-constexpr int Dial(int mould)
-{
-    return FirstDial + 2 * (mould - 1);
-}
-}  // namespace swell
-
-/// Columns of MSHPenetrate1, which has no heads, and of MSHPenetrate, which is its heads.
-namespace penetration {
-enum Column { Depth, FirstDial, kColumns = 10 };
-inline constexpr int kHeadRows = 4;
-constexpr int Dial(int mould)
-{
-    return FirstDial + 3 * (mould - 1);
-}
-constexpr int Load(int mould)
-{
-    return Dial(mould) + 1;
-}
-constexpr int Stress(int mould)
-{
-    return Dial(mould) + 2;
-}
-}  // namespace penetration
-
-/// Rows of mshLPC; column i is the mould.
-namespace result {
-enum Row { Mould, DryDensity, At01, At02, kRows };
-}
 
 /// The readings of one mould: penetrations in inches, stresses in lb/in².
 struct Curve {

@@ -3,12 +3,12 @@
 // printed report.
 #include <cmath>
 
+#include "laboratory/masks.h"
 #include "runtime/dates.h"
 #include "runtime/numbers.h"
 #include "runtime/runtime_error.h"
 #include "runtime/text.h"
 #include "sheets/cbr/frmCBR.h"
-#include "sheets/pattern/masks.h"
 
 namespace terravane {
 

@@ -2,12 +2,12 @@
 // concave upward, the bearing ratios at 0.1 in and 0.2 in.
 #include <algorithm>
 
+#include "laboratory/masks.h"
 #include "numeric/polynomial_fit.h"
 #include "numeric/power_fit.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
 #include "sheets/cbr/frmCBR.h"
-#include "sheets/pattern/masks.h"
 #include "sheets/pattern/plot.h"
 #include "store/statements.h"
 

@@ -3,10 +3,10 @@
 #include <array>
 #include <limits>
 
+#include "laboratory/masks.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
 #include "sheets/cbr/frmCBR.h"
-#include "sheets/pattern/masks.h"
 #include "sheets/pattern/plot.h"
 
 namespace terravane {

@@ -4,12 +4,12 @@
 #include <array>
 #include <limits>
 
+#include "laboratory/masks.h"
 #include "numeric/polynomial_fit.h"
 #include "numeric/power_fit.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
 #include "sheets/cbr/frmCBR.h"
-#include "sheets/pattern/masks.h"
 #include "sheets/pattern/plot.h"
 #include "store/statements.h"
 

@@ -2,9 +2,9 @@
 
 #include <array>
 
+#include "laboratory/masks.h"
 #include "runtime/numbers.h"
 #include "sheets/pattern/grids.h"
-#include "sheets/pattern/masks.h"
 #include "store/statements.h"
 
 namespace terravane {

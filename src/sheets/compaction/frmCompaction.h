@@ -7,27 +7,11 @@
 #include <vector>
 
 #include "controls/text_grid.h"
+#include "laboratory/compaction.h"
 #include "sheets/pattern/spline_grid.h"
 #include "sheets/pattern/test_sheet.h"
 
 namespace terravane {
-
-namespace compaction {
-
-inline constexpr int kTrials = 6;
-
-/// Rows of MSHWt; columns 1 to 6 are the trials. Masses in g.
-namespace water {
-enum Row { Sample, CanNumber, WetAndCan, DryAndCan, Can, Water, DrySoil, WaterContent, kRows };
-}
-
-/// Rows of MSHDensity, which has no heads; column i is the trial of MSHWt's column i. Masses in g, densities
-/// in g/cm³.
-namespace density {
-enum Row { AssumedWater, WetAndMould, Mould, WaterContent, WetSoil, WetDensity, DryDensity, kRows };
-}
-
-}  // namespace compaction
 
 /// One accepted trial: water content in percent, dry density in g/cm³, as they stand on the sheet.
 struct CompactionPoints {

@@ -3,12 +3,12 @@
 #include <algorithm>
 #include <cmath>
 
+#include "laboratory/masks.h"
 #include "numeric/polynomial_fit.h"
 #include "runtime/numbers.h"
 #include "runtime/runtime_error.h"
 #include "sheets/compaction/frmCompaction.h"
 #include "sheets/pattern/grids.h"
-#include "sheets/pattern/masks.h"
 
 namespace terravane {
 

@@ -1,9 +1,9 @@
 // Calculate: from weighings to water contents and densities.
 #include <cmath>
 
+#include "laboratory/masks.h"
 #include "runtime/numbers.h"
 #include "sheets/compaction/frmCompaction.h"
-#include "sheets/pattern/masks.h"
 
 namespace terravane {
 

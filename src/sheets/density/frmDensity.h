@@ -6,45 +6,10 @@
 #include <string_view>
 
 #include "controls/text_grid.h"
+#include "laboratory/field_density.h"
 #include "sheets/pattern/test_sheet.h"
 
 namespace terravane {
-
-namespace field {
-
-inline constexpr int kColumns = 6;  // of every grid, from 1: determinations of the sand, or test holes
-
-/// Rows of MSHWsand: the sand that stays in the cone.
-namespace cone {
-enum Row { Determination, Initial, Final, SandInCone, Average, kRows };
-}
-
-/// Rows of MSHDsand: the density of the sand, from a mould.
-namespace sand {
-enum Row { Determination, Diameter, Height, Mould, MouldAndSand, Sand, Volume, Density, kRows };
-}
-
-/// Rows of MSHWsoil: the wet soil from the hole.
-namespace soil {
-enum Row { Hole, WetAndPan, Pan, WetSoil, kRows };
-}
-
-/// Rows of MSHWater; the water content in percent.
-namespace water {
-enum Row { Hole, WetAndCan, DryAndCan, Can, Water, DrySoil, WaterContent, kRows };
-}
-
-/// Rows of MSHVolume: the sand that fills the hole.
-namespace volume {
-enum Row { Hole, Initial, Final, SandInCone, SandInHole, SandDensity, Volume, kRows };
-}
-
-/// Rows of MSHSummary; the compaction in percent.
-namespace summary {
-enum Row { Hole, MaximumDensity, WetDensity, DryDensity, Compaction, kRows };
-}
-
-}  // namespace field
 
 struct frmDensity : TestSheet {
     explicit frmDensity(Program& program);

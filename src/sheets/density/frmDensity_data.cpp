@@ -1,8 +1,8 @@
 // Calculate: from the sand to the percent compaction. A stage reads back the text that the stage before it wrote.
 // Differences are shown with all their digits, what is divided with two decimals.
+#include "laboratory/masks.h"
 #include "runtime/numbers.h"
 #include "sheets/density/frmDensity.h"
-#include "sheets/pattern/masks.h"
 #include "store/statements.h"
 
 namespace terravane {

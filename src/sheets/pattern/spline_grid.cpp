@@ -1,7 +1,7 @@
 #include "sheets/pattern/spline_grid.h"
 
+#include "laboratory/masks.h"
 #include "runtime/numbers.h"
-#include "sheets/pattern/masks.h"
 
 namespace terravane {
 

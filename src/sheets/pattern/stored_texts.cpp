@@ -2,8 +2,8 @@
 // serves both, so that what is saved is what is loaded.
 #include <algorithm>
 
+#include "laboratory/masks.h"
 #include "runtime/text.h"
-#include "sheets/pattern/masks.h"
 #include "sheets/pattern/test_sheet.h"
 #include "store/statements.h"
 

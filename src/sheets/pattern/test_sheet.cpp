@@ -2,8 +2,8 @@
 
 #include <utility>
 
+#include "laboratory/masks.h"
 #include "runtime/text.h"
-#include "sheets/pattern/masks.h"
 #include "store/statements.h"
 
 namespace terravane {

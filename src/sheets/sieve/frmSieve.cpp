@@ -2,9 +2,9 @@
 
 #include <array>
 
+#include "laboratory/masks.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
-#include "sheets/pattern/masks.h"
 #include "sheets/sieve/sieve_table.h"
 
 namespace terravane {

@@ -7,18 +7,12 @@
 #include <vector>
 
 #include "controls/text_grid.h"
+#include "laboratory/sieve_analysis.h"
 #include "sheets/pattern/spline_grid.h"
 #include "sheets/pattern/test_sheet.h"
 #include "sheets/sieve/limits.h"
 
 namespace terravane {
-
-/// Columns of MSHSieve; row i is the i-th sieve from above. Masses in g.
-namespace sieve {
-enum Column { Number, Opening, EmptySieve, SieveAndSoil, Retained, Cumulative, CumulativePercent, Passing, kColumns };
-}
-
-inline constexpr int kMostSieves = 10;
 
 /// What stands behind the first "=" of a result box; the whole text where there is none.
 std::string_view BehindEquals(std::string_view text);

@@ -2,10 +2,10 @@
 // The spline runs in millimetres, not in their logarithm, and its work grids hold every stage as text.
 #include <array>
 
+#include "laboratory/masks.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
 #include "sheets/pattern/grids.h"
-#include "sheets/pattern/masks.h"
 #include "sheets/pattern/plot.h"
 #include "sheets/sieve/frmSieve.h"
 

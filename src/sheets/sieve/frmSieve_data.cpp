@@ -3,9 +3,9 @@
 #include <array>
 #include <cmath>
 
+#include "laboratory/masks.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
-#include "sheets/pattern/masks.h"
 #include "sheets/sieve/frmSieve.h"
 #include "sheets/sieve/sieve_table.h"
 

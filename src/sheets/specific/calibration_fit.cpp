@@ -3,10 +3,10 @@
 #include <array>
 #include <cmath>
 
+#include "laboratory/masks.h"
 #include "numeric/straight_line.h"
 #include "runtime/numbers.h"
 #include "runtime/runtime_error.h"
-#include "sheets/pattern/masks.h"
 
 namespace terravane {
 

@@ -6,36 +6,11 @@
 #include <vector>
 
 #include "controls/text_grid.h"
+#include "laboratory/specific_gravity.h"
 #include "sheets/pattern/test_sheet.h"
 #include "sheets/specific/calibration_fit.h"
 
 namespace terravane {
-
-/// Columns of MSHCalibration; row i is reading i.
-namespace calibration {
-enum Column { Number, FlaskAndWater, Temperature, kColumns };  // g, °C
-}
-
-/// Rows of MSHSpecific; columns 1 to 3 are the trials. Masses in g.
-namespace gravity {
-enum Row {
-    TrialNumber,
-    Temperature,
-    FlaskAndWater,
-    FlaskWaterAndSoil,
-    ContainerNumber,
-    DryAndContainer,
-    Container,
-    DrySoil,
-    Correction,
-    Gravity,
-    Average,
-    kRows
-};
-}
-
-inline constexpr int kCalibrationReadings = 7;
-inline constexpr int kGravityTrials = 3;
 
 /// One axis of the calibration plot, with ticks at the round steps between its ends. The unit is the axis's.
 struct CalibrationAxis {

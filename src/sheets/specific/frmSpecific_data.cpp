@@ -1,7 +1,7 @@
 // Calculate: from the flask's curve and the trials' weighings to the specific gravity.
+#include "laboratory/masks.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
-#include "sheets/pattern/masks.h"
 #include "sheets/specific/frmSpecific.h"
 #include "sheets/specific/water_density.h"
 #include "store/statements.h"
@@ -10,8 +10,6 @@ namespace terravane {
 
 namespace {
 
-constexpr std::string_view kFourDecimals = "0.0000";
-constexpr std::string_view kNoForcedZero = "#.00";
 constexpr std::string_view kPlotFirst = "กรุณากดปุ่ม Plot Graph Calibration ก่อน";
 
 }  // namespace

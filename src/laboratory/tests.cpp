@@ -1,0 +1,134 @@
+#include "laboratory/tests.h"
+
+#include "laboratory/all_tests.h"
+#include "runtime/runtime_error.h"
+
+namespace terravane::laboratory {
+
+namespace {
+
+/// A sheet with the columns that are worked out from it.
+struct SheetColumns {
+    const Sheet* sheet;
+    std::span<const KeptColumn> table, statement;
+};
+template <const Sheet& kSheet>
+constexpr SheetColumns ColumnsOf()
+{
+    return {&kSheet, kTableColumns<kSheet>, kStatementColumns<kSheet>};
+}
+constexpr std::array kSheetColumns{
+    ColumnsOf<kAtterbergSheet>(),  ColumnsOf<kSieveSheet>(),   ColumnsOf<kSpecificGravitySheet>(),
+    ColumnsOf<kCompactionSheet>(), ColumnsOf<kBearingSheet>(), ColumnsOf<kFieldSheet>(),
+};
+
+/// The pointers sorted by a number that each knows.
+template <class Pointers, class Number>
+constexpr Pointers SortedBy(Pointers pointers, Number number)
+{
+    std::ranges::sort(pointers, {}, [number](const auto* of) { return number(*of); });
+    return pointers;
+}
+
+constexpr auto SheetsBy(int ClosingOrder::*place)
+{
+    std::array<const Sheet*, kSheetColumns.size()> sheets{};
+    std::ranges::transform(kSheetColumns, sheets.begin(), &SheetColumns::sheet);
+    return SortedBy(sheets, [place](const Sheet& sheet) { return sheet.closing.*place; });
+}
+
+constexpr auto kInWorkOrder = SortedBy(kTests, [](const Description& test) { return test.workOrder; });
+constexpr auto kBeforeFile = SheetsBy(&ClosingOrder::beforeFile);
+constexpr auto kBeforeSheet = SheetsBy(&ClosingOrder::beforeSheet);
+
+/// A number for each, from 1 on, none missing and none twice.
+template <class Pointers, class Number>
+constexpr bool Counts(const Pointers& sorted, Number number)
+{
+    int next = 1;
+    return std::ranges::all_of(sorted, [&](const auto* of) { return number(*of) == next++; });
+}
+static_assert(Counts(kInWorkOrder, [](const Description& test) { return test.workOrder; }));
+static_assert(Counts(kBeforeFile, [](const Sheet& sheet) { return sheet.closing.beforeFile; }));
+static_assert(Counts(kBeforeSheet, [](const Sheet& sheet) { return sheet.closing.beforeSheet; }));
+
+/// A test whose results another one needs is worked before it.
+constexpr bool IsWorkedBeforeNeeded(const Description& test)
+{
+    return std::ranges::all_of(test.needs, [&](Test needed) {
+        return std::ranges::any_of(kTests, [&](const Description* other) {
+            return other->test == needed && other->workOrder < test.workOrder;
+        });
+    });
+}
+static_assert(std::ranges::all_of(kTests, [](const Description* test) { return IsWorkedBeforeNeeded(*test); }));
+
+/// The tables fill the places from 1 on of a project file, each once.
+constexpr bool FillTheirPlaces()
+{
+    std::array<bool, 2 * kTests.size()> filled{};
+    for (const Description* test : kTests)
+        for (const Table* table : {&test->soil, &test->crushedRock})
+            filled[static_cast<std::size_t>(table->place) - 1] = true;
+    return std::ranges::all_of(filled, [](bool is) { return is; });
+}
+static_assert(FillTheirPlaces());
+
+const SheetColumns& Find(const Sheet& sheet)
+{
+    return *std::ranges::find(kSheetColumns, &sheet, &SheetColumns::sheet);
+}
+
+}  // namespace
+
+std::span<const Description* const> Tests()
+{
+    return kTests;
+}
+
+std::span<const Description* const> TestsInWorkOrder()
+{
+    return kInWorkOrder;
+}
+
+const Description& Describe(Test test)
+{
+    const auto found = std::ranges::find(kTests, test, [](const Description* of) { return of->test; });
+    if (found == kTests.end()) throw RuntimeError(error::kInvalidProcedureCall, "No test sheet has been opened.");
+    return **found;
+}
+
+const Description* FindTest(std::string_view key)
+{
+    const auto found = std::ranges::find(kTests, key, [](const Description* of) { return of->key; });
+    return found == kTests.end() ? nullptr : *found;
+}
+
+std::span<const Sheet* const> SheetsClosedBeforeFile()
+{
+    return kBeforeFile;
+}
+
+std::span<const Sheet* const> SheetsClosedBeforeSheet()
+{
+    return kBeforeSheet;
+}
+
+std::span<const KeptColumn> TableColumns(const Sheet& sheet)
+{
+    return Find(sheet).table;
+}
+
+std::span<const KeptColumn> StatementColumns(const Sheet& sheet)
+{
+    return Find(sheet).statement;
+}
+
+const MaterialDescription& Describe(Material material)
+{
+    const auto found = std::ranges::find(kMaterials, material, &MaterialDescription::material);
+    if (found == kMaterials.end()) throw RuntimeError(error::kInvalidProcedureCall);
+    return *found;
+}
+
+}  // namespace terravane::laboratory
