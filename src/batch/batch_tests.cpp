@@ -10,9 +10,9 @@
 
 namespace terravane {
 
-namespace {
+using laboratory::Description;
 
-using Names = std::string_view;
+namespace {
 
 constexpr int kValueTab = 3;  // of frmCBR: open where the value comes from the curve of three moulds
 
@@ -111,119 +111,70 @@ void PressBearing(Presser& presser, const Choices& choices, const ProjectTexts& 
     presser.Press("cmdCBR");
 }
 
-constexpr std::array<Names, 3> kAttReadings{"blows", "wscan1", "wscan2"};
-constexpr std::array<Names, 4> kAttKeeps{"LL", "PL", "PI", "FI"};
-constexpr std::array<Names, 4> kAttPosts{"sum_LL", "sum_PL", "sum_PI", "sum_swelling"};
-
-constexpr std::array<Names, 2> kSieReadings{"mos", "mss"};
-constexpr std::array<Names, 2> kSieKeeps{"LL", "PL"};
-constexpr std::array<Names, 5> kSiePosts{"sum_gravel", "sum_sand", "sum_finer", "sum_USCS", "sum_AASHTO"};
-constexpr std::array kSieTakes{TakenResult{"LL", "LL", "att", "LL", true}, TakenResult{"PL", "PL", "att", "PL", true}};
-constexpr std::array<Names, 1> kSieNeeds{"att"};
-
-constexpr std::array<Names, 4> kSpcReadings{"temp1", "fwater", "temp2", "swsoil"};
-constexpr std::array<Names, 1> kSpcKeeps{"gs"};
-constexpr std::array<Names, 1> kSpcPosts{"sum_Gs"};
-
-constexpr std::array<Names, 4> kCompactionReadings{"wcanw", "wcand", "wsm", "wm"};
-constexpr std::array<Names, 3> kCompactionKeeps{"omc", "mdd", "gs"};
-constexpr std::array<Names, 2> kStdPosts{"sum_omcS", "sum_mddS"};
-constexpr std::array<Names, 2> kModPosts{"sum_omcM", "sum_mddM"};
-constexpr std::array<Names, 1> kCompactionNeeds{"spc"};
-constexpr std::array kCompactionTakes{TakenResult{"gs", "Gs", "spc", "gs", true}};
-
-constexpr std::array<Names, 4> kDenReadings{"imsjc", "mmsp", "imsj", "mwsc"};
-constexpr std::array<Names, 1> kDenKeeps{"mdd"};
-constexpr std::array<Names, 1> kDenPosts{"sum_compaction"};
-constexpr std::array kDenTakes{TakenResult{"mdd", "MDD", "", "mdd", false}};
-constexpr std::array<Names, 2> kCompactions{"std", "mod"};
-
-constexpr std::array<Names, 5> kCbrReadings{"wcanw", "wms", "read1", "read2", "read3"};
-constexpr std::array<Names, 1> kCbrPosts{"sum_CBR"};
-
-constexpr std::span<const Names> kNone;
-constexpr std::span<const TakenResult> kTakesNone;
-
-constexpr std::array kTests{
-    BatchTest{"att", Test::AttSoil, "mnuAtt", "the Atterberg limits test", "Atterberg Limits", kAttReadings, kAttKeeps,
-              kAttPosts, kTakesNone, kNone, PressAtterberg},
-    BatchTest{"sie", Test::SieSoil, "mnuSie", "the sieve analysis", "Sieve Analysis", kSieReadings, kSieKeeps,
-              kSiePosts, kSieTakes, kSieNeeds, PressSieve},
-    BatchTest{"spc", Test::SpcSoil, "mnuSpe", "the specific gravity test", "Specific Gravity", kSpcReadings, kSpcKeeps,
-              kSpcPosts, kTakesNone, kNone, PressSpecific},
-    BatchTest{"std", Test::StdSoil, "mnuStd", "the standard compaction", "Standard Compaction", kCompactionReadings,
-              kCompactionKeeps, kStdPosts, kCompactionTakes, kCompactionNeeds, PressCompaction},
-    BatchTest{"mod", Test::ModSoil, "mnuMod", "the modified compaction", "Modified Compaction", kCompactionReadings,
-              kCompactionKeeps, kModPosts, kCompactionTakes, kCompactionNeeds, PressCompaction},
-    BatchTest{"den", Test::DenSoil, "mnuDen", "the field density test", "Field Density", kDenReadings, kDenKeeps,
-              kDenPosts, kDenTakes, kCompactions, PressDensity},
-    BatchTest{"cbr", Test::CBRSoil, "mnuCBR", "the bearing ratio test", "California Bearing Ratio", kCbrReadings, kNone,
-              kCbrPosts, kTakesNone, kCompactions, PressBearing},
+/// The commands of each test's sheet.
+struct TestCommands {
+    Test test;
+    void (*press)(Presser& presser, const Choices& choices, const ProjectTexts& saved);
+};
+constexpr std::array kCommands{
+    TestCommands{Test::AttSoil, PressAtterberg},  TestCommands{Test::SieSoil, PressSieve},
+    TestCommands{Test::SpcSoil, PressSpecific},   TestCommands{Test::StdSoil, PressCompaction},
+    TestCommands{Test::ModSoil, PressCompaction}, TestCommands{Test::DenSoil, PressDensity},
+    TestCommands{Test::CBRSoil, PressBearing},
 };
 
-constexpr std::array kMaterials{
-    BatchMaterial{"soil", "soil", Material::Soil, '1', 1},
-    BatchMaterial{"crush", "crushed rock", Material::Crush, '2', 2},
-};
-
-const TableSchema& Schema(const BatchTest& test, Material material)
+const TableSchema& Schema(const Description& test, Material material)
 {
     return TableOf(test.test, material);
 }
 
 }  // namespace
 
-std::span<const BatchTest> BatchTests()
+void PressCommands(const Description& test, Presser& presser, const Choices& choices, const ProjectTexts& saved)
 {
-    return kTests;
+    const auto commands = std::ranges::find(kCommands, test.test, &TestCommands::test);
+    if (commands == kCommands.end()) throw RuntimeError(error::kInvalidProcedureCall, "No commands are known");
+    commands->press(presser, choices, saved);
 }
 
-std::span<const BatchMaterial> BatchMaterials()
-{
-    return kMaterials;
-}
-
-const BatchMaterial& RowOf(Material material)
-{
-    const auto found = std::ranges::find(kMaterials, material, &BatchMaterial::material);
-    if (found == kMaterials.end()) throw RuntimeError(error::kInvalidProcedureCall);
-    return *found;
-}
-
-const BatchTest* FindBatchTest(std::string_view key)
-{
-    const auto found = std::ranges::find(kTests, key, &BatchTest::key);
-    return found == kTests.end() ? nullptr : &*found;
-}
-
-std::string TableName(const BatchTest& test, Material material)
+std::string TableName(const Description& test, Material material)
 {
     return std::string(Schema(test, material).name);
 }
 
-std::string ColumnName(const BatchTest& test, std::string_view suffix)
+std::string ColumnName(const Description& test, std::string_view suffix)
 {
     return Schema(test, Material::Soil).ColumnName(suffix);
 }
 
+std::vector<std::string_view> ResultColumns(const Description& test)
+{
+    std::vector<std::string_view> columns;
+    for (const laboratory::KeptColumn& column : laboratory::TableColumns(test.sheet))
+        if (column.isResult) columns.push_back(column.suffix);
+    return columns;
+}
+
 /// A reading of 0 is none, as on the sheets.
-bool HasReadings(const ProjectTexts& texts, const BatchTest& test, Material material)
+bool HasReadings(const ProjectTexts& texts, const Description& test, Material material)
 {
     const TableSchema& table = Schema(test, material);
-    return std::ranges::any_of(test.readings, [&](std::string_view suffix) {
-        for (int row = 1; row <= table.rows; ++row) {
-            if (Val(texts.Text(table.name, table.ColumnName(suffix), row)) != 0) return true;
+    return std::ranges::any_of(laboratory::TableColumns(test.sheet), [&](const laboratory::KeptColumn& column) {
+        for (int row = 1; column.isReading && row <= table.rows; ++row) {
+            if (Val(texts.Text(table.name, table.ColumnName(column.suffix), row)) != 0) return true;
         }
         return false;
     });
 }
 
-const BatchTest* SourceOf(const TakenResult& taken, const ProjectTexts& texts, const BatchTest& test, Material material)
+const Description* SourceOf(const laboratory::Taken& taken, const ProjectTexts& texts, const Description& test,
+                            Material material)
 {
-    if (!taken.from.empty()) return FindBatchTest(taken.from);
-    const std::string chosen = texts.Trimmed(TableName(test, material), ColumnName(test, "comp"), 1);
-    if (chosen == "Std") return FindBatchTest("std");
-    return chosen == "Mod" ? FindBatchTest("mod") : nullptr;
+    if (taken.from != Test::None) return &laboratory::Describe(taken.from);
+    const laboratory::Choice& choice = test.sheet.choice;
+    const std::string chosen = texts.Trimmed(TableName(test, material), ColumnName(test, choice.is.kept), 1);
+    if (chosen == "Std") return &laboratory::Describe(Test::StdSoil);
+    return chosen == "Mod" ? &laboratory::Describe(Test::ModSoil) : nullptr;
 }
 
 }  // namespace terravane

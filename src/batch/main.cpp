@@ -108,7 +108,7 @@ void Check(const BatchOptions& options)
 std::vector<std::string> TestKeys()
 {
     std::vector<std::string> keys;
-    for (const BatchTest& test : BatchTests()) keys.emplace_back(test.key);
+    for (const laboratory::Description* test : laboratory::TestsInWorkOrder()) keys.emplace_back(test->key);
     return keys;
 }
 

@@ -68,7 +68,7 @@ Variants Proctors(const Variants& variants)
 
 }  // namespace
 
-std::vector<Choices> PossibleChoices(const BatchTest& test, const BatchOptions& options)
+std::vector<Choices> PossibleChoices(const laboratory::Description& test, const BatchOptions& options)
 {
     const Choices own = options.PressedChoices();
     const GivenChoices& given = options.given;

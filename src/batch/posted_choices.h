@@ -12,6 +12,6 @@ namespace terravane {
 /// does. Without a check only what has no choice of its own on the sheet is tried, the compaction test that a bearing
 /// ratio refers to. Under a check every combination that a technician could have pressed, so that a result is not
 /// called stale for a choice that the file does not keep; what the options name stays fixed.
-std::vector<Choices> PossibleChoices(const BatchTest& test, const BatchOptions& options);
+std::vector<Choices> PossibleChoices(const laboratory::Description& test, const BatchOptions& options);
 
 }  // namespace terravane

@@ -11,7 +11,7 @@ namespace terravane {
 
 namespace {
 
-bool IsWanted(const BatchOptions& options, const BatchTest& test)
+bool IsWanted(const BatchOptions& options, const laboratory::Description& test)
 {
     return options.Wants(test.key);
 }
@@ -76,7 +76,8 @@ class Work {
     {
         if (!outcome_.gives) return false;
         const ProjectTexts now = session_.Texts(kSummaryTable);
-        return std::ranges::all_of(outcome_.test->posts, [&](std::string_view column) {
+        return std::ranges::all_of(outcome_.test->posts, [&](const laboratory::Posted& result) {
+            const std::string column = SummaryTable().ColumnName(result.column);
             const std::string posted = saved_.Trimmed(kSummaryTable, column, SummaryRow());
             return posted.empty() || SaysTheSame(posted, now.Text(kSummaryTable, column, SummaryRow()));
         });
@@ -93,12 +94,12 @@ class Work {
 
     bool HasPosted() const
     {
-        return std::ranges::any_of(outcome_.test->posts, [&](std::string_view column) {
-            return !saved_.Trimmed(kSummaryTable, column, SummaryRow()).empty();
+        return std::ranges::any_of(outcome_.test->posts, [&](const laboratory::Posted& result) {
+            return !saved_.Trimmed(kSummaryTable, SummaryTable().ColumnName(result.column), SummaryRow()).empty();
         });
     }
 
-    int SummaryRow() const { return RowOf(outcome_.material).summaryRow; }
+    int SummaryRow() const { return laboratory::Describe(outcome_.material).summaryRow; }
 
     ProjectSession& session_;
     const ProjectTexts& saved_;
@@ -108,11 +109,11 @@ class Work {
 
 }  // namespace
 
-bool IsNeeded(const BatchOptions& options, const BatchTest& test)
+bool IsNeeded(const BatchOptions& options, const laboratory::Description& test)
 {
     if (IsWanted(options, test)) return true;
-    return !options.isAsSaved && std::ranges::any_of(BatchTests(), [&](const BatchTest& other) {
-        return std::ranges::find(other.needs, test.key) != other.needs.end() && IsNeeded(options, other);
+    return !options.isAsSaved && std::ranges::any_of(laboratory::Tests(), [&](const laboratory::Description* other) {
+        return std::ranges::find(other->needs, test.test) != other->needs.end() && IsNeeded(options, *other);
     });
 }
 
@@ -120,14 +121,14 @@ std::vector<TestOutcome> WorkSheets(ProjectSession& session, const ProjectTexts&
                                     const AtSheet& atSheet)
 {
     std::vector<TestOutcome> outcomes;
-    for (const BatchMaterial& material : BatchMaterials()) {
+    for (const laboratory::MaterialDescription& material : laboratory::kMaterials) {
         if (!options.WantsMaterial(material.key)) continue;
-        for (const BatchTest& test : BatchTests()) {
-            if (!IsNeeded(options, test)) continue;
-            auto& outcome = outcomes.emplace_back(TestOutcome{&test, material.material});
-            outcome.hasReadings = HasReadings(saved, test, material.material);
+        for (const laboratory::Description* test : laboratory::TestsInWorkOrder()) {
+            if (!IsNeeded(options, *test)) continue;
+            auto& outcome = outcomes.emplace_back(TestOutcome{test, material.material});
+            outcome.hasReadings = HasReadings(saved, *test, material.material);
             if (outcome.hasReadings)
-                Work(session, saved, options, outcome).Do(IsWanted(options, test) ? atSheet : nullptr);
+                Work(session, saved, options, outcome).Do(IsWanted(options, *test) ? atSheet : nullptr);
         }
     }
     return outcomes;

@@ -14,7 +14,7 @@ namespace terravane {
 /// troubles  what went wrong in opening, pressing or drawing, a sentence each
 /// gives     whether the commands went through: then the copy holds what follows from the readings
 struct TestOutcome {
-    const BatchTest* test;
+    const laboratory::Description* test;
     Material material;
     bool hasReadings = false;
     bool gives = false;
@@ -22,7 +22,7 @@ struct TestOutcome {
 };
 
 /// Which tests are opened: those wanted, and where commands are pressed those whose results they take.
-bool IsNeeded(const BatchOptions& options, const BatchTest& test);
+bool IsNeeded(const BatchOptions& options, const laboratory::Description& test);
 
 /// Opens every needed test that has saved readings, presses its commands unless sheets are shown as saved, and runs
 /// `atSheet` while the sheet of a wanted test is open.

@@ -25,11 +25,12 @@ std::string TextAt(const TestSheet& sheet, const ColumnPlace& place, int record)
                                                     : grid(record + place.rowShift, place.line);
 }
 
-std::vector<ColumnPlace> ResultPlaces(const TablePass& pass, const BatchTest& test)
+std::vector<ColumnPlace> ResultPlaces(const TablePass& pass, const laboratory::Description& test)
 {
     std::vector<ColumnPlace> places;
-    std::ranges::copy_if(pass.places, std::back_inserter(places), [&test](const ColumnPlace& place) {
-        return std::ranges::find(test.keeps, place.suffix) != test.keeps.end();
+    const auto keeps = ResultColumns(test);
+    std::ranges::copy_if(pass.places, std::back_inserter(places), [&keeps](const ColumnPlace& place) {
+        return std::ranges::find(keeps, place.suffix) != keeps.end();
     });
     return places;
 }
@@ -48,19 +49,21 @@ ProjectSession::ProjectSession(const Brand& brand, const std::string& path, Byte
     program_.Get<mdiBack>(kFrameName).mnuOpen.Press();
 }
 
-TestSheet* ProjectSession::Open(const BatchTest& test, Material material)
+TestSheet* ProjectSession::Open(const laboratory::Description& test, Material material)
 {
     const std::size_t before = heard_.Troubles().size();
     heard_.During("Opening the sheet");
-    program_.Get<mdiBack>(kFrameName).tbrLab.PressItem(std::string(test.menu) + RowOf(material).menuDigit);
+    program_.Get<mdiBack>(kFrameName)
+        .tbrLab.PressItem(std::string(test.menu) + laboratory::Describe(material).menuDigit);
     if (heard_.Troubles().size() > before) return nullptr;
     return &OpenSheet(program_);
 }
 
-bool ProjectSession::Press(TestSheet& sheet, const BatchTest& test, const Choices& choices, const ProjectTexts& saved)
+bool ProjectSession::Press(TestSheet& sheet, const laboratory::Description& test, const Choices& choices,
+                           const ProjectTexts& saved)
 {
     Presser presser(sheet, heard_);
-    test.press(presser, choices, saved);
+    PressCommands(test, presser, choices, saved);
     if (presser.HasStopped()) return false;
     const std::size_t before = heard_.Troubles().size();
     heard_.During("Saving the results");
@@ -69,7 +72,7 @@ bool ProjectSession::Press(TestSheet& sheet, const BatchTest& test, const Choice
 }
 
 /// What Save writes, but the results alone: names, dates and readings are not this program's to touch.
-void ProjectSession::SaveResults(TestSheet& sheet, const BatchTest& test)
+void ProjectSession::SaveResults(TestSheet& sheet, const laboratory::Description& test)
 {
     const TableSchema& table = TableOf(program_.CurrentTest, program_.CurrentMaterial);
     OpenProjectConnection(program_);

@@ -20,10 +20,11 @@ class ProjectSession {
     const BatchSurroundings& Heard() const { return heard_; }
 
     /// Opens the sheet of a test and fills it from the copy; nullptr, with a trouble heard, where that fails.
-    TestSheet* Open(const BatchTest& test, Material material);
+    TestSheet* Open(const laboratory::Description& test, Material material);
     /// Presses the commands of the sheet and saves its results in the copy, readings and headings untouched. False,
     /// with a trouble heard and nothing saved, where a command goes wrong; what it posted before stands.
-    bool Press(TestSheet& sheet, const BatchTest& test, const Choices& choices, const ProjectTexts& saved);
+    bool Press(TestSheet& sheet, const laboratory::Description& test, const Choices& choices,
+               const ProjectTexts& saved);
 
     /// The pages of the open sheet's report, cover first; none, with a trouble heard, where they can't be drawn.
     std::vector<DisplayList> ReportPages();
@@ -35,7 +36,7 @@ class ProjectSession {
     ProjectTexts Texts(std::string_view only = {}) const { return ProjectTexts(disk_.Content(path_), only); }
 
   private:
-    void SaveResults(TestSheet& sheet, const BatchTest& test);
+    void SaveResults(TestSheet& sheet, const laboratory::Description& test);
 
     std::string path_;
     PrivateDisk disk_;

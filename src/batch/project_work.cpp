@@ -83,12 +83,12 @@ class ProjectWork {
 
     void TakeReport(ProjectSession& session, const TestOutcome& outcome)
     {
-        const BatchMaterial& material = RowOf(outcome.material);
+        const laboratory::MaterialDescription& material = laboratory::Describe(outcome.material);
         auto pages = session.ReportPages();
         if (pages.empty()) return;
         parts_.push_back({std::string(outcome.test->key) + "_" + std::string(material.key),
-                          std::string(outcome.test->title) + ", " + std::string(material.title), session.ReportTitle(),
-                          std::move(pages)});
+                          std::string(outcome.test->names.title) + ", " + std::string(material.title),
+                          session.ReportTitle(), std::move(pages)});
     }
 
     void TakeResults(ProjectSession& session)
@@ -110,9 +110,10 @@ class ProjectWork {
     void TellTroubles(const std::vector<TestOutcome>& outcomes)
     {
         for (const TestOutcome& outcome : outcomes) {
-            const BatchMaterial& material = RowOf(outcome.material);
+            const laboratory::MaterialDescription& material = laboratory::Describe(outcome.material);
             for (const std::string& trouble : outcome.troubles) {
-                AddFailure(std::string(outcome.test->title) + ", " + std::string(material.title) + ": " + trouble);
+                AddFailure(std::string(outcome.test->names.title) + ", " + std::string(material.title) + ": " +
+                           trouble);
             }
         }
     }

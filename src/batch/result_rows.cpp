@@ -52,24 +52,25 @@ Json StaleObject(const StaleResult& stale)
             {"stands", stale.stands}, {"follows", stale.follows}, {"why", stale.why}};
 }
 
-std::vector<std::string> TroublesOf(const BatchTest& test, Material material, const std::vector<TestOutcome>& outcomes)
+std::vector<std::string> TroublesOf(const laboratory::Description& test, Material material,
+                                    const std::vector<TestOutcome>& outcomes)
 {
     for (const TestOutcome& outcome : outcomes)
         if (outcome.test == &test && outcome.material == material) return outcome.troubles;
     return {};
 }
 
-Json MaterialObject(const ProjectTexts& texts, const BatchMaterial& material, const std::vector<TestOutcome>& outcomes,
-                    const std::vector<StaleResult>& stale)
+Json MaterialObject(const ProjectTexts& texts, const laboratory::MaterialDescription& material,
+                    const std::vector<TestOutcome>& outcomes, const std::vector<StaleResult>& stale)
 {
     Json tests = Json::object(), found = Json::array();
-    for (const BatchTest& test : BatchTests()) {
-        if (!HasReadings(texts, test, material.material)) continue;
-        Json object{{"table", TableName(test, material.material)},
-                    {"rows", Rows(texts, TableOf(test.test, material.material))}};
-        if (const auto troubles = TroublesOf(test, material.material, outcomes); !troubles.empty())
+    for (const laboratory::Description* test : laboratory::TestsInWorkOrder()) {
+        if (!HasReadings(texts, *test, material.material)) continue;
+        Json object{{"table", TableName(*test, material.material)},
+                    {"rows", Rows(texts, TableOf(test->test, material.material))}};
+        if (const auto troubles = TroublesOf(*test, material.material, outcomes); !troubles.empty())
             object["troubles"] = troubles;
-        tests[std::string(test.key)] = std::move(object);
+        tests[std::string(test->key)] = std::move(object);
     }
     for (const StaleResult& one : stale)
         if (one.material == material.material) found.push_back(StaleObject(one));
@@ -96,7 +97,7 @@ std::string CsvHead()
 std::string CsvRows(const std::string& project, const ProjectTexts& texts, const BatchOptions& options)
 {
     std::string rows;
-    for (const BatchMaterial& material : BatchMaterials()) {
+    for (const laboratory::MaterialDescription& material : laboratory::kMaterials) {
         if (!options.WantsMaterial(material.key)) continue;
         std::vector<std::string> fields{project, std::string(material.key)};
         for (const ColumnSchema& column : SummaryTable().columns) {
@@ -112,7 +113,7 @@ std::string JsonObject(const std::string& project, const ProjectTexts& texts, co
                        const std::vector<TestOutcome>& outcomes, const std::vector<StaleResult>& stale)
 {
     Json object{{"project", project}, {"headings", Row(texts, ProjectTables().front(), 1)}};
-    for (const BatchMaterial& material : BatchMaterials()) {
+    for (const laboratory::MaterialDescription& material : laboratory::kMaterials) {
         if (!options.WantsMaterial(material.key)) continue;
         object[std::string(material.key)] = MaterialObject(texts, material, outcomes, stale);
     }

@@ -31,8 +31,8 @@ class Comparison {
     std::vector<StaleResult> StaleTaken(const TestOutcome& outcome) const
     {
         std::vector<StaleResult> stale;
-        for (const TakenResult& taken : outcome.test->takes) {
-            const BatchTest* source = SourceOf(taken, saved_, *outcome.test, outcome.material);
+        for (const laboratory::Taken& taken : outcome.test->takes) {
+            const laboratory::Description* source = SourceOf(taken, saved_, *outcome.test, outcome.material);
             if (!source) continue;  // the file does not say where it came from
             const auto from = std::ranges::find_if(outcomes_, [&](const TestOutcome& other) {
                 return other.test == source && other.material == outcome.material;
@@ -42,7 +42,7 @@ class Comparison {
         return stale;
     }
 
-    void AddTaken(std::vector<StaleResult>& stale, const TestOutcome& outcome, const TakenResult& taken,
+    void AddTaken(std::vector<StaleResult>& stale, const TestOutcome& outcome, const laboratory::Taken& taken,
                   const TestOutcome& source) const
     {
         const std::string follows =
@@ -50,9 +50,9 @@ class Comparison {
                 ? std::string()
                 : now_.Trimmed(TableName(*source.test, source.material), ColumnName(*source.test, taken.source), 1);
         if (follows.empty() && !source.hasReadings && taken.mayBeTyped) return;
-        const std::string whose = std::string(source.test->name) + "'s " + std::string(taken.what);
-        const std::string why = follows.empty() ? std::string(source.test->name) + " gives no " +
-                                                      std::string(taken.what) + " now" + Reason(source)
+        const std::string whose = std::string(source.test->names.sentence) + "'s " + std::string(taken.name);
+        const std::string why = follows.empty() ? std::string(source.test->names.sentence) + " gives no " +
+                                                      std::string(taken.name) + " now" + Reason(source)
                                                 : whose + " is " + follows + " now";
         AddRows(stale, outcome, ColumnName(*outcome.test, taken.column), follows, why);
     }
@@ -62,9 +62,9 @@ class Comparison {
     {
         if (!outcome.hasReadings) return;  // a result without readings may have been typed
         const std::string table = TableName(*outcome.test, outcome.material);
-        for (const std::string_view suffix : outcome.test->keeps) {
+        for (const std::string_view suffix : ResultColumns(*outcome.test)) {
             const bool isTaken =
-                std::ranges::find(outcome.test->takes, suffix, &TakenResult::column) != outcome.test->takes.end();
+                std::ranges::find(outcome.test->takes, suffix, &laboratory::Taken::column) != outcome.test->takes.end();
             if (isTaken) continue;
             const std::string column = ColumnName(*outcome.test, suffix);
             const std::string follows = outcome.gives ? now_.Trimmed(table, column, 1) : std::string();
@@ -74,14 +74,15 @@ class Comparison {
 
     void AddPosted(const TestOutcome& outcome)
     {
-        const int row = RowOf(outcome.material).summaryRow;
-        for (const std::string_view column : outcome.test->posts) {
+        const int row = laboratory::Describe(outcome.material).summaryRow;
+        for (const laboratory::Posted& posted : outcome.test->posts) {
+            const std::string column = SummaryTable().ColumnName(posted.column);
             const std::string stands = saved_.Trimmed(kSummaryTable, column, row);
             const std::string follows = outcome.gives ? now_.Trimmed(kSummaryTable, column, row) : std::string();
             if (stands.empty() || (outcome.gives && SaysTheSame(stands, follows))) continue;
             found_.push_back({outcome.material,
                               std::string(kSummaryTable),
-                              std::string(column),
+                              column,
                               {row},
                               stands,
                               follows,
@@ -116,7 +117,7 @@ class Comparison {
 
     static std::string WhyNot(const TestOutcome& outcome, const std::string& follows)
     {
-        const std::string name(outcome.test->name);
+        const std::string name(outcome.test->names.sentence);
         if (!outcome.gives || follows.empty()) return name + " gives no such result now" + Reason(outcome);
         const bool isItsOwn = outcome.test->needs.empty() || IsCompaction(outcome.test->test);  // a Gs moves no peak
         if (isItsOwn) return "the readings of " + name + " give " + follows + " now";
@@ -153,8 +154,8 @@ std::vector<StaleResult> FindStale(const ProjectTexts& saved, const ProjectTexts
 
 std::string Sentence(const StaleResult& stale)
 {
-    return std::string(RowOf(stale.material).title) + ": " + stale.table + " " + stale.column + " " + stale.stands +
-           Where(stale) + ": " + stale.why;
+    return std::string(laboratory::Describe(stale.material).title) + ": " + stale.table + " " + stale.column + " " +
+           stale.stands + Where(stale) + ": " + stale.why;
 }
 
 }  // namespace terravane

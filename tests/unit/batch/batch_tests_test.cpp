@@ -19,9 +19,12 @@ bool HasColumn(const TableSchema& table, std::string_view suffix)
 TEST(BatchTests, AllSevenStandInTheOrderInWhichTheyMustBeWorked)
 {
     std::set<std::string_view> worked;
-    for (const BatchTest& test : BatchTests()) {
-        for (const auto needed : test.needs) EXPECT_TRUE(worked.contains(needed)) << test.key << " before " << needed;
-        worked.insert(test.key);
+    for (const laboratory::Description* test : laboratory::TestsInWorkOrder()) {
+        for (const Test needed : test->needs) {
+            const std::string_view key = laboratory::Describe(needed).key;
+            EXPECT_TRUE(worked.contains(key)) << test->key << " before " << key;
+        }
+        worked.insert(test->key);
     }
     EXPECT_EQ(worked, (std::set<std::string_view>{"att", "sie", "spc", "std", "mod", "den", "cbr"}));
 }
@@ -29,50 +32,77 @@ TEST(BatchTests, AllSevenStandInTheOrderInWhichTheyMustBeWorked)
 TEST(BatchTests, EveryColumnOfSummaryButTheKeyIsPostedByOneTest)
 {
     std::map<std::string, int> posted;
-    for (const BatchTest& test : BatchTests())
-        for (const auto column : test.posts) ++posted[std::string(column)];
     const TableSchema& summary = SummaryTable();
+    for (const laboratory::Description* test : laboratory::TestsInWorkOrder())
+        for (const laboratory::Posted& result : test->posts) ++posted[summary.ColumnName(result.column)];
     for (const ColumnSchema& column : summary.columns.subspan(1))
         EXPECT_EQ(posted[summary.ColumnName(column.suffix)], 1) << column.suffix;
     EXPECT_EQ(posted.size(), summary.columns.size() - 1);
 }
 
-TEST(BatchTests, EveryColumnNamedStandsInTheTestsTable)
+TEST(BatchTests, WhatATestTakesStandsInItsTableAndInTheOtherOne)
 {
-    for (const BatchTest& test : BatchTests()) {
-        const TableSchema& table = TableOf(test.test, Material::Soil);
-        for (const auto suffix : test.readings) EXPECT_TRUE(HasColumn(table, suffix)) << test.key << ' ' << suffix;
-        for (const auto suffix : test.keeps) EXPECT_TRUE(HasColumn(table, suffix)) << test.key << ' ' << suffix;
-        for (const TakenResult& taken : test.takes) EXPECT_TRUE(HasColumn(table, taken.column)) << test.key;
+    for (const laboratory::Description* test : laboratory::TestsInWorkOrder()) {
+        for (const laboratory::Taken& taken : test->takes) {
+            EXPECT_TRUE(HasColumn(TableOf(test->test, Material::Soil), taken.column)) << test->key;
+            const Test source = taken.from == Test::None ? Test::StdSoil : taken.from;
+            EXPECT_TRUE(HasColumn(TableOf(source, Material::Soil), taken.source)) << test->key;
+        }
+    }
+}
+
+/// The columns of every test that tell readings, and those of results, written down once more: a flag forgotten in a
+/// description would make a test without readings of one that has some.
+TEST(BatchTests, KnowsReadingsAndResultsByTheirColumns)
+{
+    struct Expected {
+        std::string_view key, readings, results;
+    };
+    constexpr Expected kExpected[]{
+        {"att", "blows wscan1 wscan2", "LL PL PI FI"}, {"sie", "mos mss", "LL PL"},
+        {"spc", "temp1 fwater temp2 swsoil", "gs"},    {"std", "wcanw wcand wsm wm", "omc mdd gs"},
+        {"mod", "wcanw wcand wsm wm", "omc mdd gs"},   {"den", "imsjc mmsp imsj mwsc", "mdd"},
+        {"cbr", "wcanw wms read1 read2 read3", ""},
+    };
+    const auto named = [](const laboratory::Description& test, bool laboratory::KeptColumn::*flag) {
+        std::string names;
+        for (const laboratory::KeptColumn& column : laboratory::TableColumns(test.sheet))
+            if (column.*flag) names.append(names.empty() ? "" : " ").append(column.suffix);
+        return names;
+    };
+    for (const auto& [key, readings, results] : kExpected) {
+        const laboratory::Description& test = *laboratory::FindTest(key);
+        EXPECT_EQ(named(test, &laboratory::KeptColumn::isResult), results) << key;
+        EXPECT_EQ(named(test, &laboratory::KeptColumn::isReading), readings) << key;
     }
 }
 
 TEST(HasReadings, NotInANewProjectAndNotForZerosAndHeads)
 {
     support::BatchBench bench;
-    for (const BatchTest& test : BatchTests())
-        EXPECT_FALSE(HasReadings(bench.Texts(), test, Material::Crush)) << test.key;
+    for (const laboratory::Description* test : laboratory::Tests())
+        EXPECT_FALSE(HasReadings(bench.Texts(), *test, Material::Crush)) << test->key;
     bench.Put("ATTCRUSH", "att_blows", 1, "0");
     bench.PutAll("ATTCRUSH", "att_date", "21/11/2026");
-    EXPECT_FALSE(HasReadings(bench.Texts(), *FindBatchTest("att"), Material::Crush));
+    EXPECT_FALSE(HasReadings(bench.Texts(), *laboratory::FindTest("att"), Material::Crush));
 }
 
 TEST(HasReadings, FromTheFirstMassOnInItsOwnMaterialOnly)
 {
     support::BatchBench bench;
     bench.Put("ATTCRUSH", "att_wscan2", 4, "31.2");
-    EXPECT_TRUE(HasReadings(bench.Texts(), *FindBatchTest("att"), Material::Crush));
-    EXPECT_FALSE(HasReadings(bench.Texts(), *FindBatchTest("att"), Material::Soil));
+    EXPECT_TRUE(HasReadings(bench.Texts(), *laboratory::FindTest("att"), Material::Crush));
+    EXPECT_FALSE(HasReadings(bench.Texts(), *laboratory::FindTest("att"), Material::Soil));
 }
 
 TEST(SourceOf, AnMddComesFromTheCompactionThatTheDensityTestNames)
 {
     support::BatchBench bench;
-    const BatchTest& density = *FindBatchTest("den");
+    const laboratory::Description& density = *laboratory::FindTest("den");
     const auto source = [&] { return SourceOf(density.takes[0], bench.Texts(), density, Material::Soil); };
     EXPECT_EQ(source(), nullptr);
     bench.PutAll("DENSOIL", "den_comp", "Mod");
-    EXPECT_EQ(source(), FindBatchTest("mod"));
+    EXPECT_EQ(source(), laboratory::FindTest("mod"));
 }
 
 }  // namespace

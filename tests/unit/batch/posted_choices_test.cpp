@@ -7,15 +7,15 @@ namespace {
 
 std::vector<Choices> Tried(std::string_view test, const BatchOptions& options)
 {
-    return PossibleChoices(*FindBatchTest(test), options);
+    return PossibleChoices(*laboratory::FindTest(test), options);
 }
 
 TEST(PossibleChoices, BeginWithTheSheetsOwn)
 {
     BatchOptions options;
     options.checks = true;
-    for (const BatchTest& test : BatchTests()) {
-        const Choices first = PossibleChoices(test, options).front();
+    for (const laboratory::Description* test : laboratory::Tests()) {
+        const Choices first = PossibleChoices(*test, options).front();
         EXPECT_EQ(first.curve, "optInt");
         EXPECT_FALSE(first.isSmooth);
         EXPECT_EQ(first.calibration, "optAut");

@@ -146,10 +146,11 @@ TEST(ProjectWork, WhatATestNeedsIsWorkedThroughAllItsSources)
     BatchOptions options;
     options.tests = {"den"};
     for (const char* needed : {"den", "std", "mod", "spc"})
-        EXPECT_TRUE(IsNeeded(options, *FindBatchTest(needed))) << needed;
-    for (const char* other : {"att", "sie", "cbr"}) EXPECT_FALSE(IsNeeded(options, *FindBatchTest(other))) << other;
+        EXPECT_TRUE(IsNeeded(options, *laboratory::FindTest(needed))) << needed;
+    for (const char* other : {"att", "sie", "cbr"})
+        EXPECT_FALSE(IsNeeded(options, *laboratory::FindTest(other))) << other;
     options.isAsSaved = true;
-    EXPECT_FALSE(IsNeeded(options, *FindBatchTest("std"))) << "nothing is worked out anew";
+    EXPECT_FALSE(IsNeeded(options, *laboratory::FindTest("std"))) << "nothing is worked out anew";
 }
 
 TEST(ProjectWork, ADamagedProjectFailsWithItsReason)
