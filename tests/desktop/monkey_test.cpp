@@ -62,15 +62,15 @@ std::vector<Stop> AllStops()
         for (const auto& material : support::kMaterialsUnderTest) {
             const auto open = [&sheet, &material](MonkeyDesk& desk) {
                 auto& frame = desk.program.Get<mdiBack>(kFrameName);
-                frame.tbrLab.PressItem(std::string(sheet.menu) + material.menuDigit);
+                frame.tbrLab.PressItem(std::string(sheet.Described().menu) + material.menuDigit);
             };
             const auto preview = [&sheet, open](MonkeyDesk& desk) {
                 open(desk);
                 for (const auto& command : sheet.commands)
-                    desk.Press(std::string(sheet.form), std::string(command.button));
-                desk.Press(std::string(sheet.form), "cmdView");
+                    desk.Press(std::string(sheet.Described().sheet.form), std::string(command.button));
+                desk.Press(std::string(sheet.Described().sheet.form), "cmdView");
             };
-            stops.push_back({std::string(sheet.form), open});
+            stops.push_back({std::string(sheet.Described().sheet.form), open});
             stops.push_back({"frmPreview", preview});
         }
     }

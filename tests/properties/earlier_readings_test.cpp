@@ -37,7 +37,7 @@ Texts Seen(const SheetBench& bench)
 {
     Texts texts = bench.Everything();
     std::erase_if(texts, [&](const auto& text) {
-        return text.first.starts_with("SUMMARY(") || IsKept(bench.Table().form, text.first);
+        return text.first.starts_with("SUMMARY(") || IsKept(bench.Table().Described().sheet.form, text.first);
     });
     return texts;
 }

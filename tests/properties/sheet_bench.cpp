@@ -7,6 +7,7 @@
 #include "app/form_makers.h"
 #include "app/mdiBack.h"
 #include "jet/database.h"
+#include "laboratory/general_data.h"
 #include "sheets/sieve/sieve_table.h"
 #include "store/new_stores.h"
 #include "store/schema.h"
@@ -48,6 +49,33 @@ const MemoryFileSystem& Disk()
         return files;
     }();
     return made;
+}
+
+/// All boxes of a sheet, those of the job first.
+std::vector<laboratory::Box> BoxesOf(const laboratory::Sheet& sheet)
+{
+    std::vector<laboratory::Box> boxes(laboratory::kJobBoxes.begin(), laboratory::kJobBoxes.end());
+    boxes.insert(boxes.end(), laboratory::kGeneralBoxes.begin(), laboratory::kGeneralBoxes.end());
+    boxes.insert(boxes.end(), sheet.boxes.begin(), sheet.boxes.end());
+    boxes.insert(boxes.end(), sheet.results.begin(), sheet.results.end());
+    return boxes;
+}
+
+bool IsKeptAndTyped(const laboratory::Box& box)
+{
+    return !box.is.kept.empty() && box.is.isLoaded && !box.is.isWorkedOut;
+}
+
+/// Typed, and not read back from the file.
+bool IsOfSession(const laboratory::Box& box)
+{
+    return box.is.like.IsGiven() && !IsKeptAndTyped(box);
+}
+
+/// What a careful hand types for a trial, from 0.
+std::string Typed(const laboratory::Plausible& like, int trial, RandomReadings& hand)
+{
+    return hand.Number(like.low + trial * like.step, like.high + trial * like.step, like.decimals);
 }
 
 /// The last reading of the swelling has no row in the file: it is gone when the sheet is closed.
@@ -167,8 +195,8 @@ void SheetBench::Start()
     program_->Run("Start", [this] { program_->Show(kFrameName); });
     auto& frame = program_->Get<mdiBack>(kFrameName);
     frame.OpenFile(std::string(kProjectPath));
-    frame.tbrLab.PressItem(std::string(Table().menu) + TheMaterial().menuDigit);
-    sheet_ = &program_->Get<TestSheet>(Table().form);
+    frame.tbrLab.PressItem(std::string(Table().Described().menu) + TheMaterial().menuDigit);
+    sheet_ = &program_->Get<TestSheet>(Table().Described().sheet.form);
 }
 
 void SheetBench::Reopen()
@@ -190,7 +218,8 @@ Plan SheetBench::PlanOf(RandomReadings& hand) const
     Plan plan;
     for (const Names& group : Table().choices)
         if (const auto choice = hand.OneOf(group); !choice.empty()) plan.choices.push_back(choice);
-    for (const auto box : Table().session) plan.session.emplace_back(box, BoxText(box, hand));
+    for (const laboratory::Box& box : BoxesOf(Table().Described().sheet))
+        if (IsOfSession(box)) plan.session.emplace_back(box.control, BoxText(box.control, hand));
     if (!Table().fetches.empty() && hand.Chance(60)) plan.fetches.push_back(hand.OneOf(Table().fetches));
     return plan;
 }
@@ -246,8 +275,8 @@ void SheetBench::TypeBox(std::string_view box, const std::string& text)
 
 void SheetBench::ForEachBox(const std::function<void(std::string_view box)>& act) const
 {
-    for (const HeadBox& head : kHeadBoxes) act(head.box);
-    for (const Names& boxes : {Names(kGeneralBoxes), Table().boxes}) std::ranges::for_each(boxes, act);
+    for (const laboratory::Box& box : BoxesOf(Table().Described().sheet))
+        if (IsKeptAndTyped(box) && box.control != "DTPDate") act(box.control);
 }
 
 void SheetBench::ScaleEntries(double factor)
@@ -356,10 +385,10 @@ void SheetBench::DropWhatNoColumnTakes()
 
 std::string SheetBench::BoxText(std::string_view box, RandomReadings& hand) const
 {
-    const int units = Units(box, every_sheet::kBox, 0);
+    const int units = Units(box, 0, 0);
     if (hand.Slips()) return hand.Slip(units);
-    for (const ReadingRange& range : Table().ranges)
-        if (range.control == box) return hand.Number(range.low, range.high, range.decimals);
+    for (const laboratory::Box& of : BoxesOf(Table().Described().sheet))
+        if (of.control == box && of.is.like.IsGiven()) return Typed(of.is.like, 0, hand);
     return hand.Word(units);
 }
 
@@ -367,29 +396,20 @@ std::string SheetBench::CellText(const TextGrid& grid, int row, int column, int 
 {
     const int units = Units(grid.Name(), row, column);
     if (hand.Slips()) return hand.Slip(units);
-    for (const ReadingRange& range : Table().ranges) {
-        if (range.control != grid.Name() || range.line != (range.isColumn ? column : row)) continue;
-        return hand.Number(range.low + trial * range.step, range.high + trial * range.step, range.decimals);
-    }
-    return hand.Word(units);
+    const laboratory::Grid& described = Table().Described().sheet.TheGrid(grid.Name());
+    const laboratory::Plausible& like = described[described.IsAcross() ? row : column].is.like;
+    return like.IsGiven() ? Typed(like, trial, hand) : hand.Word(units);
 }
 
 /// How many UTF-16 units the column of a box or cell takes.
 int SheetBench::Units(std::string_view control, int row, int column) const
 {
-    for (const HeadBox& head : kHeadBoxes) {
-        if (head.box != control) continue;
-        for (const ColumnSchema& of : ProjectTables().front().columns)
-            if (of.suffix == head.column) return of.length;
-    }
-    for (const TablePass& pass : sheet_->TablePasses()) {
-        for (const ColumnPlace& place : pass.places) {
-            const bool isHere = place.kind == ColumnPlace::Kind::Head ||
-                                place.line == (place.kind == ColumnPlace::Kind::GridRow ? row : column);
-            if (place.control != control || !isHere) continue;
-            for (const ColumnSchema& of : TableOf(Table().test, TheMaterial().material).columns)
-                if (of.suffix == place.suffix) return of.length;
-        }
+    using Kind = laboratory::KeptColumn::Kind;
+    for (const laboratory::Box& box : laboratory::kJobBoxes)
+        if (box.control == control) return box.is.length;
+    for (const laboratory::KeptColumn& kept : laboratory::TableColumns(Table().Described().sheet)) {
+        const bool isHere = kept.kind == Kind::Head || kept.line == (kept.kind == Kind::GridRow ? row : column);
+        if (kept.control == control && isHere) return kept.length;
     }
     return kUnitsWithoutColumn;
 }
