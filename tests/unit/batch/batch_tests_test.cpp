@@ -20,7 +20,7 @@ TEST(BatchTests, AllSevenStandInTheOrderInWhichTheyMustBeWorked)
 {
     std::set<std::string_view> worked;
     for (const laboratory::Description* test : laboratory::TestsInWorkOrder()) {
-        for (const Test needed : test->needs) {
+        for (const terravane::Test needed : test->needs) {
             const std::string_view key = laboratory::Describe(needed).key;
             EXPECT_TRUE(worked.contains(key)) << test->key << " before " << key;
         }
@@ -45,7 +45,7 @@ TEST(BatchTests, WhatATestTakesStandsInItsTableAndInTheOtherOne)
     for (const laboratory::Description* test : laboratory::TestsInWorkOrder()) {
         for (const laboratory::Taken& taken : test->takes) {
             EXPECT_TRUE(HasColumn(TableOf(test->test, Material::Soil), taken.column)) << test->key;
-            const Test source = taken.from == Test::None ? Test::StdSoil : taken.from;
+            const terravane::Test source = taken.from == terravane::Test::None ? terravane::Test::StdSoil : taken.from;
             EXPECT_TRUE(HasColumn(TableOf(source, Material::Soil), taken.source)) << test->key;
         }
     }
