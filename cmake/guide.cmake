@@ -17,7 +17,7 @@ file(GLOB guide_texts CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/docs/guide/*.md ${CM
 add_custom_command(
   OUTPUT ${guide_sample}/sample.json
   COMMAND ${CMAKE_SOURCE_DIR}/tools/build-guide --sample ${guide_sample} --build ${CMAKE_BINARY_DIR}
-  DEPENDS ${guide_scripts} ${CMAKE_SOURCE_DIR}/tools/build-guide terravane-script guide_pictures
+  DEPENDS ${guide_scripts} ${CMAKE_SOURCE_DIR}/tools/build-guide terravane-script guide_pictures guide_tables
   COMMENT "Taking the pictures of the user guide"
   VERBATIM)
 add_custom_command(

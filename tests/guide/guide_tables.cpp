@@ -1,0 +1,134 @@
+// The tables of the user guide that say what each sheet holds, as Markdown, from the descriptions of the tests:
+//
+//   === table_att
+//   | | | unit | ...
+//
+// tools/build-guide puts each where a chapter says {{table_att}}.
+#include <algorithm>
+#include <cctype>
+#include <iostream>
+#include <map>
+#include <string>
+#include <string_view>
+
+#include "laboratory/all_tests.h"
+#include "laboratory/general_data.h"
+#include "laboratory/tests.h"
+#include "runtime/text.h"
+
+namespace {
+
+using namespace terravane;
+using namespace terravane::laboratory;
+
+/// A caption of the sheet on one line: blanks and line ends within it as one blank.
+std::string Plain(std::string_view caption)
+{
+    std::string plain;
+    for (const char letter : caption) {
+        const bool isBlank = std::isspace(static_cast<unsigned char>(letter)) != 0;
+        if (!isBlank) plain += letter;
+        if (isBlank && !plain.empty() && plain.back() != ' ') plain += ' ';
+    }
+    return std::string(Trim(plain));
+}
+
+std::string Kept(const Value& value)
+{
+    if (value.kept.empty()) return "";
+    return std::to_string(value.length) + (value.isLoaded ? "" : ", saved only");
+}
+
+std::string Symbol(const Unit& unit)
+{
+    std::string symbol(unit.symbol);
+    for (const auto& [plain, set] : {std::pair{"^2", "²"}, std::pair{"^3", "³"}, std::pair{"celsius", "°C"}}) {
+        if (const auto at = symbol.find(plain); at != std::string::npos)
+            symbol.replace(at, std::string_view(plain).size(), set);
+    }
+    return symbol;
+}
+
+void PrintRow(std::string_view group, std::string_view caption, const Value& value)
+{
+    std::cout << "| " << group << " | " << Plain(caption) << " | " << Symbol(value.unit) << " | "
+              << (value.isWorkedOut ? "worked out" : "typed") << " | " << Kept(value) << " |\n";
+}
+
+void PrintHead(std::string_view name)
+{
+    std::cout << "=== table_" << name << "\n| | | unit | | characters kept |\n|---|---|---|---|---|\n";
+}
+
+/// A box that has no caption of its own is called as the report calls it.
+std::string_view CaptionOf(const Box& box)
+{
+    return box.caption.empty() ? box.is.page : box.caption;
+}
+
+void PrintBoxes(std::string_view group, std::span<const Box> boxes)
+{
+    for (const Box& box : boxes) {
+        PrintRow(group, CaptionOf(box), box.is);
+        group = {};
+    }
+}
+
+void PrintGrid(const Grid& grid)
+{
+    std::string_view group = grid.frame.empty() ? "Results" : grid.frame;
+    for (int line = std::max(grid.heads, 0); line < grid.Lines(); ++line) {
+        PrintRow(group, grid[line].title, grid[line].is);
+        group = {};
+    }
+}
+
+void PrintSheet(const Description& test)
+{
+    PrintHead(test.key);
+    PrintBoxes("Boxes", test.sheet.boxes);
+    for (const Grid& grid : test.sheet.grids) PrintGrid(grid);
+    PrintBoxes("Results", test.sheet.results);
+}
+
+/// Texts that may be longer or must be shorter than a reading, by their length.
+void PrintLengths()
+{
+    std::map<int, std::string> byLength;
+    const auto add = [&](std::string_view caption, const Value& value) {
+        if (value.kept.empty() || value.length == kReadingLength) return;
+        std::string& texts = byLength[-value.length];
+        const std::string text = Plain(caption);
+        if (texts.find(text) == std::string::npos) texts.append(texts.empty() ? "" : "; ").append(text);
+    };
+    for (const auto& boxes : {std::span<const Box>(kJobBoxes), std::span<const Box>(kGeneralBoxes)})
+        for (const Box& box : boxes) add(CaptionOf(box), box.is);
+    for (const Description* test : Tests()) {
+        for (const Box& box : test->sheet.boxes) add(CaptionOf(box), box.is);
+        for (const Grid& grid : test->sheet.grids)
+            for (const Line& line : grid.lines) add(line.title, line.is);
+    }
+    std::cout << "=== table_lengths\n| text | characters |\n|---|---|\n";
+    for (const auto& [length, texts] : byLength) std::cout << "| " << texts << " | " << -length << " |\n";
+    std::cout << "| all other texts and readings | " << kReadingLength << " |\n";
+}
+
+void PrintKeys()
+{
+    std::cout << "=== test_keys\n";
+    for (const Description* test : Tests()) std::cout << (test == Tests().front() ? "" : ",") << test->key;
+    std::cout << "\n";
+}
+
+}  // namespace
+
+int main()
+{
+    PrintHead("general");
+    PrintBoxes("Job", kJobBoxes);
+    PrintBoxes("Test", kGeneralBoxes);
+    for (const Description* test : Tests()) PrintSheet(*test);
+    PrintLengths();
+    PrintKeys();
+    return 0;
+}
