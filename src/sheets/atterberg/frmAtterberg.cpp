@@ -8,9 +8,6 @@ namespace terravane {
 
 namespace {
 
-constexpr double kTitleWidth = 2500;  // twips, of the grids' titles
-constexpr CellRange kLiquidReadings{ll::Blows, ll::Can, 1, kLimitTrials};
-constexpr CellRange kPlasticReadings{pl::WetAndCan, pl::Can, 1, kLimitTrials};
 constexpr double kEquationSize = 12;  // points
 
 void DrawEquation(PictureBox& picture, std::string_view text)
@@ -24,9 +21,9 @@ void DrawEquation(PictureBox& picture, std::string_view text)
 }  // namespace
 
 frmAtterberg::frmAtterberg(Program& owner)
-    : TestSheet(owner, "frmAtterberg", "Atterberg Limits Test", {"Data Monitor Determination", "Flow Curve"}),
-      txtData(*this, "txtData", MSHLL, [] { return kLiquidReadings; }),
-      txtData1(*this, "txtData1", MSHPL, [] { return kPlasticReadings; })
+    : TestSheet(owner, laboratory::kAtterbergSheet),
+      txtData(*this, "txtData", MSHLL, TypedCellsOf(laboratory::kLiquidLimit)),
+      txtData1(*this, "txtData1", MSHPL, TypedCellsOf(laboratory::kPlasticLimit))
 {
     ChainFocus(kHeadBlockWay);
 }
@@ -42,17 +39,8 @@ void frmAtterberg::Form_Load()
 
 void frmAtterberg::BuildGrids()
 {
-    MSHLL.SetRowTitles({"Test No. ", "Number of Blows ", "Mass of can + wet soil, (g) ", "Mass of can + dry soil, (g) ",
-                        "Mass of can, (g) ", "Mass of water, (g) ", "Mass of dry soil, (g) ", "Water content, (%)"});
-    MSHPL.SetRowTitles({"Test No. ", "Mass of can + wet soil, (g) ", "Mass of can + dry soil, (g) ",
-                        "Mass of can, (g) ", "Mass of water, (g) ", "Mass of dry soil, (g) ", "Water content, (%)",
-                        "Plastic Limit, (%)", "Average Plastic Limit, (%)"});
-    for (TextGrid* grid : {&MSHLL, &MSHPL}) {
-        grid->SetColumnTitles({"Test No. ", "1 ", "2 ", "3 ", "4 ", "5 "});
-        grid->SetColumnWidth(0, kTitleWidth);
-    }
-    MarkCalculatedFrom(MSHLL, ll::Water);
-    MarkCalculatedFrom(MSHPL, pl::Water);
+    BuildGrid(MSHLL, laboratory::kLiquidLimit);
+    BuildGrid(MSHPL, laboratory::kPlasticLimit);
 }
 
 void frmAtterberg::DrawEquations()

@@ -12,16 +12,18 @@ namespace {
 
 using namespace cbr;
 
-constexpr double kTitleWidth = 2900;   // twips, of the grids' titles
-constexpr double kResultWidth = 2100;  // of mshLPC's
-constexpr double kFigureWidth = 700;   // twips, of the readings' columns
+constexpr double kFigureWidth = 700;  // twips, of the readings' columns
 constexpr double kDateWidth = 1150;
 constexpr double kDepthWidth = 1000;
 constexpr std::string_view kThisRow = "แถวนี้";
 
-constexpr CellRange kWeighings{water::CanNumber, water::Can, 1, kColumns};
-constexpr CellRange kMeasures{density::Blows, density::JustMould, 1, kColumns};
-constexpr CellRange kDials{swell::First, swell::Last, swell::Time, swell::Dial(kMoulds)};
+/// The typed cells behind the dates, which the picker takes.
+CellRange BehindDates()
+{
+    CellRange range = TypedCells(laboratory::kSwelling);
+    range.firstColumn = swell::Time;
+    return range;
+}
 
 /// The way that Enter takes.
 constexpr std::array<std::string_view, 9> kWay{"txtClient", "txtID",   "txtProject", "txtLocation", "txtK",
@@ -46,8 +48,6 @@ void SetReadingWidths(TextGrid& grid, double first)
 
 void BuildSwellHeads(TextGrid& grid)
 {
-    grid.SetHeadRows(swell::First);
-    grid.SetTitleColumns(0);
     grid(swell::Heads, swell::Date) = "Date";
     grid(swell::Heads, swell::Time) = "Time";
     grid(swell::Heads, swell::Elapsed) = "Elapsed";
@@ -58,10 +58,6 @@ void BuildSwellHeads(TextGrid& grid)
         grid(swell::Heads, dial) = "Swelling ";
         grid(swell::Units, dial) = "mm";
         grid(swell::Units, dial + 1) = "%";
-    }
-    for (int row = swell::First; row <= swell::Last; ++row) {
-        grid.MarkCalculated(row, swell::Elapsed);
-        for (int mould = 1; mould <= kMoulds; ++mould) grid.MarkCalculated(row, swell::Dial(mould) + 1);
     }
 }
 
@@ -103,12 +99,10 @@ Moment DateOfCell(std::string_view text, Moment today)
 }  // namespace
 
 frmCBR::frmCBR(Program& owner)
-    : TestSheet(owner, "frmCBR", "California Bearing Ratio Test",
-                {"Water Content and Density", "Swelling and Penetration", "Load-Penetration Curve",
-                 "CBR Value Determination"}),
-      txtData(*this, "txtData", MSHWater, [] { return kWeighings; }),
-      txtData1(*this, "txtData1", MSHCompaction, [] { return kMeasures; }),
-      txtData2(*this, "txtData2", MSHSwell, [] { return kDials; }),
+    : TestSheet(owner, laboratory::kBearingSheet),
+      txtData(*this, "txtData", MSHWater, TypedCellsOf(laboratory::kBearingWater)),
+      txtData1(*this, "txtData1", MSHCompaction, TypedCellsOf(laboratory::kBearingDensity)),
+      txtData2(*this, "txtData2", MSHSwell, BehindDates),
       txtData3(
           *this, "txtData3", MSHPenetrate1,
           [this] {
@@ -132,26 +126,19 @@ void frmCBR::Form_Load()
 
 void frmCBR::BuildGrids()
 {
-    MSHWater.SetRowTitles({"Condition", "Can No.", "Mass of Can + Wet Soil, (g)", "Mass of Can + Dry Soil, (g)",
-                           "Mass of Can, (g)", "Moistue Content, (%)"});
-    MSHCompaction.SetRowTitles({"Condition", "Mold No.", "Number of Blows per Layer/Layers", "Diameter of Sample, (cm)",
-                                "Height of Sample, (cm)", "Mass of Mold + Compacted Soil, (g)", "Mass of Mold, (g)",
-                                "Wet Density, (g/cm^3)", "Dry Density, (g/cm^3)"});
-    MSHCompaction.SetHeadRows(density::Blows);
-    for (TextGrid* grid : {&MSHWater, &MSHCompaction}) grid->SetColumnWidth(0, kTitleWidth);
+    BuildGrid(MSHWater, laboratory::kBearingWater);
+    BuildGrid(MSHCompaction, laboratory::kBearingDensity);
     for (int column = 1; column <= kColumns; ++column)
         MSHCompaction(density::Mould, column) = std::to_string((column - 1) % kMoulds + 1);
-    MarkCalculatedFrom(MSHWater, water::WaterContent);
-    MarkCalculatedFrom(MSHCompaction, density::WetDensity);
+    SetHeads(MSHSwell, laboratory::kSwelling);
+    MarkWorkedOut(MSHSwell, laboratory::kSwelling);
     BuildSwellHeads(MSHSwell);
     BuildPenetrationHeads(MSHPenetrate);
     SetReadingWidths(MSHSwell, kDateWidth);
     for (TextGrid* grid : {&MSHPenetrate, &MSHPenetrate1}) SetReadingWidths(*grid, kDepthWidth);
-    MSHPenetrate1.SetHeadRows(0);
-    MSHPenetrate1.SetTitleColumns(0);
+    SetHeads(MSHPenetrate1, laboratory::kPenetrations);
     ShapePenetrations(1);
-    mshLPC.SetColumnWidth(0, kResultWidth);
-    mshLPC.SetRowTitles({"Mold No. ", "Dry Density (g/cm^3)  ", "CBR at 0.1 in. (%) ", "CBR at 0.2 in. (%)"});
+    SetTitles(mshLPC, laboratory::kBearingRatios);
     WriteConditions("Before Soaking", "After Soaking", {"1 ", "2 ", "3 "});
 }
 
@@ -275,12 +262,7 @@ void frmCBR::ShapePenetrations(int rows)
 {
     MSHPenetrate1.SetRows(rows);
     spareRow_ = 0;
-    for (int row = 0; row < rows; ++row) {
-        for (int mould = 1; mould <= kMoulds; ++mould) {
-            MSHPenetrate1.MarkCalculated(row, penetration::Load(mould));
-            MSHPenetrate1.MarkCalculated(row, penetration::Stress(mould));
-        }
-    }
+    MarkWorkedOut(MSHPenetrate1, laboratory::kPenetrations);
 }
 
 /// A penetration typed into the last row makes room for the next one.

@@ -13,22 +13,13 @@ namespace {
 
 using namespace compaction;
 
-constexpr double kTitleWidth = 2500;  // twips, of the grids' titles
-constexpr double kPointWidth = 680;   // of MSHData's first column
-constexpr CellRange kWeighings{water::CanNumber, water::Can, 1, kTrials};
-constexpr CellRange kMoulds{density::AssumedWater, density::Mould, 1, kTrials};
+constexpr double kPointWidth = 680;  // twips, of MSHData's first column
 constexpr std::string_view kDitto = "/";
 
 /// The ways that Enter takes.
 constexpr std::array<std::string_view, 9> kWay{"txtClient", "txtID",   "txtProject", "txtLocation", "txtDia",
                                                "txtHeight", "txtSoil", "cboTest",    "cboCheck"};
 constexpr std::array<std::string_view, 4> kHammerWay{"cboWt", "cboBlow", "cboLayer", "txtProject"};
-
-/// Masses are shown to 0.01 g as soon as they are typed; can numbers are names.
-std::string CommitWeighing(int row, int, const std::string& text)
-{
-    return row == water::CanNumber ? text : Format(text, kTwoDecimals);
-}
 
 /// The same mould serves trial after trial: a ditto mark takes the mass from the trial before.
 CommitRule CommitMould(TextGrid& grid)
@@ -42,12 +33,10 @@ CommitRule CommitMould(TextGrid& grid)
 }  // namespace
 
 frmCompaction::frmCompaction(Program& owner)
-    : TestSheet(owner, "frmCompaction", "Compaction Test",
-                {"Data Monitor Determination", "Compaction Parameters Determination"}),
-      txtData(
-          *this, "txtData", MSHWt, [] { return kWeighings; }, CommitWeighing),
-      txtData1(
-          *this, "txtData1", MSHDensity, [] { return kMoulds; }, CommitMould(MSHDensity))
+    : TestSheet(owner, laboratory::kCompactionSheet),
+      txtData(*this, "txtData", MSHWt, TypedCellsOf(laboratory::kCompactionWater),
+              CommitThroughMasks(laboratory::kCompactionWater)),
+      txtData1(*this, "txtData1", MSHDensity, TypedCellsOf(laboratory::kCompactionDensity), CommitMould(MSHDensity))
 {
     MSH2.SetVisible(false);
     MSH3.SetVisible(false);
@@ -64,18 +53,8 @@ void frmCompaction::Form_Load()
 
 void frmCompaction::BuildGrids()
 {
-    MSHWt.SetRowTitles({"Sample No. ", "Moisture Can No. ", "Mass of Can + Wet Soil, (g) ",
-                        "Mass of Can + Dry Soil, (g) ", "Mass of Can, (g) ", "Mass of Water, (g) ",
-                        "Mass of Dry Soil, (g) ", "Water Content, (%)"});
-    MSHWt.SetColumnTitles({"Sample No. ", "1 ", "2 ", "3 ", "4 ", "5 ", "6 "});
-    MSHDensity.SetHeadRows(0);
-    MSHDensity.SetRowTitles({"Assumed Water Content, (%)", "Mass of Wet Soil + Mold, (g)", "Mass of Mold, (g)",
-                             "Water Content, (%)", "Mass of Wet Soil in Mold, (g) ", "Wet Density, (g/cm^3)",
-                             "Dry  Density, (g/cm^3)"});
-    MSHWt.SetColumnWidth(0, kTitleWidth);
-    MSHDensity.SetColumnWidth(0, kTitleWidth);
-    MarkCalculatedFrom(MSHWt, water::Water);
-    MarkCalculatedFrom(MSHDensity, density::WaterContent);
+    BuildGrid(MSHWt, laboratory::kCompactionWater);
+    BuildGrid(MSHDensity, laboratory::kCompactionDensity);
     MSHData.SetTitleColumns(0);
     MSHData.SetColumnTitles({"wc\n  \n(%)", "Dry Density\n  \n(g/cm^3)"});
     MSHData.SetColumnWidth(0, kPointWidth);

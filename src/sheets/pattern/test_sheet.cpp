@@ -8,10 +8,11 @@
 
 namespace terravane {
 
-TestSheet::TestSheet(Program& owner, std::string name, std::string caption, std::vector<std::string> tabs)
-    : Form(owner, std::move(name), std::move(caption), WindowKind::Sheet),
+TestSheet::TestSheet(Program& owner, const laboratory::Sheet& sheet)
+    : Form(owner, std::string(sheet.form), std::string(sheet.caption), WindowKind::Sheet),
       program(owner),
-      SSTData(*this, "SSTData", std::move(tabs),
+      described(sheet),
+      SSTData(*this, "SSTData", {sheet.tabs.begin(), sheet.tabs.end()},
               {.TabChanged = [this](int previousTab) { SSTData_Click(previousTab); }})
 {
     RestoreCommandColours();

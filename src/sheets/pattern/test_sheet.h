@@ -16,6 +16,7 @@
 #include "controls/furniture.h"
 #include "controls/picture_box.h"
 #include "controls/text_controls.h"
+#include "laboratory/description.h"
 #include "program/program.h"
 #include "store/schema.h"
 
@@ -83,9 +84,11 @@ inline constexpr std::array<std::string_view, 7> kHeadBlockWay{"txtClient", "txt
                                                                "txtSoil",   "cboTest", "cboCheck"};
 
 struct TestSheet : Form {
-    TestSheet(Program& program, std::string name, std::string caption, std::vector<std::string> tabs);
+    /// described  a constant of the program
+    TestSheet(Program& program, const laboratory::Sheet& described);
 
     Program& program;
+    const laboratory::Sheet& described;
 
     Frame fraGeneral{*this, "fraGeneral", "General Data"};
     TextBox txtClient{*this, "txtClient", "Client Name"};

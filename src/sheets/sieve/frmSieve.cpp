@@ -5,13 +5,13 @@
 #include "laboratory/masks.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
+#include "sheets/pattern/grids.h"
 #include "sheets/sieve/sieve_table.h"
 
 namespace terravane {
 
 namespace {
 
-constexpr CellRange kMasses{1, kMostSieves, sieve::EmptySieve, sieve::SieveAndSoil};
 constexpr std::string_view kIndent = "     ";  // in front of a sieve's name
 
 /// What a control tells under the mouse.
@@ -50,10 +50,9 @@ std::string_view BehindEquals(std::string_view text)
 }
 
 frmSieve::frmSieve(Program& owner)
-    : TestSheet(owner, "frmSieve", "Sieve Analysis",
-                {"Sieve Analysis", "Particle Size Distribution", "Soil Classification"}),
+    : TestSheet(owner, laboratory::kSieveSheet),
       lstSieve(*this, "lstSieve", SieveList()),
-      txtData(*this, "txtData", MSHSieve, [] { return kMasses; })
+      txtData(*this, "txtData", MSHSieve, TypedCellsOf(laboratory::kSieveStack))
 {
     picGraph.Container = &picgraph1;
     picChart.Container = &picChart1;
@@ -81,24 +80,11 @@ void frmSieve::Form_Load()
 {
     for (TextBox* result : {&txtCu, &txtCc, &txtD60, &txtD30, &txtD10}) result->SetText("");
     SSTData.SetTab(0);
-    BuildGrid();
+    BuildGrid(MSHSieve, laboratory::kSieveStack);
     DrawGrainSizeGrid();
     DrawPlasticityChart();
     DrawAxisCaption();
     TestSheet::Form_Load();
-}
-
-void frmSieve::BuildGrid()
-{
-    using namespace sieve;
-    MSHSieve.SetColumnTitles({"Sieve\r\nNumber\r\n   ", "   \r\nOpening\r\n(mm)", "Mass of\r\nSeive\r\n(g)",
-                              "Mass of\r\nSeive + Soil\r\n(g)", "Mass of Soil\r\nRetained\r\n(g)",
-                              "Cumulative\r\nRetained\r\n(g)", "Cumulative\r\nRetained\r\n(%)",
-                              "Percent\r\nPassing\r\n(%)"});
-    for (int row = 1; row <= kMostSieves; ++row) {
-        for (const int column : {Number, Opening, Retained, Cumulative, CumulativePercent, Passing})
-            MSHSieve.MarkCalculated(row, column);
-    }
 }
 
 void frmSieve::optYes_Click()

@@ -143,7 +143,6 @@ struct frmSieve : TestSheet {
     void LoadChoice(std::string_view stored) override;
 
   private:
-    void BuildGrid();
     void SetHints();
     void LockResults();
     void DrawAxisCaption();

@@ -4,18 +4,10 @@
 
 namespace terravane {
 
-namespace {
-
-constexpr double kTitleWidth = 3000;  // twips, of the trials' titles
-constexpr CellRange kCalibration{1, kCalibrationReadings, calibration::FlaskAndWater, calibration::Temperature};
-constexpr CellRange kTrialReadings{gravity::Temperature, gravity::Container, 1, kGravityTrials};
-
-}  // namespace
-
 frmSpecific::frmSpecific(Program& owner)
-    : TestSheet(owner, "frmSpecific", "Specific Gravity Test", {"Flask Calibration", "Specific Gravity Determination"}),
-      txtData(*this, "txtData", MSHCalibration, [] { return kCalibration; }),
-      txtData1(*this, "txtData1", MSHSpecific, [] { return kTrialReadings; })
+    : TestSheet(owner, laboratory::kSpecificGravitySheet),
+      txtData(*this, "txtData", MSHCalibration, TypedCellsOf(laboratory::kCalibration)),
+      txtData1(*this, "txtData1", MSHSpecific, TypedCellsOf(laboratory::kGravityTrialGrid))
 {
     picgraph1.Container = &picGraph;
     ChainFocus(kHeadBlockWay);
@@ -29,16 +21,8 @@ void frmSpecific::Form_Load()
 
 void frmSpecific::BuildGrids()
 {
-    MSHCalibration.SetRowTitles({"No.", "1", "2", "3", "4", "5", "6", "7"});
-    MSHCalibration.SetColumnTitles({"No.", "Flask + Water\n(g)", "Temperature\n(celsius)"});
-    MSHSpecific.SetRowTitles({"Trial No.", "Temperature, (Degree Celsius)", "Mass of Flask + Water, (g)",
-                              "Mass of Flask + Water + Soil, (g)", "Container No.", "Mass of Dry Soil + Container, (g)",
-                              "Mass of Container, (g)", "Dry Soil, (g)", "Correction Factor, K",
-                              "Specific Gravity at 20 Degree Celsius, Gs", "Average Specific Gravity, Gs(avg)"});
-    MSHSpecific.SetColumnTitles({"Trial No.", "1", "2", "3"});
-    MSHSpecific.SetColumnWidth(0, kTitleWidth);
-    MSHSpecific.MarkCalculatedRow(gravity::FlaskAndWater);
-    MarkCalculatedFrom(MSHSpecific, gravity::DrySoil);
+    BuildGrid(MSHCalibration, laboratory::kCalibration);
+    BuildGrid(MSHSpecific, laboratory::kGravityTrialGrid);
 }
 
 void frmSpecific::optFit_Click()
