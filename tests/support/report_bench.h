@@ -11,10 +11,10 @@
 #include "jet/connection.h"
 #include "program/program.h"
 #include "reports/frmPreview.h"
+#include "runtime/memory_file_system.h"
 #include "sheets/compaction/frmCompaction.h"
 #include "store/new_stores.h"
 #include "support/drawn_items.h"
-#include "support/memory_file_system.h"
 #include "support/test_surroundings.h"
 
 namespace terravane::support {

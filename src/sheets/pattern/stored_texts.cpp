@@ -1,6 +1,7 @@
 // How a sheet's texts come from the project file and go back: one walk over the places of the table's columns
 // serves both, so that what is saved is what is loaded.
 #include <algorithm>
+#include <iterator>
 
 #include "laboratory/masks.h"
 #include "runtime/text.h"
@@ -28,7 +29,7 @@ Cell CellOf(TestSheet& sheet, const ColumnPlace& place, int record)
 void LoadHeadings(TestSheet& sheet)
 {
     Program& program = sheet.program;
-    const auto& head = Query(program, program.ProjectConnection, SelectAll("HEAD"));
+    const jet::Recordset head = Query(program, program.ProjectConnection, SelectAll("HEAD"));
     sheet.txtClient.SetText(head.Fields("project_Client"));
     sheet.txtProject.SetText(head.Fields("project_Name"));
     sheet.txtLocation.SetText(head.Fields("project_Location"));
@@ -61,7 +62,6 @@ void LoadRecord(TestSheet& sheet, const TablePass& pass, const jet::Recordset& r
     }
 }
 
-/// From a copy of its text: the click of a choice may query anew, which takes the place of the records.
 void LoadChoices(TestSheet& sheet, jet::Recordset& records)
 {
     records.MoveFirst();
@@ -69,8 +69,7 @@ void LoadChoices(TestSheet& sheet, jet::Recordset& records)
     for (const TablePass& pass : sheet.TablePasses()) {
         const auto choice = std::ranges::find(pass.places, Choice, &ColumnPlace::kind);
         if (choice == pass.places.end()) continue;
-        const std::string stored(Trim(records.Fields(table.ColumnName(choice->suffix))));
-        return sheet.LoadChoice(stored);
+        return sheet.LoadChoice(Trim(records.Fields(table.ColumnName(choice->suffix))));
     }
 }
 
@@ -112,14 +111,27 @@ std::string SavedText(TestSheet& sheet, const ColumnPlace& place, int record)
     return CellOf(sheet, place, record).Text();
 }
 
-void SaveRecord(TestSheet& sheet, const TablePass& pass, int record)
+void SaveRecord(TestSheet& sheet, const std::vector<ColumnPlace>& places, int record)
 {
     const TableSchema& table = TableOf(sheet);
     std::vector<Assignment> assignments;
-    for (const ColumnPlace& place : pass.places) {
+    assignments.reserve(places.size());
+    for (const ColumnPlace& place : places) {
         assignments.push_back({table.ColumnName(place.suffix), SavedText(sheet, place, record)});
     }
     Execute(sheet.program, sheet.program.ProjectConnection, UpdateRow(table, assignments, record));
+}
+
+/// One statement a record, with the places that are wanted.
+template <class Wanted>
+void SavePasses(TestSheet& sheet, Wanted isWanted)
+{
+    for (const TablePass& pass : sheet.TablePasses()) {
+        std::vector<ColumnPlace> places;
+        std::ranges::copy_if(pass.places, std::back_inserter(places), isWanted);
+        const int records = places.empty() ? 0 : RecordsToSave(sheet, pass);
+        for (int record = 1; record <= records; ++record) SaveRecord(sheet, places, record);
+    }
 }
 
 }  // namespace
@@ -129,7 +141,7 @@ void LoadTestSheet(TestSheet& sheet)
     Program& program = sheet.program;
     OpenProjectConnection(program);
     LoadHeadings(sheet);
-    auto& records = Query(program, program.ProjectConnection, SelectAll(TableOf(sheet).name));
+    jet::Recordset records = Query(program, program.ProjectConnection, SelectAll(TableOf(sheet).name));
     for (const TablePass& pass : sheet.TablePasses()) LoadPass(sheet, pass, records);
     LoadChoices(sheet, records);
 }
@@ -146,10 +158,15 @@ void SaveTestSheet(TestSheet& sheet)
     OpenProjectConnection(program);
     Execute(program, program.ProjectConnection,
             UpdateHead(sheet.txtClient.Text(), sheet.txtProject.Text(), sheet.txtLocation.Text(), sheet.txtID.Text()));
-    for (const TablePass& pass : sheet.TablePasses()) {
-        const int records = RecordsToSave(sheet, pass);
-        for (int record = 1; record <= records; ++record) SaveRecord(sheet, pass, record);
-    }
+    SavePasses(sheet, [](const ColumnPlace&) { return true; });
+}
+
+void SaveColumns(TestSheet& sheet, std::span<const std::string_view> suffixes)
+{
+    OpenProjectConnection(sheet.program);
+    SavePasses(sheet, [suffixes](const ColumnPlace& place) {
+        return std::ranges::find(suffixes, place.suffix) != suffixes.end();
+    });
 }
 
 }  // namespace terravane

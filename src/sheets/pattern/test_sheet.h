@@ -65,13 +65,13 @@ struct StoredOption {
     std::string_view option, stored;
 };
 
-/// The texts that a test's table holds in its first row. They stay until the next query.
+/// The texts that a test's table held in its first row when they were asked for.
 struct StoredResults {
     const TableSchema& table;
-    const jet::Recordset& records;
+    jet::Recordset records;
 
     /// Of the column with that suffix.
-    const std::string& operator[](std::string_view suffix) const { return records.Fields(table.ColumnName(suffix)); }
+    std::string operator[](std::string_view suffix) const { return records.Fields(table.ColumnName(suffix)); }
 };
 
 /// The way that Enter takes through the fields outside the grids, for the sheets without fields of their own between.
@@ -147,6 +147,10 @@ void LoadTestSheet(TestSheet& sheet);
 /// Save: the headings, then one statement a row. A statement that fails leaves the earlier ones standing, in
 /// the file too; the sheet keeps what was typed.
 void SaveTestSheet(TestSheet& sheet);
+
+/// What Save writes of these columns alone, the headings and all other columns untouched.
+/// suffixes  of the columns, behind the table's prefix; one that the sheet does not hold is passed over
+void SaveColumns(TestSheet& sheet, std::span<const std::string_view> suffixes);
 
 /// The persons of the brand store whose position is "Tester" go into one list, those with "Checker" into the
 /// other.

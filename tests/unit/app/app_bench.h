@@ -12,9 +12,9 @@
 #include "app/frmProject.h"
 #include "app/mdiBack.h"
 #include "jet/connection.h"
+#include "runtime/memory_file_system.h"
 #include "sheets/pattern/test_sheet.h"
 #include "store/new_stores.h"
-#include "support/memory_file_system.h"
 
 namespace terravane::testing {
 
@@ -69,7 +69,7 @@ struct NotedSheet : TestSheet {
 
 struct AppBench {
     NotingSurroundings surroundings;
-    support::MemoryFileSystem files;
+    MemoryFileSystem files;
     std::vector<std::string> log;  // "+form" loaded, "-form" unloaded, of the noted sheets
     Program program;
 
