@@ -60,7 +60,7 @@ void frmPreferences::Write(std::string statement)
 
 void frmPreferences::LoadNames()
 {
-    const auto& logo = Query(program, program.BrandConnection, SelectAll("LOGO"));
+    const jet::Recordset logo = Query(program, program.BrandConnection, SelectAll("LOGO"));
     txtIsName.SetText(logo.Fields("logo_ins"));
     txtDname.SetText(logo.Fields("logo_dep"));
     txtCov1.SetText(logo.Fields("logo_cov1"));

@@ -28,7 +28,7 @@ void frmPreferences::PreparePersonGrid()
 
 void frmPreferences::LoadPersons()
 {
-    auto& persons = Query(program, program.BrandConnection, SelectAll("PERSON"));
+    jet::Recordset persons = Query(program, program.BrandConnection, SelectAll("PERSON"));
     for (int row = 1; row <= kPersons; ++row, persons.MoveNext()) {
         mshPerson(row, person::kName) = persons.Fields("person_name");
         mshPerson(row, person::kPosition) = persons.Fields("person_position");

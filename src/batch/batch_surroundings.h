@@ -2,10 +2,15 @@
 /// project in hand, the clock stands.
 #pragma once
 
+#include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
+#include "drawing/display_list.h"
 #include "program/surroundings.h"
+#include "runtime/dates.h"
+#include "runtime/runtime_error.h"
 
 namespace terravane {
 

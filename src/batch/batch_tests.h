@@ -10,6 +10,8 @@
 #include "batch/choices.h"
 #include "batch/presser.h"
 #include "batch/project_texts.h"
+#include "laboratory/current_test.h"
+#include "laboratory/description.h"
 #include "laboratory/tests.h"
 
 namespace terravane {

@@ -5,7 +5,7 @@
 
 #include <nlohmann/json.hpp>
 
-#include "batch/answer_json.h"
+#include "batch/entry_json.h"
 
 namespace terravane {
 

@@ -7,32 +7,15 @@
 /// Lines are only added; the last of a project counts, and a line cut short counts for nothing.
 #pragma once
 
-#include <cstddef>
 #include <map>
-#include <optional>
 #include <string>
 #include <vector>
 
+#include "batch/journal_entry.h"
 #include "batch/project_list.h"
 #include "runtime/file_system.h"
 
 namespace terravane {
-
-/// A file made; its path as it is reached from here.
-struct Output {
-    std::string path;
-    std::size_t pages = 0, bytes = 0;
-    std::string sha256;
-    bool operator==(const Output&) const = default;
-};
-
-/// content  of the project file as it stood when its outputs had been made
-/// made     what they were made with: options, brand folder, and the path that their pages name
-/// today    the date that the forms saw
-struct JournalEntry {
-    std::string content, made, today;
-    std::vector<Output> outputs;
-};
 
 /// Where a project's line stands.
 std::string JournalPath(const ProjectFile& project);

@@ -5,6 +5,8 @@
 
 #include "batch/batch_options.h"
 #include "batch/batch_tests.h"
+#include "batch/choices.h"
+#include "laboratory/description.h"
 
 namespace terravane {
 

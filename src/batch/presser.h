@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "batch/batch_surroundings.h"
+#include "controls/control.h"
 #include "sheets/pattern/test_sheet.h"
 
 namespace terravane {

@@ -3,10 +3,15 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "batch/batch_options.h"
+#include "batch/batch_tests.h"
 #include "batch/project_session.h"
+#include "batch/project_texts.h"
+#include "laboratory/current_test.h"
+#include "laboratory/description.h"
 
 namespace terravane {
 

@@ -1,6 +1,5 @@
 #include "batch/project_session.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "app/form_makers.h"
@@ -8,7 +7,6 @@
 #include "controls/choice_controls.h"
 #include "reports/open_sheet.h"
 #include "reports/print_report.h"
-#include "store/statements.h"
 
 namespace terravane {
 
@@ -16,30 +14,19 @@ namespace {
 
 constexpr std::string_view kResultsForm = "frmSummary";
 
-/// What a place of the sheet shows for a record of its table.
-std::string TextAt(const TestSheet& sheet, const ColumnPlace& place, int record)
+/// The brand folder and a copy of the project: nothing that a form writes reaches a real disk.
+MemoryFileSystem PrivateDisk(const Brand& brand, const std::string& path, Bytes content)
 {
-    if (place.kind == ColumnPlace::Kind::Head) return sheet.Get<TextControl>(place.control).Text();
-    const auto& grid = std::as_const(sheet.Get<TextGrid>(place.control));
-    return place.kind == ColumnPlace::Kind::GridRow ? grid(place.line, record)
-                                                    : grid(record + place.rowShift, place.line);
-}
-
-std::vector<ColumnPlace> ResultPlaces(const TablePass& pass, const laboratory::Description& test)
-{
-    std::vector<ColumnPlace> places;
-    const auto keeps = ResultColumns(test);
-    std::ranges::copy_if(pass.places, std::back_inserter(places), [&keeps](const ColumnPlace& place) {
-        return std::ranges::find(keeps, place.suffix) != keeps.end();
-    });
-    return places;
+    MemoryFileSystem disk = brand.disk;
+    disk.Put(path, std::move(content));
+    return disk;
 }
 
 }  // namespace
 
 ProjectSession::ProjectSession(const Brand& brand, const std::string& path, Bytes content, Moment now)
     : path_(path),
-      disk_(brand, path, std::move(content)),
+      disk_(PrivateDisk(brand, path, std::move(content))),
       heard_(path, now),
       program_(heard_, disk_, FolderOf(brand.folder), brand.folder)
 {
@@ -67,25 +54,8 @@ bool ProjectSession::Press(TestSheet& sheet, const laboratory::Description& test
     if (presser.HasStopped()) return false;
     const std::size_t before = heard_.Troubles().size();
     heard_.During("Saving the results");
-    program_.Run("SaveResults", [&] { SaveResults(sheet, test); });
+    program_.Run("SaveResults", [&] { SaveColumns(sheet, ResultColumns(test)); });
     return heard_.Troubles().size() == before;
-}
-
-/// What Save writes, but the results alone: names, dates and readings are not this program's to touch.
-void ProjectSession::SaveResults(TestSheet& sheet, const laboratory::Description& test)
-{
-    const TableSchema& table = TableOf(program_.CurrentTest, program_.CurrentMaterial);
-    OpenProjectConnection(program_);
-    for (const TablePass& pass : sheet.TablePasses()) {
-        const auto places = ResultPlaces(pass, test);
-        for (int record = 1; record <= pass.records && !places.empty(); ++record) {
-            std::vector<Assignment> results;
-            results.reserve(places.size());
-            for (const ColumnPlace& place : places)
-                results.push_back({table.ColumnName(place.suffix), TextAt(sheet, place, record)});
-            Execute(program_, program_.ProjectConnection, UpdateRow(table, results, record));
-        }
-    }
 }
 
 std::vector<DisplayList> ProjectSession::ReportPages()

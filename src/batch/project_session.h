@@ -3,18 +3,27 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "batch/batch_surroundings.h"
 #include "batch/batch_tests.h"
-#include "batch/private_disk.h"
+#include "batch/brand_folder.h"
+#include "batch/choices.h"
+#include "batch/project_texts.h"
+#include "drawing/display_list.h"
+#include "laboratory/current_test.h"
+#include "laboratory/description.h"
 #include "program/program.h"
+#include "runtime/dates.h"
+#include "runtime/file_system.h"
+#include "runtime/memory_file_system.h"
+#include "sheets/pattern/test_sheet.h"
 
 namespace terravane {
 
 class ProjectSession {
   public:
-    /// The brand has to outlive the session.
     ProjectSession(const Brand& brand, const std::string& path, Bytes content, Moment now);
 
     const BatchSurroundings& Heard() const { return heard_; }
@@ -36,10 +45,8 @@ class ProjectSession {
     ProjectTexts Texts(std::string_view only = {}) const { return ProjectTexts(disk_.Content(path_), only); }
 
   private:
-    void SaveResults(TestSheet& sheet, const laboratory::Description& test);
-
     std::string path_;
-    PrivateDisk disk_;
+    MemoryFileSystem disk_;
     BatchSurroundings heard_;
     Program program_;
 };

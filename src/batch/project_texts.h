@@ -1,6 +1,7 @@
 /// A project file's texts as they stand at one moment.
 #pragma once
 
+#include <functional>
 #include <map>
 #include <string>
 #include <string_view>

@@ -2,7 +2,7 @@
 
 #include <initializer_list>
 
-#include "batch/answer_json.h"
+#include "batch/entry_json.h"
 #include "batch/journal.h"
 #include "store/schema.h"
 

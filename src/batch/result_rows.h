@@ -6,6 +6,8 @@
 
 #include "batch/batch_options.h"
 #include "batch/journal.h"
+#include "batch/journal_entry.h"
+#include "batch/pressing.h"
 #include "batch/project_texts.h"
 #include "batch/stale.h"
 

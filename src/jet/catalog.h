@@ -2,10 +2,10 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "jet/image.h"
+#include "jet/page.h"
 #include "jet/system_tables.h"
 
 namespace terravane::jet {

@@ -2,12 +2,14 @@
 /// not at all.
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "jet/database.h"
+#include "jet/page.h"
 #include "jet/recordset.h"
 #include "runtime/file_system.h"
 

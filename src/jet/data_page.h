@@ -2,9 +2,12 @@
 /// business.
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
 #include <vector>
 
 #include "jet/page.h"
+#include "runtime/file_system.h"
 
 namespace terravane::jet {
 

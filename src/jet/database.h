@@ -8,9 +8,12 @@
 #include <vector>
 
 #include "jet/catalog.h"
+#include "jet/header_page.h"
+#include "jet/page.h"
 #include "jet/recordset.h"
 #include "jet/statement.h"
 #include "jet/table_definition.h"
+#include "runtime/file_system.h"
 
 namespace terravane::jet {
 

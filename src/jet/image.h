@@ -1,9 +1,11 @@
 /// All pages of a database in memory. What they mean is the other files' business.
 #pragma once
 
+#include <cstddef>
 #include <map>
 
 #include "jet/page.h"
+#include "runtime/file_system.h"
 
 namespace terravane::jet {
 

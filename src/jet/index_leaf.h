@@ -1,10 +1,13 @@
 /// Leaves of the catalog's indexes. Only whole leaves of new files are built; no other index is kept up.
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
 #include <string_view>
 #include <vector>
 
 #include "jet/page.h"
+#include "runtime/file_system.h"
 
 namespace terravane::jet {
 

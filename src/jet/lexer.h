@@ -1,6 +1,7 @@
 /// The words, texts and signs of a statement.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 

@@ -3,6 +3,8 @@
 #pragma once
 
 #include "jet/image.h"
+#include "jet/page.h"
+#include "runtime/file_system.h"
 
 namespace terravane::jet {
 

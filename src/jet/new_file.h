@@ -2,6 +2,7 @@
 /// known here.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <vector>
 

@@ -25,13 +25,19 @@ RuntimeError ItemNotFound()
 
 }  // namespace
 
-Recordset::Recordset(Rows rows) : rows_(std::move(rows)), isQuery_(true) {}
+Recordset::Recordset(Rows rows) : rows_(std::make_shared<const Rows>(std::move(rows))) {}
 
 Recordset Recordset::Affected(int rows)
 {
     Recordset result;
     result.affected_ = rows;
     return result;
+}
+
+const Rows& Recordset::Held() const
+{
+    static const Rows kNone;
+    return rows_ ? *rows_ : kNone;
 }
 
 void Recordset::MoveNext()
@@ -48,14 +54,14 @@ void Recordset::MoveFirst()
 
 const Value& Recordset::ValueOf(std::string_view name) const
 {
-    const auto column =
-        std::ranges::find_if(rows_.columns, [&](const std::string& other) { return SameName(other, name); });
-    if (column == rows_.columns.end()) throw ItemNotFound();
+    const auto& [columns, rows] = Held();
+    const auto column = std::ranges::find_if(columns, [&](const std::string& other) { return SameName(other, name); });
+    if (column == columns.end()) throw ItemNotFound();
     if (Eof()) throw NoCurrentRecord();
-    return rows_.rows[current_][static_cast<std::size_t>(column - rows_.columns.begin())];
+    return rows[current_][static_cast<std::size_t>(column - columns.begin())];
 }
 
-const std::string& Recordset::Fields(std::string_view name) const
+const std::string& Recordset::Fields(std::string_view name) const&
 {
     static const std::string kNull;
     const Value& value = ValueOf(name);

@@ -2,11 +2,13 @@
 /// business.
 #pragma once
 
+#include <cstdint>
 #include <optional>
-#include <string>
 #include <vector>
 
+#include "jet/page.h"
 #include "jet/table_definition.h"
+#include "runtime/file_system.h"
 
 namespace terravane::jet {
 

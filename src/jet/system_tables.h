@@ -2,9 +2,11 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <span>
 #include <string_view>
 
+#include "jet/page.h"
 #include "jet/table_definition.h"
 
 namespace terravane::jet {

@@ -1,11 +1,14 @@
 /// What a table's definition says: its columns, its indexes, where its maps are. Rows are row.h's business.
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "jet/image.h"
+#include "jet/page.h"
 
 namespace terravane::jet {
 

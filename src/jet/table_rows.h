@@ -1,9 +1,12 @@
 /// The rows of a table over its pages: found in order, changed in place, laid out afresh, added.
 #pragma once
 
+#include <cstddef>
 #include <vector>
 
+#include "jet/page.h"
 #include "jet/table_definition.h"
+#include "runtime/file_system.h"
 
 namespace terravane::jet {
 

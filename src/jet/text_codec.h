@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "jet/page.h"
+#include "runtime/file_system.h"
 
 namespace terravane::jet {
 

@@ -1,9 +1,12 @@
 /// Usage maps: sets of page numbers, each kept as one row of a data page.
 #pragma once
 
+#include <cstddef>
 #include <vector>
 
 #include "jet/image.h"
+#include "jet/page.h"
+#include "runtime/file_system.h"
 
 namespace terravane::jet {
 

@@ -1,8 +1,6 @@
 /// Which test and which material the open sheet is about.
 #pragma once
 
-#include <string_view>
-
 namespace terravane {
 
 /// It names the test only: "Soil" in it does not mean the material, crushed-rock sheets carry the same

@@ -74,9 +74,11 @@ constexpr bool FillTheirPlaces()
 }
 static_assert(FillTheirPlaces());
 
-const SheetColumns& Find(const Sheet& sheet)
+/// A sheet that no test has keeps nothing.
+SheetColumns Find(const Sheet& sheet)
 {
-    return *std::ranges::find(kSheetColumns, &sheet, &SheetColumns::sheet);
+    const auto found = std::ranges::find(kSheetColumns, &sheet, &SheetColumns::sheet);
+    return found == kSheetColumns.end() ? SheetColumns{} : *found;
 }
 
 }  // namespace

@@ -28,7 +28,8 @@ const Description* FindTest(std::string_view key);
 std::span<const Sheet* const> SheetsClosedBeforeFile();
 std::span<const Sheet* const> SheetsClosedBeforeSheet();
 
-/// The columns of a test's tables, the key first, and without it in the order of the statements.
+/// The columns of a test's tables, the key first, and without it in the order of the statements; none of a sheet that
+/// no test has.
 std::span<const KeptColumn> TableColumns(const Sheet& sheet);
 std::span<const KeptColumn> StatementColumns(const Sheet& sheet);
 

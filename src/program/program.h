@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "controls/form.h"
+#include "controls/subscription.h"
 #include "jet/connection.h"
 #include "jet/recordset.h"
 #include "laboratory/current_test.h"
@@ -43,9 +44,9 @@ class Program : public EventBoundary {
     std::string BrandFolder;  // the brand store's folder with a mark at its end; each form computes it anew at load
     jet::Connection ProjectConnection;
     jet::Connection BrandConnection;
-    jet::Recordset CurrentRecordset;
-    std::string CurrentSql;
-    std::string ApproverName;  // found last; stays where a later search finds none
+    jet::Recordset CurrentRecordset;  // of the last query: a trace, who asked has the rows
+    std::string CurrentSql;           // the last statement: a trace too
+    std::string ApproverName;         // found last; stays where a later search finds none
     Printer printer;
 
     const std::string& ApplicationPath() const { return applicationPath_; }

@@ -10,7 +10,7 @@ namespace terravane {
 
 namespace {
 
-const jet::Recordset& OpenBrandTable(Program& program, std::string_view table)
+jet::Recordset OpenBrandTable(Program& program, std::string_view table)
 {
     program.BrandFolder = program.BrandFolderNow();
     OpenBrandConnection(program);
@@ -19,7 +19,7 @@ const jet::Recordset& OpenBrandTable(Program& program, std::string_view table)
 
 }  // namespace
 
-const jet::Recordset& OpenLogoRow(Program& program)
+jet::Recordset OpenLogoRow(Program& program)
 {
     return OpenBrandTable(program, "LOGO");
 }
@@ -33,8 +33,7 @@ std::shared_ptr<const Picture> LoadBrandPicture(Program& program, std::string_vi
 
 void LoadApproverName(Program& program)
 {
-    OpenBrandTable(program, "PERSON");
-    jet::Recordset& persons = program.CurrentRecordset;
+    jet::Recordset persons = OpenBrandTable(program, "PERSON");
     for (int row = 1; row <= kPersons; ++row, persons.MoveNext()) {
         if (Trim(persons.Fields("person_position")) != "Approver") continue;
         program.ApproverName = Trim(persons.Fields("person_name"));

@@ -9,9 +9,9 @@
 
 namespace terravane {
 
-/// Opens the brand store and reads LOGO. The recordset stands at its one row; an empty table fails at the
+/// Opens the brand store and reads LOGO. What comes back stands at its one row; an empty table fails at the
 /// first field that is asked for.
-const jet::Recordset& OpenLogoRow(Program& program);
+jet::Recordset OpenLogoRow(Program& program);
 
 /// Loads a picture of the brand folder; where the preview is open, its holder of that name keeps it. Error 53
 /// names a missing file, 481 one that is no picture.

@@ -58,7 +58,7 @@ void PrintJob(Printer& printer, const TestSheet& sheet)
 void PrintOrganisation(Program& program, Printer& printer)
 {
     PrintBoldLine(printer, "โดย");
-    const jet::Recordset& logo = OpenLogoRow(program);
+    const jet::Recordset logo = OpenLogoRow(program);
     for (const std::string_view column : {"logo_cov1", "logo_cov2", "logo_cov3"})
         PrintLine(printer, Trim(logo.Fields(std::string(column))));
 }

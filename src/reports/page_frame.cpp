@@ -94,7 +94,7 @@ TitleBox DrawTitleBox(DrawingSurface& page)
 /// The names centre on the sheet, the titles on the printable width.
 void PrintNames(Program& program, DrawingSurface& page)
 {
-    const jet::Recordset& logo = OpenLogoRow(program);
+    const jet::Recordset logo = OpenLogoRow(program);
     const auto print = [&](const std::string& column, double lines) {
         page.CurrentY = LineHeight(page) * lines;
         PrintCentred(page, 0, page.Width, Trim(logo.Fields(column)));

@@ -85,7 +85,7 @@ void frmSummary::OpenRecentProject()
 
 void frmSummary::ShowHeadings()
 {
-    const auto& head = Query(program, program.ProjectConnection, SelectAll("HEAD"));
+    const jet::Recordset head = Query(program, program.ProjectConnection, SelectAll("HEAD"));
     txtProject.SetText(head.Fields("project_Name"));
     txtLocation.SetText(head.Fields("project_Location"));
 }
@@ -93,7 +93,7 @@ void frmSummary::ShowHeadings()
 /// SUMMARY has a row a material, soil first.
 void frmSummary::ShowResults()
 {
-    auto& results = Query(program, program.ProjectConnection, SelectAll(kSummaryTable));
+    jet::Recordset results = Query(program, program.ProjectConnection, SelectAll(kSummaryTable));
     for (const auto& [material, column, head] : kMaterialColumns) {
         for (int row = summary::kHeadRows; row < summary::kRows; ++row) {
             const laboratory::Posted& result = *summary::LineOf(row).result;
@@ -109,7 +109,7 @@ void frmSummary::MarkResults()
     for (const Remark& remark : kRemarks) {
         for (const auto& [material, column, head] : kMaterialColumns) {
             const auto table = TableOf(remark.test, material).name;
-            const auto& rows = Query(program, program.ProjectConnection, SelectAll(table));
+            const jet::Recordset rows = Query(program, program.ProjectConnection, SelectAll(table));
             if (Trim(rows.Fields(remark.choice)) == remark.chosen) Mark(mshSum, remark, column);
         }
     }

@@ -2,7 +2,6 @@
 /// any step of it fail.
 #pragma once
 
-#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <span>

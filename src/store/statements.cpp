@@ -46,7 +46,7 @@ void OpenBrandConnection(Program& program)
     program.BrandConnection.Open(program.Files(), BrandStoreToOpen(program.Files(), program.BrandFolder));
 }
 
-jet::Recordset& Query(Program& program, jet::Connection& connection, std::string statement)
+jet::Recordset Query(Program& program, jet::Connection& connection, std::string statement)
 {
     program.CurrentSql = std::move(statement);
     program.CurrentRecordset = connection.Execute(program.CurrentSql);

@@ -2,12 +2,12 @@
 /// apostrophe breaks its statement, and the engine's error says where.
 #pragma once
 
-#include <initializer_list>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "jet/connection.h"
+#include "jet/recordset.h"
 #include "program/program.h"
 #include "store/schema.h"
 
@@ -37,8 +37,8 @@ void OpenProjectConnection(Program& program);
 /// The same for the brand store in BrandFolder; "Logo.mdb" and "logo.mdb" are one file.
 void OpenBrandConnection(Program& program);
 
-/// Executes a query; its rows stand in CurrentRecordset, at the first one.
-jet::Recordset& Query(Program& program, jet::Connection& connection, std::string statement);
+/// Executes a query. Its rows are the caller's, at the first one; another query leaves them as they are.
+jet::Recordset Query(Program& program, jet::Connection& connection, std::string statement);
 
 /// Executes a statement.
 void Execute(Program& program, jet::Connection& connection, std::string statement);

@@ -1,14 +1,18 @@
 // What a power cut leaves on a disk that keeps nothing for sure before it is told to: after each step of a save, every
 // state that the disk may come back with is the old file or the new one.
+#include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <map>
 #include <set>
+#include <span>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
 
-#include "runtime/file_system.h"
+#include "runtime/memory_file_system.h"
 
 namespace terravane {
 namespace {
@@ -18,18 +22,27 @@ const Bytes kOld(1000, 'o'), kNew(3000, 'n'), kGone;
 
 struct PowerCut {};
 
-/// Contents and names apart. A content that was not synced comes back empty, cut in half or whole; of the changes of
-/// names since the folder was synced, any number of the first ones come back.
-class PowerlessDisk : public FileSystem {
+/// What the disk may come back with, told by the steps of a save. Contents and names apart: a content that was not
+/// synced comes back empty, cut in half or whole; of the changes of names since the folder was synced, any number of
+/// the first ones come back.
+class PowerCuts {
   public:
-    /// The power fails behind this many steps of a save.
-    explicit PowerlessDisk(int steps) : stepsLeft_(steps) { durable_[kTarget] = names_[kTarget] = Add(kOld, true); }
+    /// The power of the disk fails behind this many steps.
+    PowerCuts(MemoryFileSystem& disk, int steps) : stepsLeft_(steps)
+    {
+        disk.Put(kTarget, kOld);
+        durable_[kTarget] = names_[kTarget] = Add(kOld, true);
+        disk.atStep = [this](const SaveStep& step) {
+            if (stepsLeft_-- == 0) throw PowerCut();
+            Take(step);
+        };
+    }
 
     /// What may stand in the target after the cut; kGone for no file.
     std::set<Bytes> TargetAfterTheCut() const
     {
         std::set<Bytes> states;
-        Names_ names = durable_;
+        PlacesByName names = durable_;
         AddStates(states, names);
         for (const auto& change : pending_) {
             change(names);
@@ -38,65 +51,56 @@ class PowerlessDisk : public FileSystem {
         return states;
     }
 
-    bool Exists(const std::string& path) const override { return names_.contains(path); }
-    bool IsFolder(const std::string& path) const override { return path == "lab/"; }
-    bool IsWritableFolder(const std::string& path) const override { return IsFolder(path); }
-    std::vector<std::string> Names(const std::string&) const override { return {}; }
-    void MakeFolders(const std::string&) override {}
-    Bytes Read(const std::string& path) const override { return contents_.at(names_.at(path)).bytes; }
-
-  protected:
-    using Names_ = std::map<std::string, std::size_t>;
-
-    void WriteNew(const std::string& path, std::span<const std::uint8_t> content, const std::string&) override
-    {
-        TakeStep();
-        const std::size_t number = Add({content.begin(), content.end()}, false);
-        Change([path, number](Names_& names) { names[path] = number; });
-    }
-    void SyncFile(const std::string& path) override
-    {
-        TakeStep();
-        contents_.at(names_.at(path)).synced = true;
-    }
-    void Rename(const std::string& from, const std::string& to) override
-    {
-        TakeStep();
-        Change([from, to](Names_& names) {
-            names[to] = names.at(from);
-            names.erase(from);
-        });
-    }
-    void SyncFolder(const std::string&) override
-    {
-        TakeStep();
-        durable_ = names_;
-        pending_.clear();
-    }
-    void Remove(const std::string&) noexcept override {}  // the power is gone
-
-    void TakeStep()
-    {
-        if (stepsLeft_-- == 0) throw PowerCut();
-    }
-
   private:
+    using PlacesByName = std::map<std::string, std::size_t, std::less<>>;
     struct Content {
         Bytes bytes;
         bool synced;
     };
+
+    void Take(const SaveStep& step)
+    {
+        switch (step.kind) {
+            case SaveStep::Kind::Write:
+                return Write(std::string(step.path), step.content);
+            case SaveStep::Kind::SyncFile:
+                contents_.at(names_.find(step.path)->second).synced = true;
+                return;
+            case SaveStep::Kind::Rename:
+                return Rename(std::string(step.path), std::string(step.to));
+            case SaveStep::Kind::SyncFolder:
+                return SyncNames();
+        }
+    }
+    void Write(const std::string& path, std::span<const std::uint8_t> content)
+    {
+        const std::size_t place = Add({content.begin(), content.end()}, false);
+        Change([path, place](PlacesByName& names) { names[path] = place; });
+    }
+    void Rename(const std::string& from, const std::string& to)
+    {
+        Change([from, to](PlacesByName& names) {
+            names[to] = names.at(from);
+            names.erase(from);
+        });
+    }
+    void SyncNames()
+    {
+        durable_ = names_;
+        pending_.clear();
+    }
 
     std::size_t Add(Bytes bytes, bool synced)
     {
         contents_.push_back({std::move(bytes), synced});
         return contents_.size() - 1;
     }
-    void Change(std::function<void(Names_&)> change)
+    void Change(std::function<void(PlacesByName&)> change)
     {
         change(names_);
         pending_.push_back(std::move(change));
     }
-    void AddStates(std::set<Bytes>& states, const Names_& names) const
+    void AddStates(std::set<Bytes>& states, const PlacesByName& names) const
     {
         const auto found = names.find(kTarget);
         if (found == names.end()) {
@@ -112,8 +116,8 @@ class PowerlessDisk : public FileSystem {
     }
 
     std::vector<Content> contents_;
-    Names_ names_, durable_;
-    std::vector<std::function<void(Names_&)>> pending_;
+    PlacesByName names_, durable_;
+    std::vector<std::function<void(PlacesByName&)>> pending_;
     int stepsLeft_;
 };
 
@@ -131,9 +135,10 @@ TEST(PowerLoss, LeavesTheOldFileOrTheNewOneAfterEveryStep)
 {
     const std::set<Bytes> either{kOld, kNew};
     for (int steps = 0; steps <= kSteps; ++steps) {
-        PowerlessDisk disk(steps);
+        MemoryFileSystem disk;
+        const PowerCuts cuts(disk, steps);
         SaveUntilTheCut(disk);
-        for (const Bytes& state : disk.TargetAfterTheCut()) {
+        for (const Bytes& state : cuts.TargetAfterTheCut()) {
             EXPECT_TRUE(either.contains(state)) << "a file of " << state.size() << " bytes after step " << steps;
         }
     }
@@ -141,21 +146,23 @@ TEST(PowerLoss, LeavesTheOldFileOrTheNewOneAfterEveryStep)
 
 TEST(PowerLoss, TakesNothingOfASaveThatHasEnded)
 {
-    PowerlessDisk disk(kSteps);
+    MemoryFileSystem disk;
+    const PowerCuts cuts(disk, kSteps);
     disk.ReplaceWhole(kTarget, kNew);
-    EXPECT_EQ(disk.TargetAfterTheCut(), std::set<Bytes>{kNew});
+    EXPECT_EQ(cuts.TargetAfterTheCut(), std::set<Bytes>{kNew});
 }
 
 // The model sees a save that does not sync what it wrote.
 TEST(PowerLoss, WouldTakeAFileThatWasNotSynced)
 {
-    class Careless : public PowerlessDisk {
-        using PowerlessDisk::PowerlessDisk;
-        void SyncFile(const std::string&) override { TakeStep(); }
+    MemoryFileSystem disk;
+    const PowerCuts cuts(disk, kSteps);
+    const auto told = disk.atStep;
+    disk.atStep = [&told](const SaveStep& step) {
+        if (step.kind != SaveStep::Kind::SyncFile) told(step);
     };
-    Careless disk(kSteps);
-    SaveUntilTheCut(disk);
-    EXPECT_TRUE(disk.TargetAfterTheCut().contains(kGone));
+    disk.ReplaceWhole(kTarget, kNew);
+    EXPECT_TRUE(cuts.TargetAfterTheCut().contains(Bytes()));
 }
 
 }  // namespace

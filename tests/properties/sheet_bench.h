@@ -12,9 +12,9 @@
 
 #include "drawing/display_list.h"
 #include "program/program.h"
+#include "runtime/memory_file_system.h"
 #include "sheets/pattern/test_sheet.h"
 #include "support/every_sheet.h"
-#include "support/memory_file_system.h"
 #include "support/random_readings.h"
 #include "support/test_surroundings.h"
 

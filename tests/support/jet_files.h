@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "jet/connection.h"
-#include "support/memory_file_system.h"
+#include "runtime/memory_file_system.h"
 
 namespace terravane::support {
 

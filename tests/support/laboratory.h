@@ -9,9 +9,9 @@
 #include <vector>
 
 #include "program/program.h"
+#include "runtime/memory_file_system.h"
 #include "sheets/compaction/frmCompaction.h"
 #include "store/new_stores.h"
-#include "support/memory_file_system.h"
 #include "support/test_surroundings.h"
 
 namespace terravane::support {

@@ -11,23 +11,23 @@
 #include "jet/connection.h"
 #include "program/program.h"
 #include "reports/frmPreview.h"
+#include "runtime/memory_file_system.h"
 #include "sheets/compaction/frmCompaction.h"
 #include "store/new_stores.h"
+#include "support/bare_description.h"
 #include "support/drawn_items.h"
-#include "support/memory_file_system.h"
 #include "support/test_surroundings.h"
 
 namespace terravane::support {
 
 /// The furniture of a sheet without a method, under the name of any of the six.
 struct BareSheet : TestSheet {
-    BareSheet(Program& owner, std::string name) : TestSheet(owner, std::move(name), "Sheet", {"Data"}) {}
+    BareSheet(Program& owner, const std::string& name) : TestSheet(owner, BareDescription(name)) {}
 
     TextBox txtPosition{*this, "txtPosition", "Position"};
 
     void Form_Load() override {}
     void cmdCal_Click() override {}
-    std::span<const TablePass> TablePasses() const override { return {}; }
 };
 
 inline constexpr std::string_view kBrandFolder = "/home/BrandList/";

@@ -11,9 +11,9 @@
 #include "jet/connection.h"
 #include "program/program.h"
 #include "results/frmSummary.h"
+#include "runtime/memory_file_system.h"
 #include "store/new_stores.h"
 #include "store/schema.h"
-#include "support/memory_file_system.h"
 #include "support/test_surroundings.h"
 
 namespace terravane::support {

@@ -11,12 +11,12 @@
 
 #include "app/form_makers.h"
 #include "app/mdiBack.h"
+#include "runtime/memory_file_system.h"
 #include "script/answers.h"
 #include "script/commands.h"
 #include "script/script_line.h"
 #include "script/script_surroundings.h"
 #include "store/new_stores.h"
-#include "support/memory_file_system.h"
 
 namespace terravane::support {
 

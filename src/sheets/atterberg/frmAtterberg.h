@@ -52,8 +52,6 @@ struct frmAtterberg : TestSheet {
     /// at the slope for fewer than two different numbers of blows, at the plastic limit where no thread was weighed.
     void cmdPlot_Click();
 
-    std::span<const TablePass> TablePasses() const override;
-
   private:
     void BuildGrids();
     void DrawEquations();

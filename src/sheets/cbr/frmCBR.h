@@ -168,8 +168,6 @@ struct frmCBR : TestSheet {
     void FitDensityCurve01();
     void FitDensityCurve02();
 
-    std::span<const TablePass> TablePasses() const override;
-    std::span<const StoredOption> StoredOptions() const override;
     void LoadChoice(std::string_view stored) override;
 
   private:

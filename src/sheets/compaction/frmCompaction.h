@@ -112,9 +112,6 @@ struct frmCompaction : TestSheet {
     void MSHWt_MouseDown(MouseButton button, int row, int column);
     void SSTData_Click(int previousTab) override;
 
-    std::span<const TablePass> TablePasses() const override;
-    bool TrimsLists() const override { return true; }
-
   private:
     void BuildGrids();
 

@@ -59,7 +59,7 @@ void frmDensity::optMod_Click()
 void frmDensity::FetchMaximumDensity(Test test, std::string_view name)
 {
     fraSummary.SetCaption("Summary (Percent Compaction for " + std::string(name) + " Compaction)");
-    const std::string& stored = ResultsOf(test)["mdd"];
+    const std::string stored = ResultsOf(test)["mdd"];
     for (int hole = 1; hole <= kColumns; ++hole)
         if (Val(MSHWater(water::WetAndCan, hole)) != 0) MSHSummary(summary::MaximumDensity, hole) = stored;
 }

@@ -55,9 +55,6 @@ struct frmDensity : TestSheet {
     /// maximum density; the cells before it stand and nothing is posted.
     void cmdCal_Click() override;
 
-    std::span<const TablePass> TablePasses() const override;
-    std::span<const StoredOption> StoredOptions() const override;
-
   private:
     void BuildGrids();
     void FetchMaximumDensity(Test test, std::string_view name);

@@ -1,8 +1,10 @@
-// How a sheet's texts come from the project file and go back: one walk over the places of the table's columns
-// serves both, so that what is saved is what is loaded.
+// How a sheet's texts come from the project file and go back: one walk over the columns of its table serves both, so
+// that what is saved is what is loaded.
 #include <algorithm>
+#include <iterator>
 
 #include "laboratory/masks.h"
+#include "laboratory/tests.h"
 #include "runtime/text.h"
 #include "sheets/pattern/test_sheet.h"
 #include "store/statements.h"
@@ -11,24 +13,42 @@ namespace terravane {
 
 namespace {
 
-using enum ColumnPlace::Kind;
+using laboratory::KeptColumn;
+using enum KeptColumn::Kind;
 
 const TableSchema& TableOf(const TestSheet& sheet)
 {
     return TableOf(sheet.program.CurrentTest, sheet.program.CurrentMaterial);
 }
 
-Cell CellOf(TestSheet& sheet, const ColumnPlace& place, int record)
+/// Columns that are saved by one statement a record and loaded in one walk over the records.
+using Pass = std::span<const KeptColumn>;
+
+std::vector<Pass> PassesOf(const TestSheet& sheet)
 {
-    auto& grid = sheet.Get<TextGrid>(place.control);
-    if (place.kind == GridRow) return grid(place.line, record);
-    return grid(record + place.rowShift, place.line);
+    std::vector<Pass> passes;
+    Pass rest = laboratory::StatementColumns(sheet.described);
+    while (!rest.empty()) {
+        const auto end = std::ranges::find_if(
+            rest, [records = rest.front().records](const KeptColumn& column) { return column.records != records; });
+        passes.push_back(rest.first(static_cast<std::size_t>(end - rest.begin())));
+        rest = rest.subspan(passes.back().size());
+    }
+    return passes;
+}
+
+template <class Sheet>
+auto CellOf(Sheet& sheet, const KeptColumn& column, int record)
+{
+    auto& grid = sheet.template Get<TextGrid>(column.control);
+    const int trial = column.firstRecord + record - 1;
+    return column.kind == GridRow ? grid(column.line, trial) : grid(trial, column.line);
 }
 
 void LoadHeadings(TestSheet& sheet)
 {
     Program& program = sheet.program;
-    const auto& head = Query(program, program.ProjectConnection, SelectAll("HEAD"));
+    const jet::Recordset head = Query(program, program.ProjectConnection, SelectAll("HEAD"));
     sheet.txtClient.SetText(head.Fields("project_Client"));
     sheet.txtProject.SetText(head.Fields("project_Name"));
     sheet.txtLocation.SetText(head.Fields("project_Location"));
@@ -41,86 +61,96 @@ std::string DateOr(const TestSheet& sheet, const std::string& stored)
     return Trim(stored).empty() ? Format(sheet.program.Ask().Now(), kLongDate) : stored;
 }
 
-void LoadHead(TestSheet& sheet, const ColumnPlace& place, const std::string& stored)
+void LoadHead(TestSheet& sheet, const KeptColumn& column, const std::string& stored)
 {
-    auto& control = sheet.Get<TextControl>(place.control);
+    auto& control = sheet.Get<TextControl>(column.control);
     control.SetText(&control == &sheet.DTPDate ? DateOr(sheet, stored) : stored);
 }
 
-void LoadRecord(TestSheet& sheet, const TablePass& pass, const jet::Recordset& records, int record)
+void LoadRecord(TestSheet& sheet, Pass pass, const jet::Recordset& records, int record)
 {
     const TableSchema& table = TableOf(sheet);
-    for (const ColumnPlace& place : pass.places) {
-        const std::string& stored = records.Fields(table.ColumnName(place.suffix));
-        if (!place.loaded || place.kind == Choice) continue;
-        if (place.kind == Head) {
-            if (record == 1) LoadHead(sheet, place, stored);
-        } else if (record >= place.firstLoaded) {
-            CellOf(sheet, place, record) = sheet.TrimsLists() ? Trim(stored) : std::string_view(stored);
+    for (const KeptColumn& column : pass) {
+        const std::string& stored = records.Fields(table.ColumnName(column.suffix));
+        if (!column.isLoaded || column.kind == Choice) continue;
+        if (column.kind == Head) {
+            if (record == 1) LoadHead(sheet, column, stored);
+        } else if (record >= column.firstLoaded) {
+            CellOf(sheet, column, record) = sheet.described.trimsLists ? Trim(stored) : std::string_view(stored);
         }
     }
 }
 
-/// From a copy of its text: the click of a choice may query anew, which takes the place of the records.
-void LoadChoices(TestSheet& sheet, jet::Recordset& records)
+/// What was chosen when the test was saved, once all else is loaded.
+void LoadStoredChoice(TestSheet& sheet, jet::Recordset& records)
 {
+    const laboratory::Choice& choice = sheet.described.choice;
+    if (choice.options.empty()) return;
     records.MoveFirst();
-    const TableSchema& table = TableOf(sheet);
-    for (const TablePass& pass : sheet.TablePasses()) {
-        const auto choice = std::ranges::find(pass.places, Choice, &ColumnPlace::kind);
-        if (choice == pass.places.end()) continue;
-        const std::string stored(Trim(records.Fields(table.ColumnName(choice->suffix))));
-        return sheet.LoadChoice(stored);
-    }
+    sheet.LoadChoice(Trim(records.Fields(TableOf(sheet).ColumnName(choice.is.kept))));
 }
 
 /// Of the option that is chosen; a sheet without a choice stores none.
 std::string SavedChoice(const TestSheet& sheet)
 {
-    const auto options = sheet.StoredOptions();
+    const auto options = sheet.described.choice.options;
     const auto chosen = std::ranges::find_if(
-        options, [&](const StoredOption& of) { return sheet.Get<OptionButton>(of.option).Value(); });
+        options, [&](const laboratory::Option& of) { return sheet.Get<OptionButton>(of.control).Value(); });
     return chosen == options.end() ? std::string() : std::string(chosen->stored);
 }
 
-/// Whether a growing list ends before this record.
-bool IsListEnd(const TestSheet& sheet, const TablePass& pass, const jet::Recordset& records)
+/// A list ends at the first record whose first column is blank.
+bool IsListEnd(const TestSheet& sheet, Pass pass, const jet::Recordset& records)
 {
-    if (pass.list.empty()) return false;
-    return Trim(records.Fields(TableOf(sheet).ColumnName(pass.places.front().suffix))).empty();
+    if (!pass.front().isList) return false;
+    return Trim(records.Fields(TableOf(sheet).ColumnName(pass.front().suffix))).empty();
 }
 
-void LoadPass(TestSheet& sheet, const TablePass& pass, jet::Recordset& records)
+/// A list has a row a record afterwards.
+void LoadPass(TestSheet& sheet, Pass pass, jet::Recordset& records)
 {
     records.MoveFirst();
-    for (int record = 1; record <= pass.records; ++record, records.MoveNext()) {
+    for (int record = 1; record <= pass.front().records; ++record, records.MoveNext()) {
         if (IsListEnd(sheet, pass, records)) return;
-        if (!pass.list.empty()) sheet.Get<TextGrid>(pass.list).SetRows(record);
+        if (pass.front().isList) sheet.Get<TextGrid>(pass.front().control).SetRows(record);
         LoadRecord(sheet, pass, records, record);
     }
 }
 
-int RecordsToSave(const TestSheet& sheet, const TablePass& pass)
+/// Of a list as many as it has rows.
+int RecordsToSave(const TestSheet& sheet, const KeptColumn& column)
 {
-    return pass.list.empty() ? pass.records : sheet.Get<TextGrid>(pass.list).Rows();
+    return column.isList ? sheet.Get<TextGrid>(column.control).Rows() : column.records;
 }
 
-std::string SavedText(const TestSheet& sheet, const ColumnPlace& place, int record)
+std::string SavedText(const TestSheet& sheet, const KeptColumn& column, int record)
 {
-    if (place.kind == Choice) return SavedChoice(sheet);
-    if (place.kind == Head) return sheet.Get<TextControl>(place.control).Text();
-    const auto& grid = sheet.Get<TextGrid>(place.control);
-    return place.kind == GridRow ? grid(place.line, record) : grid(record + place.rowShift, place.line);
+    if (column.kind == Choice) return SavedChoice(sheet);
+    if (column.kind == Head) return sheet.Get<TextControl>(column.control).Text();
+    return CellOf(sheet, column, record);
 }
 
-void SaveRecord(const TestSheet& sheet, const TablePass& pass, int record)
+void SaveRecord(const TestSheet& sheet, Pass columns, int record)
 {
     const TableSchema& table = TableOf(sheet);
     std::vector<Assignment> assignments;
-    for (const ColumnPlace& place : pass.places) {
-        assignments.push_back({table.ColumnName(place.suffix), SavedText(sheet, place, record)});
+    assignments.reserve(columns.size());
+    for (const KeptColumn& column : columns) {
+        assignments.push_back({table.ColumnName(column.suffix), SavedText(sheet, column, record)});
     }
     Execute(sheet.program, sheet.program.ProjectConnection, UpdateRow(table, assignments, record));
+}
+
+/// One statement a record, with the columns that are wanted.
+template <class Wanted>
+void SavePasses(const TestSheet& sheet, Wanted isWanted)
+{
+    for (const Pass pass : PassesOf(sheet)) {
+        std::vector<KeptColumn> columns;
+        std::ranges::copy_if(pass, std::back_inserter(columns), isWanted);
+        const int records = columns.empty() ? 0 : RecordsToSave(sheet, pass.front());
+        for (int record = 1; record <= records; ++record) SaveRecord(sheet, columns, record);
+    }
 }
 
 }  // namespace
@@ -130,15 +160,16 @@ void LoadTestSheet(TestSheet& sheet)
     Program& program = sheet.program;
     OpenProjectConnection(program);
     LoadHeadings(sheet);
-    auto& records = Query(program, program.ProjectConnection, SelectAll(TableOf(sheet).name));
-    for (const TablePass& pass : sheet.TablePasses()) LoadPass(sheet, pass, records);
-    LoadChoices(sheet, records);
+    jet::Recordset records = Query(program, program.ProjectConnection, SelectAll(TableOf(sheet).name));
+    for (const Pass pass : PassesOf(sheet)) LoadPass(sheet, pass, records);
+    LoadStoredChoice(sheet, records);
 }
 
 void TestSheet::LoadChoice(std::string_view stored)
 {
-    const auto option = std::ranges::find(StoredOptions(), stored, &StoredOption::stored);
-    if (option != StoredOptions().end()) Get<OptionButton>(option->option).Choose();
+    const auto options = described.choice.options;
+    const auto option = std::ranges::find(options, stored, &laboratory::Option::stored);
+    if (option != options.end()) Get<OptionButton>(option->control).Choose();
 }
 
 void SaveTestSheet(const TestSheet& sheet)
@@ -147,10 +178,15 @@ void SaveTestSheet(const TestSheet& sheet)
     OpenProjectConnection(program);
     Execute(program, program.ProjectConnection,
             UpdateHead(sheet.txtClient.Text(), sheet.txtProject.Text(), sheet.txtLocation.Text(), sheet.txtID.Text()));
-    for (const TablePass& pass : sheet.TablePasses()) {
-        const int records = RecordsToSave(sheet, pass);
-        for (int record = 1; record <= records; ++record) SaveRecord(sheet, pass, record);
-    }
+    SavePasses(sheet, [](const KeptColumn&) { return true; });
+}
+
+void SaveColumns(const TestSheet& sheet, std::span<const std::string_view> suffixes)
+{
+    OpenProjectConnection(sheet.program);
+    SavePasses(sheet, [suffixes](const KeptColumn& column) {
+        return std::ranges::find(suffixes, column.suffix) != suffixes.end();
+    });
 }
 
 }  // namespace terravane

@@ -86,7 +86,7 @@ void FillNameLists(Program& program, ComboBox& testerBox, ComboBox& checkerBox)
     OpenBrandConnection(program);
     testerBox.Clear();
     checkerBox.Clear();
-    auto& persons = Query(program, program.BrandConnection, SelectAll("PERSON"));
+    jet::Recordset persons = Query(program, program.BrandConnection, SelectAll("PERSON"));
     for (int row = 1; row <= kPersons; ++row, persons.MoveNext()) {
         const auto position = Trim(persons.Fields("person_position"));
         if (position == "Tester") testerBox.AddItem(persons.Fields("person_name"));

@@ -22,57 +22,13 @@
 
 namespace terravane {
 
-/// Where a column of the test's table stands on the sheet.
-///   Head      one text of the sheet; saved into every row, loaded from the first
-///   GridRow   record i is the grid's column i; `line` is the grid's row
-///   GridLine  record i is the grid's row i + rowShift; `line` is the grid's column
-///   Choice    the stored text of the option that is chosen; saved into every row, taken up from the first when all
-///             else is loaded
-struct ColumnPlace {
-    enum class Kind { Head, GridRow, GridLine, Choice };
-
-    std::string_view suffix;   // of the column, behind the table's prefix
-    std::string_view control;  // name of the text control or grid; of a choice none
-    Kind kind = Kind::Head;
-    int line = 0;
-    bool loaded = true;  // results are saved only
-    int rowShift = 0;
-    int firstLoaded = 1;  // records before this one are the grid's titles: saved with it, kept when it is loaded
-};
-
-/// The columns that are saved by one statement a record and loaded in one walk over the records.
-/// records  how many, from the first row of the table; of a list the most that the table takes
-/// list     the grid whose rows are the records, if it grows and shrinks with them: as many are saved as it has rows;
-///          loading ends at the first record whose first column is blank, and leaves a row a record
-struct TablePass {
-    int records;
-    std::span<const ColumnPlace> places;
-    std::string_view list = {};
-};
-
-/// The columns of the general data, the first ones of every test's table, with a sheet's own places behind them.
-template <std::size_t kOwn>
-constexpr auto BehindGeneralData(const std::array<ColumnPlace, kOwn>& own)
-{
-    constexpr std::array kGeneral{ColumnPlace{"date", "DTPDate"}, ColumnPlace{"soil", "txtSoil"},
-                                  ColumnPlace{"test", "cboTest"}, ColumnPlace{"check", "cboCheck"}};
-    std::array<ColumnPlace, kGeneral.size() + kOwn> places{};
-    std::ranges::copy(own, std::ranges::copy(kGeneral, places.begin()).out);
-    return places;
-}
-
-/// An option button and the text that the table keeps where it is chosen.
-struct StoredOption {
-    std::string_view option, stored;
-};
-
-/// The texts that a test's table holds in its first row. They stay until the next query.
+/// The texts that a test's table held in its first row when they were asked for.
 struct StoredResults {
     const TableSchema& table;
-    const jet::Recordset& records;
+    jet::Recordset records;
 
     /// Of the column with that suffix.
-    const std::string& operator[](std::string_view suffix) const { return records.Fields(table.ColumnName(suffix)); }
+    std::string operator[](std::string_view suffix) const { return records.Fields(table.ColumnName(suffix)); }
 };
 
 /// The commands' colours: at rest, under the mouse.
@@ -137,12 +93,6 @@ struct TestSheet : Form {
     /// The mouse over the sheet itself.
     void Form_MouseMove() { RestoreCommandColours(); }
 
-    /// The table's columns on this sheet, pass by pass, in the table's order.
-    virtual std::span<const TablePass> TablePasses() const = 0;
-    /// Whether the lists (not the heads) lose the blanks at their ends when they are loaded.
-    virtual bool TrimsLists() const { return false; }
-    /// The options of the table's choice.
-    virtual std::span<const StoredOption> StoredOptions() const { return {}; }
     /// Chooses the option that is stored so; of a sheet that was saved without a choice none.
     virtual void LoadChoice(std::string_view stored);
 
@@ -169,6 +119,10 @@ void LoadTestSheet(TestSheet& sheet);
 /// Save: the headings, then one statement a row. A statement that fails leaves the earlier ones standing, in
 /// the file too; the sheet keeps what was typed.
 void SaveTestSheet(const TestSheet& sheet);
+
+/// What Save writes of these columns alone, the headings and all other columns untouched.
+/// suffixes  of the columns, behind the table's prefix; one that the sheet does not hold is passed over
+void SaveColumns(const TestSheet& sheet, std::span<const std::string_view> suffixes);
 
 /// The persons of the brand store whose position is "Tester" go into one list, those with "Checker" into the
 /// other.

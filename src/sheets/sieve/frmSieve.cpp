@@ -135,6 +135,20 @@ void frmSieve::MSHSieve_MouseDown(MouseButton button, int row, int column)
     if (button == MouseButton::Left) txtData.PressLeft(row, column);
 }
 
+void frmSieve::LoadChoice(std::string_view stored)
+{
+    TestSheet::LoadChoice(stored);
+    SelectStack();
+}
+
+void frmSieve::SelectStack()
+{
+    for (int row = 1; row <= kMostSieves; ++row) {
+        const Sieve* found = FindSieve(Trim(MSHSieve(row, sieve::Number)));
+        if (found) lstSieve.SetSelected(static_cast<std::size_t>(found - kSieves.data()), true);
+    }
+}
+
 void frmSieve::cmdAtt_Click()
 {
     if (program.CurrentMaterial == Material::None) return;

@@ -138,8 +138,6 @@ struct frmSieve : TestSheet {
     /// few fines whose D10 was not read; the boxes keep their texts.
     void cmdClass_Click();
 
-    std::span<const TablePass> TablePasses() const override;
-    std::span<const StoredOption> StoredOptions() const override;
     void LoadChoice(std::string_view stored) override;
 
   private:

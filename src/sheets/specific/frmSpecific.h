@@ -67,8 +67,6 @@ struct frmSpecific : TestSheet {
     /// Another model needs another plot.
     void optFit_Click();
 
-    std::span<const TablePass> TablePasses() const override;
-
   private:
     void BuildGrids();
 

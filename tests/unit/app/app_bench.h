@@ -12,9 +12,10 @@
 #include "app/frmProject.h"
 #include "app/mdiBack.h"
 #include "jet/connection.h"
+#include "runtime/memory_file_system.h"
 #include "sheets/pattern/test_sheet.h"
 #include "store/new_stores.h"
-#include "support/memory_file_system.h"
+#include "support/bare_description.h"
 
 namespace terravane::testing {
 
@@ -49,8 +50,8 @@ struct NotingSurroundings : Surroundings {
 
 /// A sheet without a method that notes its opening and closing.
 struct NotedSheet : TestSheet {
-    NotedSheet(Program& owner, std::string name, std::vector<std::string>& log)
-        : TestSheet(owner, std::move(name), "Sheet", {"Data"}), log_(log)
+    NotedSheet(Program& owner, const std::string& name, std::vector<std::string>& log)
+        : TestSheet(owner, support::BareDescription(name)), log_(log)
     {}
     void Form_Load() override
     {
@@ -59,7 +60,6 @@ struct NotedSheet : TestSheet {
     }
     void Form_Unload() override { log_.push_back("-" + Name()); }
     void cmdCal_Click() override {}
-    std::span<const TablePass> TablePasses() const override { return {}; }
 
     Test testAtLoad = Test::None;
 
@@ -69,7 +69,7 @@ struct NotedSheet : TestSheet {
 
 struct AppBench {
     NotingSurroundings surroundings;
-    support::MemoryFileSystem files;
+    MemoryFileSystem files;
     std::vector<std::string> log;  // "+form" loaded, "-form" unloaded, of the noted sheets
     Program program;
 

@@ -6,13 +6,13 @@
 #include <string_view>
 #include <vector>
 
-#include "batch/private_disk.h"
+#include "batch/brand_folder.h"
 #include "batch/project_texts.h"
 #include "batch/project_work.h"
 #include "jet/connection.h"
+#include "runtime/memory_file_system.h"
 #include "store/new_stores.h"
 #include "store/schema.h"
-#include "support/memory_file_system.h"
 
 namespace terravane::support {
 

@@ -162,7 +162,7 @@ TEST(ProjectWork, ADamagedProjectFailsWithItsReason)
     EXPECT_NE(answer.failure, "");
     EXPECT_NE(answer.json.find("\"failure\""), std::string::npos);
     bench.disk.TakeAway(bench.project.path);
-    EXPECT_EQ(bench.Work().failure, "File not found: '/jobs/TRVN_road.mdb'.");
+    EXPECT_EQ(bench.Work().failure, "Could not find file '/jobs/TRVN_road.mdb'.");
 }
 
 // The third write of a run with two outputs is the second output's.

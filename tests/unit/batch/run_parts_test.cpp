@@ -7,9 +7,9 @@
 
 #include <gtest/gtest.h>
 
+#include "batch/brand_folder.h"
 #include "batch/growing_file.h"
 #include "batch/journal.h"
-#include "batch/private_disk.h"
 #include "batch/progress.h"
 #include "batch/project_list.h"
 #include "batch/sha256.h"
@@ -114,15 +114,22 @@ TEST(GrowingFile, AppearsAtItsEndOnly)
     EXPECT_EQ(ReadText(path), "one\ntwo\n");
 }
 
-TEST(PrivateDisk, KeepsWhatIsWrittenToItself)
+TEST(BrandFolder, HoldsTheStoreAndThePicturesOfTheFolderAndNothingElse)
+{
+    Folder folder;
+    std::ofstream(folder / "logo.mdb") << "names";
+    std::ofstream(folder / "logo.jpg") << "picture";
+    fs::create_directory(folder / "old");
+    const Brand brand = ReadBrand(DiskFileSystem(), folder / "");
+    EXPECT_EQ(brand.disk.Paths(), (std::vector{folder / "logo.jpg", folder / "logo.mdb"}));
+    EXPECT_EQ(brand.digest, "logo.jpg " + Sha256("picture") + " logo.mdb " + Sha256("names") + " ");
+}
+
+TEST(BrandFolder, OfANewInstallationHasAStore)
 {
     const Brand brand = FirstBrand();
-    PrivateDisk disk(brand, "/road.mdb", {1, 2});
-    disk.ReplaceWhole("/road.mdb", Bytes{3});
-    EXPECT_EQ(disk.Content("/road.mdb"), Bytes{3});
-    EXPECT_FALSE(fs::exists("/road.mdb"));
-    EXPECT_TRUE(disk.Exists(brand.folder + "logo.mdb"));
-    EXPECT_THROW(disk.Read("/etc/hostname"), RuntimeError) << "no other file can be reached";
+    EXPECT_TRUE(brand.disk.Exists(brand.folder + "logo.mdb"));
+    EXPECT_THROW(brand.disk.Read("/etc/hostname"), RuntimeError) << "no other file can be reached";
 }
 
 TEST(Sha256, OfThePublishedExample)

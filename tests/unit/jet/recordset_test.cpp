@@ -61,6 +61,16 @@ TEST(Recordset, UnknownNameIsError3265)
         (Failure{3265, "Item cannot be found in the collection corresponding to the requested name or ordinal."}));
 }
 
+TEST(Recordset, CopyWalksByItself)
+{
+    Recordset rows = TwoRows();
+    Recordset copy = rows;
+    copy.MoveNext();
+    EXPECT_NE(copy.Fields("person_name"), rows.Fields("person_name"));
+    rows = Recordset();
+    EXPECT_EQ(copy.RowCount(), 2U) << "and keeps the rows when the other one is gone";
+}
+
 TEST(Recordset, ResultOfAnUpdateHasNoRows)
 {
     const Recordset result = Recordset::Affected(6);

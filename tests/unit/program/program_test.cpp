@@ -7,7 +7,7 @@
 #include <gtest/gtest.h>
 
 #include "controls/choice_controls.h"
-#include "support/memory_file_system.h"
+#include "runtime/memory_file_system.h"
 #include "support/test_surroundings.h"
 #include "unit/runtime/raises.h"
 
@@ -37,7 +37,7 @@ struct DiaryForm : Form {
 };
 
 struct ProgramTest : testing::Test {
-    support::MemoryFileSystem files;
+    MemoryFileSystem files;
     support::TestSurroundings ask;
     Diary diary;
     Program program{ask, files, "/lab"};
@@ -316,7 +316,7 @@ TEST_F(ProgramTest, TellsTheFirstFailureWhereNeitherStoreCanBeWritten)
 
 TEST(ProgramPaths, PutTheBrandStoreBesideTheProgram)
 {
-    support::MemoryFileSystem files;
+    MemoryFileSystem files;
     support::TestSurroundings ask;
     const auto folder = [&](const std::string& application, const std::string& brand) {
         return Program(ask, files, application, brand).BrandFolderNow();
@@ -329,7 +329,7 @@ TEST(ProgramPaths, PutTheBrandStoreBesideTheProgram)
 
 TEST(ProgramState, BeginsWithoutProjectAndTest)
 {
-    support::MemoryFileSystem files;
+    MemoryFileSystem files;
     support::TestSurroundings ask;
     const Program program(ask, files, "/opt/terravane");
     EXPECT_EQ(program.CurrentProjectPath, "");

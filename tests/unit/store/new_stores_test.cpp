@@ -7,9 +7,9 @@
 
 #include "jet/database.h"
 #include "jet/engine_error.h"
+#include "runtime/memory_file_system.h"
 #include "store/brand_pictures.h"
 #include "store/schema.h"
-#include "support/memory_file_system.h"
 #include "unit/runtime/raises.h"
 
 namespace terravane {
@@ -18,7 +18,7 @@ namespace {
 constexpr const char* kPath = "/lab/TRVN_road.mdb";
 
 struct NewStores : testing::Test {
-    support::MemoryFileSystem files;
+    MemoryFileSystem files;
     NewStores() { files.MakeFolders("/lab/"); }
 
     jet::Database Opened(const std::string& path) const { return jet::Database::FromBytes(files.Content(path)); }

@@ -3,8 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include "runtime/memory_file_system.h"
 #include "store/new_stores.h"
-#include "support/memory_file_system.h"
 #include "unit/runtime/raises.h"
 
 namespace terravane {

@@ -4,8 +4,8 @@
 #include <gtest/gtest.h>
 
 #include "jet/engine_error.h"
+#include "runtime/memory_file_system.h"
 #include "store/new_stores.h"
-#include "support/memory_file_system.h"
 #include "support/test_surroundings.h"
 #include "unit/runtime/raises.h"
 
@@ -15,7 +15,7 @@ namespace {
 constexpr const char* kPath = "/lab/TRVN_road.mdb";
 
 struct Statements : testing::Test {
-    support::MemoryFileSystem files;
+    MemoryFileSystem files;
     support::TestSurroundings ask;
     Program program{ask, files, "/lab"};
 
@@ -46,11 +46,22 @@ TEST_F(Statements, QueryWholeTablesWithAStrayApostrophe)
     EXPECT_EQ(SelectAll("HEAD"), "SELECT * from HEAD'");
     EXPECT_EQ(SelectAll("STDSOIL"), "SELECT * from STDSOIL'");
     OpenProjectConnection(program);
-    const auto& rows = Query(program, program.ProjectConnection, SelectAll("STDSOIL"));
+    const jet::Recordset rows = Query(program, program.ProjectConnection, SelectAll("STDSOIL"));
     EXPECT_EQ(rows.RowCount(), 6U);
     EXPECT_EQ(rows.Fields("STD_ID"), " 1");
     EXPECT_EQ(program.CurrentSql, "SELECT * from STDSOIL'");
-    EXPECT_EQ(&rows, &program.CurrentRecordset);
+    EXPECT_EQ(program.CurrentRecordset.ColumnNames(), rows.ColumnNames());
+}
+
+TEST_F(Statements, RowsOfAQueryStayWhenAnotherOneIsMade)
+{
+    OpenProjectConnection(program);
+    jet::Recordset trials = Query(program, program.ProjectConnection, SelectAll("STDSOIL"));
+    trials.MoveNext();
+    Query(program, program.ProjectConnection, SelectAll("ATTSOIL"));
+    Execute(program, program.ProjectConnection, UpdateRow(Trials(), {{"std_mdd", "2.10"}}, 2));
+    EXPECT_EQ(trials.Fields("std_ID"), " 2");
+    EXPECT_EQ(trials.Fields("std_mdd"), "   ") << "as it stood when it was asked for";
 }
 
 TEST_F(Statements, UpdateTheHeadWithoutAWhere)

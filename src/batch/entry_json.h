@@ -1,9 +1,9 @@
-/// Journal entries and answers as JSON.
+/// Journal entries as JSON.
 #pragma once
 
 #include <nlohmann/json.hpp>
 
-#include "batch/journal.h"
+#include "batch/journal_entry.h"
 
 namespace terravane {
 
