@@ -20,7 +20,6 @@ std::shared_ptr<const Picture> RoadPicture()
 
 frmAbout::frmAbout(Program& owner) : Form(owner, "frmAbout", "About Terravane"), program(owner)
 {
-    cmdClose.Click = [this] { cmdClose_Click(); };
     imgRoad.SetContent(RoadPicture());
 }
 

@@ -20,7 +20,7 @@ struct frmAbout : Form {
     Label lblInstitution{*this, "lblInstitution", "For laboratories that test road materials"};
     Label lblDepartment{*this, "lblDepartment", "Soil, crushed rock and field control sections"};
     Label lblDeveloper{*this, "lblDeveloper", "Written by the Terravane developers"};
-    CommandButton cmdClose{*this, "cmdClose", "Close"};
+    CommandButton cmdClose{*this, "cmdClose", "Close", {.Click = [this] { cmdClose_Click(); }}};
 
     void cmdClose_Click() { program.Unload(Name()); }
 };

@@ -23,23 +23,6 @@ frmPreferences::frmPreferences(Program& owner)
     Height = kHeight;
     for (CommandButton* change : {&cmdLogo1, &cmdLogo2, &cmdLogo3}) change->SetEnabled(false);
     txtLogo.SetLocked(true);
-    WireEvents();
-    WirePersons();
-}
-
-void frmPreferences::WireEvents()
-{
-    cmdOpen.Click = [this] { cmdOpen_Click(); };
-    cmdOpen1.Click = [this] { cmdOpen1_Click(); };
-    cmdOpen2.Click = [this] { cmdOpen2_Click(); };
-    cmdLogo1.Click = [this] { cmdLogo1_Click(); };
-    cmdLogo2.Click = [this] { cmdLogo2_Click(); };
-    cmdLogo3.Click = [this] { cmdLogo3_Click(); };
-    cmdName1.Click = [this] { cmdName1_Click(); };
-    cmdName2.Click = [this] { cmdName2_Click(); };
-    cmdName3.Click = [this] { cmdName3_Click(); };
-    cmdDbase.Click = [this] { cmdDbase_Click(); };
-    cmdClose.Click = [this] { cmdClose_Click(); };
 }
 
 void frmPreferences::Form_Load()

@@ -6,10 +6,13 @@
 #include <string>
 #include <string_view>
 
+#include "controls/cell_editor.h"
 #include "controls/choice_controls.h"
+#include "controls/furniture.h"
 #include "controls/list_cell_editor.h"
 #include "controls/picture_box.h"
-#include "controls/pressed_frame.h"
+#include "controls/text_controls.h"
+#include "controls/text_grid.h"
 #include "program/common_dialog.h"
 #include "program/program.h"
 #include "store/schema.h"
@@ -44,41 +47,58 @@ struct frmPreferences : Form {
     Frame fraInstitute{*this, "fraInstitute", "Institute"};
     PictureBox picIns{*this, "picIns", 240, 360, kBoxWidth, kBoxHeight};
     Image imgBrand1{*this, "imgBrand1"};
-    CommandButton cmdOpen{*this, "cmdOpen", "Open Picture..."};
-    CommandButton cmdLogo1{*this, "cmdLogo1", "Change Logo"};
+    CommandButton cmdOpen{*this, "cmdOpen", "Open Picture...", {.Click = [this] { cmdOpen_Click(); }}};
+    CommandButton cmdLogo1{*this, "cmdLogo1", "Change Logo", {.Click = [this] { cmdLogo1_Click(); }}};
     TextBox txtIsName{*this, "txtIsName", "Name"};
-    CommandButton cmdName1{*this, "cmdName1", "Change Name"};
+    CommandButton cmdName1{*this, "cmdName1", "Change Name", {.Click = [this] { cmdName1_Click(); }}};
 
     Frame fraDepartment{*this, "fraDepartment", "Testing Department"};
     PictureBox picDep{*this, "picDep", 240, 360, kBoxWidth, kBoxHeight};
     Image imgBrand2{*this, "imgBrand2"};
-    CommandButton cmdOpen1{*this, "cmdOpen1", "Open Picture..."};
-    CommandButton cmdLogo2{*this, "cmdLogo2", "Change Logo"};
+    CommandButton cmdOpen1{*this, "cmdOpen1", "Open Picture...", {.Click = [this] { cmdOpen1_Click(); }}};
+    CommandButton cmdLogo2{*this, "cmdLogo2", "Change Logo", {.Click = [this] { cmdLogo2_Click(); }}};
     TextBox txtDname{*this, "txtDname", "Name"};
-    CommandButton cmdName2{*this, "cmdName2", "Change Name"};
+    CommandButton cmdName2{*this, "cmdName2", "Change Name", {.Click = [this] { cmdName2_Click(); }}};
 
     Frame fraCover{*this, "fraCover", "Cover"};
     PictureBox picCover{*this, "picCover", 240, 360, kBoxWidth, kBoxHeight};
     Image imgBrand3{*this, "imgBrand3"};
-    CommandButton cmdOpen2{*this, "cmdOpen2", "Open Picture..."};
-    CommandButton cmdLogo3{*this, "cmdLogo3", "Change Logo"};
+    CommandButton cmdOpen2{*this, "cmdOpen2", "Open Picture...", {.Click = [this] { cmdOpen2_Click(); }}};
+    CommandButton cmdLogo3{*this, "cmdLogo3", "Change Logo", {.Click = [this] { cmdLogo3_Click(); }}};
     Frame fraInformation{*this, "fraInformation", "Information"};
     TextBox txtCov1{*this, "txtCov1", "Name of Reporter"};
     TextBox txtCov2{*this, "txtCov2", "Second line"};
     TextBox txtCov3{*this, "txtCov3", "Third line"};
-    CommandButton cmdName3{*this, "cmdName3", "Change Name"};
+    CommandButton cmdName3{*this, "cmdName3", "Change Name", {.Click = [this] { cmdName3_Click(); }}};
 
-    PressedFrame Frame7{*this, "Frame7"};  // around the grid
-    TextGrid mshPerson{*this, "mshPerson", person::kRows, person::kColumns};
-    PersonNameEditor txtData{*this, "txtData", mshPerson, [] { return person::kNames; }};
-    ListCellEditor cboList{*this, "cboList", mshPerson, person::kPositions, {"Tester", "Checker", "Approver"}};
-    CommandButton cmdPerson{*this, "cmdPerson", "Save"};
-    CommandButton cmdClear{*this, "cmdClear", "Clear All"};
-    CommandButton cmdDbase{*this, "cmdDbase", "Create DB"};
+    Frame Frame7{*this, "Frame7", "", {.Click = [this] { Frame7_Click(); }}};  // around the grid
+    TextGrid mshPerson{*this,
+                       "mshPerson",
+                       person::kRows,
+                       person::kColumns,
+                       {.MouseDown = [this](MouseButton button, int row, int column) {
+                           if (button == MouseButton::Left) mshPerson_Click(row, column);
+                       }}};
+    PersonNameEditor txtData{*this,
+                             "txtData",
+                             mshPerson,
+                             [] { return person::kNames; },
+                             {},
+                             {.KeyPress = [this](Key key) { return txtData_KeyDown(key); }, .GotFocus = [this] { cboList.Hide(); }}};
+    ListCellEditor cboList{
+        *this,
+        "cboList",
+        mshPerson,
+        person::kPositions,
+        {"Tester", "Checker", "Approver"},
+        {.KeyPress = [this](Key key) { return cboList_KeyDown(key); }, .GotFocus = [this] { txtData.Hide(); }}};
+    CommandButton cmdPerson{*this, "cmdPerson", "Save", {.Click = [this] { cmdPerson_Click(); }}};
+    CommandButton cmdClear{*this, "cmdClear", "Clear All", {.Click = [this] { cmdClear_Click(); }}};
+    CommandButton cmdDbase{*this, "cmdDbase", "Create DB", {.Click = [this] { cmdDbase_Click(); }}};
 
     TextBox txtLogo{*this, "txtLogo",
                     "Chosen picture"};  // the path of the picture chosen last, whichever logo it was for
-    CommandButton cmdClose{*this, "cmdClose", "Close"};
+    CommandButton cmdClose{*this, "cmdClose", "Close", {.Click = [this] { cmdClose_Click(); }}};
     CommonDialog ComDialog;
 
     /// What fails ends the load without a word, and what was not yet filled stays empty: a first start has no brand
@@ -120,8 +140,6 @@ struct frmPreferences : Form {
     };
     static const Logo kInstitute, kDepartment, kCover;
 
-    void WireEvents();
-    void WirePersons();
     void PreparePersonGrid();
 
     void LoadLogo(const Logo& logo);

@@ -17,20 +17,6 @@ const Message kOneApproverOnly{"Please input only one approver.", "Inform", Mess
 
 }  // namespace
 
-void frmPreferences::WirePersons()
-{
-    mshPerson.MouseDown = [this](MouseButton button, int row, int column) {
-        if (button == MouseButton::Left) mshPerson_Click(row, column);
-    };
-    txtData.KeyPress = [this](Key key) { return txtData_KeyDown(key); };
-    cboList.KeyPress = [this](Key key) { return cboList_KeyDown(key); };
-    txtData.GotFocus = [this] { cboList.Hide(); };
-    cboList.GotFocus = [this] { txtData.Hide(); };
-    Frame7.Click = [this] { Frame7_Click(); };
-    cmdPerson.Click = [this] { cmdPerson_Click(); };
-    cmdClear.Click = [this] { cmdClear_Click(); };
-}
-
 void frmPreferences::PreparePersonGrid()
 {
     mshPerson.SetColumnTitles({"No.", "Name - Surname", "Position"});

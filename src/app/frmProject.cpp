@@ -15,7 +15,6 @@ frmProject::frmProject(Program& owner) : Form(owner, "frmProject", "General Data
 {
     Width = kWidth;
     Height = kHeight;
-    cmdOK.Click = [this] { cmdOK_Click(); };
 }
 
 void frmProject::cmdOK_Click()

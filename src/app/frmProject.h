@@ -19,7 +19,7 @@ struct frmProject : Form {
     TextBox txtLocation{*this, "txtLocation", "Location"};
     TextBox txtID{*this, "txtID", "Task No."};
     TextBox txtClient{*this, "txtClient", "Client Name"};
-    CommandButton cmdOK{*this, "cmdOK", "Accept"};
+    CommandButton cmdOK{*this, "cmdOK", "Accept", {.Click = [this] { cmdOK_Click(); }}};
 
     void Form_Load() override { Top = Height / 2; }
     void Form_Activate() override { txtID.SetFocus(); }

@@ -4,15 +4,7 @@
 
 namespace terravane {
 
-frmTitle::frmTitle(Program& owner) : Form(owner, "frmTitle", "Terravane"), program(owner)
-{
-    Timer1.Ticked = [this] { Timer1_Timer(); };
-    txtLoad.Change = [this] { txtLoad_KeyPress(); };  // a key that types
-    txtLoad.KeyPress = [this](Key) {
-        txtLoad_KeyPress();
-        return true;
-    };
-}
+frmTitle::frmTitle(Program& owner) : Form(owner, "frmTitle", "Terravane", WindowKind::Splash), program(owner) {}
 
 void frmTitle::ShowFrame()
 {

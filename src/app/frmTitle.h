@@ -18,8 +18,17 @@ struct frmTitle : Form {
     Label lblSubject{*this, "lblSubject", "Materials for Road Construction"};
     Label lblVersion{*this, "lblVersion", "Version " TERRAVANE_VERSION};
     Label lblPress{*this, "lblPress", "Press any key"};
-    TextBox txtLoad{*this, "txtLoad"};  // takes the key that ends the splash
-    Timer Timer1{*this, "Timer1", std::chrono::milliseconds(3000)};
+    // Takes the key that ends the splash, whether it types or not.
+    TextBox txtLoad{*this,
+                    "txtLoad",
+                    "",
+                    {.Change = [this] { txtLoad_KeyPress(); },
+                     .KeyPress =
+                         [this](Key) {
+                             txtLoad_KeyPress();
+                             return true;
+                         }}};
+    Timer Timer1{*this, "Timer1", std::chrono::milliseconds(3000), {.Ticked = [this] { Timer1_Timer(); }}};
 
     void Form_Activate() override { txtLoad.SetFocus(); }
 

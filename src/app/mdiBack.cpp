@@ -76,30 +76,13 @@ std::string ProjectPathFor(std::string_view fileName, std::string_view fileTitle
 
 mdiBack::mdiBack(Program& owner)
     : Form(owner, std::string(kFrameName),
-           "Terravane Program : Version " TERRAVANE_VERSION " -  [Materials for Road Construction]"),
+           "Terravane Program : Version " TERRAVANE_VERSION " -  [Materials for Road Construction]", WindowKind::Frame),
       program(owner),
-      tbrLab(*this, "tbrLab", TestButtons())
+      tbrLab(*this, "tbrLab", TestButtons(),
+             {.ItemClick = [this](const std::string& key) { tbrLab_ButtonMenuClick(key); }})
 {
     tbrLab.SetEnabled(false);
     SetRecentCaption("");
-    WireEvents();
-}
-
-void mdiBack::WireEvents()
-{
-    mnuNew.Click = [this] { mnuNew_Click(); };
-    mnuOpen.Click = [this] { mnuOpen_Click(); };
-    mnuAs.Click = [this] { mnuAs_Click(); };
-    mnuTo.Click = [this] { mnuTo_Click(); };
-    mnuSum.Click = [this] { mnuSum_Click(); };
-    mnuRecent.Click = [this] { mnuRecent_Click(); };
-    mnuExit.Click = [this] { mnuExit_Click(); };
-    mnuLogoT.Click = [this] { mnuLogoT_Click(); };
-    mnuLogoC.Click = [this] { mnuLogoC_Click(); };
-    mnuOpr.Click = [this] { mnuOpr_Click(); };
-    mnuManual.Click = [this] { mnuManual_Click(); };
-    mnuAbout.Click = [this] { mnuAbout_Click(); };
-    tbrLab.ItemClick = [this](const std::string& key) { tbrLab_ButtonMenuClick(key); };
 }
 
 void mdiBack::Form_Load()

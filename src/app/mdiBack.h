@@ -33,26 +33,28 @@ struct mdiBack : Form {
     Program& program;
 
     MenuEntry mnuFile{*this, "mnuFile", "File"};
-    MenuEntry mnuNew{*this, "mnuNew", "New File", "mnuFile"};
-    MenuEntry mnuOpen{*this, "mnuOpen", "Open File", "mnuFile"};
+    MenuEntry mnuNew{*this, "mnuNew", "New File", "mnuFile", {.Click = [this] { mnuNew_Click(); }}};
+    MenuEntry mnuOpen{*this, "mnuOpen", "Open File", "mnuFile", {.Click = [this] { mnuOpen_Click(); }}};
     MenuEntry mnuDash1{*this, "mnuDash1", "-", "mnuFile"};
-    MenuEntry mnuAs{*this, "mnuAs", "Save File As...", "mnuFile"};
-    MenuEntry mnuTo{*this, "mnuTo", "Save File To...", "mnuFile"};
+    MenuEntry mnuAs{*this, "mnuAs", "Save File As...", "mnuFile", {.Click = [this] { mnuAs_Click(); }}};
+    MenuEntry mnuTo{*this, "mnuTo", "Save File To...", "mnuFile", {.Click = [this] { mnuTo_Click(); }}};
     MenuEntry mnuD1{*this, "mnuD1", "-", "mnuFile"};
-    MenuEntry mnuSum{*this, "mnuSum", "Overall Results", "mnuFile"};
+    MenuEntry mnuSum{*this, "mnuSum", "Overall Results", "mnuFile", {.Click = [this] { mnuSum_Click(); }}};
     MenuEntry mnuD{*this, "mnuD", "-", "mnuFile"};
-    MenuEntry mnuRecent{*this, "mnuRecent", "", "mnuFile"};  // its caption is the last project's path
-    MenuEntry mnuDot{*this, "mnuDot", "-", "mnuFile"};       // comes and goes with it
-    MenuEntry mnuExit{*this, "mnuExit", "Exit", "mnuFile"};
+    MenuEntry mnuRecent{*this, "mnuRecent", "", "mnuFile", {.Click = [this] {
+                            mnuRecent_Click();
+                        }}};                            // its caption is the last project's path
+    MenuEntry mnuDot{*this, "mnuDot", "-", "mnuFile"};  // comes and goes with it
+    MenuEntry mnuExit{*this, "mnuExit", "Exit", "mnuFile", {.Click = [this] { mnuExit_Click(); }}};
     MenuEntry mnuData{*this, "mnuData", "Setting"};
-    MenuEntry mnuLogoT{*this, "mnuLogoT", "Head Logo and Name", "mnuData"};
-    MenuEntry mnuLogoC{*this, "mnuLogoC", "Cover Logo and Name", "mnuData"};
+    MenuEntry mnuLogoT{*this, "mnuLogoT", "Head Logo and Name", "mnuData", {.Click = [this] { mnuLogoT_Click(); }}};
+    MenuEntry mnuLogoC{*this, "mnuLogoC", "Cover Logo and Name", "mnuData", {.Click = [this] { mnuLogoC_Click(); }}};
     MenuEntry mnuDott{*this, "mnuDott", "-", "mnuData"};
-    MenuEntry mnuOpr{*this, "mnuOpr", "Personnel Name", "mnuData"};
+    MenuEntry mnuOpr{*this, "mnuOpr", "Personnel Name", "mnuData", {.Click = [this] { mnuOpr_Click(); }}};
     MenuEntry mnuUtility{*this, "mnuUtility", "Help"};
-    MenuEntry mnuManual{*this, "mnuManual", "User's Guide", "mnuUtility"};
+    MenuEntry mnuManual{*this, "mnuManual", "User's Guide", "mnuUtility", {.Click = [this] { mnuManual_Click(); }}};
     MenuEntry mnuDash2{*this, "mnuDash2", "-", "mnuUtility"};
-    MenuEntry mnuAbout{*this, "mnuAbout", "About Terravane", "mnuUtility"};
+    MenuEntry mnuAbout{*this, "mnuAbout", "About Terravane", "mnuUtility", {.Click = [this] { mnuAbout_Click(); }}};
 
     Frame CoolBar1{*this, "CoolBar1"};  // StatusBar1 in its first band, tbrLab in its second
     StatusBar StatusBar1{*this, "StatusBar1", 0};
@@ -89,7 +91,6 @@ struct mdiBack : Form {
     void UnloadAllSheets();
 
   private:
-    void WireEvents();
     void ReadRecentLine();
     void RememberProject();
     void SetRecentCaption(const std::string& path);

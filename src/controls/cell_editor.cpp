@@ -1,16 +1,20 @@
 #include "controls/cell_editor.h"
 
-#include "controls/form.h"
+#include <utility>
+
+#include "controls/visit_control.h"
 #include "runtime/text.h"
 
 namespace terravane {
 
 CellEditor::CellEditor(Form& owner, std::string name, TextGrid& grid, std::function<CellRange()> range,
-                       CommitRule commit)
-    : TextControl(owner, std::move(name)), grid_(grid), range_(std::move(range)), commit_(std::move(commit))
+                       CommitRule commit, TextEvents events)
+    : ControlKind(owner, std::move(name), std::string(), std::move(events)),
+      grid_(grid),
+      range_(std::move(range)),
+      commit_(std::move(commit))
 {
     SetVisible(false);
-    grid.SetEditor(this);
 }
 
 void CellEditor::SetText(std::string_view text)
@@ -97,16 +101,14 @@ void CellEditor::Walk(Key key)
 
 void CellEditor::HideSiblings()
 {
-    for (Control* control : Owner().Controls()) {
-        if (auto* other = dynamic_cast<CellEditor*>(control); other && other != this) other->Hide();
+    for (CellEditor* other : ControlsOf<CellEditor>(Owner())) {
+        if (other != this) other->Hide();
     }
 }
 
 void HideEditors(Form& form)
 {
-    for (Control* control : form.Controls()) {
-        if (auto* editor = dynamic_cast<CellEditor*>(control)) editor->Hide();
-    }
+    for (CellEditor* editor : ControlsOf<CellEditor>(form)) editor->Hide();
 }
 
 }  // namespace terravane

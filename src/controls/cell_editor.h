@@ -5,6 +5,7 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
 
 #include "controls/text_controls.h"
 #include "controls/text_grid.h"
@@ -33,15 +34,17 @@ using CommitRule = std::function<std::string(int row, int column, std::string te
 /// Calculated cells inside the range are stepped over and can't be opened.
 /// Only Enter commits. After any move the cell's text stands in the editor, after Enter and the mouse
 /// selected whole.
-class CellEditor : public TextControl {
+class CellEditor : public ControlKind<CellEditor, TextControl> {
   public:
     /// The range is asked at each use, since grids grow.
-    CellEditor(Form& owner, std::string name, TextGrid& grid, std::function<CellRange()> range, CommitRule commit = {});
+    CellEditor(Form& owner, std::string name, TextGrid& grid, std::function<CellRange()> range, CommitRule commit = {},
+               TextEvents events = {});
 
     std::string Text() const override { return text_; }
     void SetText(std::string_view text) override;
 
-    TextGrid& Grid() const { return grid_; }
+    TextGrid& Grid() { return grid_; }
+    const TextGrid& Grid() const { return grid_; }
     CellRange Range() const { return range_(); }
 
     /// Stands the editor over a cell, hides its siblings, takes the cell's text and the focus. False outside

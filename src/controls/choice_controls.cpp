@@ -1,23 +1,40 @@
 #include "controls/choice_controls.h"
 
-#include "controls/form.h"
+#include <utility>
+
+#include "controls/visit_control.h"
 
 namespace terravane {
+
+CommandButton::CommandButton(Form& owner, std::string name, std::string caption, CommandEvents events)
+    : ControlKind(owner, std::move(name), std::move(caption)), Click(std::move(events.Click))
+{
+    MouseMove = std::move(events.MouseMove);
+    MouseLeave = std::move(events.MouseLeave);
+}
 
 void CommandButton::Press()
 {
     if (Enabled()) Raise("Click", Click);
 }
 
-OptionButton::OptionButton(Form& owner, std::string name, std::string caption, std::string group, bool value)
-    : Control(owner, std::move(name), std::move(caption)), group_(std::move(group)), value_(value)
+OptionButton::OptionButton(Form& owner, std::string name, std::string caption, std::string group, bool value,
+                           ClickEvent events)
+    : ControlKind(owner, std::move(name), std::move(caption)),
+      Click(std::move(events.Click)),
+      group_(std::move(group)),
+      value_(value)
+{}
+
+OptionButton::OptionButton(Form& owner, std::string name, std::string caption, std::string group, ClickEvent events)
+    : OptionButton(owner, std::move(name), std::move(caption), std::move(group), false, std::move(events))
 {}
 
 void OptionButton::Choose()
 {
     if (value_) return;
-    for (Control* control : Owner().Controls()) {
-        if (auto* other = dynamic_cast<OptionButton*>(control); other && other->group_ == group_) other->Release();
+    for (OptionButton* other : ControlsOf<OptionButton>(Owner())) {
+        if (other->group_ == group_) other->Release();
     }
     value_ = true;
     Changed();
@@ -31,8 +48,8 @@ void OptionButton::Release()
     Changed();
 }
 
-CheckBox::CheckBox(Form& owner, std::string name, std::string caption, bool value)
-    : Control(owner, std::move(name), std::move(caption)), value_(value)
+CheckBox::CheckBox(Form& owner, std::string name, std::string caption, ClickEvent events)
+    : ControlKind(owner, std::move(name), std::move(caption)), Click(std::move(events.Click))
 {}
 
 void CheckBox::SetValue(bool value)
@@ -43,8 +60,11 @@ void CheckBox::SetValue(bool value)
     Raise("Click", Click);
 }
 
-ListBox::ListBox(Form& owner, std::string name, std::vector<std::string> list)
-    : Control(owner, std::move(name)), list_(std::move(list)), selected_(list_.size(), false)
+ListBox::ListBox(Form& owner, std::string name, std::vector<std::string> list, ClickEvent events)
+    : ControlKind(owner, std::move(name)),
+      Click(std::move(events.Click)),
+      list_(std::move(list)),
+      selected_(list_.size(), false)
 {}
 
 void ListBox::SetSelected(std::size_t index, bool selected)

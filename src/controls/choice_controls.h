@@ -1,6 +1,7 @@
 /// Controls that are pressed or switched.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -8,10 +9,14 @@
 
 namespace terravane {
 
+struct CommandEvents {
+    Handler Click = {}, MouseMove = {}, MouseLeave = {};
+};
+
 /// A push button. '&' in its caption marks the key that presses it with Alt.
-class CommandButton : public Control {
+class CommandButton : public ControlKind<CommandButton> {
   public:
-    using Control::Control;
+    CommandButton(Form& owner, std::string name, std::string caption = {}, CommandEvents events = {});
 
     /// The user's press; nothing happens where the button is disabled.
     void Press();
@@ -20,9 +25,11 @@ class CommandButton : public Control {
 };
 
 /// One of several that exclude each other: those of the same group name on the form.
-class OptionButton : public Control {
+class OptionButton : public ControlKind<OptionButton> {
   public:
-    OptionButton(Form& owner, std::string name, std::string caption, std::string group, bool value = false);
+    OptionButton(Form& owner, std::string name, std::string caption, std::string group, bool value = false,
+                 ClickEvent events = {});
+    OptionButton(Form& owner, std::string name, std::string caption, std::string group, ClickEvent events);
 
     bool Value() const { return value_; }
     const std::string& Group() const { return group_; }
@@ -38,9 +45,9 @@ class OptionButton : public Control {
     bool value_;
 };
 
-class CheckBox : public Control {
+class CheckBox : public ControlKind<CheckBox> {
   public:
-    CheckBox(Form& owner, std::string name, std::string caption, bool value = false);
+    CheckBox(Form& owner, std::string name, std::string caption, ClickEvent events = {});
 
     bool Value() const { return value_; }
     /// Click runs where the state changes, whoever changes it.
@@ -49,13 +56,13 @@ class CheckBox : public Control {
     Handler Click;
 
   private:
-    bool value_;
+    bool value_ = false;
 };
 
 /// A list of which any number of entries may be selected.
-class ListBox : public Control {
+class ListBox : public ControlKind<ListBox> {
   public:
-    ListBox(Form& owner, std::string name, std::vector<std::string> list);
+    ListBox(Form& owner, std::string name, std::vector<std::string> list, ClickEvent events = {});
 
     const std::vector<std::string>& List() const { return list_; }
     bool Selected(std::size_t index) const { return selected_.at(index); }

@@ -1,13 +1,13 @@
 #include "controls/control.h"
 
-#include "controls/form.h"
+#include <utility>
 
 namespace terravane {
 
 Control::Control(Form& owner, std::string name, std::string caption)
     : owner_(owner), name_(std::move(name)), caption_(std::move(caption))
 {
-    owner.Register(*this);
+    owner.members_.push_back({name_, this});
 }
 
 namespace {
@@ -55,7 +55,11 @@ void Control::SetForeColor(std::optional<Colour> colour)
 
 void Control::SetFocus()
 {
-    owner_.MoveFocus(*this);
+    if (HasFocus()) return;
+    Control* left = std::exchange(owner_.active_, this);
+    if (left) left->Raise("LostFocus", left->LostFocus);
+    if (HasFocus()) Raise("GotFocus", GotFocus);
+    owner_.changes_.Announce();
 }
 
 bool Control::HasFocus() const

@@ -7,21 +7,27 @@
 #include <string>
 #include <string_view>
 
+#include "controls/control_kinds.h"
+#include "controls/form.h"
 #include "controls/subscription.h"
 #include "drawing/display_list.h"
 
 namespace terravane {
 
-class Form;
-
 /// The keys that handlers know; what a key types is the view's.
 enum class Key { Enter, Esc, Up, Down, Left, Right, Tab };
 
-/// A handler of an event of one control, set by the form that owns the control.
-using Handler = std::function<void()>;
+/// What an event of the keyboard runs. True where it took the key, so that it does nothing else.
+using KeyHandler = std::function<bool(Key)>;
+
+/// The one event of many kinds.
+struct ClickEvent {
+    Handler Click = {};
+};
 
 /// A control is a member of its form, found by handlers as that member and by everyone else by its name. It
-/// registers itself with the form and lives exactly as long.
+/// registers itself with the form and lives exactly as long. The handlers of its events are given where it is declared:
+/// `CommandButton cmdPlot{*this, "cmdPlot", "Plot Graph", {.Click = [this] { cmdPlot_Click(); }}};`
 class Control {
   public:
     Control(Form& owner, std::string name, std::string caption = {});
@@ -30,7 +36,12 @@ class Control {
     Control& operator=(const Control&) = delete;
 
     const std::string& Name() const { return name_; }
-    Form& Owner() const { return owner_; }
+    Form& Owner() { return owner_; }
+    const Form& Owner() const { return owner_; }
+
+    /// The control as what it is.
+    virtual AnyControl Kind() = 0;
+    virtual AnyConstControl Kind() const = 0;
 
     /// What the control shows as its text: a box's content, a button's or a label's caption.
     virtual std::string Text() const { return caption_; }
@@ -72,21 +83,30 @@ class Control {
     Handler LostFocus;
     Handler MouseMove;   // the mouse comes over the control
     Handler MouseLeave;  // and goes on over the form
-    std::function<bool(Key)> KeyPress;
+    KeyHandler KeyPress;
 
   protected:
     /// Runs a handler inside the program's event boundary under the name "control_Event".
     void Raise(std::string_view event, const Handler& handler);
 
   private:
-    friend class Form;
-
     Form& owner_;
     std::string name_, caption_, toolTip_;
     bool enabled_ = true, visible_ = true;
     std::optional<Colour> backColour_, foreColour_;
     int selectAllRequests_ = 0;
     Announcement changes_;
+};
+
+/// What a kind of control derives from: `class Label : public ControlKind<Label>`.
+/// Base  Control, or what several kinds have in common
+template <class Self, class Base = Control>
+class ControlKind : public Base {
+  public:
+    using Base::Base;
+
+    AnyControl Kind() override { return static_cast<Self*>(this); }
+    AnyConstControl Kind() const override { return static_cast<const Self*>(this); }
 };
 
 }  // namespace terravane

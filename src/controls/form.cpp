@@ -1,14 +1,15 @@
 #include "controls/form.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "runtime/runtime_error.h"
 #include "runtime/text.h"
 
 namespace terravane {
 
-Form::Form(EventBoundary& boundary, std::string name, std::string caption)
-    : boundary_(boundary), name_(std::move(name)), caption_(std::move(caption))
+Form::Form(EventBoundary& boundary, std::string name, std::string caption, WindowKind window)
+    : boundary_(boundary), name_(std::move(name)), caption_(std::move(caption)), window_(window)
 {}
 
 void Form::SetCaption(std::string caption)
@@ -17,11 +18,23 @@ void Form::SetCaption(std::string caption)
     changes_.Announce();
 }
 
-Control* Form::Find(std::string_view name) const
+const Form::Member* Form::FindMember(std::string_view name) const
 {
     const auto found =
-        std::ranges::find_if(controls_, [name](const Control* control) { return SameName(control->Name(), name); });
-    return found == controls_.end() ? nullptr : *found;
+        std::ranges::find_if(members_, [name](const Member& member) { return SameName(member.name, name); });
+    return found == members_.end() ? nullptr : &*found;
+}
+
+Control* Form::Find(std::string_view name)
+{
+    const Member* member = FindMember(name);
+    return member ? member->control : nullptr;
+}
+
+const Control* Form::Find(std::string_view name) const
+{
+    const Member* member = FindMember(name);
+    return member ? member->control : nullptr;
 }
 
 Subscription Form::Show(std::function<void()> view)
@@ -35,19 +48,9 @@ void Form::RunEvent(std::string_view event, const Handler& handler)
     boundary_.Run(name_ + "." + std::string(event), handler);
 }
 
-void Form::MoveFocus(Control& control)
+void Form::FailMissing(std::string_view control) const
 {
-    if (active_ == &control) return;
-    Control* left = active_;
-    active_ = &control;
-    if (left) left->Raise("LostFocus", left->LostFocus);
-    if (active_ == &control) control.Raise("GotFocus", control.GotFocus);
-    changes_.Announce();
-}
-
-void Form::FailMissing(std::string_view name) const
-{
-    throw RuntimeError(error::kObjectRequired, "The form " + name_ + " has no such control: " + std::string(name));
+    throw RuntimeError(error::kObjectRequired, "The form " + name_ + " has no such control: " + std::string(control));
 }
 
 }  // namespace terravane

@@ -2,13 +2,19 @@
 #pragma once
 
 #include <functional>
+#include <ranges>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "controls/control.h"
+#include "controls/subscription.h"
 
 namespace terravane {
+
+class Control;
+
+/// A handler of an event of one control, given by the form that owns the control.
+using Handler = std::function<void()>;
 
 /// The one place where a failing command is caught. Program implements it; a test may use a plain one.
 class EventBoundary {
@@ -20,10 +26,19 @@ class EventBoundary {
     virtual void Run(std::string_view event, const std::function<void()>& handler) = 0;
 };
 
+/// What a form is shown as. Which window that is, is the desktop's.
+enum class WindowKind {
+    Frame,    // the main window, with the menu and the area of the sheets
+    Sheet,    // a test sheet in that area
+    Dialog,   // a window of its own above the frame
+    Preview,  // pages of a report
+    Splash    // the program's name while it starts
+};
+
 class Form {
   public:
     /// name  of the form in code, script and file, "frmCompaction"
-    Form(EventBoundary& boundary, std::string name, std::string caption);
+    Form(EventBoundary& boundary, std::string name, std::string caption, WindowKind window = WindowKind::Dialog);
     virtual ~Form() = default;
     Form(const Form&) = delete;
     Form& operator=(const Form&) = delete;
@@ -31,6 +46,7 @@ class Form {
     const std::string& Name() const { return name_; }
     const std::string& Caption() const { return caption_; }
     void SetCaption(std::string caption);
+    WindowKind Window() const { return window_; }
 
     /// Twips on the screen; only forms that place themselves set them.
     double Left = 0, Top = 0, Width = 0, Height = 0;
@@ -41,15 +57,26 @@ class Form {
     virtual void Form_Unload() {}
 
     /// The control of that name, without regard to case; none: nullptr.
-    Control* Find(std::string_view name) const;
+    Control* Find(std::string_view name);
+    const Control* Find(std::string_view name) const;
     /// The same as a control of kind T; error 424 names form and control where there is none of that kind.
     template <class T>
-    T& Get(std::string_view name) const;
+    T& Get(std::string_view name);
+    template <class T>
+    const T& Get(std::string_view name) const;
 
     /// In order of declaration.
-    const std::vector<Control*>& Controls() const { return controls_; }
+    auto Controls()
+    {
+        return std::views::transform(members_, [](const Member& member) { return member.control; });
+    }
+    auto Controls() const
+    {
+        return std::views::transform(members_, [](const Member& member) -> const Control* { return member.control; });
+    }
 
-    Control* ActiveControl() const { return active_; }
+    Control* ActiveControl() { return active_; }
+    const Control* ActiveControl() const { return active_; }
 
     /// Runs `view` after a change of the caption or of the control that has the focus.
     Subscription Show(std::function<void()> view);
@@ -58,23 +85,36 @@ class Form {
     /// errors.
     void RunEvent(std::string_view event, const Handler& handler);
 
+    /// Error 424 for a control that is not there, or is of another kind than it should be.
+    [[noreturn]] void FailMissing(std::string_view control) const;
+
   private:
     friend class Control;
-    void Register(Control& control) { controls_.push_back(&control); }
-    void MoveFocus(Control& control);
-    [[noreturn]] void FailMissing(std::string_view name) const;
+    struct Member {
+        std::string_view name;  // the control's own
+        Control* control;
+    };
+    const Member* FindMember(std::string_view name) const;
 
     EventBoundary& boundary_;
     std::string name_, caption_;
-    std::vector<Control*> controls_;
+    WindowKind window_;
+    std::vector<Member> members_;
     Control* active_ = nullptr;
     Announcement changes_;
 };
 
 template <class T>
-T& Form::Get(std::string_view name) const
+T& Form::Get(std::string_view name)
 {
     if (auto* control = dynamic_cast<T*>(Find(name))) return *control;
+    FailMissing(name);
+}
+
+template <class T>
+const T& Form::Get(std::string_view name) const
+{
+    if (const auto* control = dynamic_cast<const T*>(Find(name))) return *control;
     FailMissing(name);
 }
 

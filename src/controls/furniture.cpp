@@ -1,10 +1,19 @@
 #include "controls/furniture.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "runtime/runtime_error.h"
 
 namespace terravane {
+
+Label::Label(Form& owner, std::string name, std::string caption, ClickEvent events)
+    : ControlKind(owner, std::move(name), std::move(caption)), Click(std::move(events.Click))
+{}
+
+Frame::Frame(Form& owner, std::string name, std::string caption, ClickEvent events)
+    : ControlKind(owner, std::move(name), std::move(caption)), Click(std::move(events.Click))
+{}
 
 void Image::SetContent(std::shared_ptr<const Picture> content)
 {
@@ -12,8 +21,11 @@ void Image::SetContent(std::shared_ptr<const Picture> content)
     Changed();
 }
 
-TabControl::TabControl(Form& owner, std::string name, std::vector<std::string> captions)
-    : Control(owner, std::move(name)), captions_(std::move(captions)), enabledTabs_(captions_.size(), true)
+TabControl::TabControl(Form& owner, std::string name, std::vector<std::string> captions, TabEvents events)
+    : ControlKind(owner, std::move(name)),
+      TabChanged(std::move(events.TabChanged)),
+      captions_(std::move(captions)),
+      enabledTabs_(captions_.size(), true)
 {}
 
 void TabControl::SetTab(int tab)
@@ -32,8 +44,11 @@ void TabControl::SetTabEnabled(int tab, bool enabled)
     Changed();
 }
 
-Toolbar::Toolbar(Form& owner, std::string name, std::vector<ToolButton> buttons)
-    : Control(owner, std::move(name)), buttons_(std::move(buttons))
+Toolbar::Toolbar(Form& owner, std::string name, std::vector<ToolButton> buttons, ToolbarEvents events)
+    : ControlKind(owner, std::move(name)),
+      ButtonClick(std::move(events.ButtonClick)),
+      ItemClick(std::move(events.ItemClick)),
+      buttons_(std::move(buttons))
 {}
 
 const ToolButton& Toolbar::Button(int number) const
@@ -68,7 +83,7 @@ bool Toolbar::PressItem(std::string_view key)
 }
 
 StatusBar::StatusBar(Form& owner, std::string name, std::size_t panels)
-    : Control(owner, std::move(name)), panels_(panels)
+    : ControlKind(owner, std::move(name)), panels_(panels)
 {}
 
 void StatusBar::SetPanel(std::size_t number, std::string text)
@@ -77,8 +92,10 @@ void StatusBar::SetPanel(std::size_t number, std::string text)
     Changed();
 }
 
-MenuEntry::MenuEntry(Form& owner, std::string name, std::string caption, std::string parent)
-    : Control(owner, std::move(name), std::move(caption)), parent_(std::move(parent))
+MenuEntry::MenuEntry(Form& owner, std::string name, std::string caption, std::string parent, ClickEvent events)
+    : ControlKind(owner, std::move(name), std::move(caption)),
+      Click(std::move(events.Click)),
+      parent_(std::move(parent))
 {}
 
 void MenuEntry::Press()
@@ -86,14 +103,18 @@ void MenuEntry::Press()
     if (Enabled()) Raise("Click", Click);
 }
 
-Timer::Timer(Form& owner, std::string name, std::chrono::milliseconds interval)
-    : Control(owner, std::move(name)), interval_(interval)
+Timer::Timer(Form& owner, std::string name, std::chrono::milliseconds interval, TimerEvents events)
+    : ControlKind(owner, std::move(name)), Ticked(std::move(events.Ticked)), interval_(interval)
 {}
 
 void Timer::Tick()
 {
     if (Enabled()) Raise("Timer", Ticked);
 }
+
+ScrollBar::ScrollBar(Form& owner, std::string name, ScrollEvents events)
+    : ControlKind(owner, std::move(name)), Change(std::move(events.Change))
+{}
 
 void ScrollBar::SetValue(int value)
 {

@@ -2,33 +2,39 @@
 #pragma once
 
 #include <chrono>
+#include <cstddef>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "controls/control.h"
+#include "drawing/picture.h"
 
 namespace terravane {
 
 /// A text that is read; some can be pressed.
-class Label : public Control {
+class Label : public ControlKind<Label> {
   public:
-    using Control::Control;
+    Label(Form& owner, std::string name, std::string caption = {}, ClickEvent events = {});
     void Press() { Raise("Click", Click); }
     Handler Click;
 };
 
-/// A captioned frame around other controls.
-class Frame : public Control {
+/// A captioned frame around other controls. One with a handler hears a press on its own ground, beside the controls
+/// that stand in it.
+class Frame : public ControlKind<Frame> {
   public:
-    using Control::Control;
+    Frame(Form& owner, std::string name, std::string caption = {}, ClickEvent events = {});
+    void Press() { Raise("Click", Click); }
+    Handler Click;
 };
 
 /// A picture of the program's own, or a holder of one; shown by the view that knows it.
-class Image : public Control {
+class Image : public ControlKind<Image> {
   public:
-    using Control::Control;
+    using ControlKind::ControlKind;
     std::shared_ptr<const Picture> Content() const { return content_; }
     void SetContent(std::shared_ptr<const Picture> content);
 
@@ -36,10 +42,14 @@ class Image : public Control {
     std::shared_ptr<const Picture> content_;
 };
 
+struct TabEvents {
+    std::function<void(int previousTab)> TabChanged = {};
+};
+
 /// A row of tabs, counted from 0, of which each may be disabled.
-class TabControl : public Control {
+class TabControl : public ControlKind<TabControl> {
   public:
-    TabControl(Form& owner, std::string name, std::vector<std::string> captions);
+    TabControl(Form& owner, std::string name, std::vector<std::string> captions, TabEvents events = {});
 
     int Tab() const { return tab_; }
     /// Shows a tab and runs TabChanged with the one left, where it is another.
@@ -57,18 +67,27 @@ class TabControl : public Control {
     int tab_ = 0;
 };
 
+/// What a button's picture stands for; which picture that is, is the view's.
+enum class Icon { None, Save, Print, Close };
+
 /// A button of a toolbar, or an item that drops down from one.
 struct ToolButton {
-    std::string key;      // "mn2"; may be empty
-    std::string caption;  // "Atterberg Limits"
-    std::string toolTip;
-    std::vector<ToolButton> items;  // what drops down; then only the items act
+    std::string key = {};      // "mn2"; may be empty
+    std::string caption = {};  // "Atterberg Limits"
+    std::string toolTip = {};
+    std::vector<ToolButton> items = {};  // what drops down; then only the items act
     bool enabled = true;
+    Icon icon = Icon::None;
 };
 
-class Toolbar : public Control {
+struct ToolbarEvents {
+    std::function<void(int number)> ButtonClick = {};
+    std::function<void(const std::string& key)> ItemClick = {};
+};
+
+class Toolbar : public ControlKind<Toolbar> {
   public:
-    Toolbar(Form& owner, std::string name, std::vector<ToolButton> buttons);
+    Toolbar(Form& owner, std::string name, std::vector<ToolButton> buttons, ToolbarEvents events = {});
 
     const std::vector<ToolButton>& Buttons() const { return buttons_; }
     /// By place from 1, as the forms count; error 9 outside.
@@ -89,7 +108,7 @@ class Toolbar : public Control {
 };
 
 /// Panels of text, from 1; a coloured strip where it has none.
-class StatusBar : public Control {
+class StatusBar : public ControlKind<StatusBar> {
   public:
     StatusBar(Form& owner, std::string name, std::size_t panels);
 
@@ -104,9 +123,9 @@ class StatusBar : public Control {
 };
 
 /// An entry of the menu tree; "-" is a separator. `parent` is empty at the top level.
-class MenuEntry : public Control {
+class MenuEntry : public ControlKind<MenuEntry> {
   public:
-    MenuEntry(Form& owner, std::string name, std::string caption, std::string parent = {});
+    MenuEntry(Form& owner, std::string name, std::string caption, std::string parent = {}, ClickEvent events = {});
 
     const std::string& Parent() const { return parent_; }
     bool IsSeparator() const { return Caption() == "-"; }
@@ -118,10 +137,14 @@ class MenuEntry : public Control {
     std::string parent_;
 };
 
+struct TimerEvents {
+    Handler Ticked = {};
+};
+
 /// Asks to be ticked; who shows the form keeps the time.
-class Timer : public Control {
+class Timer : public ControlKind<Timer> {
   public:
-    Timer(Form& owner, std::string name, std::chrono::milliseconds interval);
+    Timer(Form& owner, std::string name, std::chrono::milliseconds interval, TimerEvents events = {});
 
     std::chrono::milliseconds Interval() const { return interval_; }
     void Tick();
@@ -132,10 +155,14 @@ class Timer : public Control {
     std::chrono::milliseconds interval_;
 };
 
+struct ScrollEvents {
+    Handler Change = {};
+};
+
 /// A position between 0 and a maximum.
-class ScrollBar : public Control {
+class ScrollBar : public ControlKind<ScrollBar> {
   public:
-    using Control::Control;
+    ScrollBar(Form& owner, std::string name, ScrollEvents events = {});
 
     int Value() const { return value_; }
     /// Held between 0 and the maximum; Change runs where the value changes.

@@ -2,13 +2,11 @@
 
 #include <utility>
 
-#include "controls/form.h"
-
 namespace terravane {
 
 ListCellEditor::ListCellEditor(Form& owner, std::string name, TextGrid& grid, CellRange range,
-                               std::vector<std::string> list)
-    : ComboBox(owner, std::move(name), {}, std::move(list)), grid_(grid), range_(range)
+                               std::vector<std::string> list, ComboEvents events)
+    : ControlKind(owner, std::move(name), std::string(), std::move(list), std::move(events)), grid_(grid), range_(range)
 {
     SetVisible(false);
 }

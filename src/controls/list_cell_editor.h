@@ -11,12 +11,14 @@
 
 namespace terravane {
 
-class ListCellEditor : public ComboBox {
+class ListCellEditor : public ControlKind<ListCellEditor, ComboBox> {
   public:
     /// range  the cells that it may stand over
-    ListCellEditor(Form& owner, std::string name, TextGrid& grid, CellRange range, std::vector<std::string> list);
+    ListCellEditor(Form& owner, std::string name, TextGrid& grid, CellRange range, std::vector<std::string> list,
+                   ComboEvents events = {});
 
-    TextGrid& Grid() const { return grid_; }
+    TextGrid& Grid() { return grid_; }
+    const TextGrid& Grid() const { return grid_; }
     const CellRange& Range() const { return range_; }
 
     /// Stands over a cell of the range, with the cell's text and the focus; the form's other editors are hidden.

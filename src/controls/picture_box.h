@@ -1,17 +1,30 @@
 /// A control that is drawn on and keeps its drawing.
 #pragma once
 
+#include <functional>
+#include <string>
+#include <utility>
+
 #include "controls/control.h"
 #include "drawing/drawing_surface.h"
 
 namespace terravane {
 
+struct PictureEvents {
+    std::function<void(double width, double height)> ViewResized = {};
+};
+
 /// The surface's sizes are the box's own, in twips; a window shows them through a scale and never changes
 /// them. The view is told once a command, by Changed(), not at every stroke.
-class PictureBox : public Control, public DrawingSurface {
+class PictureBox : public ControlKind<PictureBox>, public DrawingSurface {
   public:
-    PictureBox(Form& owner, std::string name, double left, double top, double width, double height)
-        : Control(owner, std::move(name)), DrawingSurface(width, height), Left(left), Top(top)
+    PictureBox(Form& owner, std::string name, double left, double top, double width, double height,
+               PictureEvents events = {})
+        : ControlKind(owner, std::move(name)),
+          DrawingSurface(width, height),
+          Left(left),
+          Top(top),
+          ViewResized(std::move(events.ViewResized))
     {}
 
     using DrawingSurface::ForeColor;  // the pen's; a picture box has no other

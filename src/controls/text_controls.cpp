@@ -1,8 +1,18 @@
 #include "controls/text_controls.h"
 
+#include <utility>
+
 #include "runtime/runtime_error.h"
 
 namespace terravane {
+
+TextControl::TextControl(Form& owner, std::string name, std::string caption, TextEvents events)
+    : Control(owner, std::move(name), std::move(caption)), Change(std::move(events.Change))
+{
+    KeyPress = std::move(events.KeyPress);
+    GotFocus = std::move(events.GotFocus);
+    LostFocus = std::move(events.LostFocus);
+}
 
 void TextControl::Type(std::string_view text)
 {
@@ -19,7 +29,11 @@ void TextControl::SetLocked(bool locked)
 }
 
 TextBox::TextBox(Form& owner, std::string name, std::string caption, std::string text)
-    : TextControl(owner, std::move(name), std::move(caption)), text_(std::move(text))
+    : ControlKind(owner, std::move(name), std::move(caption), TextEvents{}), text_(std::move(text))
+{}
+
+TextBox::TextBox(Form& owner, std::string name, std::string caption, TextEvents events)
+    : ControlKind(owner, std::move(name), std::move(caption), std::move(events))
 {}
 
 void TextBox::SetText(std::string_view text)
@@ -30,7 +44,18 @@ void TextBox::SetText(std::string_view text)
 }
 
 ComboBox::ComboBox(Form& owner, std::string name, std::string caption, std::vector<std::string> list, std::string text)
-    : TextControl(owner, std::move(name), std::move(caption)), text_(std::move(text)), list_(std::move(list))
+    : ControlKind(owner, std::move(name), std::move(caption), TextEvents{}),
+      text_(std::move(text)),
+      list_(std::move(list))
+{}
+
+ComboBox::ComboBox(Form& owner, std::string name, std::string caption, std::vector<std::string> list,
+                   ComboEvents events)
+    : ControlKind(owner, std::move(name), std::move(caption),
+                  TextEvents{std::move(events.Change), std::move(events.KeyPress), std::move(events.GotFocus),
+                             std::move(events.LostFocus)}),
+      Click(std::move(events.Click)),
+      list_(std::move(list))
 {}
 
 void ComboBox::SetText(std::string_view text)
@@ -60,8 +85,8 @@ void ComboBox::Choose(std::size_t index)
     Raise("Click", Click);
 }
 
-DatePicker::DatePicker(Form& owner, std::string name, std::string caption)
-    : TextControl(owner, std::move(name), std::move(caption))
+DatePicker::DatePicker(Form& owner, std::string name, std::string caption, TextEvents events)
+    : ControlKind(owner, std::move(name), std::move(caption), std::move(events))
 {}
 
 std::string DatePicker::Text() const

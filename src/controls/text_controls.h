@@ -1,6 +1,7 @@
 /// Controls whose content is a text that a person types or picks.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -10,10 +11,22 @@
 
 namespace terravane {
 
+struct TextEvents {
+    Handler Change = {};
+    KeyHandler KeyPress = {};
+    Handler GotFocus = {}, LostFocus = {};
+};
+
+struct ComboEvents {
+    Handler Click = {}, Change = {};
+    KeyHandler KeyPress = {};
+    Handler GotFocus = {}, LostFocus = {};
+};
+
 /// Anything that holds one text that load, save and scripts set by name.
 class TextControl : public Control {
   public:
-    using Control::Control;
+    TextControl(Form& owner, std::string name, std::string caption, TextEvents events);
 
     /// Puts a text into the control, as a handler does; runs no event but those that the kind states.
     virtual void SetText(std::string_view text) = 0;
@@ -30,9 +43,10 @@ class TextControl : public Control {
     bool locked_ = false;
 };
 
-class TextBox : public TextControl {
+class TextBox : public ControlKind<TextBox, TextControl> {
   public:
     TextBox(Form& owner, std::string name, std::string caption = {}, std::string text = {});
+    TextBox(Form& owner, std::string name, std::string caption, TextEvents events);
 
     std::string Text() const override { return text_; }
     void SetText(std::string_view text) override;
@@ -42,10 +56,11 @@ class TextBox : public TextControl {
 };
 
 /// A box with a list below it; any text may be typed, in the list or not.
-class ComboBox : public TextControl {
+class ComboBox : public ControlKind<ComboBox, TextControl> {
   public:
     ComboBox(Form& owner, std::string name, std::string caption = {}, std::vector<std::string> list = {},
              std::string text = {});
+    ComboBox(Form& owner, std::string name, std::string caption, std::vector<std::string> list, ComboEvents events);
 
     std::string Text() const override { return text_; }
     void SetText(std::string_view text) override;
@@ -65,9 +80,9 @@ class ComboBox : public TextControl {
 };
 
 /// Holds a date; its text is the short date form. A text that is no date raises error 13 and changes nothing.
-class DatePicker : public TextControl {
+class DatePicker : public ControlKind<DatePicker, TextControl> {
   public:
-    DatePicker(Form& owner, std::string name, std::string caption = {});
+    DatePicker(Form& owner, std::string name, std::string caption = {}, TextEvents events = {});
 
     std::string Text() const override;
     void SetText(std::string_view text) override;

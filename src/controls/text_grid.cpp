@@ -1,5 +1,7 @@
 #include "controls/text_grid.h"
 
+#include <utility>
+
 #include "runtime/runtime_error.h"
 
 namespace terravane {
@@ -23,8 +25,9 @@ const std::string& Cell::Text() const
     return grid_.cells_[grid_.Index(row_, column_)];
 }
 
-TextGrid::TextGrid(Form& owner, std::string name, int rows, int columns)
-    : Control(owner, std::move(name)),
+TextGrid::TextGrid(Form& owner, std::string name, int rows, int columns, GridEvents events)
+    : ControlKind(owner, std::move(name)),
+      MouseDown(std::move(events.MouseDown)),
       rows_(rows),
       columns_(columns),
       cells_(static_cast<std::size_t>(rows * columns)),

@@ -2,6 +2,8 @@
 /// unless the grid's owner says otherwise.
 #pragma once
 
+#include <cstddef>
+#include <functional>
 #include <ostream>
 #include <set>
 #include <string>
@@ -12,7 +14,6 @@
 
 namespace terravane {
 
-class CellEditor;
 class TextGrid;
 
 enum class MouseButton { Left, Right };
@@ -45,9 +46,15 @@ class Cell {
     int row_, column_;
 };
 
-class TextGrid : public Control {
+using GridMouseHandler = std::function<void(MouseButton button, int row, int column)>;
+
+struct GridEvents {
+    GridMouseHandler MouseDown = {};
+};
+
+class TextGrid : public ControlKind<TextGrid> {
   public:
-    TextGrid(Form& owner, std::string name, int rows, int columns);
+    TextGrid(Form& owner, std::string name, int rows, int columns, GridEvents events = {});
 
     int Rows() const { return rows_; }
     int Columns() const { return columns_; }
@@ -95,12 +102,7 @@ class TextGrid : public Control {
 
     /// The user's press on a cell.
     void PressMouse(MouseButton button, int row, int column);
-    std::function<void(MouseButton button, int row, int column)> MouseDown;
-
-    /// The editor that floats over this grid, if any. Several may share a grid's cells by column; the form
-    /// chooses.
-    CellEditor* Editor() const { return editor_; }
-    void SetEditor(CellEditor* editor) { editor_ = editor; }
+    GridMouseHandler MouseDown;
 
   private:
     friend class Cell;
@@ -119,7 +121,6 @@ class TextGrid : public Control {
     std::vector<bool> calculated_;
     std::vector<double> columnWidths_;
     std::set<int> mergedRows_, mergedColumns_;
-    CellEditor* editor_ = nullptr;
 };
 
 }  // namespace terravane

@@ -93,13 +93,18 @@ void MakeEditable(QComboBox& view)
     KeepOnBaseline(*box);
 }
 
-QIcon IconOf(const std::string& caption)
+QIcon PictureOf(Icon icon)
 {
-    if (caption.starts_with("Save")) return looks::StandardIcon(QStyle::SP_DialogSaveButton);
-    if (caption.starts_with("Exit") || caption.starts_with("Close")) {
-        return looks::StandardIcon(QStyle::SP_DialogCloseButton);
+    switch (icon) {
+        case Icon::Save:
+            return looks::StandardIcon(QStyle::SP_DialogSaveButton);
+        case Icon::Print:
+            return looks::StandardIcon(QStyle::SP_FileDialogDetailedView);
+        case Icon::Close:
+            return looks::StandardIcon(QStyle::SP_DialogCloseButton);
+        case Icon::None:
+            break;
     }
-    if (caption.starts_with("Print")) return looks::StandardIcon(QStyle::SP_FileDialogDetailedView);
     return {};
 }
 
@@ -110,7 +115,7 @@ QToolButton* MakeToolButton(Toolbar& bar, int number, QToolBar& view)
     tool->setText(ToQt(button.caption));
     tool->setToolTip(ToQt(button.toolTip.empty() ? button.caption : button.toolTip));
     tool->setAccessibleName(ToQt(button.caption));
-    tool->setIcon(IconOf(button.caption));
+    tool->setIcon(PictureOf(button.icon));
     tool->setToolButtonStyle(tool->icon().isNull() ? Qt::ToolButtonTextOnly : Qt::ToolButtonTextBesideIcon);
     tool->setFocusPolicy(Qt::TabFocus);
     if (button.items.empty()) {

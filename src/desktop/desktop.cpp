@@ -75,21 +75,27 @@ FrameWindow* Desktop::FrameOpen() const
 
 QWidget* Desktop::Open(const Program::ShownForm& shown)
 {
-    Form& form = *shown.form;
-    QWidget* window = nullptr;
-    if (form.Name() == "mdiBack") {
-        window = new FrameWindow(program_, form);
-    } else if (form.Name() == "frmTitle") {
-        window = new SplashWindow(form);
-    } else if (form.Name() == "frmPreview") {
-        window = new PreviewWindow(program_, surroundings_, form, FrameOpen());
-    } else if (form.Find("tblMenu")) {
-        return FrameOpen()->ShowSheet(form);
-    } else {
-        window = new DialogWindow(program_, form, shown.modality, FrameOpen());
-    }
+    if (shown.form->Window() == WindowKind::Sheet) return FrameOpen()->ShowSheet(*shown.form);
+    QWidget* window = MakeWindow(shown);
     window->show();
     return window;
+}
+
+QWidget* Desktop::MakeWindow(const Program::ShownForm& shown)
+{
+    Form& form = *shown.form;
+    switch (form.Window()) {
+        case WindowKind::Frame:
+            return new FrameWindow(program_, form);
+        case WindowKind::Splash:
+            return new SplashWindow(form);
+        case WindowKind::Preview:
+            return new PreviewWindow(program_, surroundings_, form, FrameOpen());
+        case WindowKind::Dialog:
+        case WindowKind::Sheet:  // stands in the frame's window
+            break;
+    }
+    return new DialogWindow(program_, form, shown.modality, FrameOpen());
 }
 
 }  // namespace terravane

@@ -23,6 +23,7 @@ class Desktop {
     void Follow();
     void TakeAwayClosed();
     QWidget* Open(const Program::ShownForm& shown);
+    QWidget* MakeWindow(const Program::ShownForm& shown);
     FrameWindow* FrameOpen() const;
 
     Program& program_;

@@ -17,8 +17,14 @@
 #include <algorithm>
 #include <optional>
 
+#include "controls/cell_editor.h"
+#include "controls/choice_controls.h"
+#include "controls/furniture.h"
+#include "controls/list_cell_editor.h"
 #include "controls/picture_box.h"
-#include "controls/pressed_frame.h"
+#include "controls/text_controls.h"
+#include "controls/text_grid.h"
+#include "controls/visit_control.h"
 #include "desktop/grid_view.h"
 #include "desktop/looks.h"
 #include "desktop/picture_view.h"
@@ -101,12 +107,6 @@ QLabel* MakeCaption(const Control& control, QWidget* buddy, QWidget* parent)
     return label;
 }
 
-/// A press that no control in a frame takes is the frame's.
-void PressFrame(Control& control)
-{
-    if (auto* frame = dynamic_cast<PressedFrame*>(&control)) frame->Press();
-}
-
 }  // namespace
 
 FormView::FormView(Form& form, const Place& layout, QWidget* parent) : QWidget(parent), form_(form)
@@ -115,9 +115,7 @@ FormView::FormView(Form& form, const Place& layout, QWidget* parent) : QWidget(p
     box->setContentsMargins(looks::kMargin, looks::kMargin, looks::kMargin, looks::kMargin);
     box->setSpacing(looks::kGap);
     box->addWidget(Make(layout, *this), 1);
-    for (Control* control : form.Controls()) {
-        auto* timer = dynamic_cast<Timer*>(control);
-        if (!timer) continue;
+    for (Timer* timer : ControlsOf<Timer>(form)) {
         bindings_.push_back(Bind(*timer, *new QTimer(this)));
         timer->Tick();  // the clock is right from the start
     }
@@ -130,6 +128,7 @@ void FormView::LetGo()
 {
     bindings_.clear();
     controls_.clear();
+    frames_.clear();
     views_.clear();
 }
 
@@ -223,7 +222,7 @@ void FormView::AddFieldRow(QFormLayout& fields, const Place& place)
 
 QWidget* FormView::MakeGroup(const Place& place, QWidget& parent)
 {
-    auto& frame = form_.Get<Control>(place.control);
+    auto& frame = form_.Get<Frame>(place.control);
     auto* group = new QGroupBox(PlainCaption(frame), &parent);
     auto* box = new QVBoxLayout(group);
     AddAll(*box, place.parts);
@@ -231,8 +230,8 @@ QWidget* FormView::MakeGroup(const Place& place, QWidget& parent)
     bindings_.push_back(BindFurniture(frame, *group));
     bindings_.push_back(frame.Show([&frame, group] { group->setTitle(PlainCaption(frame)); }));
     views_[&frame] = group;
-    if (dynamic_cast<PressedFrame*>(&frame)) {
-        controls_[group] = &frame;
+    if (frame.Click) {
+        frames_[group] = &frame;
         group->installEventFilter(this);
     }
     return group;
@@ -345,22 +344,41 @@ QWidget* FormView::MakeBound(Kind& control, QWidget& parent)
     return view;
 }
 
-QWidget* FormView::MakeControl(Control& control, QWidget& parent)
-{
-    if (auto* box = dynamic_cast<TextBox*>(&control)) return MakeBound<QLineEdit>(*box, parent);
-    if (auto* combo = dynamic_cast<ComboBox*>(&control)) return MakeBound<QComboBox>(*combo, parent);
-    if (auto* picker = dynamic_cast<DatePicker*>(&control)) return MakeBound<QDateEdit>(*picker, parent);
-    if (auto* button = dynamic_cast<CommandButton*>(&control)) return MakeBound<QPushButton>(*button, parent);
-    if (auto* option = dynamic_cast<OptionButton*>(&control)) return MakeBound<QRadioButton>(*option, parent);
-    if (auto* check = dynamic_cast<CheckBox*>(&control)) return MakeBound<QCheckBox>(*check, parent);
-    if (auto* list = dynamic_cast<ListBox*>(&control)) {
-        QWidget* view = MakeBound<QListWidget>(*list, parent);
+/// The widget of a control that stands alone in its place.
+struct FormView::WidgetMaker {
+    FormView& form;
+    QWidget& parent;
+
+    QWidget* operator()(TextBox& box) const { return form.MakeBound<QLineEdit>(box, parent); }
+    QWidget* operator()(OneOf<ComboBox, ListCellEditor> auto& combo) const
+    {
+        return form.MakeBound<QComboBox>(static_cast<ComboBox&>(combo), parent);
+    }
+    QWidget* operator()(DatePicker& picker) const { return form.MakeBound<QDateEdit>(picker, parent); }
+    QWidget* operator()(CommandButton& button) const { return form.MakeBound<QPushButton>(button, parent); }
+    QWidget* operator()(OptionButton& option) const { return form.MakeBound<QRadioButton>(option, parent); }
+    QWidget* operator()(CheckBox& check) const { return form.MakeBound<QCheckBox>(check, parent); }
+    QWidget* operator()(ListBox& list) const
+    {
+        QWidget* view = form.MakeBound<QListWidget>(list, parent);
         view->setMinimumHeight(2 * looks::kGridRowHeight);
         return view;
     }
-    if (auto* label = dynamic_cast<Label*>(&control)) return MakeBound<QLabel>(*label, parent);
-    if (auto* image = dynamic_cast<Image*>(&control)) return MakeImage(*image, parent);
-    return MakeGrid(form_.Get<TextGrid>(control.Name()), parent);
+    QWidget* operator()(Label& label) const { return form.MakeBound<QLabel>(label, parent); }
+    QWidget* operator()(Image& image) const { return form.MakeImage(image, parent); }
+    QWidget* operator()(TextGrid& grid) const { return form.MakeGrid(grid, parent); }
+    /// These stand around others, over a grid or in a bar, and those that draw have places of their own.
+    QWidget* operator()(OneOf<CellEditor, Frame, MenuEntry, PictureBox, ScrollBar, StatusBar, TabControl, Timer,
+                              Toolbar> auto& control) const
+    {
+        return Fail(control);
+    }
+    QWidget* Fail(const Control& control) const { form.form_.FailMissing(control.Name()); }
+};
+
+QWidget* FormView::MakeControl(Control& control, QWidget& parent)
+{
+    return VisitControl(WidgetMaker{*this, parent}, control);
 }
 
 QWidget* FormView::MakeGrid(TextGrid& grid, QWidget& parent)
@@ -368,7 +386,7 @@ QWidget* FormView::MakeGrid(TextGrid& grid, QWidget& parent)
     auto* view = new GridView(grid, &parent);
     bindings_.push_back(BindFurniture(grid, *view));
     Watch(grid, *view);
-    if (view->EditorBox()) Watch(*grid.Editor(), *view->EditorBox());
+    if (view->EditorBox()) Watch(*view->Editor(), *view->EditorBox());
     if (view->EditorList()) Watch(*view->ListEditor(), *view->EditorList());
     return view;
 }
@@ -388,11 +406,11 @@ void FormView::Watch(Control& control, QWidget& view)
 
 bool FormView::eventFilter(QObject* watched, QEvent* event)
 {
+    if (event->type() == QEvent::MouseButtonPress) PressFrame(*watched);
     const auto found = controls_.find(watched);
     if (found == controls_.end()) return false;
     Control& control = *found->second;
     if (event->type() == QEvent::FocusIn) control.SetFocus();
-    if (event->type() == QEvent::MouseButtonPress) PressFrame(control);
     if (event->type() == QEvent::Enter && control.MouseMove) control.MouseMove();
     if (event->type() == QEvent::Leave && control.MouseMove && control.MouseLeave) control.MouseLeave();
     if (event->type() != QEvent::KeyPress) return false;
@@ -400,6 +418,12 @@ bool FormView::eventFilter(QObject* watched, QEvent* event)
     const bool isShortcut = press->modifiers() & (Qt::ControlModifier | Qt::AltModifier);
     const auto key = isShortcut ? std::nullopt : KeyOf(press->key());
     return key && control.PressKey(*key);
+}
+
+/// A press that no control in a frame takes is the frame's.
+void FormView::PressFrame(const QObject& watched)
+{
+    if (const auto found = frames_.find(&watched); found != frames_.end()) found->second->Press();
 }
 
 void FormView::FollowFocus()

@@ -47,15 +47,18 @@ class FormView : public QWidget {
     QWidget* MakeControl(Control& control, QWidget& parent);
     QWidget* Make(const Place& place, QWidget& parent);
 
+    struct WidgetMaker;
     template <class View, class Kind>
     QWidget* MakeBound(Kind& control, QWidget& parent);
 
     void Watch(Control& control, QWidget& view);
+    void PressFrame(const QObject& watched);
     void FollowFocus();
 
     Form& form_;
     std::unordered_map<const Control*, QWidget*> views_;
     std::unordered_map<const QObject*, Control*> controls_;
+    std::unordered_map<const QObject*, Frame*> frames_;  // that hear a press
     Bindings bindings_;
 };
 

@@ -10,7 +10,7 @@
 #include <QStyledItemDelegate>
 #include <algorithm>
 
-#include "controls/form.h"
+#include "controls/visit_control.h"
 #include "desktop/looks.h"
 
 namespace terravane {
@@ -44,6 +44,15 @@ QPalette::ColorRole GroundOf(const TextGrid& grid, int row, int column)
 bool BeginsGroup(const TextGrid& grid, int row)
 {
     return row > 0 && IsMerged(grid, 0) && grid.AreaOf(row, 0).row == row;
+}
+
+/// The editor of that kind that floats over the grid, if any.
+template <class Editor>
+Editor* EditorOver(TextGrid& grid)
+{
+    const auto editors = ControlsOf<Editor>(grid.Owner());
+    const auto found = std::ranges::find_if(editors, [&grid](Editor* editor) { return &editor->Grid() == &grid; });
+    return found == editors.end() ? nullptr : *found;
 }
 
 /// Heads in the palette's mid-light, calculated cells in the button face with quieter ink, thin lines.
@@ -114,7 +123,12 @@ class GridModel : public QAbstractTableModel {
     int rows_;
 };
 
-GridView::GridView(TextGrid& grid, QWidget* parent) : QTableView(parent), grid_(grid), model_(new GridModel(grid, this))
+GridView::GridView(TextGrid& grid, QWidget* parent)
+    : QTableView(parent),
+      grid_(grid),
+      model_(new GridModel(grid, this)),
+      editor_(EditorOver<CellEditor>(grid)),
+      listEditor_(EditorOver<ListCellEditor>(grid))
 {
     horizontalHeader()->hide();
     verticalHeader()->hide();
@@ -125,8 +139,8 @@ GridView::GridView(TextGrid& grid, QWidget* parent) : QTableView(parent), grid_(
     setFrameShape(QFrame::StyledPanel);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollMode(ScrollPerItem);  // a grid never shows half a row
-    if (CellEditor* editor = grid.Editor()) MakeEditorBox(*editor);
-    MakeEditorList();
+    if (editor_) MakeEditorBox();
+    if (listEditor_) MakeEditorList();
     bindings_.push_back(grid.Show([this] {
         if (model_->TakeUp() && model()) ShareRoom();
         ShowMerged();
@@ -148,7 +162,7 @@ void GridView::ShowMerged()
     }
 }
 
-void GridView::MakeEditorBox(CellEditor& editor)
+void GridView::MakeEditorBox()
 {
     box_ = new QLineEdit(viewport());
     box_->setAlignment(Qt::AlignHCenter);
@@ -156,17 +170,12 @@ void GridView::MakeEditorBox(CellEditor& editor)
     box_->setStyleSheet("QLineEdit { border: 2px solid palette(highlight); padding: 0px; }");
     box_->setAccessibleName(QObject::tr("Cell"));
     box_->hide();
-    connect(box_, &QLineEdit::textEdited, this, [&editor](const QString& text) { editor.Type(text.toStdString()); });
-    bindings_.push_back(editor.Show([this] { ShowEditors(); }));
+    connect(box_, &QLineEdit::textEdited, this, [this](const QString& text) { editor_->Type(text.toStdString()); });
+    bindings_.push_back(editor_->Show([this] { ShowEditors(); }));
 }
 
 void GridView::MakeEditorList()
 {
-    for (Control* control : grid_.Owner().Controls()) {
-        auto* editor = dynamic_cast<ListCellEditor*>(control);
-        if (editor && &editor->Grid() == &grid_) listEditor_ = editor;
-    }
-    if (!listEditor_) return;
     list_ = new QComboBox(viewport());
     list_->hide();
     bindings_.push_back(Bind(*listEditor_, *list_));
@@ -198,11 +207,10 @@ bool GridView::Stand(QWidget& view, const Control& editor)
 void GridView::ShowEditors()
 {
     if (list_) Stand(*list_, *listEditor_);
-    if (!box_ || !Stand(*box_, *grid_.Editor())) return;
-    const CellEditor& editor = *grid_.Editor();
-    ShowText(*box_, editor.Text());
-    if (editor.SelectAllRequests() != selectRequestsSeen_) box_->selectAll();
-    selectRequestsSeen_ = editor.SelectAllRequests();
+    if (!box_ || !Stand(*box_, *editor_)) return;
+    ShowText(*box_, editor_->Text());
+    if (editor_->SelectAllRequests() != selectRequestsSeen_) box_->selectAll();
+    selectRequestsSeen_ = editor_->SelectAllRequests();
 }
 
 /// Layouts ask for the same sizes many times over, and breaking texts into lines is slow.
@@ -356,8 +364,8 @@ void GridView::focusInEvent(QFocusEvent* event)
 {
     QTableView::focusInEvent(event);
     const bool byKey = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
-    if (!byKey || !grid_.Editor()) return;
-    const CellRange range = grid_.Editor()->Range();
+    if (!byKey || !editor_) return;
+    const CellRange range = editor_->Range();
     grid_.PressMouse(MouseButton::Left, range.firstRow, range.firstColumn);
 }
 

@@ -24,7 +24,8 @@ class GridView : public QTableView {
     GridView(TextGrid& grid, QWidget* parent);
 
     TextGrid& Grid() const { return grid_; }
-    /// The box of the grid's editor; nullptr where the grid is only read.
+    /// The grid's editor, with its view; nullptr where the grid is only read.
+    CellEditor* Editor() const { return editor_; }
     QLineEdit* EditorBox() const { return box_; }
     /// The list over the cells that are chosen, with its view; nullptr where the grid has none.
     ListCellEditor* ListEditor() const { return listEditor_; }
@@ -52,7 +53,7 @@ class GridView : public QTableView {
     void ShareWidth();
     void FillHeight();
     void ShowMerged();
-    void MakeEditorBox(CellEditor& editor);
+    void MakeEditorBox();
     void MakeEditorList();
     bool Stand(QWidget& view, const Control& editor);
     void ShowEditors();
@@ -64,8 +65,9 @@ class GridView : public QTableView {
 
     TextGrid& grid_;
     GridModel* model_;
+    CellEditor* editor_;
     QLineEdit* box_ = nullptr;
-    ListCellEditor* listEditor_ = nullptr;
+    ListCellEditor* listEditor_;
     QComboBox* list_ = nullptr;
     int selectRequestsSeen_ = 0;
     mutable std::map<std::pair<std::string, int>, QSize> textSizes_;  // by text and its room, in the view's font

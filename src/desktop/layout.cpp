@@ -1,9 +1,6 @@
 #include "desktop/layout.h"
 
-#include <map>
-
-#include "desktop/layouts.h"
-#include "runtime/runtime_error.h"
+#include <utility>
 
 namespace terravane {
 
@@ -96,14 +93,6 @@ Place GeneralData(std::string_view ownField)
 }
 
 }  // namespace layout
-
-const Place& LayoutOf(std::string_view form)
-{
-    static const std::map<std::string_view, Place> layouts = AllLayouts();
-    const auto found = layouts.find(form);
-    if (found != layouts.end()) return found->second;
-    throw RuntimeError(error::kObjectRequired, "The form " + std::string(form) + " has no window.");
-}
 
 std::vector<std::string> PlacedControls(const Place& place)
 {

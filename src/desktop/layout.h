@@ -56,9 +56,6 @@ Place GeneralData(std::string_view ownField = {});
 
 }  // namespace layout
 
-/// The layout of a form's window; error 424 for a form that has none.
-const Place& LayoutOf(std::string_view form);
-
 /// The names of all controls that have a place.
 std::vector<std::string> PlacedControls(const Place& place);
 

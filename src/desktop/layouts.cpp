@@ -1,5 +1,9 @@
 #include "desktop/layouts.h"
 
+#include <string>
+
+#include "runtime/runtime_error.h"
+
 namespace terravane {
 
 using namespace layout;
@@ -33,6 +37,14 @@ std::map<std::string_view, Place> AllLayouts()
         {"frmSummary", SummaryLayout()},
         {"frmDensity", DensityLayout()},
     };
+}
+
+const Place& LayoutOf(std::string_view form)
+{
+    static const std::map<std::string_view, Place> layouts = AllLayouts();
+    const auto found = layouts.find(form);
+    if (found != layouts.end()) return found->second;
+    throw RuntimeError(error::kObjectRequired, "The form " + std::string(form) + " has no window.");
 }
 
 }  // namespace terravane

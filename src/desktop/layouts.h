@@ -22,4 +22,7 @@ Place PreferencesLayout();
 /// By the name of the form.
 std::map<std::string_view, Place> AllLayouts();
 
+/// The layout of a form's window; error 424 for a form that has none.
+const Place& LayoutOf(std::string_view form);
+
 }  // namespace terravane

@@ -18,6 +18,8 @@
 #include <algorithm>
 #include <chrono>
 
+#include "controls/visit_control.h"
+#include "desktop/layouts.h"
 #include "desktop/looks.h"
 #include "render/painter.h"
 
@@ -83,9 +85,7 @@ FrameWindow::FrameWindow(Program& program, Form& frame) : program_(program), for
 void FrameWindow::BuildMenu()
 {
     std::unordered_map<std::string, QMenu*> menus;
-    for (Control* control : form_.Controls()) {
-        auto* entry = dynamic_cast<MenuEntry*>(control);
-        if (!entry) continue;
+    for (MenuEntry* entry : ControlsOf<MenuEntry>(form_)) {
         if (entry->Parent().empty()) {
             menus[entry->Name()] = menuBar()->addMenu(ToQt(entry->Caption()));
             continue;
@@ -225,9 +225,7 @@ SplashWindow::SplashWindow(Form& form) : QWidget(nullptr, Qt::SplashScreen), for
     setAttribute(Qt::WA_DeleteOnClose, false);
     setFixedSize(560, 320);
     move(screen()->geometry().center() - rect().center());
-    for (Control* control : form.Controls()) {
-        if (auto* timer = dynamic_cast<Timer*>(control)) bindings_.push_back(Bind(*timer, *new QTimer(this)));
-    }
+    for (Timer* timer : ControlsOf<Timer>(form)) bindings_.push_back(Bind(*timer, *new QTimer(this)));
 }
 
 void SplashWindow::paintEvent(QPaintEvent*)

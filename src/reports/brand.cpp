@@ -27,7 +27,7 @@ const jet::Recordset& OpenLogoRow(Program& program)
 std::shared_ptr<const Picture> LoadBrandPicture(Program& program, std::string_view holder, std::string_view file)
 {
     auto picture = LoadPicture(program.Files(), program.BrandFolderNow() + std::string(file));
-    if (const Form* preview = program.Loaded("frmPreview")) preview->Get<Image>(holder).SetContent(picture);
+    if (Form* preview = program.Loaded("frmPreview")) preview->Get<Image>(holder).SetContent(picture);
     return picture;
 }
 

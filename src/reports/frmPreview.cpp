@@ -14,15 +14,9 @@ constexpr std::string_view kBack = "<<Back";
 
 }  // namespace
 
-frmPreview::frmPreview(Program& owner) : Form(owner, "frmPreview", "Report Preview"), program(owner)
-{
-    cboScale.Click = [this] { cboScale_Click(); };
-    cmdNext.Click = [this] { cmdNext_Click(); };
-    HScroll1.Change = [this] { HScroll1_Change(); };
-    VScroll1.Change = [this] { VScroll1_Change(); };
-    Picture1.ViewResized = [this](double width, double height) { ResizeViewport(width, height); };
-    Toolbar1.ButtonClick = [this](int number) { Toolbar1_ButtonClick(number); };
-}
+frmPreview::frmPreview(Program& owner)
+    : Form(owner, "frmPreview", "Report Preview", WindowKind::Preview), program(owner)
+{}
 
 void frmPreview::Form_Load()
 {

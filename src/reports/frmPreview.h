@@ -18,15 +18,25 @@ struct frmPreview : Form {
 
     Program& program;
 
-    Toolbar Toolbar1{
-        *this, "Toolbar1", {{"mn2", "Print", "Print the report", {}}, {"mn3", "Close", "Close the preview", {}}}};
-    ComboBox cboScale{*this, "cboScale", "Preview Scale", {"50%", "75%", "100%"}};
-    CommandButton cmdNext{*this, "cmdNext", "Next>>"};
-    PictureBox Picture1{*this, "Picture1", 0, 0, 11000, 7500};      // the viewport
+    Toolbar Toolbar1{*this,
+                     "Toolbar1",
+                     {{.key = "mn2", .caption = "Print", .toolTip = "Print the report", .icon = Icon::Print},
+                      {.key = "mn3", .caption = "Close", .toolTip = "Close the preview", .icon = Icon::Close}},
+                     {.ButtonClick = [this](int number) { Toolbar1_ButtonClick(number); }}};
+    ComboBox cboScale{
+        *this, "cboScale", "Preview Scale", {"50%", "75%", "100%"}, {.Click = [this] { cboScale_Click(); }}};
+    CommandButton cmdNext{*this, "cmdNext", "Next>>", {.Click = [this] { cmdNext_Click(); }}};
+    PictureBox Picture1{*this,
+                        "Picture1",
+                        0,
+                        0,
+                        11000,
+                        7500,  // the viewport
+                        {.ViewResized = [this](double width, double height) { ResizeViewport(width, height); }}};
     PictureBox picView{*this, "picView", 0, 0, kA4Short, kA4Long};  // the page
     PictureBox picPreview{*this, "picPreview", 0, 0, 6000, 7000};   // its zoomed copy
-    ScrollBar HScroll1{*this, "HScroll1"};
-    ScrollBar VScroll1{*this, "VScroll1"};
+    ScrollBar HScroll1{*this, "HScroll1", {.Change = [this] { HScroll1_Change(); }}};
+    ScrollBar VScroll1{*this, "VScroll1", {.Change = [this] { VScroll1_Change(); }}};
     Image Image1{*this, "Image1"};  // the pictures loaded last: institute, department, cover
     Image Image2{*this, "Image2"};
     Image Image6{*this, "Image6"};

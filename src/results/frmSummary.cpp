@@ -64,8 +64,6 @@ void Mark(TextGrid& grid, const Remark& remark, int column)
 frmSummary::frmSummary(Program& owner) : Form(owner, "frmSummary", "Overall Report"), program(owner)
 {
     imgLogo.SetContent(ProductLogo());
-    cmdPrint.Click = [this] { cmdPrint_Click(); };
-    cmdClose.Click = [this] { cmdClose_Click(); };
 }
 
 void frmSummary::Form_Load()

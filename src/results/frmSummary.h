@@ -21,8 +21,8 @@ struct frmSummary : Form {
     TextBox txtProject{*this, "txtProject", "Project Name"};
     TextBox txtLocation{*this, "txtLocation", "Location"};
     TextGrid mshSum{*this, "mshSum", summary::kRows, summary::kColumns};
-    CommandButton cmdPrint{*this, "cmdPrint", "Print"};
-    CommandButton cmdClose{*this, "cmdClose", "Close"};
+    CommandButton cmdPrint{*this, "cmdPrint", "Print", {.Click = [this] { cmdPrint_Click(); }}};
+    CommandButton cmdClose{*this, "cmdClose", "Close", {.Click = [this] { cmdClose_Click(); }}};
 
     /// Reads the results afresh from the file of the recent entry, which becomes the current project. Errors of the
     /// store where that file is missing, damaged or without one of the tables.

@@ -6,8 +6,11 @@
 #include "app/mdiBack.h"
 #include "controls/cell_editor.h"
 #include "controls/choice_controls.h"
+#include "controls/furniture.h"
 #include "controls/list_cell_editor.h"
-#include "controls/pressed_frame.h"
+#include "controls/text_controls.h"
+#include "controls/text_grid.h"
+#include "controls/visit_control.h"
 #include "runtime/text.h"
 #include "script/commands.h"
 #include "script/script_controls.h"
@@ -22,7 +25,7 @@ void Refuse(Session& session, const std::string& asked, std::string_view why)
 }
 
 /// Runs what a person does to a control, or answers why no person could.
-void Use(Session& session, const std::string& asked, const Control& control, const Handler& act)
+void Use(Session& session, const std::string& asked, Control& control, const Handler& act)
 {
     if (const auto why = WhyUnusable(control)) return Refuse(session, asked, *why);
     session.program.Run(control.Owner().Name() + "." + control.Name(), act);
@@ -42,7 +45,8 @@ void RunMenu(Session& session, Words words)
 {
     const std::string& key = words[0];
     auto& frame = session.program.Get<mdiBack>(kFrameName);
-    if (auto* entry = dynamic_cast<MenuEntry*>(frame.Find(key))) {
+    Control* control = frame.Find(key);
+    if (MenuEntry* entry = control ? UsesOf(*control).entry : nullptr) {
         return Use(session, key, *entry, [entry] { entry->Press(); });
     }
     const auto hasKey = [&key](const ToolButton& button) {
@@ -57,22 +61,9 @@ void RunMenu(Session& session, Words words)
 void RunClick(Session& session, Words words)
 {
     Control& control = ControlNamed(session.program, words[0]);
-    if (auto* button = dynamic_cast<CommandButton*>(&control)) {
-        return Enter(session, words[0], control, [button] { button->Press(); });
-    }
-    if (auto* option = dynamic_cast<OptionButton*>(&control)) {
-        return Enter(session, words[0], control, [option] { option->Choose(); });
-    }
-    if (auto* box = dynamic_cast<CheckBox*>(&control)) {
-        return Enter(session, words[0], control, [box] { box->SetValue(!box->Value()); });
-    }
-    if (auto* label = dynamic_cast<Label*>(&control)) {
-        return Use(session, words[0], control, [label] { label->Press(); });
-    }
-    if (auto* frame = dynamic_cast<PressedFrame*>(&control)) {
-        return Use(session, words[0], control, [frame] { frame->Press(); });
-    }
-    throw LineFault("\"" + words[0] + "\" can't be clicked.");
+    const ControlUses uses = UsesOf(control);
+    if (!uses.click) throw LineFault("\"" + words[0] + "\" can't be clicked.");
+    uses.clickTakesFocus ? Enter(session, words[0], control, uses.click) : Use(session, words[0], control, uses.click);
 }
 
 /// The number, from 1, of a bar's button by that number or by its key; nothing where it has none such.
@@ -90,7 +81,7 @@ std::optional<int> ButtonOf(const Toolbar& bar, const std::string& word)
 
 void RunTool(Session& session, Words words)
 {
-    auto& bar = ControlNamed<Toolbar>(session.program, words[0], "take a button's number");
+    auto& bar = ControlFor(&ControlUses::buttons, session.program, words[0], "take a button's number");
     const auto number = ButtonOf(bar, words[1]);
     if (!number) throw LineFault("\"" + words[0] + "\" has no button " + words[1] + ".");
     if (!bar.Button(*number).enabled) return Refuse(session, words[0], "disabled");
@@ -99,14 +90,14 @@ void RunTool(Session& session, Words words)
 
 void RunCheck(Session& session, Words words)
 {
-    auto& box = ControlNamed<CheckBox>(session.program, words[0], "be ticked");
+    auto& box = ControlFor(&ControlUses::tick, session.program, words[0], "be ticked");
     const bool on = OnOrOff(words[1]);
     Enter(session, words[0], box, [&] { box.SetValue(on); });
 }
 
 void RunSet(Session& session, Words words)
 {
-    auto& box = ControlNamed<TextControl>(session.program, words[0], "take a text");
+    auto& box = ControlFor(&ControlUses::text, session.program, words[0], "take a text");
     Enter(session, words[0], box, [&] { box.Type(words[1]); });
 }
 
@@ -122,29 +113,28 @@ std::size_t EntryOf(const std::vector<std::string>& list, std::string_view text)
 
 void RunChoose(Session& session, Words words)
 {
-    auto& box = ControlNamed<ComboBox>(session.program, words[0], "choose from a list");
+    auto& box = ControlFor(&ControlUses::list, session.program, words[0], "choose from a list");
     Enter(session, words[0], box, [&] { box.Choose(EntryOf(box.List(), words[1])); });
 }
 
 void RunSelect(Session& session, Words words)
 {
-    auto& list = ControlNamed<ListBox>(session.program, words[0], "select entries");
+    auto& list = ControlFor(&ControlUses::entries, session.program, words[0], "select entries");
     const bool on = OnOrOff(words[2]);
     Enter(session, words[0], list, [&] { list.SetSelected(EntryOf(list.List(), words[1]), on); });
 }
 
 TextGrid& GridNamed(Session& session, const std::string& name)
 {
-    return ControlNamed<TextGrid>(session.program, name, "be asked for a cell");
+    return ControlFor(&ControlUses::cells, session.program, name, "be asked for a cell");
 }
 
 /// The grid's editor that a predicate holds for; several may share a grid.
 template <class Editor, class Predicate>
-Editor* EditorOver(const TextGrid& grid, Predicate holds)
+Editor* EditorOver(TextGrid& grid, Predicate holds)
 {
-    for (Control* control : grid.Owner().Controls()) {
-        auto* editor = dynamic_cast<Editor*>(control);
-        if (editor && &editor->Grid() == &grid && holds(*editor)) return editor;
+    for (Editor* editor : ControlsOf<Editor>(grid.Owner())) {
+        if (&editor->Grid() == &grid && holds(*editor)) return editor;
     }
     return nullptr;
 }
@@ -200,7 +190,7 @@ Key KeyNamed(const std::string& name)
 /// What takes the keys of a control: a grid's go to the editor that stands on it, null where none does.
 Control* KeyTaker(Control& control)
 {
-    const auto* grid = dynamic_cast<const TextGrid*>(&control);
+    TextGrid* grid = UsesOf(control).cells;
     if (!grid) return &control;
     const auto stands = [](const Control& editor) { return editor.Visible(); };
     if (auto* list = EditorOver<ListCellEditor>(*grid, stands)) return list;
@@ -231,7 +221,7 @@ void RunMouse(Session& session, Words words)
 
 void RunTab(Session& session, Words words)
 {
-    auto& tabs = ControlNamed<TabControl>(session.program, words[0], "show a tab");
+    auto& tabs = ControlFor(&ControlUses::tabs, session.program, words[0], "show a tab");
     const int tab = WholeNumber(words[1], "a tab");
     const bool isThere = tab >= 0 && tab < tabs.Count();
     if (isThere && !tabs.TabEnabled(tab)) return Refuse(session, words[0], "disabled");

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "controls/picture_box.h"
+#include "controls/text_grid.h"
 #include "render/png.h"
 #include "reports/print_report.h"
 #include "results/summary_page.h"
@@ -17,7 +18,7 @@ namespace {
 
 void GetCell(Session& session, Words words)
 {
-    const auto& grid = ControlNamed<TextGrid>(session.program, words[0], "be asked for a cell");
+    const auto& grid = ControlFor(&ControlUses::cells, session.program, words[0], "be asked for a cell");
     const int row = WholeNumber(words[1], "a row"), column = WholeNumber(words[2], "a column");
     session.answers.Write(CellAnswer(words[0], row, column, grid(row, column)));
 }
@@ -39,7 +40,7 @@ void RunGet(Session& session, Words words)
 
 void RunDump(Session& session, Words words)
 {
-    const auto& grid = ControlNamed<TextGrid>(session.program, words[0], "be dumped");
+    const auto& grid = ControlFor(&ControlUses::cells, session.program, words[0], "be dumped");
     for (int row = 0; row < grid.Rows(); ++row) session.answers.Write(GridRowAnswer(words[0], grid, row));
 }
 
@@ -58,7 +59,7 @@ void RunForms(Session& session, Words)
 
 void RunPicture(Session& session, Words words)
 {
-    const auto& box = ControlNamed<PictureBox>(session.program, words[0], "be looked at as a picture");
+    const auto& box = ControlFor(&ControlUses::drawing, session.program, words[0], "be looked at as a picture");
     WriteItems(session.answers, *box.Image());
 }
 

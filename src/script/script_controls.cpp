@@ -2,7 +2,14 @@
 
 #include <ranges>
 
+#include "controls/cell_editor.h"
+#include "controls/choice_controls.h"
+#include "controls/furniture.h"
+#include "controls/list_cell_editor.h"
+#include "controls/picture_box.h"
 #include "controls/text_controls.h"
+#include "controls/text_grid.h"
+#include "controls/visit_control.h"
 
 namespace terravane {
 
@@ -16,6 +23,40 @@ Control* FindInShownForms(const Program& program, std::string_view name)
     return nullptr;
 }
 
+/// Of every kind.
+struct UsesOfKind {
+    ControlUses operator()(CommandButton& button) const
+    {
+        return {.click = [&button] { button.Press(); }, .clickTakesFocus = true};
+    }
+    ControlUses operator()(OptionButton& option) const
+    {
+        return {.click = [&option] { option.Choose(); }, .clickTakesFocus = true};
+    }
+    ControlUses operator()(CheckBox& box) const
+    {
+        return {.click = [&box] { box.SetValue(!box.Value()); }, .clickTakesFocus = true, .tick = &box};
+    }
+    ControlUses operator()(Label& label) const
+    {
+        return {.click = [&label] { label.Press(); }};
+    }
+    ControlUses operator()(Frame& frame) const
+    {
+        if (!frame.Click) return {};
+        return {.click = [&frame] { frame.Press(); }};
+    }
+    ControlUses operator()(MenuEntry& entry) const { return {.entry = &entry}; }
+    ControlUses operator()(Toolbar& bar) const { return {.buttons = &bar}; }
+    ControlUses operator()(OneOf<TextBox, DatePicker, CellEditor> auto& box) const { return {.text = &box}; }
+    ControlUses operator()(OneOf<ComboBox, ListCellEditor> auto& box) const { return {.text = &box, .list = &box}; }
+    ControlUses operator()(ListBox& box) const { return {.entries = &box}; }
+    ControlUses operator()(TextGrid& grid) const { return {.cells = &grid}; }
+    ControlUses operator()(TabControl& tabs) const { return {.tabs = &tabs}; }
+    ControlUses operator()(PictureBox& box) const { return {.drawing = &box}; }
+    ControlUses operator()(OneOf<Image, ScrollBar, StatusBar, Timer> auto&) const { return {}; }
+};
+
 [[noreturn]] void FailMissing(std::string_view name)
 {
     throw LineFault("There is no control \"" + std::string(name) + "\".");
@@ -27,7 +68,7 @@ Control* FindControl(const Program& program, std::string_view name)
 {
     const auto point = name.find('.');
     if (point == std::string_view::npos) return FindInShownForms(program, name);
-    const Form* form = program.Loaded(name.substr(0, point));
+    Form* form = program.Loaded(name.substr(0, point));
     return form ? form->Find(name.substr(point + 1)) : nullptr;
 }
 
@@ -45,11 +86,16 @@ AskedProperty PropertyNamed(const Program& program, const std::string& asked)
     return {ControlNamed(program, asked.substr(0, point)), asked.substr(point + 1)};
 }
 
-std::optional<std::string_view> WhyUnusable(const Control& control)
+ControlUses UsesOf(Control& control)
+{
+    return VisitControl(UsesOfKind{}, control);
+}
+
+std::optional<std::string_view> WhyUnusable(Control& control)
 {
     if (!control.Visible()) return "hidden";
     if (!control.Enabled()) return "disabled";
-    const auto* box = dynamic_cast<const TextControl*>(&control);
+    const TextControl* box = UsesOf(control).text;
     if (box && box->Locked()) return "locked";
     return std::nullopt;
 }

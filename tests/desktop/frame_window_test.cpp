@@ -13,7 +13,7 @@
 
 #include "controls/cell_editor.h"
 #include "desktop/desktop_fixture.h"
-#include "desktop/layout.h"
+#include "desktop/layouts.h"
 
 namespace terravane {
 namespace {

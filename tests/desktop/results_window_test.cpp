@@ -7,7 +7,7 @@
 
 #include "desktop/desktop_fixture.h"
 #include "desktop/grid_view.h"
-#include "desktop/layout.h"
+#include "desktop/layouts.h"
 
 namespace terravane {
 namespace {

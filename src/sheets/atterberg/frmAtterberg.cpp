@@ -28,15 +28,7 @@ frmAtterberg::frmAtterberg(Program& owner)
       txtData(*this, "txtData", MSHLL, [] { return kLiquidReadings; }),
       txtData1(*this, "txtData1", MSHPL, [] { return kPlasticReadings; })
 {
-    WireEvents();
     ChainFocus(kHeadBlockWay);
-}
-
-void frmAtterberg::WireEvents()
-{
-    cmdPlot.Click = [this] { cmdPlot_Click(); };
-    OpenByMouse(txtData);
-    OpenByMouse(txtData1);
 }
 
 void frmAtterberg::Form_Load()

@@ -5,6 +5,7 @@
 #include "controls/text_grid.h"
 #include "laboratory/atterberg.h"
 #include "numeric/straight_line.h"
+#include "sheets/pattern/grids.h"
 #include "sheets/pattern/test_sheet.h"
 
 namespace terravane {
@@ -24,13 +25,13 @@ struct frmAtterberg : TestSheet {
     explicit frmAtterberg(Program& program);
 
     Frame fraLL{*this, "fraLL", "Liquid Limit Determination"};
-    TextGrid MSHLL{*this, "MSHLL", ll::kRows, kLimitTrials + 1};
+    TextGrid MSHLL{*this, "MSHLL", ll::kRows, kLimitTrials + 1, {.MouseDown = OpensByMouse(txtData)}};
     Frame fraPL{*this, "fraPL", "Plastic Limit Determination"};
-    TextGrid MSHPL{*this, "MSHPL", pl::kRows, kLimitTrials + 1};
+    TextGrid MSHPL{*this, "MSHPL", pl::kRows, kLimitTrials + 1, {.MouseDown = OpensByMouse(txtData1)}};
     CellEditor txtData;   // over MSHLL
     CellEditor txtData1;  // over MSHPL
 
-    CommandButton cmdPlot{*this, "cmdPlot", "Plot Graph"};
+    CommandButton cmdPlot{*this, "cmdPlot", "Plot Graph", {.Click = [this] { cmdPlot_Click(); }}};
     TextBox txtLL{*this, "txtLL", "Liquid Limit (%)"};
     TextBox txtPL{*this, "txtPL", "Plastic Limit (%)"};
     TextBox txtPI{*this, "txtPI", "Plasticity Index"};
@@ -55,7 +56,6 @@ struct frmAtterberg : TestSheet {
 
   private:
     void BuildGrids();
-    void WireEvents();
     void DrawEquations();
 
     static bool HasTrial(const TextGrid& grid, int column);

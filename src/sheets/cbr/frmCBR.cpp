@@ -119,48 +119,7 @@ frmCBR::frmCBR(Program& owner)
     picgraph1.Container = &picGraph;
     picGraph3.Container = &picGraph2;
     dtpSwell.SetVisible(false);
-    WireEvents();
     ChainFocus(kWay);
-}
-
-void frmCBR::WireEvents()
-{
-    optUnsoak.Click = [this] { optUnsoak_Click(); };
-    optSoak.Click = [this] { optSoak_Click(); };
-    optBoth.Click = [this] { optBoth_Click(); };
-    optStd.Click = [this] { optStd_Click(); };
-    optMod.Click = [this] { optMod_Click(); };
-    cmdPen.Click = [this] { cmdPen_Click(); };
-    cmdLPen.Click = [this] { cmdLPen_Click(); };
-    cmdCBR.Click = [this] { cmdCBR_Click(); };
-    lblMold1.Click = [this] { lblMold1_Click(); };
-    lblMold2.Click = [this] { lblMold2_Click(); };
-    lblMold3.Click = [this] { lblMold3_Click(); };
-    lbl01.Click = [this] { lbl01_Click(); };
-    lbl02.Click = [this] { lbl02_Click(); };
-    SSTData.TabChanged = [this](int previousTab) { SSTData_Click(previousTab); };
-    WireGrids();
-    cmdView.Click = [this] {
-        DropSpareRow();
-        cmdView_Click();
-    };
-    tblMenu.ButtonClick = [this](int number) {
-        DropSpareRow();
-        tblMenu_ButtonClick(number);
-    };
-}
-
-void frmCBR::WireGrids()
-{
-    OpenByMouse(txtData);
-    OpenByMouse(txtData1);
-    MSHSwell.MouseDown = [this](MouseButton button, int row, int column) { MSHSwell_MouseDown(button, row, column); };
-    MSHPenetrate1.MouseDown = [this](MouseButton button, int row, int column) {
-        MSHPenetrate1_MouseDown(button, row, column);
-    };
-    dtpSwell.Change = [this] { dtpSwell_Change(); };
-    dtpSwell.KeyPress = [this](Key key) { return dtpSwell_KeyPress(key); };
-    dtpSwell.LostFocus = [this] { dtpSwell.SetVisible(false); };
 }
 
 void frmCBR::Form_Load()
@@ -344,11 +303,23 @@ void frmCBR::DropSpareRow()
     ShapePenetrations(spare);
 }
 
-void frmCBR::SSTData_Click(int)
+void frmCBR::SSTData_Click(int previousTab)
 {
-    HideEditors(*this);
+    TestSheet::SSTData_Click(previousTab);
     dtpSwell.SetVisible(false);
     DropSpareRow();
+}
+
+void frmCBR::cmdView_Click()
+{
+    DropSpareRow();
+    TestSheet::cmdView_Click();
+}
+
+void frmCBR::tblMenu_ButtonClick(int number)
+{
+    DropSpareRow();
+    TestSheet::tblMenu_ButtonClick(number);
 }
 
 void frmCBR::LoadChoice(std::string_view stored)

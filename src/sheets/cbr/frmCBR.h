@@ -12,6 +12,7 @@
 #include "controls/text_grid.h"
 #include "laboratory/bearing_ratio.h"
 #include "sheets/cbr/cbr_scales.h"
+#include "sheets/pattern/grids.h"
 #include "sheets/pattern/test_sheet.h"
 
 namespace terravane {
@@ -55,13 +56,13 @@ struct MouldTask {
 struct frmCBR : TestSheet {
     explicit frmCBR(Program& program);
 
-    OptionButton optUnsoak{*this, "optUnsoak", "Unsoaked", "condition"};
-    OptionButton optSoak{*this, "optSoak", "Soaked", "condition"};
-    OptionButton optBoth{*this, "optBoth", "Both", "condition"};
+    OptionButton optUnsoak{*this, "optUnsoak", "Unsoaked", "condition", {.Click = [this] { optUnsoak_Click(); }}};
+    OptionButton optSoak{*this, "optSoak", "Soaked", "condition", {.Click = [this] { optSoak_Click(); }}};
+    OptionButton optBoth{*this, "optBoth", "Both", "condition", {.Click = [this] { optBoth_Click(); }}};
 
     Frame fraCompaction{*this, "fraCompaction", "Compaction Parameters"};
-    OptionButton optStd{*this, "optStd", "Standard Proctor", "compaction"};
-    OptionButton optMod{*this, "optMod", "Modified Proctor", "compaction"};
+    OptionButton optStd{*this, "optStd", "Standard Proctor", "compaction", {.Click = [this] { optStd_Click(); }}};
+    OptionButton optMod{*this, "optMod", "Modified Proctor", "compaction", {.Click = [this] { optMod_Click(); }}};
     TextBox txtCompaction{*this, "txtCompaction", "Type of Compaction"};
     TextBox txtOMC{*this, "txtOMC", "OMC"};
     TextBox txtMDD{*this, "txtMDD", "MDD"};
@@ -71,38 +72,55 @@ struct frmCBR : TestSheet {
     TextBox txtWeight{*this, "txtWeight", "Surcharge"};
 
     Frame fraWater{*this, "fraWater", "Water Content Determination"};
-    TextGrid MSHWater{*this, "MSHWater", cbr::water::kRows, cbr::kColumns + 1};
+    TextGrid MSHWater{*this, "MSHWater", cbr::water::kRows, cbr::kColumns + 1, {.MouseDown = OpensByMouse(txtData)}};
     Frame fraDensity{*this, "fraDensity", "Dry Density Determination"};
-    TextGrid MSHCompaction{*this, "MSHCompaction", cbr::density::kRows, cbr::kColumns + 1};
+    TextGrid MSHCompaction{
+        *this, "MSHCompaction", cbr::density::kRows, cbr::kColumns + 1, {.MouseDown = OpensByMouse(txtData1)}};
     Frame fraSwell{*this, "fraSwell", "Swelling Data"};
-    TextGrid MSHSwell{*this, "MSHSwell", cbr::swell::kRows, cbr::swell::kColumns};
-    DatePicker dtpSwell{*this, "dtpSwell", "Date"};  // over the date cells of MSHSwell
+    TextGrid MSHSwell{
+        *this,
+        "MSHSwell",
+        cbr::swell::kRows,
+        cbr::swell::kColumns,
+        {.MouseDown = [this](MouseButton button, int row, int column) { MSHSwell_MouseDown(button, row, column); }}};
+    DatePicker dtpSwell{*this,  // over the date cells of MSHSwell
+                        "dtpSwell",
+                        "Date",
+                        {.Change = [this] { dtpSwell_Change(); },
+                         .KeyPress = [this](Key key) { return dtpSwell_KeyPress(key); },
+                         .LostFocus = [this] { dtpSwell.SetVisible(false); }}};
     Frame fraPenetrate{*this, "fraPenetrate", "Penetration Data"};
-    CommandButton cmdPen{*this, "cmdPen", "Penetration Intervals"};
+    CommandButton cmdPen{*this, "cmdPen", "Penetration Intervals", {.Click = [this] { cmdPen_Click(); }}};
     TextGrid MSHPenetrate{*this, "MSHPenetrate", cbr::penetration::kHeadRows, cbr::penetration::kColumns};
-    TextGrid MSHPenetrate1{*this, "MSHPenetrate1", 1, cbr::penetration::kColumns};
+    TextGrid MSHPenetrate1{*this,
+                           "MSHPenetrate1",
+                           1,
+                           cbr::penetration::kColumns,
+                           {.MouseDown = [this](MouseButton button, int row, int column) {
+                               MSHPenetrate1_MouseDown(button, row, column);
+                           }}};
     CellEditor txtData;   // over MSHWater
     CellEditor txtData1;  // over MSHCompaction
     CellEditor txtData2;  // over MSHSwell
     CellEditor txtData3;  // over MSHPenetrate1
 
-    CommandButton cmdLPen{*this, "cmdLPen", "Load-Penetration Curve"};
+    CommandButton cmdLPen{*this, "cmdLPen", "Load-Penetration Curve", {.Click = [this] { cmdLPen_Click(); }}};
     TextGrid mshLPC{*this, "mshLPC", cbr::result::kRows, cbr::kMoulds + 1};
     Frame fraCorrection{*this, "fraCorrection", "Correction of Curves"};
     CheckBox chkMold1{*this, "chkMold1", ""};  // beside the labels
     CheckBox chkMold2{*this, "chkMold2", ""};
     CheckBox chkMold3{*this, "chkMold3", ""};
-    Label lblMold1{*this, "lblMold1", std::string(cbr::kMouldNames[0])};
-    Label lblMold2{*this, "lblMold2", std::string(cbr::kMouldNames[1])};
-    Label lblMold3{*this, "lblMold3", std::string(cbr::kMouldNames[2])};
+    Label lblMold1{*this, "lblMold1", std::string(cbr::kMouldNames[0]), {.Click = [this] { lblMold1_Click(); }}};
+    Label lblMold2{*this, "lblMold2", std::string(cbr::kMouldNames[1]), {.Click = [this] { lblMold2_Click(); }}};
+    Label lblMold3{*this, "lblMold3", std::string(cbr::kMouldNames[2]), {.Click = [this] { lblMold3_Click(); }}};
     PictureBox picGraph{*this, "picGraph", 0, 0, 3600, 4400};        // tick labels, axis titles and key
     PictureBox picgraph1{*this, "picgraph1", 800, 550, 2600, 3100};  // stress against penetration, standing on it
 
-    CommandButton cmdCBR{*this, "cmdCBR", "CBR Value from Graph"};
+    CommandButton cmdCBR{*this, "cmdCBR", "CBR Value from Graph", {.Click = [this] { cmdCBR_Click(); }}};
     ComboBox cboCBR{*this, "cboCBR", "CBR at", {"90%", "95%", "98%", "100%"}, "95%"};
     TextBox txtCBR{*this, "txtCBR", "of MDD is"};  // %
-    Label lbl01{*this, "lbl01", std::string(cbr::kRatioAt01)};
-    Label lbl02{*this, "lbl02", std::string(cbr::kRatioAt02)};
+    Label lbl01{*this, "lbl01", std::string(cbr::kRatioAt01), {.Click = [this] { lbl01_Click(); }}};
+    Label lbl02{*this, "lbl02", std::string(cbr::kRatioAt02), {.Click = [this] { lbl02_Click(); }}};
     PictureBox picGraph2{*this, "picGraph2", 0, 0, 3600, 4400};
     PictureBox picGraph3{*this, "picGraph3", 800, 550, 2600, 3100};  // bearing ratio against density, standing on it
 
@@ -139,7 +157,10 @@ struct frmCBR : TestSheet {
     void MSHSwell_MouseDown(MouseButton button, int row, int column);
     void MSHPenetrate1_MouseDown(MouseButton button, int row, int column);
     void dtpSwell_Change();
-    void SSTData_Click(int previousTab);
+    /// These leave no row behind that was made for a penetration that never came.
+    void SSTData_Click(int previousTab) override;
+    void cmdView_Click() override;
+    void tblMenu_ButtonClick(int number) override;
 
     /// The stress and penetration curve of FitMold into FitCoef and FitR2.
     void FitPenetrationCurve();
@@ -153,8 +174,6 @@ struct frmCBR : TestSheet {
 
   private:
     void BuildGrids();
-    void WireEvents();
-    void WireGrids();
     void WriteConditions(std::string_view first, std::string_view second,
                          const std::array<std::string_view, 3>& moulds);
     void FetchCompaction(Test test, std::string_view name);

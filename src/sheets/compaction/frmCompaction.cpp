@@ -51,20 +51,8 @@ frmCompaction::frmCompaction(Program& owner)
 {
     MSH2.SetVisible(false);
     MSH3.SetVisible(false);
-    WireEvents();
     ChainFocus(kWay);
     ChainFocus(kHammerWay);
-}
-
-void frmCompaction::WireEvents()
-{
-    cmdOMC.Click = [this] { cmdOMC_Click(); };
-    Command5.Click = [this] { Command5_Click(); };
-    Command6.Click = [this] { Command6_Click(); };
-    chkSatLine.Click = [this] { chkSatLine_Click(); };
-    SSTData.TabChanged = [this](int previousTab) { SSTData_Click(previousTab); };
-    MSHWt.MouseDown = [this](MouseButton button, int row, int column) { MSHWt_MouseDown(button, row, column); };
-    OpenByMouse(txtData1);
 }
 
 void frmCompaction::Form_Load()
@@ -101,7 +89,7 @@ void frmCompaction::MSHWt_MouseDown(MouseButton button, int row, int column)
 
 void frmCompaction::SSTData_Click(int previousTab)
 {
-    HideEditors(*this);
+    TestSheet::SSTData_Click(previousTab);
     if (previousTab == 0) FillPoints();
 }
 

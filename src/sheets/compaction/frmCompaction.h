@@ -8,6 +8,7 @@
 
 #include "controls/text_grid.h"
 #include "laboratory/compaction.h"
+#include "sheets/pattern/grids.h"
 #include "sheets/pattern/spline_grid.h"
 #include "sheets/pattern/test_sheet.h"
 
@@ -53,25 +54,34 @@ struct frmCompaction : TestSheet {
     ComboBox cboLayer{*this, "cboLayer", "No.Layers", {"3", "5"}};
 
     Frame FraWt{*this, "FraWt", "Water Content Determination"};
-    TextGrid MSHWt{*this, "MSHWt", compaction::water::kRows, compaction::kTrials + 1};
+    TextGrid MSHWt{
+        *this,
+        "MSHWt",
+        compaction::water::kRows,
+        compaction::kTrials + 1,
+        {.MouseDown = [this](MouseButton button, int row, int column) { MSHWt_MouseDown(button, row, column); }}};
     Frame fraDensity{*this, "fraDensity", "Dry Density Determination"};
-    TextGrid MSHDensity{*this, "MSHDensity", compaction::density::kRows, compaction::kTrials + 1};
+    TextGrid MSHDensity{*this,
+                        "MSHDensity",
+                        compaction::density::kRows,
+                        compaction::kTrials + 1,
+                        {.MouseDown = OpensByMouse(txtData1)}};
     CellEditor txtData;   // over MSHWt
     CellEditor txtData1;  // over MSHDensity
 
     OptionButton optInt{*this, "optInt", "Interpolation", "method", true};
     OptionButton optFit{*this, "optFit", "Curve Fitting", "method"};
-    CommandButton cmdOMC{*this, "cmdOMC", "Compaction Curve"};
+    CommandButton cmdOMC{*this, "cmdOMC", "Compaction Curve", {.Click = [this] { cmdOMC_Click(); }}};
     TextBox txtOMC{*this, "txtOMC", "OMC"};
     TextBox txtDmax{*this, "txtDmax", "MDD"};
     TextGrid MSHData{*this, "MSHData", 1, 2};
-    CheckBox chkSatLine{*this, "chkSatLine", "AV Line"};
+    CheckBox chkSatLine{*this, "chkSatLine", "AV Line", {.Click = [this] { chkSatLine_Click(); }}};
     TextBox txtGs{*this, "txtGs", "Gs"};
     ComboBox cboSr{*this, "cboSr", "Air Voids", {"0%", "20%", "40%", "60%", "80%"}, "0%"};
 
     // The work area: the spline by hand.
-    CommandButton Command5{*this, "Command5", "&Derivative"};
-    CommandButton Command6{*this, "Command6", "&SPline"};
+    CommandButton Command5{*this, "Command5", "&Derivative", {.Click = [this] { Command5_Click(); }}};
+    CommandButton Command6{*this, "Command6", "&SPline", {.Click = [this] { Command6_Click(); }}};
     TextBox Text6{*this, "Text6", "Interval", "0.01"};
     OptionButton optWholeCurve{*this, "optWholeCurve", "Whole Curve", "evaluation", true};
     OptionButton Option2{*this, "Option2", "One Point", "evaluation"};
@@ -100,14 +110,13 @@ struct frmCompaction : TestSheet {
     /// The specific gravity of the saved test of the same material, for the air-void line.
     void chkSatLine_Click();
     void MSHWt_MouseDown(MouseButton button, int row, int column);
-    void SSTData_Click(int previousTab);
+    void SSTData_Click(int previousTab) override;
 
     std::span<const TablePass> TablePasses() const override;
     bool TrimsLists() const override { return true; }
 
   private:
     void BuildGrids();
-    void WireEvents();
 
     void BlankCalculatedRows();
     void WaterContentOf(int trial);

@@ -46,15 +46,7 @@ frmDensity::frmDensity(Program& owner)
       txtData4(*this, "txtData4", MSHVolume, [] { return kHoleWeighings; }),
       txtData5(*this, "txtData5", MSHSummary, [] { return kMaximumDensities; })
 {
-    WireEvents();
     ChainFocus(kWay);
-}
-
-void frmDensity::WireEvents()
-{
-    optStd.Click = [this] { optStd_Click(); };
-    optMod.Click = [this] { optMod_Click(); };
-    for (CellEditor* editor : {&txtData, &txtData1, &txtData2, &txtData3, &txtData4, &txtData5}) OpenByMouse(*editor);
 }
 
 void frmDensity::Form_Load()

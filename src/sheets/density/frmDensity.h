@@ -7,6 +7,7 @@
 
 #include "controls/text_grid.h"
 #include "laboratory/field_density.h"
+#include "sheets/pattern/grids.h"
 #include "sheets/pattern/test_sheet.h"
 
 namespace terravane {
@@ -17,17 +18,22 @@ struct frmDensity : TestSheet {
     TextBox txtPosition{*this, "txtPosition", "Position"};
 
     Frame FraWsand{*this, "FraWsand", "Mass of Sand in Cone"};
-    TextGrid MSHWsand{*this, "MSHWsand", field::cone::kRows, field::kColumns + 1};
+    TextGrid MSHWsand{*this, "MSHWsand", field::cone::kRows, field::kColumns + 1, {.MouseDown = OpensByMouse(txtData)}};
     Frame FraDsand{*this, "FraDsand", "Density of Sand"};
-    TextGrid MSHDsand{*this, "MSHDsand", field::sand::kRows, field::kColumns + 1};
+    TextGrid MSHDsand{
+        *this, "MSHDsand", field::sand::kRows, field::kColumns + 1, {.MouseDown = OpensByMouse(txtData1)}};
     Frame FraWsoil{*this, "FraWsoil", "Mass of Wet Soil"};
-    TextGrid MSHWsoil{*this, "MSHWsoil", field::soil::kRows, field::kColumns + 1};
+    TextGrid MSHWsoil{
+        *this, "MSHWsoil", field::soil::kRows, field::kColumns + 1, {.MouseDown = OpensByMouse(txtData2)}};
     Frame fraWater{*this, "fraWater", "Water Content"};
-    TextGrid MSHWater{*this, "MSHWater", field::water::kRows, field::kColumns + 1};
+    TextGrid MSHWater{
+        *this, "MSHWater", field::water::kRows, field::kColumns + 1, {.MouseDown = OpensByMouse(txtData3)}};
     Frame fraVolume{*this, "fraVolume", "Volume of Hole"};
-    TextGrid MSHVolume{*this, "MSHVolume", field::volume::kRows, field::kColumns + 1};
+    TextGrid MSHVolume{
+        *this, "MSHVolume", field::volume::kRows, field::kColumns + 1, {.MouseDown = OpensByMouse(txtData4)}};
     Frame fraSummary{*this, "fraSummary", "Summary"};  // the caption names the compaction test that was chosen
-    TextGrid MSHSummary{*this, "MSHSummary", field::summary::kRows, field::kColumns + 1};
+    TextGrid MSHSummary{
+        *this, "MSHSummary", field::summary::kRows, field::kColumns + 1, {.MouseDown = OpensByMouse(txtData5)}};
     CellEditor txtData;   // over MSHWsand
     CellEditor txtData1;  // over MSHDsand
     CellEditor txtData2;  // over MSHWsoil
@@ -35,8 +41,8 @@ struct frmDensity : TestSheet {
     CellEditor txtData4;  // over MSHVolume
     CellEditor txtData5;  // over the maximum densities of MSHSummary, for a job without a compaction test of its own
 
-    OptionButton optStd{*this, "optStd", "Standard Compaction", "compaction"};
-    OptionButton optMod{*this, "optMod", "Modified Compaction", "compaction"};
+    OptionButton optStd{*this, "optStd", "Standard Compaction", "compaction", {.Click = [this] { optStd_Click(); }}};
+    OptionButton optMod{*this, "optMod", "Modified Compaction", "compaction", {.Click = [this] { optMod_Click(); }}};
 
     void Form_Load() override;
 
@@ -54,7 +60,6 @@ struct frmDensity : TestSheet {
 
   private:
     void BuildGrids();
-    void WireEvents();
     void FetchMaximumDensity(Test test, std::string_view name);
 
     void SandInCone();

@@ -23,9 +23,9 @@ void PressCell(CellEditor& editor, int row, int column)
     editor.PressLeft(row, std::max(column, editor.Range().firstColumn));
 }
 
-void OpenByMouse(CellEditor& editor)
+GridMouseHandler OpensByMouse(CellEditor& editor)
 {
-    editor.Grid().MouseDown = [&editor](MouseButton button, int row, int column) {
+    return [&editor](MouseButton button, int row, int column) {
         if (button == MouseButton::Left) PressCell(editor, row, column);
     };
 }

@@ -18,7 +18,7 @@ std::vector<double> NumbersOf(const TextGrid& grid, int column);
 /// first cell that is typed.
 void PressCell(CellEditor& editor, int row, int column);
 
-/// Does so for every press on the editor's grid.
-void OpenByMouse(CellEditor& editor);
+/// Does so for every press of that button on the editor's grid.
+GridMouseHandler OpensByMouse(CellEditor& editor);
 
 }  // namespace terravane

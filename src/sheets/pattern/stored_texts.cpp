@@ -105,14 +105,15 @@ int RecordsToSave(const TestSheet& sheet, const TablePass& pass)
     return pass.list.empty() ? pass.records : sheet.Get<TextGrid>(pass.list).Rows();
 }
 
-std::string SavedText(TestSheet& sheet, const ColumnPlace& place, int record)
+std::string SavedText(const TestSheet& sheet, const ColumnPlace& place, int record)
 {
     if (place.kind == Choice) return SavedChoice(sheet);
     if (place.kind == Head) return sheet.Get<TextControl>(place.control).Text();
-    return CellOf(sheet, place, record).Text();
+    const auto& grid = sheet.Get<TextGrid>(place.control);
+    return place.kind == GridRow ? grid(place.line, record) : grid(record + place.rowShift, place.line);
 }
 
-void SaveRecord(TestSheet& sheet, const TablePass& pass, int record)
+void SaveRecord(const TestSheet& sheet, const TablePass& pass, int record)
 {
     const TableSchema& table = TableOf(sheet);
     std::vector<Assignment> assignments;
@@ -140,7 +141,7 @@ void TestSheet::LoadChoice(std::string_view stored)
     if (option != StoredOptions().end()) Get<OptionButton>(option->option).Choose();
 }
 
-void SaveTestSheet(TestSheet& sheet)
+void SaveTestSheet(const TestSheet& sheet)
 {
     Program& program = sheet.program;
     OpenProjectConnection(program);

@@ -9,15 +9,12 @@
 namespace terravane {
 
 TestSheet::TestSheet(Program& owner, std::string name, std::string caption, std::vector<std::string> tabs)
-    : Form(owner, std::move(name), std::move(caption)), program(owner), SSTData(*this, "SSTData", std::move(tabs))
+    : Form(owner, std::move(name), std::move(caption), WindowKind::Sheet),
+      program(owner),
+      SSTData(*this, "SSTData", std::move(tabs),
+              {.TabChanged = [this](int previousTab) { SSTData_Click(previousTab); }})
 {
-    tblMenu.ButtonClick = [this](int number) { tblMenu_ButtonClick(number); };
-    Timer1.Ticked = [this] { Timer1_Timer(); };
-    Command(cmdCal, [this] { cmdCal_Click(); });
-    Command(cmdView, [this] { cmdView_Click(); });
     RestoreCommandColours();
-    DTPDate.GotFocus = [this] { HideEditors(*this); };
-    SSTData.TabChanged = [this](int) { HideEditors(*this); };
 }
 
 void TestSheet::Form_Load()
@@ -35,6 +32,11 @@ void TestSheet::tblMenu_ButtonClick(int number)
 {
     if (number == 1) SaveTestSheet(*this);
     if (number == 2) program.Unload(Name());
+}
+
+void TestSheet::SSTData_Click(int)
+{
+    HideEditors(*this);
 }
 
 void TestSheet::Timer1_Timer()
@@ -59,15 +61,8 @@ void TestSheet::ChainFocus(std::span<const std::string_view> way)
             to.SelectAll();
             return true;
         };
-        from.GotFocus = to.GotFocus = [this] { HideEditors(*this); };
+        from.GotFocus = to.GotFocus = HidesEditors();
     }
-}
-
-void TestSheet::Command(CommandButton& button, Handler handler)
-{
-    button.Click = std::move(handler);
-    button.MouseMove = [&button] { button.SetBackColor(kCommandHover); };
-    button.MouseLeave = [this] { Form_MouseMove(); };
 }
 
 bool TestSheet::AsksToErase(std::string_view what)

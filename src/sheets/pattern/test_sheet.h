@@ -74,6 +74,10 @@ struct StoredResults {
     const std::string& operator[](std::string_view suffix) const { return records.Fields(table.ColumnName(suffix)); }
 };
 
+/// The commands' colours: at rest, under the mouse.
+inline constexpr Colour kCommandColour{255, 192, 128};
+inline constexpr Colour kCommandHover{255, 224, 192};
+
 /// The way that Enter takes through the fields outside the grids, for the sheets without fields of their own between.
 inline constexpr std::array<std::string_view, 7> kHeadBlockWay{"txtClient", "txtID",   "txtProject", "txtLocation",
                                                                "txtSoil",   "cboTest", "cboCheck"};
@@ -91,16 +95,29 @@ struct TestSheet : Form {
     TextBox txtSoil{*this, "txtSoil", "Sample"};
     ComboBox cboTest{*this, "cboTest", "Tested by"};
     ComboBox cboCheck{*this, "cboCheck", "Checked by"};
-    DatePicker DTPDate{*this, "DTPDate", "Date of Test"};
+    DatePicker DTPDate{*this, "DTPDate", "Date of Test", {.GotFocus = HidesEditors()}};
     TextBox txtLabName{*this, "txtLabName"};  // the banner: the test's Thai and English names in two lines
 
-    Toolbar tblMenu{
-        *this, "tblMenu", {{"", "Save File", "Save File", {}, false}, {"", "Exit Screen", "Exit Screen", {}}}};
+    Toolbar tblMenu{*this,
+                    "tblMenu",
+                    {{.caption = "Save File", .toolTip = "Save File", .enabled = false, .icon = Icon::Save},
+                     {.caption = "Exit Screen", .toolTip = "Exit Screen", .icon = Icon::Close}},
+                    {.ButtonClick = [this](int number) { tblMenu_ButtonClick(number); }}};
     TabControl SSTData;
-    CommandButton cmdCal{*this, "cmdCal", "Calculate"};
-    CommandButton cmdView{*this, "cmdView", "Print Preview"};
+    CommandButton cmdCal{*this,
+                         "cmdCal",
+                         "Calculate",
+                         {.Click = [this] { cmdCal_Click(); },
+                          .MouseMove = [this] { cmdCal.SetBackColor(kCommandHover); },
+                          .MouseLeave = [this] { Form_MouseMove(); }}};
+    CommandButton cmdView{*this,
+                          "cmdView",
+                          "Print Preview",
+                          {.Click = [this] { cmdView_Click(); },
+                           .MouseMove = [this] { cmdView.SetBackColor(kCommandHover); },
+                           .MouseLeave = [this] { Form_MouseMove(); }}};
     StatusBar stbDes{*this, "stbDes", 2};  // the project's path; the time
-    Timer Timer1{*this, "Timer1", std::chrono::milliseconds(1000)};
+    Timer Timer1{*this, "Timer1", std::chrono::milliseconds(1000), {.Ticked = [this] { Timer1_Timer(); }}};
     Image imgMouse{*this, "imgMouse"};  // holds the hand cursor of the commands
 
     /// Date of today, name lists of the brand store; a sheet builds its grids where its members stand. It
@@ -108,11 +125,11 @@ struct TestSheet : Form {
     void Form_Load() override;
 
     virtual void cmdCal_Click() = 0;
-    void cmdView_Click();
-    void tblMenu_ButtonClick(int number);
+    virtual void cmdView_Click();
+    virtual void tblMenu_ButtonClick(int number);
+    virtual void SSTData_Click(int previousTab);
     void Timer1_Timer();
 
-    /// The commands' colours: at rest, under the mouse.
     void RestoreCommandColours();
     /// The mouse over the sheet itself.
     void Form_MouseMove() { RestoreCommandColours(); }
@@ -134,9 +151,11 @@ struct TestSheet : Form {
     /// What Save stored with a test of the current material.
     StoredResults ResultsOf(Test test);
 
-  private:
-    /// Runs `handler` for a press on the button, with the commands' hover colour.
-    void Command(CommandButton& button, Handler handler);
+    /// For fields outside the grids, where they get the focus.
+    Handler HidesEditors()
+    {
+        return [this] { HideEditors(*this); };
+    }
 };
 
 /// Fills the open sheet from HEAD and the table of the current test and material.
@@ -146,13 +165,10 @@ void LoadTestSheet(TestSheet& sheet);
 
 /// Save: the headings, then one statement a row. A statement that fails leaves the earlier ones standing, in
 /// the file too; the sheet keeps what was typed.
-void SaveTestSheet(TestSheet& sheet);
+void SaveTestSheet(const TestSheet& sheet);
 
 /// The persons of the brand store whose position is "Tester" go into one list, those with "Checker" into the
 /// other.
 void FillNameLists(Program& program, ComboBox& testerBox, ComboBox& checkerBox);
-
-inline constexpr Colour kCommandColour{255, 192, 128};
-inline constexpr Colour kCommandHover{255, 224, 192};
 
 }  // namespace terravane

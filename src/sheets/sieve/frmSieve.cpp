@@ -63,7 +63,6 @@ frmSieve::frmSieve(Program& owner)
     for (CommandButton* later : {&cmdgraph, &cmdClass, &cmdView}) later->SetEnabled(false);
     SetHints();
     LockResults();
-    WireEvents();
     ChainFocus(kHeadBlockWay);
 }
 
@@ -76,22 +75,6 @@ void frmSieve::LockResults()
 {
     for (TextBox* result : {&txtErr, &txtD60, &txtD30, &txtD10, &txtCu, &txtCc}) result->SetLocked(true);
     for (TextBox* washing : {&txtDwp, &txtWl}) washing->SetEnabled(false);
-}
-
-void frmSieve::WireEvents()
-{
-    optYes.Click = [this] { optYes_Click(); };
-    optNo.Click = [this] { optNo_Click(); };
-    txtDwp.KeyPress = [this](Key key) { return txtDwp_KeyPress(key); };
-    cmdSieve.Click = [this] { cmdSieve_Click(); };
-    cmdAtt.Click = [this] { cmdAtt_Click(); };
-    cmdgraph.Click = [this] { cmdgraph_Click(); };
-    cmdClass.Click = [this] { cmdClass_Click(); };
-    Command5.Click = [this] { Command5_Click(); };
-    Command6.Click = [this] { Command6_Click(); };
-    chkEdit.Click = [this] { chkEdit_Click(); };
-    MSHSieve.MouseDown = [this](MouseButton button, int row, int column) { MSHSieve_MouseDown(button, row, column); };
-    for (TextBox* box : {&txtGsoil, &txtDwp, &txtWl, &txtLL, &txtPL}) box->GotFocus = [this] { HideEditors(*this); };
 }
 
 void frmSieve::Form_Load()

@@ -38,18 +38,26 @@ struct frmSieve : TestSheet {
     explicit frmSieve(Program& program);
 
     Frame FraWt{*this, "FraWt", "Select Method of Sieving"};
-    OptionButton optNo{*this, "optNo", "Dry", "method", true};
-    OptionButton optYes{*this, "optYes", "Wet", "method"};
-    TextBox txtGsoil{*this, "txtGsoil", "Dry Mass of Original Sample, (g)"};
-    TextBox txtDwp{*this, "txtDwp", "Dry Mass after Washing      , (g)"};
-    TextBox txtWl{*this, "txtWl", "Mass Loss through Washing, (g)"};
+    OptionButton optNo{*this, "optNo", "Dry", "method", true, {.Click = [this] { optNo_Click(); }}};
+    OptionButton optYes{*this, "optYes", "Wet", "method", {.Click = [this] { optYes_Click(); }}};
+    TextBox txtGsoil{*this, "txtGsoil", "Dry Mass of Original Sample, (g)", {.GotFocus = HidesEditors()}};
+    TextBox txtDwp{*this,
+                   "txtDwp",
+                   "Dry Mass after Washing      , (g)",
+                   {.KeyPress = [this](Key key) { return txtDwp_KeyPress(key); }, .GotFocus = HidesEditors()}};
+    TextBox txtWl{*this, "txtWl", "Mass Loss through Washing, (g)", {.GotFocus = HidesEditors()}};
     TextBox txtErr{*this, "txtErr", "Pecent of Mass Loss"};
 
     Frame Frame10{*this, "Frame10", "Select Sieve Size"};
     ListBox lstSieve;
-    CommandButton cmdSieve{*this, "cmdSieve", "Add/Modified"};
+    CommandButton cmdSieve{*this, "cmdSieve", "Add/Modified", {.Click = [this] { cmdSieve_Click(); }}};
     Frame FraWt1{*this, "FraWt1", "Percent Passing Determination"};
-    TextGrid MSHSieve{*this, "MSHSieve", kMostSieves + 1, sieve::kColumns};
+    TextGrid MSHSieve{
+        *this,
+        "MSHSieve",
+        kMostSieves + 1,
+        sieve::kColumns,
+        {.MouseDown = [this](MouseButton button, int row, int column) { MSHSieve_MouseDown(button, row, column); }}};
     CellEditor txtData;
 
     TextBox txtP4{*this, "txtP4", "% passing No. 4 sieve "};
@@ -57,19 +65,19 @@ struct frmSieve : TestSheet {
     TextBox txtP40{*this, "txtP40", "% passing No. 40 sieve "};
     TextBox txtP200{*this, "txtP200", "% passing No. 200 sieve "};
 
-    CommandButton cmdgraph{*this, "cmdgraph", "Plot Graph"};
+    CommandButton cmdgraph{*this, "cmdgraph", "Plot Graph", {.Click = [this] { cmdgraph_Click(); }}};
     CheckBox chkSmooth{*this, "chkSmooth", "Smooth Curve"};
-    CheckBox chkEdit{*this, "chkEdit", "Edit D10, D30, D60"};
+    CheckBox chkEdit{*this, "chkEdit", "Edit D10, D30, D60", {.Click = [this] { chkEdit_Click(); }}};
     TextBox txtD60{*this, "txtD60"};
     TextBox txtD30{*this, "txtD30"};
     TextBox txtD10{*this, "txtD10"};
     TextBox txtCu{*this, "txtCu"};
     TextBox txtCc{*this, "txtCc"};
 
-    TextBox txtLL{*this, "txtLL", "Liquid Limit (LL)"};
-    TextBox txtPL{*this, "txtPL", "Plastic Limit (PL)"};
-    CommandButton cmdAtt{*this, "cmdAtt", "Import LL - PL"};
-    CommandButton cmdClass{*this, "cmdClass", "Classify"};
+    TextBox txtLL{*this, "txtLL", "Liquid Limit (LL)", {.GotFocus = HidesEditors()}};
+    TextBox txtPL{*this, "txtPL", "Plastic Limit (PL)", {.GotFocus = HidesEditors()}};
+    CommandButton cmdAtt{*this, "cmdAtt", "Import LL - PL", {.Click = [this] { cmdAtt_Click(); }}};
+    CommandButton cmdClass{*this, "cmdClass", "Classify", {.Click = [this] { cmdClass_Click(); }}};
     Frame fraUSCS{*this, "fraUSCS", "USCS"};
     TextBox txtSuscs{*this, "txtSuscs", "Group Symbol"};
     TextBox txtNuscs{*this, "txtNuscs", "Group Name :"};
@@ -87,8 +95,8 @@ struct frmSieve : TestSheet {
     TextGrid MSH2{*this, "MSH2", 1, spline::kColumns};
     TextGrid MSH3{*this, "MSH3", 1, 2};  // the curve: mm, percent passing
     TextBox Text6{*this, "Text6", "Interval", "0.01"};
-    CommandButton Command5{*this, "Command5", "&Derivative"};
-    CommandButton Command6{*this, "Command6", "&SPline"};
+    CommandButton Command5{*this, "Command5", "&Derivative", {.Click = [this] { Command5_Click(); }}};
+    CommandButton Command6{*this, "Command6", "&SPline", {.Click = [this] { Command6_Click(); }}};
     OptionButton Option2{*this, "Option2", "One Point", "evaluation"};
     PictureBox Image3{*this, "Image3", 0, 0, 550, 1800};
 
@@ -137,7 +145,6 @@ struct frmSieve : TestSheet {
   private:
     void BuildGrid();
     void SetHints();
-    void WireEvents();
     void LockResults();
     void DrawAxisCaption();
     void OpenWashing(bool open);

@@ -18,16 +18,7 @@ frmSpecific::frmSpecific(Program& owner)
       txtData1(*this, "txtData1", MSHSpecific, [] { return kTrialReadings; })
 {
     picgraph1.Container = &picGraph;
-    WireEvents();
     ChainFocus(kHeadBlockWay);
-}
-
-void frmSpecific::WireEvents()
-{
-    cmdgraph.Click = [this] { cmdgraph_Click(); };
-    for (OptionButton* option : {&optAut, &optExp, &optLin, &optPol}) option->Click = [this] { optFit_Click(); };
-    OpenByMouse(txtData);
-    OpenByMouse(txtData1);
 }
 
 void frmSpecific::Form_Load()

@@ -7,6 +7,7 @@
 
 #include "controls/text_grid.h"
 #include "laboratory/specific_gravity.h"
+#include "sheets/pattern/grids.h"
 #include "sheets/pattern/test_sheet.h"
 #include "sheets/specific/calibration_fit.h"
 
@@ -33,17 +34,19 @@ struct frmSpecific : TestSheet {
     explicit frmSpecific(Program& program);
 
     Frame fraCalibration{*this, "fraCalibration", "Flask Calibration"};
-    TextGrid MSHCalibration{*this, "MSHCalibration", kCalibrationReadings + 1, calibration::kColumns};
+    TextGrid MSHCalibration{
+        *this, "MSHCalibration", kCalibrationReadings + 1, calibration::kColumns, {.MouseDown = OpensByMouse(txtData)}};
     Frame fraSpecific{*this, "fraSpecific", "Specific Gravity Determination"};
-    TextGrid MSHSpecific{*this, "MSHSpecific", gravity::kRows, kGravityTrials + 1};
+    TextGrid MSHSpecific{
+        *this, "MSHSpecific", gravity::kRows, kGravityTrials + 1, {.MouseDown = OpensByMouse(txtData1)}};
     CellEditor txtData;   // over MSHCalibration
     CellEditor txtData1;  // over MSHSpecific
 
-    OptionButton optAut{*this, "optAut", "Auto", "fit", true};
-    OptionButton optExp{*this, "optExp", "Exponential", "fit"};
-    OptionButton optLin{*this, "optLin", "Linear", "fit"};
-    OptionButton optPol{*this, "optPol", "Polynomial", "fit"};
-    CommandButton cmdgraph{*this, "cmdgraph", "Plot Graph Calibration"};
+    OptionButton optAut{*this, "optAut", "Auto", "fit", true, {.Click = [this] { optFit_Click(); }}};
+    OptionButton optExp{*this, "optExp", "Exponential", "fit", {.Click = [this] { optFit_Click(); }}};
+    OptionButton optLin{*this, "optLin", "Linear", "fit", {.Click = [this] { optFit_Click(); }}};
+    OptionButton optPol{*this, "optPol", "Polynomial", "fit", {.Click = [this] { optFit_Click(); }}};
+    CommandButton cmdgraph{*this, "cmdgraph", "Plot Graph Calibration", {.Click = [this] { cmdgraph_Click(); }}};
     Label lblEquation{*this, "lblEquation", "Equation of Curve"};
     TextBox txtFormula{*this, "txtFormula", "Equation of Curve"};
     TextBox txtR{*this, "txtR", "R-squared Value"};
@@ -68,7 +71,6 @@ struct frmSpecific : TestSheet {
 
   private:
     void BuildGrids();
-    void WireEvents();
 
     void PlotCalibration();
     CalibrationReadings Readings() const;

@@ -196,8 +196,8 @@ TEST(CellEditor, OpensByThePressWithItsTextSelected)
 TEST(CellEditor, BelongsToItsGrid)
 {
     EditorForm form;
-    EXPECT_EQ(form.MSHWt.Editor(), &form.txtData);
-    EXPECT_EQ(form.MSHDensity.Editor(), &form.txtData1);
+    EXPECT_EQ(&form.txtData.Grid(), &form.MSHWt);
+    EXPECT_EQ(&form.txtData1.Grid(), &form.MSHDensity);
 }
 
 TEST(CellEditor, FollowsAGridThatGrows)

@@ -1,5 +1,8 @@
 #include "controls/form.h"
 
+#include <algorithm>
+#include <type_traits>
+
 #include <gtest/gtest.h>
 
 #include "controls/text_controls.h"
@@ -35,7 +38,19 @@ TEST(Form, SaysWhichControlItDoesNotHave)
 TEST(Form, KeepsItsControlsInTheOrderOfDeclaration)
 {
     HeadForm form;
-    EXPECT_EQ(form.Controls(), (std::vector<Control*>{&form.txtClient, &form.txtID, &form.MSHWt}));
+    EXPECT_TRUE(std::ranges::equal(form.Controls(), std::vector<Control*>{&form.txtClient, &form.txtID, &form.MSHWt}));
+}
+
+TEST(Form, GivesControlsThatCanBeChangedOnlyWhereItCanBeChangedItself)
+{
+    HeadForm form;
+    const Form& looked = form;
+    static_assert(std::is_same_v<decltype(looked.Find("txtID")), const Control*>);
+    static_assert(std::is_same_v<decltype(looked.Get<TextBox>("txtID")), const TextBox&>);
+    static_assert(std::is_same_v<decltype(looked.ActiveControl()), const Control*>);
+    static_assert(std::is_same_v<decltype(*looked.Controls().begin()), const Control*>);
+    EXPECT_EQ(&looked.Get<TextBox>("txtID"), &form.txtID);
+    EXPECT_EQ(ErrorOf([&] { looked.Get<TextBox>("MSHWt"); }), error::kObjectRequired);
 }
 
 TEST(Form, TellsTheFieldThatIsLeftBeforeTheOneThatIsEntered)

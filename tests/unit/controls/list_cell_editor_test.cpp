@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "controls/pressed_frame.h"
+#include "controls/furniture.h"
 #include "unit/controls/plain_form.h"
 
 namespace terravane {
@@ -12,7 +12,7 @@ struct ListForm : PlainForm {
     TextGrid grid{*this, "grid", 4, 3};
     CellEditor box{*this, "box", grid, [] { return CellRange{1, 3, 1, 1}; }};
     ListCellEditor list{*this, "list", grid, {1, 3, 2, 2}, {"Tester", "Checker"}};
-    PressedFrame frame{*this, "frame"};
+    Frame frame{*this, "frame"};
 };
 
 TEST(ListCellEditor, BeginsHidden)
@@ -61,7 +61,7 @@ TEST(ListCellEditor, TellsItsViewsWhenOnlyTheCellIsAnother)
     EXPECT_GT(shown, 1) << "The view has to move the list, though its text is the same.";
 }
 
-TEST(PressedFrame, RunsItsClick)
+TEST(Frame, RunsItsClickWhereItHasOne)
 {
     ListForm form;
     int clicks = 0;
