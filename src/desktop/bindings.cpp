@@ -74,7 +74,7 @@ void ShowOrHide(QWidget& view, bool visible)
 
 /// Line height of Thai is more than a font's own; Qt centres such a line by its height and lifts it by its ascent as
 /// well. The difference, to the pixel for a box as high as its font asks for.
-void StandOnBaseline(QLineEdit& edit, const QString& text)
+void AlignToBaseline(QLineEdit& edit, const QString& text)
 {
     const QFontMetrics font = edit.fontMetrics();
     const int lifted = (font.size(0, text).height() - font.height() - 1) / 2;
@@ -90,7 +90,7 @@ void MakeEditable(QComboBox& view)
     box->setCompleter(&none);
     view.setLineEdit(box);
     view.setCompleter(nullptr);
-    KeepOnBaseline(*box);
+    KeepAlignedToBaseline(*box);
 }
 
 QIcon PictureOf(Icon icon)
@@ -133,10 +133,10 @@ QToolButton* MakeToolButton(Toolbar& bar, int number, QToolBar& view)
 
 }  // namespace
 
-void KeepOnBaseline(QLineEdit& edit)
+void KeepAlignedToBaseline(QLineEdit& edit)
 {
     QObject::connect(&edit, &QLineEdit::textChanged, &edit,
-                     [&edit](const QString& text) { StandOnBaseline(edit, text); });
+                     [&edit](const QString& text) { AlignToBaseline(edit, text); });
 }
 
 void ShowText(QLineEdit& edit, const std::string& text)
@@ -167,7 +167,7 @@ Subscription BindFurniture(Control& control, QWidget& view)
 
 Subscription Bind(TextBox& box, QLineEdit& edit)
 {
-    KeepOnBaseline(edit);
+    KeepAlignedToBaseline(edit);
     QObject::connect(&edit, &QLineEdit::textEdited, &edit,  // the user's typing only, never setText
                      [&box](const QString& text) { box.Type(text.toStdString()); });
     return box.Show([&box, &edit, select = SelectsWhenAsked(box, edit)]() mutable {

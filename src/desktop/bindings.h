@@ -47,7 +47,7 @@ using Bindings = std::vector<Subscription>;
 void ShowText(QLineEdit& edit, const std::string& text);
 
 /// Thai texts stand on the line that Latin ones stand on.
-void KeepOnBaseline(QLineEdit& edit);
+void KeepAlignedToBaseline(QLineEdit& edit);
 
 /// What every control has: enabled, visible, tool tip, accessible name, colours.
 [[nodiscard]] Subscription BindFurniture(Control& control, QWidget& view);

@@ -11,11 +11,11 @@ namespace {
 
 /// The form dies when the running command has ended, its window as soon as no event of its own runs any more: in
 /// between nothing of the window may reach a control.
-void LetGo(QWidget& window)
+void Dispose(QWidget& window)
 {
     for (QObject* part : window.findChildren<QObject*>()) {
         part->blockSignals(true);
-        if (auto* view = dynamic_cast<FormView*>(part)) view->LetGo();
+        if (auto* view = dynamic_cast<FormView*>(part)) view->Unbind();
     }
     window.hide();
     window.setEnabled(false);
@@ -48,19 +48,19 @@ QWidget* Desktop::WindowOf(const Form& form) const
 
 void Desktop::Follow()
 {
-    TakeAwayClosed();
+    DisposeOfClosed();
     for (const auto& shown : program_.ShownForms()) {
         if (!windows_.contains(shown.form)) windows_[shown.form] = Open(shown);
     }
 }
 
-void Desktop::TakeAwayClosed()
+void Desktop::DisposeOfClosed()
 {
     std::erase_if(windows_, [this](const auto& entry) {
         const auto& [form, window] = entry;
         const auto& shown = program_.ShownForms();
         if (std::ranges::find(shown, form, &Program::ShownForm::form) != shown.end()) return false;
-        if (window) LetGo(*window);
+        if (window) Dispose(*window);
         return true;
     });
 }

@@ -21,7 +21,7 @@ class Desktop {
 
   private:
     void Follow();
-    void TakeAwayClosed();
+    void DisposeOfClosed();
     QWidget* Open(const Program::ShownForm& shown);
     QWidget* MakeWindow(const Program::ShownForm& shown);
     FrameWindow* FrameOpen() const;

@@ -124,7 +124,7 @@ FormView::FormView(Form& form, const Place& layout, QWidget* parent) : QWidget(p
 
 FormView::~FormView() = default;
 
-void FormView::LetGo()
+void FormView::Unbind()
 {
     bindings_.clear();
     controls_.clear();

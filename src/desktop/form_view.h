@@ -20,7 +20,7 @@ class FormView : public QWidget {
 
     Form& Shown() const { return form_; }
     /// Ends all traffic with the form, which may go away from now on.
-    void LetGo();
+    void Unbind();
 
     /// The widget of a control; nullptr where it has no place.
     QWidget* ViewOf(const Control& control) const;

@@ -106,7 +106,7 @@ class GridModel : public QAbstractTableModel {
     Qt::ItemFlags flags(const QModelIndex&) const override { return Qt::ItemIsEnabled; }
 
     /// True where the number of rows is another than before.
-    bool TakeUp()
+    bool Refresh()
     {
         if (rows_ == grid_.Rows()) {
             emit dataChanged(index(0, 0), index(rows_ - 1, grid_.Columns() - 1));
@@ -142,7 +142,7 @@ GridView::GridView(TextGrid& grid, QWidget* parent)
     if (editor_) MakeEditorBox();
     if (listEditor_) MakeEditorList();
     bindings_.push_back(grid.Show([this] {
-        if (model_->TakeUp() && model()) ShareRoom();
+        if (model_->Refresh() && model()) DistributeRoom();
         ShowMerged();
         ShowEditors();
     }));
@@ -166,7 +166,7 @@ void GridView::MakeEditorBox()
 {
     box_ = new QLineEdit(viewport());
     box_->setAlignment(Qt::AlignHCenter);
-    KeepOnBaseline(*box_);
+    KeepAlignedToBaseline(*box_);
     box_->setStyleSheet("QLineEdit { border: 2px solid palette(highlight); padding: 0px; }");
     box_->setAccessibleName(QObject::tr("Cell"));
     box_->hide();
@@ -186,7 +186,7 @@ void GridView::MakeEditorList()
 }
 
 /// Over the current cell, or hidden; false where it is hidden.
-bool GridView::Stand(QWidget& view, const Control& editor)
+bool GridView::PlaceEditor(QWidget& view, const Control& editor)
 {
     if (!editor.Visible()) {
         const bool had = view.hasFocus();
@@ -206,8 +206,8 @@ bool GridView::Stand(QWidget& view, const Control& editor)
 /// The list's text is its binding's.
 void GridView::ShowEditors()
 {
-    if (list_) Stand(*list_, *listEditor_);
-    if (!box_ || !Stand(*box_, *editor_)) return;
+    if (list_) PlaceEditor(*list_, *listEditor_);
+    if (!box_ || !PlaceEditor(*box_, *editor_)) return;
     ShowText(*box_, editor_->Text());
     if (editor_->SelectAllRequests() != selectRequestsSeen_) box_->selectAll();
     selectRequestsSeen_ = editor_->SelectAllRequests();
@@ -225,17 +225,17 @@ QSize GridView::TextSize(const std::string& text, int room) const
 }
 
 /// Until the cells are there, of the width that new columns have.
-int GridView::WidthNow(int column) const
+int GridView::CurrentWidth(int column) const
 {
     return std::max(kLeastColumnWidth, model() ? columnWidth(column) : horizontalHeader()->defaultSectionSize());
 }
 
-int GridView::LeastRowHeight(int row) const
+int GridView::MinimumRowHeight(int row) const
 {
     int height = looks::kGridRowHeight;
     if (row >= grid_.HeadRows()) return height;
     for (int column = 0; column < grid_.Columns(); ++column) {
-        height = std::max(height, TextSize(std::as_const(grid_)(row, column), WidthNow(column) - 4).height() + 8);
+        height = std::max(height, TextSize(std::as_const(grid_)(row, column), CurrentWidth(column) - 4).height() + 8);
     }
     return height;
 }
@@ -243,7 +243,7 @@ int GridView::LeastRowHeight(int row) const
 QSize GridView::SizeFor(int mostRows) const
 {
     int height = 2 * frameWidth();
-    for (int row = 0; row < std::min(grid_.Rows(), mostRows); ++row) height += LeastRowHeight(row);
+    for (int row = 0; row < std::min(grid_.Rows(), mostRows); ++row) height += MinimumRowHeight(row);
     return {kLeastColumnWidth * grid_.Columns() + (grid_.TitleColumns() > 0 ? 2 * kLeastColumnWidth : 0), height};
 }
 
@@ -267,7 +267,7 @@ void GridView::changeEvent(QEvent* event)
 }
 
 /// Qt makes much of a table's cells, and many a grid stands on a tab that is not looked at.
-void GridView::TakeUpCells()
+void GridView::AttachModel()
 {
     setModel(model_);
     setItemDelegate(new CellPainter(grid_, this));
@@ -278,15 +278,15 @@ void GridView::TakeUpCells()
 /// The first one comes when the view is first seen.
 void GridView::resizeEvent(QResizeEvent* event)
 {
-    if (!model()) TakeUpCells();
+    if (!model()) AttachModel();
     QTableView::resizeEvent(event);
-    ShareRoom();
+    DistributeRoom();
     ShowEditors();
 }
 
 /// The width of a column, of what is left for it and those behind it: by the widths that the form gave its columns,
 /// where it gave all of them one; else evenly.
-int GridView::ShareOf(int column, int left) const
+int GridView::ColumnShare(int column, int left) const
 {
     double sum = 0;
     for (int other = column; other < grid_.Columns(); ++other) {
@@ -307,12 +307,12 @@ int GridView::TitleWidth(int column) const
 
 /// The headers keep quiet meanwhile: what they tell, Qt's table takes up one by one, after the next painting, and
 /// paints again.
-void GridView::ShareRoom()
+void GridView::DistributeRoom()
 {
     {
         const QSignalBlocker quietAcross(horizontalHeader()), quietDown(verticalHeader());
-        ShareWidth();
-        FillHeight();
+        DistributeWidth();
+        DistributeHeight();
     }
     const int width = viewport()->width();
     updateGeometries();
@@ -321,33 +321,33 @@ void GridView::ShareRoom()
 }
 
 /// Titles as wide as they need, the other columns share the rest; rows of equal height fill the view.
-void GridView::ShareWidth()
+void GridView::DistributeWidth()
 {
     const int rows = grid_.Rows();
     int left = viewport()->width();
     for (int column = 0; column < grid_.Columns(); ++column) {
-        const int asked = HoldsTitles(grid_, column) ? TitleWidth(column) : ShareOf(column, left);
+        const int asked = HoldsTitles(grid_, column) ? TitleWidth(column) : ColumnShare(column, left);
         const int width = std::max(kLeastColumnWidth, asked);
         setColumnWidth(column, width);
         left -= width;
     }
     int least = 0;
-    for (int row = 0; row < rows; ++row) least += LeastRowHeight(row);
+    for (int row = 0; row < rows; ++row) least += MinimumRowHeight(row);
     const bool headsAlone = grid_.HeadRows() == rows;  // are never scrolled; rows may come later
     setMinimumHeight(headsAlone ? least + 2 * frameWidth() : 0);
     setMaximumHeight(headsAlone ? least + 2 * frameWidth() : QWIDGETSIZE_MAX);
 }
 
 /// The rows that have room share what is left of it, so that none stands there by half.
-void GridView::FillHeight()
+void GridView::DistributeHeight()
 {
     const int rows = grid_.Rows();
     int spare = viewport()->height(), shown = 0;
-    while (shown < rows && spare >= LeastRowHeight(shown)) spare -= LeastRowHeight(shown++);
+    while (shown < rows && spare >= MinimumRowHeight(shown)) spare -= MinimumRowHeight(shown++);
     const int even = spare / std::max(1, shown), most = looks::kGridRowHeight / 2;
     for (int row = 0; row < rows; ++row) {
         const bool takesRest = even < most && row < spare - even * shown;  // the pixels that do not divide
-        setRowHeight(row, LeastRowHeight(row) + std::min(even, most) + (takesRest ? 1 : 0));
+        setRowHeight(row, MinimumRowHeight(row) + std::min(even, most) + (takesRest ? 1 : 0));
     }
 }
 

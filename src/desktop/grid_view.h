@@ -48,19 +48,19 @@ class GridView : public QTableView {
 
   private:
     QSize SizeFor(int mostRows) const;
-    void TakeUpCells();
-    void ShareRoom();
-    void ShareWidth();
-    void FillHeight();
+    void AttachModel();
+    void DistributeRoom();
+    void DistributeWidth();
+    void DistributeHeight();
     void ShowMerged();
     void MakeEditorBox();
     void MakeEditorList();
-    bool Stand(QWidget& view, const Control& editor);
+    bool PlaceEditor(QWidget& view, const Control& editor);
     void ShowEditors();
     int TitleWidth(int column) const;
-    int ShareOf(int column, int left) const;
-    int LeastRowHeight(int row) const;
-    int WidthNow(int column) const;
+    int ColumnShare(int column, int left) const;
+    int MinimumRowHeight(int row) const;
+    int CurrentWidth(int column) const;
     QSize TextSize(const std::string& text, int room) const;
 
     TextGrid& grid_;

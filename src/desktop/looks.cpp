@@ -47,7 +47,7 @@ std::vector<DrawnPoint> CurveOverProfile()
 /// An icon is made once and goes with the application: to paint the mark takes longer than to make the preview's
 /// window, and so does the search for two of the platform's icons.
 template <class Make>
-QIcon KeptIcon(const QByteArray& name, const Make& make)
+QIcon CachedIcon(const QByteArray& name, const Make& make)
 {
     if (const QVariant kept = qApp->property(name); kept.isValid()) return kept.value<QIcon>();
     QIcon icon = make();
@@ -124,13 +124,13 @@ DisplayList ProgramMark()
 
 QIcon ProgramIcon()
 {
-    return KeptIcon("programIcon", PaintMark);
+    return CachedIcon("programIcon", PaintMark);
 }
 
 QIcon StandardIcon(QStyle::StandardPixmap which)
 {
-    return KeptIcon("standardIcon" + QByteArray::number(which),
-                    [which] { return QApplication::style()->standardIcon(which); });
+    return CachedIcon("standardIcon" + QByteArray::number(which),
+                      [which] { return QApplication::style()->standardIcon(which); });
 }
 
 }  // namespace terravane::looks

@@ -37,7 +37,7 @@ constexpr std::chrono::milliseconds kFrameSeen{200};
 /// Where words end in Thai Qt looks up in a dictionary, which it reads with the first text of such letters; and each
 /// letter's shape is made for its first text. That takes some milliseconds: better before a sheet is opened than while
 /// it is.
-void ReadyLetters(const QFont& font)
+void PreloadGlyphs(const QFont& font)
 {
     QString letters;
     for (char16_t letter = u' '; letter <= u'~'; ++letter) letters.append(QChar(letter));
@@ -79,7 +79,7 @@ FrameWindow::FrameWindow(Program& program, Form& frame) : program_(program), for
     setCentralWidget(area_);
     BuildMenu();
     BuildBands();
-    QTimer::singleShot(kFrameSeen, this, [this] { ReadyLetters(font()); });
+    QTimer::singleShot(kFrameSeen, this, [this] { PreloadGlyphs(font()); });
 }
 
 void FrameWindow::BuildMenu()
