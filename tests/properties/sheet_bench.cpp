@@ -86,7 +86,7 @@ bool IsKept(const TextGrid& grid, int row)
 
 /// The cells that are typed through an editor.
 template <class Act>
-void ForEachTyped(const TestSheet& sheet, Act act)
+void ForEachTyped(TestSheet& sheet, Act act)
 {
     for (Control* control : sheet.Controls()) {
         auto* editor = dynamic_cast<CellEditor*>(control);
@@ -421,7 +421,7 @@ Texts SheetBench::Entries() const
     ForEachBox(addBox);
     addBox("DTPDate");
     ForEachTyped(*sheet_, [&](const CellEditor& editor, int row, int column) {
-        const std::string& text = editor.Grid()(row, column).Text();
+        const std::string& text = editor.Grid()(row, column);
         const bool isFree = editor.Grid().Name() == kGrowingList && text.empty();  // its last row comes and goes
         if (!isFree) texts[CellName(editor.Grid().Name(), row, column)] = text;
     });
