@@ -130,7 +130,7 @@ QIcon ProgramIcon()
 QIcon StandardIcon(QStyle::StandardPixmap which)
 {
     return CachedIcon("standardIcon" + QByteArray::number(which),
-                    [which] { return QApplication::style()->standardIcon(which); });
+                      [which] { return QApplication::style()->standardIcon(which); });
 }
 
 }  // namespace terravane::looks

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "drawing/display_list.h"
 #include "drawing/drawing_surface.h"
 #include "program/surroundings.h"
 

@@ -176,7 +176,7 @@ struct frmSieve : TestSheet {
     Limits LimitsNow() const;
     void ClassifyUSCS();
     void ClassifyAASHTO();
-    void PostClasses();
+    void PostClasses() const;
     void DrawPlasticityChart();
     void DrawChartGrid();
     void DrawZones();
