@@ -22,7 +22,7 @@ struct frmAbout : Form {
     Label lblDeveloper{*this, "lblDeveloper", "Written by the Terravane developers"};
     CommandButton cmdClose{*this, "cmdClose", "Close", {.Click = [this] { cmdClose_Click(); }}};
 
-    void cmdClose_Click() { program.Unload(Name()); }
+    void cmdClose_Click() const { program.Unload(Name()); }
 };
 
 }  // namespace terravane

@@ -126,7 +126,7 @@ struct frmPreferences : Form {
     void cmdClear_Click();
     /// Makes the brand database; without a word where it is there already.
     void cmdDbase_Click();
-    void cmdClose_Click() { program.Unload(Name()); }
+    void cmdClose_Click() const { program.Unload(Name()); }
 
   private:
     static constexpr double kBoxWidth = 3000, kBoxHeight = 3000;  // twips

@@ -17,7 +17,7 @@ frmProject::frmProject(Program& owner) : Form(owner, "frmProject", "General Data
     Height = kHeight;
 }
 
-void frmProject::cmdOK_Click()
+void frmProject::cmdOK_Click() const
 {
     OpenProjectConnection(program);
     Execute(program, program.ProjectConnection,

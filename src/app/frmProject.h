@@ -26,7 +26,7 @@ struct frmProject : Form {
 
     /// Accept: the texts go into the file, the frame turns green, the form closes. Errors of the store, an
     /// apostrophe's and a full disk's among them: then the form stays with its texts.
-    void cmdOK_Click();
+    void cmdOK_Click() const;
 };
 
 }  // namespace terravane

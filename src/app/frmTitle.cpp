@@ -6,7 +6,7 @@ namespace terravane {
 
 frmTitle::frmTitle(Program& owner) : Form(owner, "frmTitle", "Terravane", WindowKind::Splash), program(owner) {}
 
-void frmTitle::ShowFrame()
+void frmTitle::ShowFrame() const
 {
     program.Unload(Name());
     program.Show(kFrameName);

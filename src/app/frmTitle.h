@@ -32,11 +32,11 @@ struct frmTitle : Form {
 
     void Form_Activate() override { txtLoad.SetFocus(); }
 
-    void txtLoad_KeyPress() { ShowFrame(); }
-    void Timer1_Timer() { ShowFrame(); }
+    void txtLoad_KeyPress() const { ShowFrame(); }
+    void Timer1_Timer() const { ShowFrame(); }
 
   private:
-    void ShowFrame();
+    void ShowFrame() const;
 };
 
 }  // namespace terravane

@@ -119,22 +119,22 @@ void mdiBack::ShowProjectChosen()
     tbrLab.SetEnabled(true);
 }
 
-void mdiBack::Unload(std::span<const std::string_view> sheets)
+void mdiBack::Unload(std::span<const std::string_view> sheets) const
 {
     for (const auto sheet : sheets) program.Unload(sheet);
 }
 
-void mdiBack::UnloadAllSheets()
+void mdiBack::UnloadAllSheets() const
 {
     Unload(kSheets);
 }
 
-void mdiBack::UnloadSheetsOfTests()
+void mdiBack::UnloadSheetsOfTests() const
 {
     Unload(kSheetsOfTests);
 }
 
-void mdiBack::ReportFailure(const RuntimeError& error)
+void mdiBack::ReportFailure(const RuntimeError& error) const
 {
     program.Ask().Show({error.Description(), "Error", MessageStyle::Critical, MessageButtons::Ok});
 }
@@ -200,7 +200,7 @@ void mdiBack::ChooseProject()
     UnloadAllSheets();
 }
 
-void mdiBack::mnuExit_Click()
+void mdiBack::mnuExit_Click() const
 {
     RememberProject();
     program.Unload(Name());
@@ -212,38 +212,38 @@ void mdiBack::Form_Unload()
     RememberProject();
 }
 
-void mdiBack::RememberProject()
+void mdiBack::RememberProject() const
 {
     if (program.CurrentProjectPath.empty()) return;
     const std::string line = program.CurrentProjectPath + "\r\n";
     program.Files().ReplaceWhole(program.AppFolder + std::string(kRecentFile), Bytes(line.begin(), line.end()));
 }
 
-void mdiBack::mnuSum_Click()
+void mdiBack::mnuSum_Click() const
 {
     TrapSilently([this] { program.Show("frmSummary", Modality::Modal); });
 }
 
-void mdiBack::ShowPreferences(int tab)
+void mdiBack::ShowPreferences(int tab) const
 {
     program.Load("frmPreferences").Get<TabControl>("sstPreference").SetTab(tab);
     program.Show("frmPreferences", Modality::Modal);
 }
 
-void mdiBack::mnuManual_Click()
+void mdiBack::mnuManual_Click() const
 {
     const std::string folder = WithMark(program.ApplicationPath()) + kFolderMark;  // two marks: the path as shown
     program.Ask().OpenDocument(BrandFolderIn(folder).append(kGuideFile));
 }
 
-void mdiBack::mnuAbout_Click()
+void mdiBack::mnuAbout_Click() const
 {
     program.Show("frmAbout", Modality::Modal);
 }
 
 /// False, and said so, where no file was ever chosen. The recent entry's file counts, also when nothing was
 /// opened since the program started.
-bool mdiBack::TakeRecentAsSource()
+bool mdiBack::TakeRecentAsSource() const
 {
     const auto source = Trim(mnuRecent.Caption());
     if (source.empty()) {
@@ -264,7 +264,7 @@ void mdiBack::mnuAs_Click()
     });
 }
 
-void mdiBack::mnuTo_Click()
+void mdiBack::mnuTo_Click() const
 {
     TrapSilently([this] {
         if (TakeRecentAsSource()) CopyProject("Save File To...");
@@ -272,7 +272,7 @@ void mdiBack::mnuTo_Click()
 }
 
 /// Copies the current project file; returns the copy's path.
-std::string mdiBack::CopyProject(const std::string& dialogTitle)
+std::string mdiBack::CopyProject(const std::string& dialogTitle) const
 {
     CommonDialog dialog = ProjectDialog(dialogTitle);
     dialog.ShowSave();

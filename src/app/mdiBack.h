@@ -67,15 +67,15 @@ struct mdiBack : Form {
     void mnuNew_Click();
     void mnuOpen_Click();
     void mnuAs_Click();
-    void mnuTo_Click();
-    void mnuSum_Click();
+    void mnuTo_Click() const;
+    void mnuSum_Click() const;
     void mnuRecent_Click();
-    void mnuExit_Click();
-    void mnuLogoT_Click() { ShowPreferences(0); }
-    void mnuLogoC_Click() { ShowPreferences(1); }
-    void mnuOpr_Click() { ShowPreferences(2); }
-    void mnuManual_Click();
-    void mnuAbout_Click();
+    void mnuExit_Click() const;
+    void mnuLogoT_Click() const { ShowPreferences(0); }
+    void mnuLogoC_Click() const { ShowPreferences(1); }
+    void mnuOpr_Click() const { ShowPreferences(2); }
+    void mnuManual_Click() const;
+    void mnuAbout_Click() const;
     /// Opens the sheet of an item, "mnuStd1", and fills it from the project file. The sheet that was open is
     /// closed without a question. Errors of the sheet's load and of the store; an unknown key closes only.
     void tbrLab_ButtonMenuClick(std::string_view key);
@@ -88,20 +88,20 @@ struct mdiBack : Form {
     void ShowRecentEntry();
     /// The strip turns green and the tests can be opened.
     void ShowProjectChosen();
-    void UnloadAllSheets();
+    void UnloadAllSheets() const;
 
   private:
     void ReadRecentLine();
-    void RememberProject();
+    void RememberProject() const;
     void SetRecentCaption(const std::string& path);
     void ChooseProject();
     CommonDialog ProjectDialog(const std::string& title) const;
-    bool TakeRecentAsSource();
-    std::string CopyProject(const std::string& dialogTitle);
-    void Unload(std::span<const std::string_view> sheets);
-    void UnloadSheetsOfTests();
-    void ShowPreferences(int tab);
-    void ReportFailure(const RuntimeError& error);
+    bool TakeRecentAsSource() const;
+    std::string CopyProject(const std::string& dialogTitle) const;
+    void Unload(std::span<const std::string_view> sheets) const;
+    void UnloadSheetsOfTests() const;
+    void ShowPreferences(int tab) const;
+    void ReportFailure(const RuntimeError& error) const;
 
     std::string recentLine_;  // of FileRecent.txt
 };

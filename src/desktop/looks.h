@@ -9,6 +9,8 @@
 
 #include "drawing/display_list.h"
 
+class QWidget;
+
 namespace terravane {
 
 /// Device-independent pixels.

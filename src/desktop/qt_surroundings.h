@@ -3,9 +3,13 @@
 
 #include <QPointer>
 #include <QWidget>
+#include <optional>
+#include <string>
 
 #include "program/surroundings.h"
+#include "runtime/dates.h"
 #include "runtime/file_system.h"
+#include "runtime/runtime_error.h"
 
 namespace terravane {
 

@@ -77,7 +77,7 @@ void frmSummary::Form_Load()
 }
 
 /// The recent entry counts, also where no file was opened since the program started.
-void frmSummary::OpenRecentProject()
+void frmSummary::OpenRecentProject() const
 {
     program.CurrentProjectPath = program.Get<Form>("mdiBack").Get<MenuEntry>("mnuRecent").Caption();
     OpenProjectConnection(program);
@@ -145,7 +145,7 @@ void frmSummary::ShowTitles()
     }
 }
 
-void frmSummary::cmdPrint_Click()
+void frmSummary::cmdPrint_Click() const
 try {
     const auto target = program.Ask().AskPrinter();
     if (!target) return;

@@ -29,11 +29,11 @@ struct frmSummary : Form {
     void Form_Load() override;
 
     /// One page, on the printer that the user chooses. Cancel and every failure end it without a word.
-    void cmdPrint_Click();
-    void cmdClose_Click() { program.Unload(Name()); }
+    void cmdPrint_Click() const;
+    void cmdClose_Click() const { program.Unload(Name()); }
 
   private:
-    void OpenRecentProject();
+    void OpenRecentProject() const;
     void ShowHeadings();
     void ShowResults();
     void MarkResults();

@@ -50,7 +50,7 @@ void frmAtterberg::DrawEquations()
 }
 
 /// The flow index goes to the summary's column of that name; no swelling is measured here.
-void frmAtterberg::PostLimits()
+void frmAtterberg::PostLimits() const
 {
     PostSummary(
         program,

@@ -71,7 +71,7 @@ struct frmAtterberg : TestSheet {
     void DrawGuides(const FlowScale& scale, double liquidLimit);
     void ReadLimits(const StraightLine& curve);
     double MeanPlasticLimit() const;
-    void PostLimits();
+    void PostLimits() const;
 };
 
 }  // namespace terravane

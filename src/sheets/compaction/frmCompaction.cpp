@@ -78,7 +78,7 @@ void frmCompaction::chkSatLine_Click()
     if (!chkSatLine.Value()) txtGs.SetText("");
 }
 
-void frmCompaction::PostPeak()
+void frmCompaction::PostPeak() const
 {
     const bool isStandard = program.CurrentTest == Test::StdSoil;
     PostSummary(program, {{isStandard ? "sum_omcS" : "sum_omcM", txtOMC.Text()},

@@ -137,7 +137,7 @@ struct frmCompaction : TestSheet {
     void DrawGuides(const CompactionScale& scale, CompactionPeak peak);
     void DrawAirVoidLine(const CompactionScale& scale);
     void CaptionAirVoidLine();
-    void PostPeak();
+    void PostPeak() const;
 };
 
 }  // namespace terravane

@@ -66,14 +66,14 @@ void TestSheet::ChainFocus(std::span<const std::string_view> way)
     }
 }
 
-bool TestSheet::AsksToErase(std::string_view what)
+bool TestSheet::AsksToErase(std::string_view what) const
 {
     const Message question{"คุณต้องการลบข้อมูล" + std::string(what) + "ใช่หรือไม่?", "ยืนยันการลบ", MessageStyle::Plain,
                            MessageButtons::OkCancel};
     return program.Ask().Show(question) == MessageAnswer::Ok;
 }
 
-StoredResults TestSheet::ResultsOf(Test test)
+StoredResults TestSheet::ResultsOf(Test test) const
 {
     OpenProjectConnection(program);
     const TableSchema& table = TableOf(test, program.CurrentMaterial);

@@ -100,9 +100,9 @@ struct TestSheet : Form {
     /// Chains fields for Enter, each to the next, and hides the cell editors where one of them gets the focus.
     void ChainFocus(std::span<const std::string_view> way);
     /// Asks whether the readings of `what`, a row or a column in the technician's words, shall go.
-    bool AsksToErase(std::string_view what);
+    bool AsksToErase(std::string_view what) const;
     /// What Save stored with a test of the current material.
-    StoredResults ResultsOf(Test test);
+    StoredResults ResultsOf(Test test) const;
 
     /// For fields outside the grids, where they get the focus.
     Handler HidesEditors()

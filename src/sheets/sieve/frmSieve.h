@@ -173,7 +173,7 @@ struct frmSieve : TestSheet {
     Limits LimitsNow() const;
     void ClassifyUSCS();
     void ClassifyAASHTO();
-    void PostClasses();
+    void PostClasses() const;
     void DrawPlasticityChart();
     void DrawChartGrid();
     void DrawZones();

@@ -99,7 +99,7 @@ void frmSieve::ClassifyAASHTO()
     if (const auto name = TypicalName(group); !name.empty()) txtMtype.SetText(name);
 }
 
-void frmSieve::PostClasses()
+void frmSieve::PostClasses() const
 {
     if (program.CurrentMaterial == Material::None) return;
     PostSummary(program, {{"sum_gravel", SignedNumberText(Gravel)},

@@ -82,7 +82,7 @@ struct frmSpecific : TestSheet {
     void DrawCurve(const CalibrationScale& scale, const CalibrationReadings& readings);
 
     void GravityOf(int trial);
-    void PostGravity();
+    void PostGravity() const;
 
     CalibrationCurve curve_;  // the one fitted last
 };

@@ -46,7 +46,7 @@ void frmSpecific::GravityOf(int trial)
         Format(Divide(value(gravity::Correction) * value(gravity::DrySoil), displaced), kNoForcedZero);
 }
 
-void frmSpecific::PostGravity()
+void frmSpecific::PostGravity() const
 {
     PostSummary(program, {{"sum_Gs", MSHSpecific(gravity::Average, 1).Text()}});
 }
