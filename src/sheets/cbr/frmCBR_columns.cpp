@@ -12,10 +12,15 @@ using namespace cbr;
 using enum ColumnPlace::Kind;
 
 /// Record i is row i of MSHSwell: its heads in rows 1 and 2 are stored as the texts they are, its last reading is not
-/// stored. So the project files are.
+/// stored, though the table has a record for it, which is loaded. So the project files are.
 constexpr ColumnPlace Swelling(std::string_view suffix, int column)
 {
-    return {.suffix = suffix, .control = "MSHSwell", .kind = GridLine, .line = column, .firstLoaded = swell::First};
+    return {.suffix = suffix,
+            .control = "MSHSwell",
+            .kind = GridLine,
+            .line = column,
+            .firstLoaded = swell::First,
+            .lastLoaded = swell::Last};
 }
 
 /// Record i is row i - 1 of MSHPenetrate1, which has no heads.

@@ -47,6 +47,19 @@ void LoadHead(TestSheet& sheet, const ColumnPlace& place, const std::string& sto
     control.SetText(&control == &sheet.DTPDate ? DateOr(sheet, stored) : stored);
 }
 
+/// Behind the records that are saved only what another program wrote is loaded; the blanks of a new file stay out.
+bool IsLoaded(const TablePass& pass, const ColumnPlace& place, int record, std::string_view stored)
+{
+    if (record <= pass.records) return record >= place.firstLoaded;
+    return record <= place.lastLoaded && !Trim(stored).empty();
+}
+
+int LastLoaded(const TablePass& pass)
+{
+    const auto last = std::ranges::max_element(pass.places, {}, &ColumnPlace::lastLoaded);
+    return std::max(pass.records, last->lastLoaded);
+}
+
 void LoadRecord(TestSheet& sheet, const TablePass& pass, const jet::Recordset& records, int record)
 {
     const TableSchema& table = TableOf(sheet);
@@ -55,7 +68,7 @@ void LoadRecord(TestSheet& sheet, const TablePass& pass, const jet::Recordset& r
         if (!place.loaded || place.kind == Choice) continue;
         if (place.kind == Head) {
             if (record == 1) LoadHead(sheet, place, stored);
-        } else if (record >= place.firstLoaded) {
+        } else if (IsLoaded(pass, place, record, stored)) {
             CellOf(sheet, place, record) = sheet.TrimsLists() ? Trim(stored) : std::string_view(stored);
         }
     }
@@ -93,7 +106,8 @@ bool IsListEnd(const TestSheet& sheet, const TablePass& pass, const jet::Records
 void LoadPass(TestSheet& sheet, const TablePass& pass, jet::Recordset& records)
 {
     records.MoveFirst();
-    for (int record = 1; record <= pass.records; ++record, records.MoveNext()) {
+    const int last = LastLoaded(pass);
+    for (int record = 1; record <= last; ++record, records.MoveNext()) {
         if (IsListEnd(sheet, pass, records)) return;
         if (!pass.list.empty()) sheet.Get<TextGrid>(pass.list).SetRows(record);
         LoadRecord(sheet, pass, records, record);

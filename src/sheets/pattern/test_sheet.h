@@ -37,6 +37,7 @@ struct ColumnPlace {
     bool loaded = true;  // results are saved only
     int rowShift = 0;
     int firstLoaded = 1;  // records before this one are the grid's titles: saved with it, kept when it is loaded
+    int lastLoaded = 0;   // records behind the pass's own up to this one are loaded too, though never saved
 };
 
 /// The columns that are saved by one statement a record and loaded in one walk over the records.
