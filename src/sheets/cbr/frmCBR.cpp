@@ -166,6 +166,8 @@ void frmCBR::WireGrids()
 void frmCBR::Form_Load()
 {
     BuildGrids();
+    DrawEmptyLoadPlot();
+    DrawEmptyDensityPlot();
     SSTData.SetTabEnabled(kValueTab, false);
     for (CommandButton* later : {&cmdLPen, &cmdView, &cmdCBR}) later->SetEnabled(false);
     TestSheet::Form_Load();

@@ -70,6 +70,7 @@ void frmCompaction::WireEvents()
 void frmCompaction::Form_Load()
 {
     BuildGrids();
+    DrawAxes();
     SSTData.SetTabEnabled(1, false);
     TestSheet::Form_Load();
 }

@@ -33,6 +33,7 @@ void frmSpecific::WireEvents()
 void frmSpecific::Form_Load()
 {
     BuildGrids();
+    DrawAxes();
     TestSheet::Form_Load();
 }
 
