@@ -153,7 +153,7 @@ inline constexpr Line kBearingResultLines[]{
 };
 
 /// The table keeps of the swelling the rows from the second one on: two rows of heads, as the texts they are, and all
-/// readings but the last. So the project files are.
+/// readings but the last, though it has a record for that, which is loaded. So the project files are.
 inline constexpr Grid kBearingGrids[]{
     {.control = "MSHWater",
      .frame = "Water Content Determination",

@@ -21,6 +21,7 @@ namespace terravane::laboratory {
 ///             else is loaded
 /// firstRecord  of a grid: the row or column that the table's first row keeps
 /// firstLoaded  rows of the table before this one are the grid's titles: saved with it, kept when it is loaded
+/// lastLoaded   rows behind those that keep it up to this one are loaded too, where another program wrote there
 /// records      rows of the table that keep it
 /// isList       whether they are as many as the list has trials
 struct KeptColumn {
@@ -36,6 +37,7 @@ struct KeptColumn {
     bool isResult = false;
     int firstRecord = 1;
     int firstLoaded = 1;
+    int lastLoaded = 0;
     int records = 1;
     bool isList = false;
 };
@@ -64,6 +66,7 @@ constexpr KeptColumn KeepLine(const Grid& grid, const Line& line)
     column.line = line.number;
     column.firstRecord = grid.firstRecord;
     column.firstLoaded = grid.firstTrial - grid.firstRecord + 1;
+    column.lastLoaded = grid.firstTrial - grid.firstRecord + grid.count;
     column.isList = grid.isList;
     return column;
 }

@@ -70,7 +70,6 @@ constexpr std::array kParameters{
         {ReportField{"Prv. Constant (K)  ", "txtK", "lb/div."}, ReportField{"Surcharge Weight  ", "txtWeight", "kg"}}},
 };
 
-/// A unit gives way to a value that is longer than its place.
 void PrintParameters(const CbrPage& of, const ParameterColumn& column, double left)
 {
     const double start = left + kLabelInset;
@@ -79,8 +78,7 @@ void PrintParameters(const CbrPage& of, const ParameterColumn& column, double le
         PrintFrom(of.page, start, of.y(line++), parameter.label);
         PrintFrom(of.page, start + of.page.TextWidth(column.colonAfter), " : ");
         of.page.PrintOn(of.Text(parameter.control));
-        const double behind = of.page.CurrentX + of.page.TextWidth(" ");
-        PrintFrom(of.page, std::max(start + of.page.TextWidth(column.unitAfter), behind), parameter.unit);
+        PrintFrom(of.page, UnitLeft(of.page, start + of.page.TextWidth(column.unitAfter)), parameter.unit);
     }
 }
 

@@ -57,24 +57,18 @@ void DrawTableRules(const CbrTable& of)
     box.Rows(kHeadLines + 1, of.bottom - kHeadLines - 1);
 }
 
-/// The moulds' numbers stand in the first line, since the heads fill the three below; with both conditions the first
-/// two make room for the condition.
+/// The moulds' numbers stand in the first line, since the heads fill the three below, each over the middle of its
+/// group; of a test of both conditions the first two have the condition beside them.
 void PrintMouldHeads(const CbrTable& of)
 {
     constexpr std::array<std::string_view, kMoulds> kConditions{"Unsoaked", "Soaked", ""};
-    const double group = of.columns.width * kGroup;
     of.page.CurrentY = of.y(0);
     PrintCentred(of.page, kLeft, of.columns.width, "Mold No.");
     for (int mould = 1; mould <= kMoulds; ++mould) {
         const double left = of.Left(penetration::Dial(mould));
-        const std::string& number = of.cbr.MSHPenetrate(0, penetration::Load(mould));
         const auto condition = kConditions[static_cast<std::size_t>(mould - 1)];
-        if (!of.cbr.optBoth.Value() || condition.empty()) {
-            PrintCentred(of.page, left, group, number);
-            continue;
-        }
-        PrintCentred(of.page, left, group, condition);
-        PrintCentred(of.page, left, of.columns.width, number);
+        if (of.cbr.optBoth.Value() && !condition.empty()) PrintCentred(of.page, left, of.columns.width, condition);
+        PrintCentred(of.page, left, of.columns.width * kGroup, of.cbr.MSHPenetrate(0, penetration::Load(mould)));
     }
 }
 

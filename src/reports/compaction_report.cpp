@@ -46,6 +46,7 @@ constexpr std::array kTables{
                 .verticals = {kSamples + 1}},
 };
 constexpr double kPlotLine = 20;
+constexpr std::string_view kColon = ": ";
 
 /// The page being drawn, with its six sample columns.
 struct CompactionPage : ReportPage {
@@ -78,7 +79,7 @@ void PrintMoldMeasure(const CompactionPage& of, std::string_view label, std::str
     PrintFrom(of.page, start, label);
     PrintFrom(of.page, stop, " : ");
     PrintFrom(of.page, stop + 300, of.Text(control));
-    PrintLineFrom(of.page, stop + 800, "cm");
+    PrintLineFrom(of.page, UnitLeft(of.page, stop + 800), "cm");
 }
 
 void PrintMoldRows(const CompactionPage& of)
@@ -103,16 +104,17 @@ void DrawResultsBox(const CompactionPage& of)
     box.Rows(1);
 }
 
-/// A value stands right-aligned in the width of "00000,00", its unit behind it.
+/// A value stands right-aligned in the width of "00000,00", its unit behind it. A longer one moves the colon.
 void PrintResult(const CompactionPage& of, double line, std::string_view label, std::string_view control,
                  std::string_view unit)
 {
     const double stop = of.samples.Left(6);
     const std::string value = of.Text(control);
+    const double left = stop + of.page.TextWidth("00000,00") - of.page.TextWidth(value);
     of.page.CurrentY = of.y(line);
     PrintFrom(of.page, of.samples.Left(4) + kLabelInset, label);
-    PrintFrom(of.page, stop, ": ");
-    PrintFrom(of.page, stop + of.page.TextWidth("00000,00") - of.page.TextWidth(value), value);
+    PrintFrom(of.page, ColonLeft(of.page, stop, kColon, left), kColon);
+    PrintFrom(of.page, left, value);
     of.page.Print(unit);
 }
 

@@ -57,6 +57,17 @@ std::string TextOf(const TestSheet& sheet, std::string_view control)
     return sheet.Get<TextControl>(control).Text();
 }
 
+double UnitLeft(const DrawingSurface& page, double place)
+{
+    return page.CurrentX > place ? page.CurrentX + page.TextWidth(" ") : place;
+}
+
+double ColonLeft(const DrawingSurface& page, double place, std::string_view colon, double valueLeft)
+{
+    const double width = page.TextWidth(colon.substr(0, colon.find_last_not_of(' ') + 1));
+    return place + width > valueLeft ? valueLeft - page.TextWidth(" ") - width : place;
+}
+
 void PrintCaption(DrawingSurface& page, double x, double y, std::string_view text)
 {
     page.FontBold = true;

@@ -79,6 +79,14 @@ struct ReportPage {
     std::string Text(std::string_view control) const { return TextOf(sheet, control); }
 };
 
+/// Where a unit stands behind the value that was printed last: at its place, a blank behind the value where that is
+/// longer than the room in front of the place.
+double UnitLeft(const DrawingSurface& page, double place);
+
+/// Where a colon stands in front of a value that begins at `valueLeft`: at its place, a blank in front of the value
+/// where that reaches back over the colon. colon  with the blanks it is printed with; those behind it count for nothing
+double ColonLeft(const DrawingSurface& page, double place, std::string_view colon, double valueLeft);
+
 /// A caption at (x, y), bold, ending the line; bold stays on.
 void PrintCaption(DrawingSurface& page, double x, double y, std::string_view text);
 

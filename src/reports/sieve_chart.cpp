@@ -6,9 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "controls/choice_controls.h"
 #include "laboratory/masks.h"
-#include "reports/open_sheet.h"
 #include "reports/report_page.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
@@ -85,13 +83,13 @@ constexpr double kSieveLine = 1;
 
 /// Edges of the plot and how size and percent map to it, in twips of the page on its side.
 struct ChartPage {
-    const TestSheet& sheet;
+    const frmSieve& sheet;
     DrawingSurface& page;
     double left, right, top, bottom;
     double decade;
     double tenPercent;
 
-    ChartPage(const TestSheet& open, DrawingSurface& surface)
+    ChartPage(const frmSieve& open, DrawingSurface& surface)
         : sheet(open),
           page(surface),
           left(surface.Width * 1.5 / 11),
@@ -228,22 +226,13 @@ void DrawMarks(const ChartPage& of, Medium medium)
     of.page.FillSolid = false;
 }
 
-/// The grid that the method names first; the other where the sheet never filled that one.
-const TextGrid& CurveTable(const TestSheet& sheet)
-{
-    const auto& points = sheet.Get<TextGrid>("MSHData");
-    const auto& curve = sheet.Get<TextGrid>("MSH3");
-    const bool isSmooth = sheet.Get<CheckBox>("chkSmooth").Value();
-    const TextGrid& named = isSmooth ? points : curve;
-    return named.Rows() > 2 ? named : (isSmooth ? curve : points);
-}
-
+/// The curve that stands on the sheet: drawn from other points, it would not be the one that was looked at.
 void DrawCurve(const ChartPage& of)
 {
-    const TextGrid& table = CurveTable(of.sheet);
+    const TextGrid* points = of.sheet.ShownCurve;
     std::vector<DrawnPoint> curve;
-    for (int row = 1; row < table.Rows() && table.Rows() > 2; ++row)
-        curve.push_back({of.X(Val(table(row, 0))), of.Y(Val(table(row, 1)))});
+    for (int row = 1; points && row < points->Rows() && points->Rows() > 2; ++row)
+        curve.push_back({of.X(Val((*points)(row, 0))), of.Y(Val((*points)(row, 1)))});
     of.page.DrawStyle = kSolid;
     of.page.DrawWidth = kCurvePen;
     of.page.Polyline(curve, kBlue);
@@ -254,7 +243,7 @@ void DrawCurve(const ChartPage& of)
 
 void DrawSieveChart(Program& program, DrawingSurface& page, Medium medium)
 {
-    const ChartPage of(OpenSheet(program), page);
+    const ChartPage of(program.Get<frmSieve>("frmSieve"), page);
     page.DrawStyle = kSolid;
     page.FontBold = false;
     page.FontName = kReportFont;

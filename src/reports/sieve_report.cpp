@@ -33,6 +33,7 @@ constexpr std::array kHeads{
     HeadLine{"", "(mm)", "(g)", "(g)", "(g)", "(g)", "(%)", "(%)"},
 };
 
+constexpr std::string_view kMassColon = " :     ";
 constexpr std::array kMasses{
     ReportField{"Dry Mass of Original Sample", "txtGsoil"},
     ReportField{"Dry Mass after Washing", "txtDwp"},
@@ -88,16 +89,17 @@ void PrintMethod(const SievePage& of)
     PrintCentred(of.page, kLeft, of.MethodEnd() - kLeft, isWet ? "Wet Sieving Method" : "Dry Sieving Method");
 }
 
-/// All stops count from the end of the longest label.
+/// All stops count from the end of the longest label. A value that is longer than its room moves the colon.
 void PrintMasses(const SievePage& of)
 {
     const double stop = of.MethodEnd() + of.page.TextWidth(kMasses.front().label);
     double line = 1;
     for (const ReportField& mass : kMasses) {
         const std::string value = Format(of.Text(mass.control), kTwoDecimals);
+        const double left = stop + 1800 - of.page.TextWidth(value);
         PrintFrom(of.page, of.MethodEnd() + 900, of.y(line++), mass.label);
-        PrintFrom(of.page, stop + 1100, " :     ");
-        PrintFrom(of.page, stop + 1800 - of.page.TextWidth(value), value);
+        PrintFrom(of.page, ColonLeft(of.page, stop + 1100, kMassColon, left), kMassColon);
+        PrintFrom(of.page, left, value);
         PrintFrom(of.page, stop + 2100, " grams ");
     }
 }
@@ -110,7 +112,7 @@ void PrintFraction(const SievePage& of, double line, std::string_view label, dou
     PrintFrom(of.page, left, label);
     PrintFrom(of.page, colon, "  :     ");
     PrintFrom(of.page, colon + 400, Format(percent, kTwoDecimals));
-    PrintFrom(of.page, colon + 900, "%");
+    PrintFrom(of.page, UnitLeft(of.page, colon + 900), "%");
 }
 
 void PrintFractions(const SievePage& of)

@@ -134,12 +134,20 @@ TEST_F(CbrPage, ParametersStandAtTheirStops)
     EXPECT_TRUE(Near(page.Text("Surcharge Weight  ").x, 3401.5));
 }
 
-TEST_F(CbrPage, ALongConstantPushesItsUnit)
+// The place is 377 twips behind the colon: four digits (347) fit, six signs (477) don't.
+TEST_F(CbrPage, AConstantThatFitsLeavesItsUnitAndALongerOnePushesIt)
 {
-    sheet.txtK.SetText("4.99581234");
-    const auto page = Printed(1);
-    const TextItem value = page.Text("4.99581234");
-    EXPECT_GT(page.Text("lb/div.").x, value.x + TextWidth(value.font, value.text));
+    const double place = Printed(1).Text("lb/div.").x;
+    sheet.txtK.SetText("4995");
+    EXPECT_EQ(Printed(1).Text("lb/div.").x, place);
+    for (const char* longer : {"4.9958", "4.99581234"}) {
+        sheet.txtK.SetText(longer);
+        const auto page = Printed(1);
+        const TextItem value = page.Text(longer);
+        const double end = value.x + TextWidth(value.font, value.text);
+        EXPECT_NEAR(page.Text("lb/div.").x, end + TextWidth(value.font, " "), kTwip) << longer;
+    }
+    EXPECT_EQ(Printed(1).Text("kg").x, place) << "The other row stays.";
 }
 
 TEST_F(CbrPage, TheChoicesNameTheTest)
@@ -175,7 +183,10 @@ TEST_F(CbrPage, ThreeMouldsPrintTheDesignValue)
 {
     sheet.SSTData.SetTabEnabled(cbr::kValueTab, true);
     sheet.txtCBR.SetText("6.1");
-    ExpectAt(Printed(1), "CBR Value at 95% of Stardard Compaction is 6.1 %", 500 + (3000 + 3 * kColumn) / 2, Y(22));
+    const auto page = Printed(1);
+    const TextItem line = page.Text("CBR Value at 95% of Stardard Compaction is 6.1 %");
+    ExpectAt(page, line.text, 500 + (3000 + 3 * kColumn) / 2, Y(22));
+    EXPECT_TRUE(line.font.bold) << "What the client looks for.";
 }
 
 // The number, not the text: "8.0" prints as 8.
@@ -185,7 +196,9 @@ TEST_F(CbrPage, ASingleMouldPrintsTheHigherRatio)
     sheet.mshLPC(cbr::result::At02, 1) = "8.0";
     sheet.mshLPC(cbr::result::At01, 2) = "9.5";
     sheet.mshLPC(cbr::result::At02, 2) = "9.1";
-    EXPECT_EQ(Printed(1).Texts("CBR Value of Stardard Compaction is 8 %").size(), 1U);
+    const TextItem line = Printed(1).Text("CBR Value of Stardard Compaction is 8 %");
+    EXPECT_TRUE(Near(line.y, Y(22)));
+    EXPECT_TRUE(line.font.bold);
     sheet.optBoth.Choose();
     EXPECT_EQ(Printed(1).Texts("CBR Value of Stardard Compaction is 9.5 %").size(), 1U) << "The soaked mould.";
 }
@@ -242,7 +255,7 @@ TEST_F(CbrPage, CurvesAreCopiedBelowTheTable)
             << wanted.name << " at " << picture.x << ", " << picture.y;
     }
     ASSERT_TRUE(find("picgraph1").drawing);
-    EXPECT_EQ(find("picgraph1").drawing->items.size(), 1U);
+    EXPECT_EQ(*find("picgraph1").drawing, *sheet.picgraph1.Image());
 }
 
 // Size 15 has lines of 391.5; the first of three stands four lines below the table and 500.
@@ -268,15 +281,50 @@ TEST_F(CbrPage, TheSummaryStandsBetweenTheCurves)
     }
 }
 
-TEST_F(CbrPage, MouldNumbersStandOverTheirGroups)
+/// Below them "Load" stands in the middle of each group.
+void ExpectMouldNumbers(const PageMarks& page)
+{
+    for (int mould = 1; mould <= 3; ++mould) {
+        const double middle = 500 + (3 * mould - 0.5) * kTenth;
+        ExpectAt(page, std::to_string(mould), middle, 3000);
+        const TextItem load = page.Texts("Load").at(static_cast<std::size_t>(mould) - 1);
+        EXPECT_TRUE(Near(load.x + TextWidth(load.font, load.text) / 2, middle) && Near(load.y, TableY(1)));
+    }
+    ExpectAt(page, "Mold No.", 500 + 0.5 * kTenth, 3000);
+}
+
+TEST_F(CbrPage, MouldNumbersStandOverTheMiddlesOfTheirGroupsAlsoWithBothConditions)
 {
     auto page = Printed(2);
-    ExpectAt(page, "2", 500 + 5.5 * kTenth, 3000);
-    ExpectAt(page, "Mold No.", 500 + 0.5 * kTenth, 3000);
+    ExpectMouldNumbers(page);
+    EXPECT_EQ(page.Texts("Unsoaked").size(), 0U);
     sheet.optBoth.Choose();
     page = Printed(2);
-    ExpectAt(page, "Unsoaked", 500 + 2.5 * kTenth, 3000);
-    ExpectAt(page, "Soaked", 500 + 5.5 * kTenth, 3000);
+    ExpectMouldNumbers(page);
+    ExpectAt(page, "Unsoaked", 500 + 1.5 * kTenth, 3000);
+    ExpectAt(page, "Soaked", 500 + 4.5 * kTenth, 3000);
+    std::vector<DrawnItem> table = page.items;
+    std::erase_if(table, [](const DrawnItem& item) {
+        const auto* text = std::get_if<TextItem>(&item);
+        return !text || text->y < 3000 || text->y > TableY(12);
+    });
+    ExpectNoTextOverText(table);
+}
+
+// The verticals within a pair begin below the numbers' line and that of "Swell".
+TEST_F(CbrPage, NoLineRunsThroughAMouldNumberOfTheSwellingTable)
+{
+    const auto page = Printed(1);
+    for (int mould = 1; mould <= 3; ++mould) {
+        const double middle = 3500 + kColumn * (mould - 0.5);
+        EXPECT_EQ(page.Down(middle, Y(26), Y(32), 1), 1) << mould;
+        for (const LineItem& line : ItemsOf<LineItem>(page.items))
+            EXPECT_FALSE(Near(line.x1, middle) && line.x1 == line.x2 && line.y1 < Y(26) && line.y2 > Y(24)) << mould;
+        int numbers = 0;
+        for (const TextItem& text : page.Texts(std::to_string(mould)))
+            numbers += Near(text.y, Y(24)) && Near(text.x + TextWidth(text.font, text.text) / 2, middle) ? 1 : 0;
+        EXPECT_EQ(numbers, 1) << mould;
+    }
 }
 
 TEST_F(CbrPage, ThePreviewTurnsToThePage)

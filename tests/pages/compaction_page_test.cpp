@@ -150,6 +150,35 @@ TEST_F(CompactionPage, MouldRowsStandAtTheirStops)
     EXPECT_NEAR(page.Text("Height of Mold").y, Y(1), kTwip);
 }
 
+// The unit stands 500 behind the value's beginning: five digits and a point (477) fit, two digits more don't.
+TEST_F(CompactionPage, AMouldMeasureThatIsLongerThanItsPlacePushesItsUnit)
+{
+    const double place = Printed().Texts("cm").at(0).x;
+    sheet.txtDia.SetText("10.160");
+    EXPECT_EQ(Printed().Texts("cm").at(0).x, place);
+    sheet.txtDia.SetText("10.16001");
+    const PageMarks page = Printed();
+    const TextItem value = page.Text("10.16001");
+    const double end = value.x + TextWidth(value.font, value.text);
+    EXPECT_NEAR(page.Texts("cm").at(0).x, end + TextWidth(value.font, " "), kTwip);
+    EXPECT_EQ(page.Texts("cm").at(1).x, place) << "The height's stays.";
+    EXPECT_NEAR(page.Text("Height of Mold").y, Y(1), kTwip);
+}
+
+// Between the colon's end and the units there are 607 twips: "12345.67" needs 651.
+TEST_F(CompactionPage, AResultThatIsLongerThanItsPlacePushesItsColon)
+{
+    const double place = Printed().Texts(": ").at(1).x;
+    sheet.txtDmax.SetText("1234.56");
+    EXPECT_EQ(Printed().Texts(": ").at(2).x, place);
+    sheet.txtDmax.SetText("12345.67");
+    const PageMarks page = Printed();
+    const TextItem value = page.Text("12345.67"), colon = page.Texts(": ").at(2);
+    EXPECT_NEAR(value.x + TextWidth(value.font, value.text), 10655.7, kTwip) << "The value stays.";
+    EXPECT_NEAR(colon.x + TextWidth(colon.font, ": "), value.x, kTwip);
+    EXPECT_EQ(page.Texts(": ").at(1).x, place) << "The other line's colon stays.";
+}
+
 // "00000,00" is 8542 units, 156 / 2048 twips each: 650.7 behind the colon at 3000 + 5 × 1401 = 10005.
 TEST_F(CompactionPage, ResultsEndWhereTheirUnitsBegin)
 {

@@ -96,6 +96,29 @@ TEST_F(SievePage, MassesEndAtTheirStop)
     EXPECT_NEAR(page.Text("Wet Sieving Method").y, Y(2), kTwip);
 }
 
+// The colon ends 604 twips before the value's end: 1234.56 g need 564, 12345.67 g 651.
+TEST_F(SievePage, AMassThatIsLongerThanItsPlacePushesItsColon)
+{
+    const std::string colon = " :     ";
+    const double place = Printed().Texts(colon).at(0).x;
+    sheet->txtGsoil.SetText("1234.56");
+    EXPECT_EQ(Printed().Texts(colon).at(0).x, place);
+    sheet->txtGsoil.SetText("12345.67");
+    const auto page = Printed();
+    EXPECT_NEAR(page.Texts(colon).at(0).x + Width(" : "), page.Text("12345.67").x, kTwip);
+    EXPECT_EQ(page.Texts(colon).at(1).x, place) << "The next line's stays.";
+    EXPECT_NEAR(page.Texts(" grams ").at(0).x, page.Texts(" grams ").at(1).x, kTwip);
+}
+
+TEST_F(SievePage, AFractionThatIsLongerThanItsPlacePushesItsSign)
+{
+    const double place = Printed().Texts("%").at(0).x;
+    sheet->txtP4.SetText("-12345.6");  // 12445.60 % of gravel
+    const auto page = Printed();
+    EXPECT_NEAR(page.Texts("%").at(0).x, page.Text("12445.60").x + Width("12445.60 "), kTwip);
+    EXPECT_EQ(page.Texts("%").at(2).x, place);
+}
+
 // 100 - 51.2, 51.2 - 5.8, 5.8.
 TEST_F(SievePage, FractionsAreWorkedOutHereAndStandClearOfTheMasses)
 {
@@ -275,18 +298,54 @@ TEST_F(SievePage, ALabelWithoutASizeBeforeAnyOtherIsNotMarked)
     EXPECT_EQ(ItemsOf<CircleItem>(PrintedChart().items).size(), 8u);
 }
 
-// With a smooth curve the points are drawn, without one the spline; where the sheet never made the spline, the points.
-TEST_F(SievePage, TheCurveComesFromTheGridThatTheMethodNames)
+// A tick alone draws nothing on the sheet, so it changes nothing on paper.
+TEST_F(SievePage, ThePrintedCurveIsTheOneThatTheSheetShows)
 {
-    EXPECT_EQ(Curve().size(), 8u);
+    EXPECT_EQ(Curve().size(), 8u) << "The polygon through the points.";
     sheet->chkSmooth.SetValue(true);
     EXPECT_EQ(Curve().size(), 8u);
     sheet->cmdgraph.Press();
-    EXPECT_EQ(Curve().size(), 8u);
-    sheet->chkSmooth.SetValue(false);
-    EXPECT_EQ(Curve().size(), static_cast<std::size_t>(sheet->MSH3.Rows()) - 1);
+    const auto spline = static_cast<std::size_t>(sheet->MSH3.Rows()) - 1;
+    EXPECT_GT(spline, 8u);
+    EXPECT_EQ(Curve().size(), spline);
     EXPECT_NEAR(Curve().front().x, ChartX(25), kTwip);
     EXPECT_NEAR(Curve().front().y, ChartY(100), kTwip);
+    sheet->chkSmooth.SetValue(false);
+    EXPECT_EQ(Curve().size(), spline) << "The spline still stands on the sheet.";
+    sheet->cmdgraph.Press();
+    EXPECT_EQ(Curve().size(), 8u) << "Not the spline of the plot before.";
+}
+
+TEST_F(SievePage, APlotThatFailedPrintsNoCurve)
+{
+    sheet->chkSmooth.SetValue(true);
+    for (int row = 3; row <= 9; ++row) sheet->MSHSieve(row, sieve::Opening) = "";
+    sheet->cmdgraph.Press();  // two sieves have no spline
+    EXPECT_EQ(ItemsOf<PolylineItem>(sheet->picGraph.Items()).size(), 0u);
+    EXPECT_TRUE(Curve().empty());
+}
+
+// The chart's own sizes, which are not those of the sieves' openings; No. 16 has one on the preview only.
+TEST_F(SievePage, EachSievesMarkHasItsPlaceOnTheChart)
+{
+    struct Place {
+        const char* sieve;
+        double millimetre;
+    };
+    frmPreview& preview = bench.Preview();
+    for (const Place& place :
+         {Place{"2 in", 50}, Place{"1 in", 25}, Place{"3/4 in", 19}, Place{"1/2 in", 12.5}, Place{"3/8 in", 9.51},
+          Place{"#4", 4.75}, Place{"#8", 2.6}, Place{"#10", 2}, Place{"#16", 1.19}, Place{"#20", 0.85},
+          Place{"#30", 0.59}, Place{"#40", 0.425}, Place{"#50", 0.3}, Place{"#60", 0.25}, Place{"#80", 0.18},
+          Place{"#100", 0.15}, Place{"#140", 0.106}, Place{"#200", 0.075}}) {
+        sheet->MSHSieve(1, sieve::Number) = "     " + std::string(place.sieve) + " ";
+        preview.cmdNext.Press();
+        EXPECT_NEAR(ItemsOf<CircleItem>(preview.picView.Items()).at(0).x, ChartX(place.millimetre), kTwip)
+            << place.sieve;
+        preview.cmdNext.Press();
+        if (place.millimetre == 1.19) continue;
+        EXPECT_NEAR(ItemsOf<CircleItem>(PrintedChart().items).at(0).x, ChartX(place.millimetre), kTwip) << place.sieve;
+    }
 }
 
 TEST_F(SievePage, AnEmptySheetHasPagesToo)

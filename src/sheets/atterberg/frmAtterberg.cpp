@@ -32,6 +32,7 @@ void frmAtterberg::Form_Load()
 {
     BuildGrids();
     DrawEquations();
+    DrawAxes();
     cmdPlot.SetEnabled(false);
     SSTData.SetTabEnabled(1, false);
     TestSheet::Form_Load();

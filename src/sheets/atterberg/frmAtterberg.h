@@ -62,6 +62,7 @@ struct frmAtterberg : TestSheet {
     void AveragePlasticLimits();
 
     double HighestWaterContent() const;
+    void DrawAxes();
     FlowScale ScaleOf() const;
     void DrawBlowTicks(const FlowScale& scale);
     void PrintBlows(const FlowScale& scale, double blows, double shareLeft);

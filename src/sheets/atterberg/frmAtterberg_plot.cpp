@@ -43,10 +43,7 @@ double FlowScale::Y(double water) const
 void frmAtterberg::cmdPlot_Click()
 {
     const ShownAtEnd frameShown{picgraph1}, plotShown{picGraph};
-    picGraph.Cls();
-    picgraph1.Cls();
-    PrintAxisTitles(picgraph1, picGraph, "Number of Blows", "Water Content , %", kAxisSize);
-    DrawPlotBoxes(picgraph1, picGraph);
+    DrawAxes();
     const FlowScale scale = ScaleOf();
     DrawWaterTicks(scale);
     DrawBlowTicks(scale);
@@ -56,6 +53,11 @@ void frmAtterberg::cmdPlot_Click()
     DrawFlowCurve(scale, curve);
     ReadLimits(curve);
     PostLimits();
+}
+
+void frmAtterberg::DrawAxes()
+{
+    DrawEmptyPlot(picgraph1, picGraph, {"Number of Blows", "Water Content , %"});
 }
 
 FlowScale frmAtterberg::ScaleOf() const

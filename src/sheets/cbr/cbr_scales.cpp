@@ -29,10 +29,10 @@ RisingAxis AxisFor(double greatest, std::span<const AxisStep> steps, double heig
 void DrawRisingAxis(PictureBox& frame, PictureBox& plot, const RisingAxis& axis)
 {
     const int every = LabelEvery(axis.height / axis.divisions, frame.TextHeight("0"));
-    for (int division = 0; division <= axis.divisions; ++division) {
+    for (int division = 0; division <= axis.divisions; division += every) {
         const double value = division * axis.step, y = axis.Y(value);
         plot.Line(0, y, plot.Width - kBoxMargin, y, kGridGrey);
-        if (division % every == 0) PrintLeftOf(frame, plot, y, NumberText(value), kLabelGap);
+        PrintLeftOf(frame, plot, y, NumberText(value), kLabelGap);
     }
 }
 

@@ -49,7 +49,7 @@ struct DensityScale {
     double Y(double value) const { return ratio.Y(value); }
 };
 
-/// Grid lines of an axis on the plot, their labels at its left on the frame, as many as stand apart.
+/// Grid lines of an axis on the plot with their labels at its left on the frame, as many as stand apart.
 void DrawRisingAxis(PictureBox& frame, PictureBox& plot, const RisingAxis& axis);
 
 /// A vertical grid line and its label below the plot.

@@ -119,6 +119,8 @@ frmCBR::frmCBR(Program& owner)
 void frmCBR::Form_Load()
 {
     BuildGrids();
+    DrawEmptyLoadPlot();
+    DrawEmptyDensityPlot();
     SSTData.SetTabEnabled(kValueTab, false);
     for (CommandButton* later : {&cmdLPen, &cmdView, &cmdCBR}) later->SetEnabled(false);
     TestSheet::Form_Load();

@@ -198,7 +198,9 @@ struct frmCBR : TestSheet {
     double Stress(double penetration) const;
     bool IsTicked(int mould) const;
     cbr::LoadScale ScaleOfLoads() const;
+    void DrawEmptyLoadPlot();
     void DrawLoadAxes(const cbr::LoadScale& scale);
+    void DrawPenetrationTicks(const cbr::LoadScale& scale);
     void MarkReadings(const cbr::LoadScale& scale);
     void DoMould(int mould, const cbr::MouldTask& task);
     cbr::TangentPoint ScanCurve() const;
@@ -213,7 +215,9 @@ struct frmCBR : TestSheet {
     void FitDensityCurve(cbr::result::Row row);
     double RatioAt(double density) const;
     cbr::DensityScale ScaleOfDensities() const;
+    void DrawEmptyDensityPlot();
     void DrawDensityAxes(const cbr::DensityScale& scale);
+    void DrawDensityTicks(const cbr::DensityScale& scale);
     void DrawRatios(const cbr::DensityScale& scale, cbr::result::Row row);
     void DrawOnly(cbr::result::Row row);
     void ReadDesignValue(const cbr::DensityScale& scale);

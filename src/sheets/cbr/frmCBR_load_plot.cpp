@@ -30,6 +30,8 @@ constexpr std::array kStressSteps{
     AxisStep{std::numeric_limits<double>::infinity(), 1000},
 };
 
+constexpr AxisTitles kAxes{"Penetration, in", "Resistance of Penetration, lb/in^2", kSmallAxisSize, kTitleLeft};
+
 constexpr std::array kKey{
     KeyEntry{Mark::OpenCircle, kMouldNames[0]},
     KeyEntry{Mark::FilledCircle, kMouldNames[1]},
@@ -51,20 +53,30 @@ LoadScale frmCBR::ScaleOfLoads() const
     return scale;
 }
 
+void frmCBR::DrawEmptyLoadPlot()
+{
+    DrawEmptyPlot(picGraph, picgraph1, kAxes);
+}
+
 void frmCBR::DrawLoadAxes(const LoadScale& scale)
 {
     picGraph.Cls();
     picgraph1.Cls();
-    PrintAxisTitles(picGraph, picgraph1, "Penetration, in", "Resistance of Penetration, lb/in^2", kSmallAxisSize,
-                    kTitleLeft);
+    PrintAxisTitles(picGraph, picgraph1, kAxes);
     DrawRisingAxis(picGraph, picgraph1, scale.stress);
-    RefuseEndless(scale.divisions);
-    for (int tick = 0; tick <= scale.divisions; ++tick) {
-        const double penetration = tick * kTickDistance;
-        DrawTick(picGraph, picgraph1, scale.X(penetration), Format(penetration, kOneDecimal));
-    }
+    DrawPenetrationTicks(scale);
     DrawPlotBoxes(picGraph, picgraph1);
     DrawKey(picGraph, (picgraph1.Top - picGraph.TextHeight("M")) / 2, kKey);
+}
+
+/// Every tenth of an inch, or every second, third ... so that the labels stand apart.
+void frmCBR::DrawPenetrationTicks(const LoadScale& scale)
+{
+    RefuseEndless(scale.divisions);
+    const auto label = [](double tick) { return Format(tick * kTickDistance, kOneDecimal); };
+    const int every = LabelEvery(scale.divisionWidth, picGraph.TextWidth(label(Int(scale.divisions))));
+    for (int tick = 0; tick <= scale.divisions; tick += every)
+        DrawTick(picGraph, picgraph1, scale.X(tick * kTickDistance), label(tick));
 }
 
 /// A reading that was not taken has no mark.

@@ -46,6 +46,7 @@ constexpr std::array kCurves{
     RatioCurve{result::At01, Mark::OpenCircle, kRatioAt01},
     RatioCurve{result::At02, Mark::FilledCircle, kRatioAt02},
 };
+constexpr AxisTitles kAxes{"Dry Density, g/cm^3", "California Bearing Ratio, %", kSmallAxisSize, kTitleLeft};
 constexpr std::array kKey{
     KeyEntry{kCurves[0].mark, kCurves[0].name},
     KeyEntry{kCurves[1].mark, kCurves[1].name},
@@ -135,31 +136,45 @@ DensityScale frmCBR::ScaleOfDensities() const
     return {picGraph3.ScaleWidth - kBoxMargin, Cut(lowest), Cut(highest) + kTickDistance, ratio};
 }
 
+void frmCBR::DrawEmptyDensityPlot()
+{
+    DrawEmptyPlot(picGraph2, picGraph3, kAxes);
+}
+
 void frmCBR::DrawDensityAxes(const DensityScale& scale)
 {
     picGraph2.Cls();
     picGraph3.Cls();
-    PrintAxisTitles(picGraph2, picGraph3, "Dry Density, g/cm^3", "California Bearing Ratio, %", kSmallAxisSize,
-                    kTitleLeft);
+    PrintAxisTitles(picGraph2, picGraph3, kAxes);
     DrawRisingAxis(picGraph2, picGraph3, scale.ratio);
-    const double divisions = Int((scale.last - scale.first) / kTickDistance + 0.5);
-    const double most = Int(scale.width / kLabelNeeds);
-    const double every = Int(divisions / most) + 1;
-    for (double tick = 0; tick <= divisions; tick += every) {
-        const double density = scale.first + tick * kTickDistance;
-        DrawTick(picGraph2, picGraph3, scale.X(density), Format(density, kOneDecimal));
-    }
+    DrawDensityTicks(scale);
     DrawPlotBoxes(picGraph2, picGraph3);
     DrawKey(picGraph2, (picGraph3.Top - picGraph2.TextHeight("M")) / 2, kKey);
 }
 
-/// The three points of a row and the parabola through them, from the first mould's density to the third's.
+/// As many as their labels leave room for.
+void frmCBR::DrawDensityTicks(const DensityScale& scale)
+{
+    const auto label = [](double density) { return Format(density, kOneDecimal); };
+    const double divisions = Int((scale.last - scale.first) / kTickDistance + 0.5);
+    const double most = Int(scale.width / std::max(kLabelNeeds, picGraph2.TextWidth(label(scale.last))));
+    const double every = Int(divisions / most) + 1;
+    for (double tick = 0; tick <= divisions; tick += every) {
+        const double density = scale.first + tick * kTickDistance;
+        DrawTick(picGraph2, picGraph3, scale.X(density), label(density));
+    }
+}
+
+/// The points of a row, none for a mould without a ratio, and the parabola through all three, from the first mould's
+/// density to the third's.
 void frmCBR::DrawRatios(const DensityScale& scale, result::Row row)
 {
     const auto curve = std::ranges::find(kCurves, row, &RatioCurve::row);
     const auto density = [this](int mould) { return Val(mshLPC(result::DryDensity, mould)); };
-    for (int mould = 1; mould <= kMoulds; ++mould)
-        DrawMark(picGraph3, curve->mark, scale.X(density(mould)), scale.Y(Val(mshLPC(row, mould))));
+    for (int mould = 1; mould <= kMoulds; ++mould) {
+        const auto ratio = mshLPC(row, mould);
+        if (!Trim(ratio).empty()) DrawMark(picGraph3, curve->mark, scale.X(density(mould)), scale.Y(Val(ratio)));
+    }
     row == result::At01 ? FitDensityCurve01() : FitDensityCurve02();
     const double steps = (density(kMoulds) - density(1)) / kDensityStep;
     RefuseEndless(steps);

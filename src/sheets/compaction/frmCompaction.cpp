@@ -47,6 +47,7 @@ frmCompaction::frmCompaction(Program& owner)
 void frmCompaction::Form_Load()
 {
     BuildGrids();
+    DrawAxes();
     SSTData.SetTabEnabled(1, false);
     TestSheet::Form_Load();
 }

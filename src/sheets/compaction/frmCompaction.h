@@ -128,6 +128,7 @@ struct frmCompaction : TestSheet {
     static std::vector<double> FitCurve(const CompactionPoints& points);
 
     void DrawAxes();
+    void DrawWaterTicks(const CompactionScale& scale);
     CompactionScale ScaleOf(const CompactionPoints& points) const;
     void DrawTicks(const CompactionScale& scale);
     void DrawCurve(const std::vector<DrawnPoint>& curve);

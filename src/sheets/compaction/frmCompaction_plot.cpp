@@ -27,11 +27,11 @@ double StepOf(double rawStep)
     return Val(std::string_view(text).substr(text.find('.')));
 }
 
-/// Every percent is labelled up to ten of them, every second up to twenty, then every fourth.
-bool HasLabel(int percent, double percents)
+/// Every percent is ruled up to ten of them, every second up to twenty, then every fourth.
+int RuleEvery(double percents)
 {
-    if (percents > 20) return percent % 4 == 0;
-    return percents <= 10 || percent % 2 == 0;
+    if (percents > 20) return 4;
+    return percents > 10 ? 2 : 1;
 }
 
 /// Each curve's top and the captions of the guide lines.
@@ -51,8 +51,6 @@ double CompactionScale::Y(double value) const
 void frmCompaction::cmdOMC_Click()
 {
     const ShownAtEnd frameShown{picgraph1}, plotShown{picGraph};
-    picGraph.Cls();
-    picgraph1.Cls();
     DrawAxes();
     FillPoints();
     const CompactionPoints points = Points();
@@ -73,8 +71,7 @@ void frmCompaction::cmdOMC_Click()
 
 void frmCompaction::DrawAxes()
 {
-    PrintAxisTitles(picgraph1, picGraph, "Water Content , %", "Dry Density , g/cm^3", kAxisSize);
-    DrawPlotBoxes(picgraph1, picGraph);
+    DrawEmptyPlot(picgraph1, picGraph, {"Water Content , %", "Dry Density , g/cm^3"});
 }
 
 CompactionScale frmCompaction::ScaleOf(const CompactionPoints& points) const
@@ -109,12 +106,21 @@ void frmCompaction::DrawTicks(const CompactionScale& scale)
         const std::string label = Format(scale.TickDensity(tick), kTwoDecimals);
         PrintAt(picgraph1, picgraph1.Width - 200 - picgraph1.TextWidth(label), top + y - lineHeight / 2, label);
     }
+    DrawWaterTicks(scale);
+}
+
+/// Each rule has its label where they stand apart.
+void frmCompaction::DrawWaterTicks(const CompactionScale& scale)
+{
     RefuseEndless(scale.percents);
-    for (int percent = 1; percent <= scale.percents; ++percent) {
-        if (!HasLabel(percent, scale.percents)) continue;
+    const int every = RuleEvery(scale.percents);
+    const double widest = picgraph1.TextWidth(NumberText(scale.firstWater + scale.percents));
+    const int labelled = every * LabelEvery(every * scale.percentWidth, widest);
+    for (int percent = every; percent <= scale.percents; percent += every) {
         const double x = percent * scale.percentWidth;
         picGraph.Line(x, 0, x, scale.height, kGridGrey);
-        PrintBelow(picgraph1, picGraph, x, scale.height, NumberText(scale.firstWater + percent));
+        if (percent % labelled == 0)
+            PrintBelow(picgraph1, picGraph, x, scale.height, NumberText(scale.firstWater + percent));
     }
 }
 

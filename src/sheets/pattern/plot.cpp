@@ -43,9 +43,9 @@ void PrintAt(DrawingSurface& surface, double x, double y, std::string_view text)
     surface.Print(text);
 }
 
-void PrintAxisTitles(PictureBox& frame, PictureBox& plot, std::string_view below, std::string_view beside, double size,
-                     std::optional<double> besideLeft)
+void PrintAxisTitles(PictureBox& frame, PictureBox& plot, const AxisTitles& titles)
 {
+    const auto& [below, beside, size, besideLeft] = titles;
     const auto [left, top] = InsetOf(plot, frame);
     SetFont(frame, kAxisFont, size);
     const double height = frame.TextHeight(below);
@@ -82,6 +82,14 @@ void DrawPlotBoxes(PictureBox& frame, PictureBox& plot)
     frame.DrawWidth = 2;
     frame.Box(10, 10, frame.Width - 80, frame.Height - 80);
     frame.DrawWidth = 1;
+}
+
+void DrawEmptyPlot(PictureBox& frame, PictureBox& plot, const AxisTitles& titles)
+{
+    frame.Cls();
+    plot.Cls();
+    PrintAxisTitles(frame, plot, titles);
+    DrawPlotBoxes(frame, plot);
 }
 
 void DrawMarks(DrawingSurface& plot, std::span<const DrawnPoint> points)

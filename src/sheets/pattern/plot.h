@@ -38,12 +38,17 @@ void SetFont(DrawingSurface& surface, std::string_view name, double size);
 /// One text with its upper left corner at (x, y).
 void PrintAt(DrawingSurface& surface, double x, double y, std::string_view text);
 
-/// Prints the axis titles on the frame: one below the plot, centred, the other turned, left of it. Both boxes have the
-/// font of the tick labels afterwards.
+/// The titles of a plot's axes: one below the plot, centred, the other turned, left of it.
 /// size        points
 /// besideLeft  where the turned title begins; midway between the frame's edge and the plot's unless it is told
-void PrintAxisTitles(PictureBox& frame, PictureBox& plot, std::string_view below, std::string_view beside, double size,
-                     std::optional<double> besideLeft = {});
+struct AxisTitles {
+    std::string_view below, beside;
+    double size = kAxisSize;
+    std::optional<double> besideLeft = {};
+};
+
+/// Prints the axis titles on the frame. Both boxes have the font of the tick labels afterwards.
+void PrintAxisTitles(PictureBox& frame, PictureBox& plot, const AxisTitles& titles);
 
 /// Room between a plot and the labels of its axes.
 inline constexpr double kTickRoom = 40;
@@ -63,6 +68,9 @@ inline constexpr double kBoxMargin = 50;
 
 /// The boxes around plot and frame; the plot's is thin, the frame's thick.
 void DrawPlotBoxes(PictureBox& frame, PictureBox& plot);
+
+/// What stands in the boxes before a curve is drawn: nothing but the boxes and the axis titles.
+void DrawEmptyPlot(PictureBox& frame, PictureBox& plot, const AxisTitles& titles);
 
 /// A dot with a white circle around it at each point, black; what lies below is hidden.
 void DrawMarks(DrawingSurface& plot, std::span<const DrawnPoint> points);

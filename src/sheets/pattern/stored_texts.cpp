@@ -67,6 +67,19 @@ void LoadHead(TestSheet& sheet, const KeptColumn& column, const std::string& sto
     control.SetText(&control == &sheet.DTPDate ? DateOr(sheet, stored) : stored);
 }
 
+/// Behind the records that are saved only what another program wrote is loaded; the blanks of a new file stay out.
+bool IsLoaded(const KeptColumn& column, int record, std::string_view stored)
+{
+    if (record <= column.records) return record >= column.firstLoaded;
+    return record <= column.lastLoaded && !Trim(stored).empty();
+}
+
+int LastLoaded(Pass pass)
+{
+    const auto last = std::ranges::max_element(pass, {}, &KeptColumn::lastLoaded);
+    return std::max(last->records, last->lastLoaded);
+}
+
 void LoadRecord(TestSheet& sheet, Pass pass, const jet::Recordset& records, int record)
 {
     const TableSchema& table = TableOf(sheet);
@@ -75,7 +88,7 @@ void LoadRecord(TestSheet& sheet, Pass pass, const jet::Recordset& records, int 
         if (!column.isLoaded || column.kind == Choice) continue;
         if (column.kind == Head) {
             if (record == 1) LoadHead(sheet, column, stored);
-        } else if (record >= column.firstLoaded) {
+        } else if (IsLoaded(column, record, stored)) {
             CellOf(sheet, column, record) = sheet.described.trimsLists ? Trim(stored) : std::string_view(stored);
         }
     }
@@ -110,7 +123,8 @@ bool IsListEnd(const TestSheet& sheet, Pass pass, const jet::Recordset& records)
 void LoadPass(TestSheet& sheet, Pass pass, jet::Recordset& records)
 {
     records.MoveFirst();
-    for (int record = 1; record <= pass.front().records; ++record, records.MoveNext()) {
+    const int last = LastLoaded(pass);
+    for (int record = 1; record <= last; ++record, records.MoveNext()) {
         if (IsListEnd(sheet, pass, records)) return;
         if (pass.front().isList) sheet.Get<TextGrid>(pass.front().control).SetRows(record);
         LoadRecord(sheet, pass, records, record);

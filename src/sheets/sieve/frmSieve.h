@@ -104,6 +104,9 @@ struct frmSieve : TestSheet {
     /// text, as long as the sheet is open.
     std::string D60, D30, D10;
 
+    /// The points of the curve that stands on picGraph, MSHData or MSH3; none where none was drawn.
+    const TextGrid* ShownCurve = nullptr;
+
     /// The sample as it was classified last, in percent: passing the sieves, and the coarse parts.
     double P4 = 0, P10 = 0, P40 = 0, P200 = 0;
     double Gravel = 0, Sand = 0;

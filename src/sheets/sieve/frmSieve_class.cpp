@@ -113,7 +113,7 @@ void frmSieve::DrawPlasticityChart()
 {
     picChart.Cls();
     picChart1.Cls();
-    PrintAxisTitles(picChart1, picChart, "Liquid Limit (%)", "Plasticity Index (%)", kAxisSize, kTitleLeft);
+    PrintAxisTitles(picChart1, picChart, {"Liquid Limit (%)", "Plasticity Index (%)", kAxisSize, kTitleLeft});
     DrawOutline(picChart1, picChart);
     DrawChartGrid();
     const ChartScale scale = ScaleOf(picChart);

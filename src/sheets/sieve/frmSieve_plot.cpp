@@ -63,7 +63,8 @@ void frmSieve::DrawGrainSizeGrid()
 {
     picGraph.Cls();
     picgraph1.Cls();
-    PrintAxisTitles(picgraph1, picGraph, kSizeTitle, kPassingTitle, kAxisSize, kTitleLeft);
+    ShownCurve = nullptr;
+    PrintAxisTitles(picgraph1, picGraph, {kSizeTitle, kPassingTitle, kAxisSize, kTitleLeft});
     DrawOutline(picgraph1, picGraph);
     const GrainSizeScale scale = Scale();
     DrawSizeLines(scale);
@@ -131,6 +132,7 @@ void frmSieve::DrawCurve(const TextGrid& table)
     for (int row = 1; row < table.Rows() && table.Rows() > 2; ++row)
         curve.push_back({scale.X(Val(table(row, 0))), scale.Y(Val(table(row, 1)))});
     picGraph.Polyline(curve, kBlue);
+    ShownCurve = &table;
 }
 
 /// The vertical caption of the printed curve, kept as a drawing: the page paints it as it stands here.

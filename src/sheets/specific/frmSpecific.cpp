@@ -16,6 +16,7 @@ frmSpecific::frmSpecific(Program& owner)
 void frmSpecific::Form_Load()
 {
     BuildGrids();
+    DrawAxes();
     TestSheet::Form_Load();
 }
 

@@ -75,7 +75,7 @@ struct frmSpecific : TestSheet {
     CalibrationModel ChosenModel(const CalibrationReadings& readings);
     CalibrationModel ChooseBestModel(const CalibrationReadings& readings);
     CalibrationScale ScaleOf(const CalibrationReadings& readings) const;
-    void DrawTitles();
+    void DrawAxes();
     void DrawTemperatureTicks(const CalibrationScale& scale);
     void DrawMassTicks(const CalibrationScale& scale);
     void DrawReadings(const CalibrationScale& scale, const CalibrationReadings& readings);

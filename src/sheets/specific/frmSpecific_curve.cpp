@@ -69,9 +69,7 @@ void frmSpecific::cmdgraph_Click()
 void frmSpecific::PlotCalibration()
 {
     const ShownAtEnd frameShown{picGraph}, plotShown{picgraph1};
-    picGraph.Cls();
-    picgraph1.Cls();
-    DrawTitles();
+    DrawAxes();
     const CalibrationReadings readings = Readings();
     const CalibrationScale scale = ScaleOf(readings);
     DrawTemperatureTicks(scale);
@@ -126,23 +124,26 @@ CalibrationScale frmSpecific::ScaleOf(const CalibrationReadings& readings) const
 }
 
 /// The title beside the mass axis stands at the frame's edge: the labels need the room next to the plot.
-void frmSpecific::DrawTitles()
+void frmSpecific::DrawAxes()
 {
-    PrintAxisTitles(picGraph, picgraph1, "Temperature (Degree Celsius)", "Weight of Water + Flask (g)", kSmallAxisSize,
-                    kTurnedTitleLeft);
-    DrawPlotBoxes(picGraph, picgraph1);
+    DrawEmptyPlot(picGraph, picgraph1,
+                  {"Temperature (Degree Celsius)", "Weight of Water + Flask (g)", kSmallAxisSize, kTurnedTitleLeft});
 }
 
-/// A label at the axis's end is kept inside the frame.
+/// A label at the axis's end is kept inside the frame; one that would stand on the label before it is left out.
 void frmSpecific::DrawTemperatureTicks(const CalibrationScale& scale)
 {
     const auto [left, top] = InsetOf(picgraph1, picGraph);
+    double lastEnd = 0;
     for (const double celsius : scale.temperature.Ticks()) {
         const double x = scale.X(celsius);
         picgraph1.Line(x, 0, x, scale.height, kGridGrey);
         const std::string label = Format(celsius, kTemperatureMask);
         const double width = picGraph.TextWidth(label), farthest = picGraph.Width - kFrameRoom - width;
-        PrintAt(picGraph, std::min(left + x - width / 2, farthest), top + scale.height + kTickRoom, label);
+        const double start = std::min(left + x - width / 2, farthest);
+        if (start < lastEnd) continue;
+        PrintAt(picGraph, start, top + scale.height + kTickRoom, label);
+        lastEnd = start + width;
     }
 }
 

@@ -68,9 +68,12 @@ TEST(KeptColumns, CountTheirRecordsFromWhereTheGridKeepsThem)
     const KeptColumn& dial = Column(terravane::Test::CBRSoil, "s1");
     EXPECT_EQ(dial.firstRecord, 1);
     EXPECT_EQ(dial.firstLoaded, 3);
+    EXPECT_EQ(dial.records, 6);
+    EXPECT_EQ(dial.lastLoaded, 7) << "the last reading";
     const KeptColumn& penetration = Column(terravane::Test::CBRSoil, "pen");
     EXPECT_EQ(penetration.firstRecord, 0);
     EXPECT_EQ(penetration.firstLoaded, 1);
+    EXPECT_EQ(penetration.lastLoaded, 20);
     EXPECT_TRUE(penetration.isList);
     EXPECT_FALSE(dial.isList);
 }

@@ -42,9 +42,14 @@ TEST(PrintOverallResults, StandUprightAfterAReportOnItsSide)
 {
     ResultsBench bench;
     bench.program.printer.SetOrientation(Orientation::Landscape);
-    const auto pages = PagesOfSummary(bench.Open());
+    frmSummary& form = bench.Open();
+    const auto pages = PagesOfSummary(form);
     EXPECT_EQ(pages.front().width, 11906);
     EXPECT_EQ(pages.front().height, 16838);
+    bench.AnswerPrintDialog();
+    form.cmdPrint.Press();
+    EXPECT_EQ(bench.printed.front(), pages);
+    EXPECT_EQ(bench.program.printer.PageOrientation(), Orientation::Portrait) << "The next report is upright, too.";
 }
 
 TEST(PrintOverallResults, CancelSaysNothingAndPrintsNothing)

@@ -287,29 +287,6 @@ TEST_F(CbrLoad, MarksTellTheMouldsApart)
     EXPECT_EQ(TextOn(sheet.picGraph.Items(), "Resistance of Penetration, lb/in^2").angle, 90);
 }
 
-/// The labels of the rising axis for a greatest stress, from the bottom to the top.
-struct AxisRow {
-    const char* dial;  // at 3 lb/div the stress itself
-    double greatest, step;
-};
-
-// The step changes at its bounds; whole divisions, one more than fit.
-TEST_F(CbrLoad, TheStressAxisFollowsItsTable)
-{
-    sheet.txtK.Type("3");
-    for (const AxisRow& row :
-         {AxisRow{"24.9", 30, 10}, AxisRow{"25", 40, 20}, AxisRow{"49.9", 60, 20}, AxisRow{"50", 75, 25},
-          AxisRow{"249", 250, 25}, AxisRow{"250", 300, 50}, AxisRow{"500", 600, 100}, AxisRow{"999", 1000, 100},
-          AxisRow{"1000", 1500, 500}, AxisRow{"5000", 6000, 1000}}) {
-        sheet.cmdPen.Press();
-        TypeDials(sheet, 1, {"0", "1", "1.5", "2", "2.5", "3", "3.5", "4", row.dial});
-        Draw();
-        EXPECT_EQ(TextsOf(sheet.picGraph.Items(), NumberText(row.greatest)).size(), 1U) << row.dial;
-        EXPECT_EQ(TextsOf(sheet.picGraph.Items(), NumberText(row.greatest + row.step)).size(), 0U) << row.dial;
-        EXPECT_GE(TextsOf(sheet.picGraph.Items(), NumberText(row.step)).size(), 1U) << row.dial;
-    }
-}
-
 // 95 % of 1.95 is 1.8525: the parabola through (1.75, 5.4), (1.83, 5.9), (1.92, 7.0) has 5.4 + 6.25 · 0.1025
 // + 35.1307 · 0.1025 · 0.0225 = 6.1216 there.
 TEST_F(CbrValue, ComesFromTheCurveAtAFifthOfAnInch)

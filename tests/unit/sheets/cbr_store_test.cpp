@@ -78,6 +78,21 @@ TEST_F(CbrStore, SwellingIsStoredWithItsHeadsAndWithoutItsLastReading)
     EXPECT_EQ(CellsOf(again.MSHSwell, 1, 0, 3), "Date|Time|Elapsed|Swelling ");
 }
 
+// Another program may have written the record behind those six, and other texts over the heads.
+TEST_F(CbrStore, ALastSwellingReadingThatAFileHasIsShownUnderTheSheetsOwnHeads)
+{
+    lab.Change(
+        "UPDATE CBRSOIL Set cbr_sd ='07/03/2009',  cbr_st ='9',  cbr_set ='120',  cbr_s1 ='1.6',  cbr_s2 ='2.5',  "
+        "cbr_s3 ='1.8' Where cbr_ID =' 7'");
+    lab.Change("UPDATE CBRSOIL Set cbr_sd ='Day' Where cbr_ID =' 1'");
+    lab.Change("UPDATE CBRSOIL Set cbr_sd ='08/03/2009' Where cbr_ID =' 8'");
+    frmCBR& again = lab.OpenCbr();
+    EXPECT_EQ(CellsOf(again.MSHSwell, 7, 0, 8), "07/03/2009|9|120|1.6||2.5||1.8|");
+    EXPECT_EQ(CellsOf(again.MSHSwell, 1, 0, 3), "Date|Time|Elapsed|Swelling ");
+    EXPECT_EQ(CellsOf(again.MSHSwell, 0, 3, 8), "Mold No.1||Mold No.2||Mold No.3|");
+    EXPECT_EQ(CellsOf(again.MSHWater, 1, 1, 6), "   |   |   |   |   |   ") << "The cans stay six.";
+}
+
 TEST_F(CbrStore, AsManyPenetrationsAreStoredAsTheGridHasRows)
 {
     TypePenetrations(sheet, kDepths);

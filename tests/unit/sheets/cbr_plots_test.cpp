@@ -1,0 +1,160 @@
+// What stands on the two plots of the bearing ratio sheet: steps of the axes, captions, marks. Stresses in lb/in²,
+// ratios in percent, lengths in twips.
+#include <algorithm>
+#include <array>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "runtime/numbers.h"
+#include "support/cbr_laboratory.h"
+#include "support/drawn_items.h"
+
+namespace terravane {
+namespace {
+
+using namespace support;
+using cbr::result::At01;
+using cbr::result::At02;
+
+struct CbrPlots : testing::Test {
+    CbrLaboratory lab;
+    frmCBR& sheet = lab.OpenCbr();
+
+    /// Dials of a ring of 3 lb/div, so that a dial is the stress itself.
+    void Load(int mould, std::string_view greatest)
+    {
+        sheet.txtK.Type("3");
+        TypeDials(sheet, mould, {"0", "1", "1.5", "2", "2.5", "3", "3.5", "4", greatest});
+    }
+    void Draw()
+    {
+        sheet.cmdCal.Press();
+        sheet.cmdLPen.Press();
+    }
+    void PutRatio(int mould, std::string_view density, std::string_view ratio)
+    {
+        sheet.mshLPC(cbr::result::DryDensity, mould) = density;
+        for (const auto row : {At01, At02}) sheet.mshLPC(row, mould) = ratio;
+    }
+};
+
+/// The labels left of a plot, from the bottom up.
+std::vector<double> LabelsBeside(const PictureBox& frame, const PictureBox& plot)
+{
+    auto texts = ItemsOf<TextItem>(frame.Items());
+    std::erase_if(texts, [&](const TextItem& text) {
+        const double end = text.x + TextWidth(text.font, text.text);
+        return text.angle != 0 || std::abs(end - (plot.Left - 50)) > 0.1;
+    });
+    std::ranges::sort(texts, std::greater{}, &TextItem::y);
+    std::vector<double> labels;
+    for (const TextItem& text : texts) labels.push_back(Val(text.text));
+    return labels;
+}
+
+std::vector<double> StepsTo(double top, double step)
+{
+    std::vector<double> labels;
+    for (int i = 0; i * step <= top; ++i) labels.push_back(i * step);
+    return labels;
+}
+
+/// The label at the axis's end and the step of all, for a greatest value.
+struct AxisOf {
+    const char* greatest;
+    double top, step;
+};
+
+// One division more than whole steps are in the greatest stress, which is rounded to a whole number first.
+TEST_F(CbrPlots, TheStressAxisHasTheStepOfItsGreatestStress)
+{
+    for (const AxisOf& axis :
+         {AxisOf{"9", 10, 10}, AxisOf{"24.9", 30, 10}, AxisOf{"25", 40, 20}, AxisOf{"49.9", 60, 20},
+          AxisOf{"50", 75, 25}, AxisOf{"249", 250, 25}, AxisOf{"250", 300, 50}, AxisOf{"499", 500, 50},
+          AxisOf{"500", 600, 100}, AxisOf{"999", 1000, 100}, AxisOf{"1000", 1500, 500}, AxisOf{"4999", 5000, 500},
+          AxisOf{"5000", 6000, 1000}, AxisOf{"7500", 8000, 1000}}) {
+        sheet.cmdPen.Press();
+        Load(1, axis.greatest);
+        Draw();
+        EXPECT_EQ(LabelsBeside(sheet.picGraph, sheet.picgraph1), StepsTo(axis.top, axis.step)) << axis.greatest;
+    }
+}
+
+// Below 5 the axis ends where its greatest ratio asks, not at a whole step: 4.9 has nine steps of a half and a part.
+TEST_F(CbrPlots, TheRatioAxisHasTheStepOfItsGreatestRatio)
+{
+    PutRatio(1, "1.90", "1");
+    PutRatio(2, "2.00", "2");
+    for (const AxisOf& axis : {AxisOf{"2", 2.5, 0.5}, AxisOf{"4.9", 5, 0.5}, AxisOf{"5", 6, 1}, AxisOf{"9.4", 10, 1},
+                               AxisOf{"10", 15, 5}, AxisOf{"49", 50, 5}, AxisOf{"50", 60, 10}, AxisOf{"99", 100, 10},
+                               AxisOf{"100", 125, 25}, AxisOf{"249", 250, 25}, AxisOf{"250", 300, 50},
+                               AxisOf{"499", 500, 50}, AxisOf{"500", 600, 100}, AxisOf{"740", 800, 100}}) {
+        PutRatio(3, "2.10", axis.greatest);
+        sheet.lbl02.Press();
+        EXPECT_EQ(LabelsBeside(sheet.picGraph2, sheet.picGraph3), StepsTo(axis.top, axis.step)) << axis.greatest;
+    }
+}
+
+// Curves of three moulds run close together: the captions of the second stand half a line (97.35) higher beside their
+// points, those of the third a whole one (194.7).
+TEST_F(CbrPlots, StressCaptionsRiseFromMouldToMould)
+{
+    sheet.cmdPen.Press();
+    for (const int mould : {1, 2, 3}) Load(mould, "5");
+    Draw();
+    const std::array labels{&sheet.lblMold1, &sheet.lblMold2, &sheet.lblMold3};
+    for (int mould = 1; mould <= 3; ++mould) {
+        sheet.picgraph1.Cls();
+        labels[static_cast<std::size_t>(mould) - 1]->Press();
+        const auto captions = ItemsOf<TextItem>(sheet.picgraph1.Items());
+        auto guides = ItemsOf<LineItem>(sheet.picgraph1.Items());
+        std::erase_if(guides, [](const LineItem& line) { return line.y1 != line.y2; });  // those across stay
+        ASSERT_EQ(captions.size(), 2U);
+        ASSERT_EQ(guides.size(), 2U);
+        for (std::size_t i = 0; i < 2; ++i)
+            EXPECT_NEAR(captions[i].y, guides[i].y1 - 97.35 * (mould - 1), 0.01) << "Mould " << mould;
+    }
+}
+
+TEST_F(CbrPlots, AMouldWithoutReadingsHasNoMarksNoCurveAndNoGuides)
+{
+    TypeSingleMould(sheet, kSandyDials);
+    sheet.mshLPC(At01, 2) = "9.9";
+    Draw();
+    const auto lines = ItemsOf<LineItem>(sheet.picgraph1.Items());
+    EXPECT_EQ(ItemsOf<CircleItem>(sheet.picgraph1.Items()).size(), 12U) << "The first mould's twelve readings.";
+    EXPECT_EQ(ItemsOf<BoxItem>(sheet.picgraph1.Items()).size(), 1U) << "The plot's own; the third mould has squares.";
+    EXPECT_EQ(ItemsOf<PolylineItem>(sheet.picgraph1.Items()).size(), 1U);
+    EXPECT_EQ(std::ranges::count(lines, 1, [](const LineItem& line) { return line.pen.style; }), 4)
+        << "Up and across at both depths.";
+    EXPECT_EQ(RatiosOf(sheet, At01), "7.3|9.9|") << "Its cells stay as they are.";
+}
+
+TEST_F(CbrPlots, TheLabelOfAMouldWithoutReadingsDrawsAndWritesNothing)
+{
+    TypeSingleMould(sheet, kSandyDials);
+    sheet.mshLPC(At01, 3) = "9.9";
+    Draw();
+    const auto plot = sheet.picgraph1.Items();
+    sheet.lblMold3.Press();
+    EXPECT_EQ(sheet.picgraph1.Items(), plot);
+    EXPECT_EQ(RatiosOf(sheet, At01), "7.3||9.9");
+}
+
+// The parabola takes a ratio that is not there for zero, as the method does; only a mark would claim a reading.
+TEST_F(CbrPlots, AMouldWithoutARatioHasNoMarkAmongTheDensities)
+{
+    PutRatio(1, "1.90", "80");
+    PutRatio(2, "2.00", "");
+    PutRatio(3, "2.10", "100");
+    sheet.lbl01.Press();
+    EXPECT_EQ(ItemsOf<CircleItem>(sheet.picGraph3.Items()).size(), 2U);
+    PutRatio(2, "2.00", "90");
+    sheet.lbl01.Press();
+    EXPECT_EQ(ItemsOf<CircleItem>(sheet.picGraph3.Items()).size(), 3U);
+}
+
+}  // namespace
+}  // namespace terravane
