@@ -18,34 +18,23 @@ constexpr std::string_view kRecentFile = "FileRecent.txt";
 constexpr std::string_view kPrefix = "TRVN_";
 constexpr std::string_view kFilter = "Terravane File(*.mdb)|TRVN*.mdb";
 
-/// The order in which the sheets are closed by the commands that choose a file, and by those that go on in a
-/// copy or open another sheet.
-constexpr std::array<std::string_view, 6> kSheets{"frmAtterberg", "frmCBR",   "frmCompaction",
-                                                  "frmDensity",   "frmSieve", "frmSpecific"};
-constexpr std::array<std::string_view, 6> kSheetsOfTests{"frmDensity", "frmCompaction", "frmCBR",
-                                                         "frmSieve",   "frmSpecific",   "frmAtterberg"};
-
 /// What an earlier choice left unsaid: Save File As and To work on the file of the recent entry.
 const Message kNoFileYet{"Please select menu of New File or Open File before.", "Warning", MessageStyle::Information,
                          MessageButtons::Ok};
 
-ToolButton TestButton(std::string caption, std::string key, const std::string& stem)
-{
-    return {
-        std::move(key), std::move(caption), "", {{stem + "1", "Soil", "", {}}, {stem + "2", "Crushed Rock", "", {}}}};
-}
-
+/// A button a test; what drops down is its sheet for each material.
 std::vector<ToolButton> TestButtons()
 {
-    return {
-        TestButton("Atterberg Limits", "mnuAtt", "mnuAtt"),
-        TestButton("Sieve Analysis", "mnuSei", "mnuSie"),  // the button's key alone is spelled so
-        TestButton("Specific Gravity", "mnuSpe", "mnuSpe"),
-        TestButton("Std. Compaction", "mnuStd", "mnuStd"),
-        TestButton("Mod. Compaction", "mnuMod", "mnuMod"),
-        TestButton("CBR", "mnuCBR", "mnuCBR"),
-        TestButton("Field Density", "mnuDen", "mnuDen"),
-    };
+    std::vector<ToolButton> buttons;
+    for (const laboratory::Description* test : laboratory::Tests()) {
+        ToolButton& button = buttons.emplace_back();
+        button.key = test->buttonKey;
+        button.caption = test->names.button;
+        for (const laboratory::MaterialDescription& material : laboratory::kMaterials)
+            button.items.push_back(
+                {.key = std::string(test->menu) + material.menuDigit, .caption = std::string(material.caption)});
+    }
+    return buttons;
 }
 
 /// A command that traps everything and ends without a word.
@@ -119,19 +108,19 @@ void mdiBack::ShowProjectChosen()
     tbrLab.SetEnabled(true);
 }
 
-void mdiBack::Unload(std::span<const std::string_view> sheets) const
+void mdiBack::Unload(std::span<const laboratory::Sheet* const> sheets) const
 {
-    for (const auto sheet : sheets) program.Unload(sheet);
+    for (const laboratory::Sheet* sheet : sheets) program.Unload(sheet->form);
 }
 
 void mdiBack::UnloadAllSheets() const
 {
-    Unload(kSheets);
+    Unload(laboratory::SheetsClosedBeforeFile());
 }
 
 void mdiBack::UnloadSheetsOfTests() const
 {
-    Unload(kSheetsOfTests);
+    Unload(laboratory::SheetsClosedBeforeSheet());
 }
 
 void mdiBack::ReportFailure(const RuntimeError& error) const

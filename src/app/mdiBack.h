@@ -8,6 +8,7 @@
 
 #include "controls/form.h"
 #include "controls/furniture.h"
+#include "laboratory/tests.h"
 #include "program/common_dialog.h"
 #include "program/program.h"
 
@@ -98,7 +99,7 @@ struct mdiBack : Form {
     CommonDialog ProjectDialog(const std::string& title) const;
     bool TakeRecentAsSource() const;
     std::string CopyProject(const std::string& dialogTitle) const;
-    void Unload(std::span<const std::string_view> sheets) const;
+    void Unload(std::span<const laboratory::Sheet* const> sheets) const;
     void UnloadSheetsOfTests() const;
     void ShowPreferences(int tab) const;
     void ReportFailure(const RuntimeError& error) const;

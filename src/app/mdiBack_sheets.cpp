@@ -3,45 +3,36 @@
 #include <array>
 
 #include "app/mdiBack.h"
-#include "reports/open_sheet.h"
-#include "reports/report.h"
+#include "laboratory/tests.h"
 #include "sheets/pattern/test_sheet.h"
 
 namespace terravane {
 
 namespace {
 
-/// stem  of the two items' keys, "1" behind it for soil, "2" for crushed rock
-struct TestItem {
-    std::string_view stem;
-    Test test;
-    std::string_view thai;  // the banner's first line; the second is the report's title
-};
-
-constexpr std::array kTestItems{
-    TestItem{"mnuStd", Test::StdSoil, "การทดสอบการบดอัดแบบมาตรฐาน"},
-    TestItem{"mnuMod", Test::ModSoil, "การทดสอบการบดอัดแบบสูงกว่ามาตรฐาน"},
-    TestItem{"mnuDen", Test::DenSoil, "การทดสอบหาความหนาแน่นของดินในสนามด้วยวิธีกรวยทราย"},
-    TestItem{"mnuSpe", Test::SpcSoil, "การทดสอบหาความถ่วงจำเพาะของดิน"},
-    TestItem{"mnuAtt", Test::AttSoil, "การทดสอบหาขีดจำกัดอัตเทอร์เบิร์ก"},
-    TestItem{"mnuSie", Test::SieSoil, "การทดสอบหาขนาดเม็ดดินด้วยวิธีร่อนผ่านตะแกรงมาตรฐาน"},
-    TestItem{"mnuCBR", Test::CBRSoil, "การทดสอบหาค่า ซี.บี.อาร์."},
-};
-
-struct MaterialItem {
-    char digit;  // at the end of the key
+/// The banner's colour tells the material.
+struct MaterialColour {
     Material material;
     Colour banner;
 };
 
-constexpr std::array kMaterialItems{
-    MaterialItem{'1', Material::Soil, kSoilColour},
-    MaterialItem{'2', Material::Crush, kCrushedRockColour},
+constexpr std::array kMaterialColours{
+    MaterialColour{Material::Soil, kSoilColour},
+    MaterialColour{Material::Crush, kCrushedRockColour},
 };
 
-std::string BannerOf(const TestItem& item)
+std::string BannerOf(const laboratory::Description& test)
 {
-    return std::string(item.thai).append("\r\n").append(ReportOf(item.test).titles.english);
+    return std::string(test.names.banner).append("\r\n").append(test.names.english);
+}
+
+/// The test whose menu key is the beginning of an item's key, a material's digit behind it.
+const laboratory::Description* TestOf(std::string_view key)
+{
+    const auto found = std::ranges::find_if(laboratory::Tests(), [key](const laboratory::Description* test) {
+        return key.starts_with(test->menu) && key.size() == test->menu.size() + 1;
+    });
+    return found == laboratory::Tests().end() ? nullptr : *found;
 }
 
 }  // namespace
@@ -49,23 +40,22 @@ std::string BannerOf(const TestItem& item)
 void mdiBack::tbrLab_ButtonMenuClick(std::string_view key)
 {
     UnloadSheetsOfTests();
-    const auto item = std::ranges::find_if(kTestItems, [key](const TestItem& known) {
-        return key.starts_with(known.stem) && key.size() == known.stem.size() + 1;
-    });
-    const auto kind =
-        std::ranges::find_if(kMaterialItems, [key](const MaterialItem& known) { return key.ends_with(known.digit); });
-    if (item == kTestItems.end() || kind == kMaterialItems.end()) return;
+    const laboratory::Description* const test = TestOf(key);
+    const auto material = std::ranges::find_if(laboratory::kMaterials,
+                                               [key](const auto& known) { return key.ends_with(known.menuDigit); });
+    if (!test || material == laboratory::kMaterials.end()) return;
 
-    program.Show(SheetNameOf(item->test));  // its load still sees the last sheet's test and material
-    auto& sheet = program.Get<TestSheet>(SheetNameOf(item->test));
+    program.Show(test->sheet.form);  // its load still sees the last sheet's test and material
+    auto& sheet = program.Get<TestSheet>(test->sheet.form);
     sheet.Left = 0;
     sheet.Top = 0;
-    sheet.txtLabName.SetText(BannerOf(*item));
+    sheet.txtLabName.SetText(BannerOf(*test));
     sheet.stbDes.SetPanel(1, "Database File is " + program.CurrentProjectPath);
     sheet.tblMenu.SetButtonEnabled(1, true);
-    sheet.txtLabName.SetBackColor(kind->banner);
-    program.CurrentTest = item->test;
-    program.CurrentMaterial = kind->material;
+    sheet.txtLabName.SetBackColor(
+        std::ranges::find(kMaterialColours, material->material, &MaterialColour::material)->banner);
+    program.CurrentTest = test->test;
+    program.CurrentMaterial = material->material;
     LoadTestSheet(sheet);
 }
 

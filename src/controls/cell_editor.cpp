@@ -7,9 +7,9 @@
 
 namespace terravane {
 
-CellEditor::CellEditor(Form& owner, std::string name, TextGrid& grid, std::function<CellRange()> range,
+CellEditor::CellEditor(Form& owner, std::string_view name, TextGrid& grid, std::function<CellRange()> range,
                        CommitRule commit, TextEvents events)
-    : ControlKind(owner, std::move(name), std::string(), std::move(events)),
+    : ControlKind(owner, name, std::string(), std::move(events)),
       grid_(grid),
       range_(std::move(range)),
       commit_(std::move(commit))

@@ -37,8 +37,8 @@ using CommitRule = std::function<std::string(int row, int column, std::string te
 class CellEditor : public ControlKind<CellEditor, TextControl> {
   public:
     /// The range is asked at each use, since grids grow.
-    CellEditor(Form& owner, std::string name, TextGrid& grid, std::function<CellRange()> range, CommitRule commit = {},
-               TextEvents events = {});
+    CellEditor(Form& owner, std::string_view name, TextGrid& grid, std::function<CellRange()> range,
+               CommitRule commit = {}, TextEvents events = {});
 
     std::string Text() const override { return text_; }
     void SetText(std::string_view text) override;

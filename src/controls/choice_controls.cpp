@@ -6,8 +6,8 @@
 
 namespace terravane {
 
-CommandButton::CommandButton(Form& owner, std::string name, std::string caption, CommandEvents events)
-    : ControlKind(owner, std::move(name), std::move(caption)), Click(std::move(events.Click))
+CommandButton::CommandButton(Form& owner, std::string_view name, std::string_view caption, CommandEvents events)
+    : ControlKind(owner, name, caption), Click(std::move(events.Click))
 {
     MouseMove = std::move(events.MouseMove);
     MouseLeave = std::move(events.MouseLeave);
@@ -18,16 +18,18 @@ void CommandButton::Press()
     if (Enabled()) Raise("Click", Click);
 }
 
-OptionButton::OptionButton(Form& owner, std::string name, std::string caption, std::string group, bool value,
+OptionButton::OptionButton(Form& owner, std::string_view name, std::string_view caption, std::string group, bool value,
                            ClickEvent events)
-    : ControlKind(owner, std::move(name), std::move(caption)),
-      Click(std::move(events.Click)),
-      group_(std::move(group)),
-      value_(value)
+    : ControlKind(owner, name, caption), Click(std::move(events.Click)), group_(std::move(group)), value_(value)
 {}
 
-OptionButton::OptionButton(Form& owner, std::string name, std::string caption, std::string group, ClickEvent events)
-    : OptionButton(owner, std::move(name), std::move(caption), std::move(group), false, std::move(events))
+OptionButton::OptionButton(Form& owner, std::string_view name, std::string_view caption, std::string group,
+                           ClickEvent events)
+    : OptionButton(owner, name, caption, std::move(group), false, std::move(events))
+{}
+
+OptionButton::OptionButton(Form& owner, const Naming& naming, std::string group, ClickEvent events, bool value)
+    : OptionButton(owner, naming.control, naming.caption, std::move(group), value, std::move(events))
 {}
 
 void OptionButton::Choose()
@@ -48,8 +50,8 @@ void OptionButton::Release()
     Changed();
 }
 
-CheckBox::CheckBox(Form& owner, std::string name, std::string caption, ClickEvent events)
-    : ControlKind(owner, std::move(name), std::move(caption)), Click(std::move(events.Click))
+CheckBox::CheckBox(Form& owner, std::string_view name, std::string_view caption, ClickEvent events)
+    : ControlKind(owner, name, caption), Click(std::move(events.Click))
 {}
 
 void CheckBox::SetValue(bool value)
@@ -60,11 +62,8 @@ void CheckBox::SetValue(bool value)
     Raise("Click", Click);
 }
 
-ListBox::ListBox(Form& owner, std::string name, std::vector<std::string> list, ClickEvent events)
-    : ControlKind(owner, std::move(name)),
-      Click(std::move(events.Click)),
-      list_(std::move(list)),
-      selected_(list_.size(), false)
+ListBox::ListBox(Form& owner, std::string_view name, std::vector<std::string> list, ClickEvent events)
+    : ControlKind(owner, name), Click(std::move(events.Click)), list_(std::move(list)), selected_(list_.size(), false)
 {}
 
 void ListBox::SetSelected(std::size_t index, bool selected)

@@ -16,7 +16,7 @@ struct CommandEvents {
 /// A push button. '&' in its caption marks the key that presses it with Alt.
 class CommandButton : public ControlKind<CommandButton> {
   public:
-    CommandButton(Form& owner, std::string name, std::string caption = {}, CommandEvents events = {});
+    CommandButton(Form& owner, std::string_view name, std::string_view caption = {}, CommandEvents events = {});
 
     /// The user's press; nothing happens where the button is disabled.
     void Press();
@@ -27,9 +27,10 @@ class CommandButton : public ControlKind<CommandButton> {
 /// One of several that exclude each other: those of the same group name on the form.
 class OptionButton : public ControlKind<OptionButton> {
   public:
-    OptionButton(Form& owner, std::string name, std::string caption, std::string group, bool value = false,
+    OptionButton(Form& owner, std::string_view name, std::string_view caption, std::string group, bool value = false,
                  ClickEvent events = {});
-    OptionButton(Form& owner, std::string name, std::string caption, std::string group, ClickEvent events);
+    OptionButton(Form& owner, std::string_view name, std::string_view caption, std::string group, ClickEvent events);
+    OptionButton(Form& owner, const Naming& naming, std::string group, ClickEvent events, bool value = false);
 
     bool Value() const { return value_; }
     const std::string& Group() const { return group_; }
@@ -47,7 +48,7 @@ class OptionButton : public ControlKind<OptionButton> {
 
 class CheckBox : public ControlKind<CheckBox> {
   public:
-    CheckBox(Form& owner, std::string name, std::string caption, ClickEvent events = {});
+    CheckBox(Form& owner, std::string_view name, std::string_view caption, ClickEvent events = {});
 
     bool Value() const { return value_; }
     /// Click runs where the state changes, whoever changes it.
@@ -62,7 +63,7 @@ class CheckBox : public ControlKind<CheckBox> {
 /// A list of which any number of entries may be selected.
 class ListBox : public ControlKind<ListBox> {
   public:
-    ListBox(Form& owner, std::string name, std::vector<std::string> list, ClickEvent events = {});
+    ListBox(Form& owner, std::string_view name, std::vector<std::string> list, ClickEvent events = {});
 
     const std::vector<std::string>& List() const { return list_; }
     bool Selected(std::size_t index) const { return selected_.at(index); }

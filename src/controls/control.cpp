@@ -4,8 +4,8 @@
 
 namespace terravane {
 
-Control::Control(Form& owner, std::string name, std::string caption)
-    : owner_(owner), name_(std::move(name)), caption_(std::move(caption))
+Control::Control(Form& owner, std::string_view name, std::string_view caption)
+    : owner_(owner), name_(name), caption_(caption)
 {
     owner.members_.push_back({name_, this});
 }

@@ -25,12 +25,25 @@ struct ClickEvent {
     Handler Click = {};
 };
 
+/// Name and caption of a control that is described elsewhere: made from anything that tells both.
+struct Naming {
+    std::string_view control, caption;
+
+    template <class Described>
+    requires requires(const Described& of)
+    {
+        std::string_view(of.control);
+        std::string_view(of.caption);
+    }
+    constexpr Naming(const Described& of) : control(of.control), caption(of.caption) {}
+};
+
 /// A control is a member of its form, found by handlers as that member and by everyone else by its name. It
 /// registers itself with the form and lives exactly as long. The handlers of its events are given where it is declared:
 /// `CommandButton cmdPlot{*this, "cmdPlot", "Plot Graph", {.Click = [this] { cmdPlot_Click(); }}};`
 class Control {
   public:
-    Control(Form& owner, std::string name, std::string caption = {});
+    Control(Form& owner, std::string_view name, std::string_view caption = {});
     virtual ~Control() = default;
     Control(const Control&) = delete;
     Control& operator=(const Control&) = delete;

@@ -8,8 +8,8 @@
 
 namespace terravane {
 
-Form::Form(EventBoundary& boundary, std::string name, std::string caption, WindowKind window)
-    : boundary_(boundary), name_(std::move(name)), caption_(std::move(caption)), window_(window)
+Form::Form(EventBoundary& boundary, std::string_view name, std::string_view caption, WindowKind window)
+    : boundary_(boundary), name_(name), caption_(caption), window_(window)
 {}
 
 void Form::SetCaption(std::string caption)

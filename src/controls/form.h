@@ -38,7 +38,8 @@ enum class WindowKind {
 class Form {
   public:
     /// name  of the form in code, script and file, "frmCompaction"
-    Form(EventBoundary& boundary, std::string name, std::string caption, WindowKind window = WindowKind::Dialog);
+    Form(EventBoundary& boundary, std::string_view name, std::string_view caption,
+         WindowKind window = WindowKind::Dialog);
     virtual ~Form() = default;
     Form(const Form&) = delete;
     Form& operator=(const Form&) = delete;

@@ -7,12 +7,12 @@
 
 namespace terravane {
 
-Label::Label(Form& owner, std::string name, std::string caption, ClickEvent events)
-    : ControlKind(owner, std::move(name), std::move(caption)), Click(std::move(events.Click))
+Label::Label(Form& owner, std::string_view name, std::string_view caption, ClickEvent events)
+    : ControlKind(owner, name, caption), Click(std::move(events.Click))
 {}
 
-Frame::Frame(Form& owner, std::string name, std::string caption, ClickEvent events)
-    : ControlKind(owner, std::move(name), std::move(caption)), Click(std::move(events.Click))
+Frame::Frame(Form& owner, std::string_view name, std::string_view caption, ClickEvent events)
+    : ControlKind(owner, name, caption), Click(std::move(events.Click))
 {}
 
 void Image::SetContent(std::shared_ptr<const Picture> content)
@@ -21,8 +21,8 @@ void Image::SetContent(std::shared_ptr<const Picture> content)
     Changed();
 }
 
-TabControl::TabControl(Form& owner, std::string name, std::vector<std::string> captions, TabEvents events)
-    : ControlKind(owner, std::move(name)),
+TabControl::TabControl(Form& owner, std::string_view name, std::vector<std::string> captions, TabEvents events)
+    : ControlKind(owner, name),
       TabChanged(std::move(events.TabChanged)),
       captions_(std::move(captions)),
       enabledTabs_(captions_.size(), true)
@@ -44,8 +44,8 @@ void TabControl::SetTabEnabled(int tab, bool enabled)
     Changed();
 }
 
-Toolbar::Toolbar(Form& owner, std::string name, std::vector<ToolButton> buttons, ToolbarEvents events)
-    : ControlKind(owner, std::move(name)),
+Toolbar::Toolbar(Form& owner, std::string_view name, std::vector<ToolButton> buttons, ToolbarEvents events)
+    : ControlKind(owner, name),
       ButtonClick(std::move(events.ButtonClick)),
       ItemClick(std::move(events.ItemClick)),
       buttons_(std::move(buttons))
@@ -82,8 +82,7 @@ bool Toolbar::PressItem(std::string_view key)
     return false;
 }
 
-StatusBar::StatusBar(Form& owner, std::string name, std::size_t panels)
-    : ControlKind(owner, std::move(name)), panels_(panels)
+StatusBar::StatusBar(Form& owner, std::string_view name, std::size_t panels) : ControlKind(owner, name), panels_(panels)
 {}
 
 void StatusBar::SetPanel(std::size_t number, std::string text)
@@ -92,10 +91,9 @@ void StatusBar::SetPanel(std::size_t number, std::string text)
     Changed();
 }
 
-MenuEntry::MenuEntry(Form& owner, std::string name, std::string caption, std::string parent, ClickEvent events)
-    : ControlKind(owner, std::move(name), std::move(caption)),
-      Click(std::move(events.Click)),
-      parent_(std::move(parent))
+MenuEntry::MenuEntry(Form& owner, std::string_view name, std::string_view caption, std::string parent,
+                     ClickEvent events)
+    : ControlKind(owner, name, caption), Click(std::move(events.Click)), parent_(std::move(parent))
 {}
 
 void MenuEntry::Press()
@@ -103,8 +101,8 @@ void MenuEntry::Press()
     if (Enabled()) Raise("Click", Click);
 }
 
-Timer::Timer(Form& owner, std::string name, std::chrono::milliseconds interval, TimerEvents events)
-    : ControlKind(owner, std::move(name)), Ticked(std::move(events.Ticked)), interval_(interval)
+Timer::Timer(Form& owner, std::string_view name, std::chrono::milliseconds interval, TimerEvents events)
+    : ControlKind(owner, name), Ticked(std::move(events.Ticked)), interval_(interval)
 {}
 
 void Timer::Tick()
@@ -112,8 +110,8 @@ void Timer::Tick()
     if (Enabled()) Raise("Timer", Ticked);
 }
 
-ScrollBar::ScrollBar(Form& owner, std::string name, ScrollEvents events)
-    : ControlKind(owner, std::move(name)), Change(std::move(events.Change))
+ScrollBar::ScrollBar(Form& owner, std::string_view name, ScrollEvents events)
+    : ControlKind(owner, name), Change(std::move(events.Change))
 {}
 
 void ScrollBar::SetValue(int value)

@@ -17,7 +17,7 @@ namespace terravane {
 /// A text that is read; some can be pressed.
 class Label : public ControlKind<Label> {
   public:
-    Label(Form& owner, std::string name, std::string caption = {}, ClickEvent events = {});
+    Label(Form& owner, std::string_view name, std::string_view caption = {}, ClickEvent events = {});
     void Press() { Raise("Click", Click); }
     Handler Click;
 };
@@ -26,7 +26,7 @@ class Label : public ControlKind<Label> {
 /// that stand in it.
 class Frame : public ControlKind<Frame> {
   public:
-    Frame(Form& owner, std::string name, std::string caption = {}, ClickEvent events = {});
+    Frame(Form& owner, std::string_view name, std::string_view caption = {}, ClickEvent events = {});
     void Press() { Raise("Click", Click); }
     Handler Click;
 };
@@ -49,7 +49,7 @@ struct TabEvents {
 /// A row of tabs, counted from 0, of which each may be disabled.
 class TabControl : public ControlKind<TabControl> {
   public:
-    TabControl(Form& owner, std::string name, std::vector<std::string> captions, TabEvents events = {});
+    TabControl(Form& owner, std::string_view name, std::vector<std::string> captions, TabEvents events = {});
 
     int Tab() const { return tab_; }
     /// Shows a tab and runs TabChanged with the one left, where it is another.
@@ -87,7 +87,7 @@ struct ToolbarEvents {
 
 class Toolbar : public ControlKind<Toolbar> {
   public:
-    Toolbar(Form& owner, std::string name, std::vector<ToolButton> buttons, ToolbarEvents events = {});
+    Toolbar(Form& owner, std::string_view name, std::vector<ToolButton> buttons, ToolbarEvents events = {});
 
     const std::vector<ToolButton>& Buttons() const { return buttons_; }
     /// By place from 1, as the forms count; error 9 outside.
@@ -110,7 +110,7 @@ class Toolbar : public ControlKind<Toolbar> {
 /// Panels of text, from 1; a coloured strip where it has none.
 class StatusBar : public ControlKind<StatusBar> {
   public:
-    StatusBar(Form& owner, std::string name, std::size_t panels);
+    StatusBar(Form& owner, std::string_view name, std::size_t panels);
 
     /// The first panel's text.
     std::string Text() const override { return panels_.empty() ? std::string() : panels_.front(); }
@@ -125,7 +125,8 @@ class StatusBar : public ControlKind<StatusBar> {
 /// An entry of the menu tree; "-" is a separator. `parent` is empty at the top level.
 class MenuEntry : public ControlKind<MenuEntry> {
   public:
-    MenuEntry(Form& owner, std::string name, std::string caption, std::string parent = {}, ClickEvent events = {});
+    MenuEntry(Form& owner, std::string_view name, std::string_view caption, std::string parent = {},
+              ClickEvent events = {});
 
     const std::string& Parent() const { return parent_; }
     bool IsSeparator() const { return Caption() == "-"; }
@@ -144,7 +145,7 @@ struct TimerEvents {
 /// Asks to be ticked; who shows the form keeps the time.
 class Timer : public ControlKind<Timer> {
   public:
-    Timer(Form& owner, std::string name, std::chrono::milliseconds interval, TimerEvents events = {});
+    Timer(Form& owner, std::string_view name, std::chrono::milliseconds interval, TimerEvents events = {});
 
     std::chrono::milliseconds Interval() const { return interval_; }
     void Tick();
@@ -162,7 +163,7 @@ struct ScrollEvents {
 /// A position between 0 and a maximum.
 class ScrollBar : public ControlKind<ScrollBar> {
   public:
-    ScrollBar(Form& owner, std::string name, ScrollEvents events = {});
+    ScrollBar(Form& owner, std::string_view name, ScrollEvents events = {});
 
     int Value() const { return value_; }
     /// Held between 0 and the maximum; Change runs where the value changes.

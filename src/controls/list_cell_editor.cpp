@@ -4,9 +4,9 @@
 
 namespace terravane {
 
-ListCellEditor::ListCellEditor(Form& owner, std::string name, TextGrid& grid, CellRange range,
+ListCellEditor::ListCellEditor(Form& owner, std::string_view name, TextGrid& grid, CellRange range,
                                std::vector<std::string> list, ComboEvents events)
-    : ControlKind(owner, std::move(name), std::string(), std::move(list), std::move(events)), grid_(grid), range_(range)
+    : ControlKind(owner, name, std::string(), std::move(list), std::move(events)), grid_(grid), range_(range)
 {
     SetVisible(false);
 }

@@ -14,7 +14,7 @@ namespace terravane {
 class ListCellEditor : public ControlKind<ListCellEditor, ComboBox> {
   public:
     /// range  the cells that it may stand over
-    ListCellEditor(Form& owner, std::string name, TextGrid& grid, CellRange range, std::vector<std::string> list,
+    ListCellEditor(Form& owner, std::string_view name, TextGrid& grid, CellRange range, std::vector<std::string> list,
                    ComboEvents events = {});
 
     TextGrid& Grid() { return grid_; }

@@ -18,9 +18,9 @@ struct PictureEvents {
 /// them. The view is told once a command, by Changed(), not at every stroke.
 class PictureBox : public ControlKind<PictureBox>, public DrawingSurface {
   public:
-    PictureBox(Form& owner, std::string name, double left, double top, double width, double height,
+    PictureBox(Form& owner, std::string_view name, double left, double top, double width, double height,
                PictureEvents events = {})
-        : ControlKind(owner, std::move(name)),
+        : ControlKind(owner, name),
           DrawingSurface(width, height),
           Left(left),
           Top(top),

@@ -6,8 +6,8 @@
 
 namespace terravane {
 
-TextControl::TextControl(Form& owner, std::string name, std::string caption, TextEvents events)
-    : Control(owner, std::move(name), std::move(caption)), Change(std::move(events.Change))
+TextControl::TextControl(Form& owner, std::string_view name, std::string_view caption, TextEvents events)
+    : Control(owner, name, caption), Change(std::move(events.Change))
 {
     KeyPress = std::move(events.KeyPress);
     GotFocus = std::move(events.GotFocus);
@@ -28,12 +28,16 @@ void TextControl::SetLocked(bool locked)
     Changed();
 }
 
-TextBox::TextBox(Form& owner, std::string name, std::string caption, std::string text)
-    : ControlKind(owner, std::move(name), std::move(caption), TextEvents{}), text_(std::move(text))
+TextBox::TextBox(Form& owner, std::string_view name, std::string_view caption, std::string text)
+    : ControlKind(owner, name, caption, TextEvents{}), text_(std::move(text))
 {}
 
-TextBox::TextBox(Form& owner, std::string name, std::string caption, TextEvents events)
-    : ControlKind(owner, std::move(name), std::move(caption), std::move(events))
+TextBox::TextBox(Form& owner, std::string_view name, std::string_view caption, TextEvents events)
+    : ControlKind(owner, name, caption, std::move(events))
+{}
+
+TextBox::TextBox(Form& owner, const Naming& naming, TextEvents events)
+    : TextBox(owner, naming.control, naming.caption, std::move(events))
 {}
 
 void TextBox::SetText(std::string_view text)
@@ -43,19 +47,22 @@ void TextBox::SetText(std::string_view text)
     Changed();
 }
 
-ComboBox::ComboBox(Form& owner, std::string name, std::string caption, std::vector<std::string> list, std::string text)
-    : ControlKind(owner, std::move(name), std::move(caption), TextEvents{}),
-      text_(std::move(text)),
-      list_(std::move(list))
+ComboBox::ComboBox(Form& owner, std::string_view name, std::string_view caption, std::vector<std::string> list,
+                   std::string text)
+    : ControlKind(owner, name, caption, TextEvents{}), text_(std::move(text)), list_(std::move(list))
 {}
 
-ComboBox::ComboBox(Form& owner, std::string name, std::string caption, std::vector<std::string> list,
+ComboBox::ComboBox(Form& owner, std::string_view name, std::string_view caption, std::vector<std::string> list,
                    ComboEvents events)
-    : ControlKind(owner, std::move(name), std::move(caption),
+    : ControlKind(owner, name, caption,
                   TextEvents{std::move(events.Change), std::move(events.KeyPress), std::move(events.GotFocus),
                              std::move(events.LostFocus)}),
       Click(std::move(events.Click)),
       list_(std::move(list))
+{}
+
+ComboBox::ComboBox(Form& owner, const Naming& naming, std::vector<std::string> list, std::string text)
+    : ComboBox(owner, naming.control, naming.caption, std::move(list), std::move(text))
 {}
 
 void ComboBox::SetText(std::string_view text)
@@ -85,8 +92,12 @@ void ComboBox::Choose(std::size_t index)
     Raise("Click", Click);
 }
 
-DatePicker::DatePicker(Form& owner, std::string name, std::string caption, TextEvents events)
-    : ControlKind(owner, std::move(name), std::move(caption), std::move(events))
+DatePicker::DatePicker(Form& owner, std::string_view name, std::string_view caption, TextEvents events)
+    : ControlKind(owner, name, caption, std::move(events))
+{}
+
+DatePicker::DatePicker(Form& owner, const Naming& naming, TextEvents events)
+    : DatePicker(owner, naming.control, naming.caption, std::move(events))
 {}
 
 std::string DatePicker::Text() const

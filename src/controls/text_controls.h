@@ -26,7 +26,7 @@ struct ComboEvents {
 /// Anything that holds one text that load, save and scripts set by name.
 class TextControl : public Control {
   public:
-    TextControl(Form& owner, std::string name, std::string caption, TextEvents events);
+    TextControl(Form& owner, std::string_view name, std::string_view caption, TextEvents events);
 
     /// Puts a text into the control, as a handler does; runs no event but those that the kind states.
     virtual void SetText(std::string_view text) = 0;
@@ -45,8 +45,9 @@ class TextControl : public Control {
 
 class TextBox : public ControlKind<TextBox, TextControl> {
   public:
-    TextBox(Form& owner, std::string name, std::string caption = {}, std::string text = {});
-    TextBox(Form& owner, std::string name, std::string caption, TextEvents events);
+    TextBox(Form& owner, std::string_view name, std::string_view caption = {}, std::string text = {});
+    TextBox(Form& owner, std::string_view name, std::string_view caption, TextEvents events);
+    TextBox(Form& owner, const Naming& naming, TextEvents events = {});
 
     std::string Text() const override { return text_; }
     void SetText(std::string_view text) override;
@@ -58,9 +59,11 @@ class TextBox : public ControlKind<TextBox, TextControl> {
 /// A box with a list below it; any text may be typed, in the list or not.
 class ComboBox : public ControlKind<ComboBox, TextControl> {
   public:
-    ComboBox(Form& owner, std::string name, std::string caption = {}, std::vector<std::string> list = {},
+    ComboBox(Form& owner, std::string_view name, std::string_view caption = {}, std::vector<std::string> list = {},
              std::string text = {});
-    ComboBox(Form& owner, std::string name, std::string caption, std::vector<std::string> list, ComboEvents events);
+    ComboBox(Form& owner, std::string_view name, std::string_view caption, std::vector<std::string> list,
+             ComboEvents events);
+    ComboBox(Form& owner, const Naming& naming, std::vector<std::string> list = {}, std::string text = {});
 
     std::string Text() const override { return text_; }
     void SetText(std::string_view text) override;
@@ -82,7 +85,8 @@ class ComboBox : public ControlKind<ComboBox, TextControl> {
 /// Holds a date; its text is the short date form. A text that is no date raises error 13 and changes nothing.
 class DatePicker : public ControlKind<DatePicker, TextControl> {
   public:
-    DatePicker(Form& owner, std::string name, std::string caption = {}, TextEvents events = {});
+    DatePicker(Form& owner, std::string_view name, std::string_view caption = {}, TextEvents events = {});
+    DatePicker(Form& owner, const Naming& naming, TextEvents events = {});
 
     std::string Text() const override;
     void SetText(std::string_view text) override;

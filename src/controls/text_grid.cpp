@@ -25,8 +25,8 @@ const std::string& Cell::Text() const
     return grid_.cells_[grid_.Index(row_, column_)];
 }
 
-TextGrid::TextGrid(Form& owner, std::string name, int rows, int columns, GridEvents events)
-    : ControlKind(owner, std::move(name)),
+TextGrid::TextGrid(Form& owner, std::string_view name, int rows, int columns, GridEvents events)
+    : ControlKind(owner, name),
       MouseDown(std::move(events.MouseDown)),
       rows_(rows),
       columns_(columns),

@@ -54,7 +54,7 @@ struct GridEvents {
 
 class TextGrid : public ControlKind<TextGrid> {
   public:
-    TextGrid(Form& owner, std::string name, int rows, int columns, GridEvents events = {});
+    TextGrid(Form& owner, std::string_view name, int rows, int columns, GridEvents events = {});
 
     int Rows() const { return rows_; }
     int Columns() const { return columns_; }

@@ -23,4 +23,13 @@ inline constexpr std::array kGeneralBoxes{
     Box{"cboCheck", "Checked by", {.kept = "check", .length = 50}},
 };
 
+inline constexpr const Box& kClient = kJobBoxes[0];
+inline constexpr const Box& kProjectName = kJobBoxes[1];
+inline constexpr const Box& kLocation = kJobBoxes[2];
+inline constexpr const Box& kTaskNumber = kJobBoxes[3];
+inline constexpr const Box& kTestDate = kGeneralBoxes[0];
+inline constexpr const Box& kSample = kGeneralBoxes[1];
+inline constexpr const Box& kTester = kGeneralBoxes[2];
+inline constexpr const Box& kChecker = kGeneralBoxes[3];
+
 }  // namespace terravane::laboratory

@@ -82,6 +82,23 @@ inline constexpr Box kSieveResults[]{
     {"txtMtype", "Typical Names :", {.page = "Typical Names", .isWorkedOut = true}},
 };
 
+inline constexpr const Box& kMassLost = kSieveResults[0];
+inline constexpr const Box& kPassing4 = kSieveResults[1];
+inline constexpr const Box& kPassing10 = kSieveResults[2];
+inline constexpr const Box& kPassing40 = kSieveResults[3];
+inline constexpr const Box& kPassing200 = kSieveResults[4];
+inline constexpr const Box& kD60 = kSieveResults[5];
+inline constexpr const Box& kD30 = kSieveResults[6];
+inline constexpr const Box& kD10 = kSieveResults[7];
+inline constexpr const Box& kUniformity = kSieveResults[8];
+inline constexpr const Box& kCurvature = kSieveResults[9];
+inline constexpr const Box& kTakenLiquidLimit = kSieveResults[10];
+inline constexpr const Box& kTakenPlasticLimit = kSieveResults[11];
+inline constexpr const Box& kUscsSymbol = kSieveResults[12];
+inline constexpr const Box& kUscsName = kSieveResults[13];
+inline constexpr const Box& kAashtoSymbol = kSieveResults[14];
+inline constexpr const Box& kAashtoName = kSieveResults[15];
+
 inline constexpr Option kSieving[]{{"optNo", "Dry", "0"}, {"optYes", "Wet", "1"}};
 
 inline constexpr std::string_view kSieveTabs[]{"Sieve Analysis", "Particle Size Distribution", "Soil Classification"};

@@ -59,11 +59,13 @@ void Execute(Program& program, jet::Connection& connection, std::string statemen
     connection.Execute(program.CurrentSql);
 }
 
-void PostSummary(Program& program, const std::vector<Assignment>& results)
+void PostSummary(Program& program, const std::vector<PostedText>& results)
 {
     OpenProjectConnection(program);
     const int row = program.CurrentMaterial == Material::Crush ? 2 : 1;
-    Execute(program, program.ProjectConnection, UpdateRow(SummaryTable(), results, row));
+    std::vector<Assignment> assignments;
+    for (const auto& [column, text] : results) assignments.push_back({SummaryTable().ColumnName(column), text});
+    Execute(program, program.ProjectConnection, UpdateRow(SummaryTable(), assignments, row));
 }
 
 }  // namespace terravane

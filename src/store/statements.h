@@ -43,8 +43,14 @@ jet::Recordset Query(Program& program, jet::Connection& connection, std::string 
 /// Executes a statement.
 void Execute(Program& program, jet::Connection& connection, std::string statement);
 
+/// A result and the column of SUMMARY that takes it, without the table's prefix.
+struct PostedText {
+    std::string_view column;
+    std::string text;
+};
+
 /// Posts results of the current material into SUMMARY, in one statement on a connection of its own. They
 /// reach the file at the end of the command.
-void PostSummary(Program& program, const std::vector<Assignment>& results);
+void PostSummary(Program& program, const std::vector<PostedText>& results);
 
 }  // namespace terravane

@@ -53,9 +53,8 @@ void frmAtterberg::DrawEquations()
 /// The flow index goes to the summary's column of that name; no swelling is measured here.
 void frmAtterberg::PostLimits() const
 {
-    PostSummary(
-        program,
-        {{"sum_LL", txtLL.Text()}, {"sum_PL", txtPL.Text()}, {"sum_PI", txtPI.Text()}, {"sum_swelling", txtFI.Text()}});
+    PostSummary(program,
+                {{"LL", txtLL.Text()}, {"PL", txtPL.Text()}, {"PI", txtPI.Text()}, {"swelling", txtFI.Text()}});
 }
 
 }  // namespace terravane

@@ -24,18 +24,26 @@ struct FlowScale {
 struct frmAtterberg : TestSheet {
     explicit frmAtterberg(Program& program);
 
-    Frame fraLL{*this, "fraLL", "Liquid Limit Determination"};
-    TextGrid MSHLL{*this, "MSHLL", ll::kRows, kLimitTrials + 1, {.MouseDown = OpensByMouse(txtData)}};
-    Frame fraPL{*this, "fraPL", "Plastic Limit Determination"};
-    TextGrid MSHPL{*this, "MSHPL", pl::kRows, kLimitTrials + 1, {.MouseDown = OpensByMouse(txtData1)}};
+    Frame fraLL{*this, "fraLL", laboratory::kLiquidLimit.frame};
+    TextGrid MSHLL{*this,
+                   laboratory::kLiquidLimit.control,
+                   laboratory::kLiquidLimit.Rows(),
+                   laboratory::kLiquidLimit.Columns(),
+                   {.MouseDown = OpensByMouse(txtData)}};
+    Frame fraPL{*this, "fraPL", laboratory::kPlasticLimit.frame};
+    TextGrid MSHPL{*this,
+                   laboratory::kPlasticLimit.control,
+                   laboratory::kPlasticLimit.Rows(),
+                   laboratory::kPlasticLimit.Columns(),
+                   {.MouseDown = OpensByMouse(txtData1)}};
     CellEditor txtData;   // over MSHLL
     CellEditor txtData1;  // over MSHPL
 
     CommandButton cmdPlot{*this, "cmdPlot", "Plot Graph", {.Click = [this] { cmdPlot_Click(); }}};
-    TextBox txtLL{*this, "txtLL", "Liquid Limit (%)"};
-    TextBox txtPL{*this, "txtPL", "Plastic Limit (%)"};
-    TextBox txtPI{*this, "txtPI", "Plasticity Index"};
-    TextBox txtFI{*this, "txtFI", "Flow Index"};
+    TextBox txtLL{*this, laboratory::kLiquidLimitBox};
+    TextBox txtPL{*this, laboratory::kPlasticLimitBox};
+    TextBox txtPI{*this, laboratory::kPlasticityIndexBox};
+    TextBox txtFI{*this, laboratory::kFlowIndexBox};
 
     PictureBox picgraph1{*this, "picgraph1", 60, 0, 7100, 5200};   // tick labels and axis titles
     PictureBox picGraph{*this, "picGraph", 960, 450, 5450, 3900};  // the plot, standing on it

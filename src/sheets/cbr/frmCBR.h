@@ -56,32 +56,39 @@ struct MouldTask {
 struct frmCBR : TestSheet {
     explicit frmCBR(Program& program);
 
-    OptionButton optUnsoak{*this, "optUnsoak", "Unsoaked", "condition", {.Click = [this] { optUnsoak_Click(); }}};
-    OptionButton optSoak{*this, "optSoak", "Soaked", "condition", {.Click = [this] { optSoak_Click(); }}};
-    OptionButton optBoth{*this, "optBoth", "Both", "condition", {.Click = [this] { optBoth_Click(); }}};
+    OptionButton optUnsoak{*this, laboratory::kConditions[0], "condition", {.Click = [this] { optUnsoak_Click(); }}};
+    OptionButton optSoak{*this, laboratory::kConditions[1], "condition", {.Click = [this] { optSoak_Click(); }}};
+    OptionButton optBoth{*this, laboratory::kConditions[2], "condition", {.Click = [this] { optBoth_Click(); }}};
 
     Frame fraCompaction{*this, "fraCompaction", "Compaction Parameters"};
     OptionButton optStd{*this, "optStd", "Standard Proctor", "compaction", {.Click = [this] { optStd_Click(); }}};
     OptionButton optMod{*this, "optMod", "Modified Proctor", "compaction", {.Click = [this] { optMod_Click(); }}};
-    TextBox txtCompaction{*this, "txtCompaction", "Type of Compaction"};
-    TextBox txtOMC{*this, "txtOMC", "OMC"};
-    TextBox txtMDD{*this, "txtMDD", "MDD"};
-    TextBox txtOMC1{*this, "txtOMC1", "Optimum Moisture Content (OMC)"};
-    TextBox txtMDD1{*this, "txtMDD1", "Maximum Dry Density (MDD)"};
-    TextBox txtK{*this, "txtK", "K Constant"};  // lb/div
-    TextBox txtWeight{*this, "txtWeight", "Surcharge"};
+    TextBox txtCompaction{*this, laboratory::kBearingCompaction};
+    TextBox txtOMC{*this, laboratory::kBearingMoisture};
+    TextBox txtMDD{*this, laboratory::kBearingMaximum};
+    TextBox txtOMC1{*this, laboratory::kBearingMoistureAgain};
+    TextBox txtMDD1{*this, laboratory::kBearingMaximumAgain};
+    TextBox txtK{*this, laboratory::kRingConstant};  // lb/div
+    TextBox txtWeight{*this, laboratory::kSurcharge};
 
-    Frame fraWater{*this, "fraWater", "Water Content Determination"};
-    TextGrid MSHWater{*this, "MSHWater", cbr::water::kRows, cbr::kColumns + 1, {.MouseDown = OpensByMouse(txtData)}};
-    Frame fraDensity{*this, "fraDensity", "Dry Density Determination"};
-    TextGrid MSHCompaction{
-        *this, "MSHCompaction", cbr::density::kRows, cbr::kColumns + 1, {.MouseDown = OpensByMouse(txtData1)}};
-    Frame fraSwell{*this, "fraSwell", "Swelling Data"};
+    Frame fraWater{*this, "fraWater", laboratory::kBearingWater.frame};
+    TextGrid MSHWater{*this,
+                      laboratory::kBearingWater.control,
+                      laboratory::kBearingWater.Rows(),
+                      laboratory::kBearingWater.Columns(),
+                      {.MouseDown = OpensByMouse(txtData)}};
+    Frame fraDensity{*this, "fraDensity", laboratory::kBearingDensity.frame};
+    TextGrid MSHCompaction{*this,
+                           laboratory::kBearingDensity.control,
+                           laboratory::kBearingDensity.Rows(),
+                           laboratory::kBearingDensity.Columns(),
+                           {.MouseDown = OpensByMouse(txtData1)}};
+    Frame fraSwell{*this, "fraSwell", laboratory::kSwelling.frame};
     TextGrid MSHSwell{
         *this,
-        "MSHSwell",
-        cbr::swell::kRows,
-        cbr::swell::kColumns,
+        laboratory::kSwelling.control,
+        laboratory::kSwelling.Rows(),
+        laboratory::kSwelling.Columns(),
         {.MouseDown = [this](MouseButton button, int row, int column) { MSHSwell_MouseDown(button, row, column); }}};
     DatePicker dtpSwell{*this,  // over the date cells of MSHSwell
                         "dtpSwell",
@@ -89,13 +96,13 @@ struct frmCBR : TestSheet {
                         {.Change = [this] { dtpSwell_Change(); },
                          .KeyPress = [this](Key key) { return dtpSwell_KeyPress(key); },
                          .LostFocus = [this] { dtpSwell.SetVisible(false); }}};
-    Frame fraPenetrate{*this, "fraPenetrate", "Penetration Data"};
+    Frame fraPenetrate{*this, "fraPenetrate", laboratory::kPenetrations.frame};
     CommandButton cmdPen{*this, "cmdPen", "Penetration Intervals", {.Click = [this] { cmdPen_Click(); }}};
     TextGrid MSHPenetrate{*this, "MSHPenetrate", cbr::penetration::kHeadRows, cbr::penetration::kColumns};
     TextGrid MSHPenetrate1{*this,
-                           "MSHPenetrate1",
-                           1,
-                           cbr::penetration::kColumns,
+                           laboratory::kPenetrations.control,
+                           laboratory::kPenetrations.Rows(),
+                           laboratory::kPenetrations.Columns(),
                            {.MouseDown = [this](MouseButton button, int row, int column) {
                                MSHPenetrate1_MouseDown(button, row, column);
                            }}};
@@ -105,7 +112,8 @@ struct frmCBR : TestSheet {
     CellEditor txtData3;  // over MSHPenetrate1
 
     CommandButton cmdLPen{*this, "cmdLPen", "Load-Penetration Curve", {.Click = [this] { cmdLPen_Click(); }}};
-    TextGrid mshLPC{*this, "mshLPC", cbr::result::kRows, cbr::kMoulds + 1};
+    TextGrid mshLPC{*this, laboratory::kBearingRatios.control, laboratory::kBearingRatios.Rows(),
+                    laboratory::kBearingRatios.Columns()};
     Frame fraCorrection{*this, "fraCorrection", "Correction of Curves"};
     CheckBox chkMold1{*this, "chkMold1", ""};  // beside the labels
     CheckBox chkMold2{*this, "chkMold2", ""};
@@ -117,8 +125,8 @@ struct frmCBR : TestSheet {
     PictureBox picgraph1{*this, "picgraph1", 800, 550, 2600, 3100};  // stress against penetration, standing on it
 
     CommandButton cmdCBR{*this, "cmdCBR", "CBR Value from Graph", {.Click = [this] { cmdCBR_Click(); }}};
-    ComboBox cboCBR{*this, "cboCBR", "CBR at", {"90%", "95%", "98%", "100%"}, "95%"};
-    TextBox txtCBR{*this, "txtCBR", "of MDD is"};  // %
+    ComboBox cboCBR{*this, laboratory::kShareOfMaximum, {"90%", "95%", "98%", "100%"}, "95%"};
+    TextBox txtCBR{*this, laboratory::kBearingRatioBox};  // %
     Label lbl01{*this, "lbl01", std::string(cbr::kRatioAt01), {.Click = [this] { lbl01_Click(); }}};
     Label lbl02{*this, "lbl02", std::string(cbr::kRatioAt02), {.Click = [this] { lbl02_Click(); }}};
     PictureBox picGraph2{*this, "picGraph2", 0, 0, 3600, 4400};

@@ -75,7 +75,7 @@ void frmCBR::cmdCBR_Click()
     for (const RatioCurve& curve : kCurves) DrawRatios(scale, curve.row);
     txtCBR.SetText("");
     if (!Trim(cboCBR.Text()).empty() && !Trim(txtMDD.Text()).empty()) ReadDesignValue(scale);
-    PostSummary(program, {{"sum_CBR", txtCBR.Text()}});
+    PostSummary(program, {{"CBR", txtCBR.Text()}});
 }
 
 void frmCBR::lbl01_Click()

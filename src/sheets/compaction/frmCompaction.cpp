@@ -3,6 +3,7 @@
 #include <array>
 
 #include "laboratory/masks.h"
+#include "laboratory/tests.h"
 #include "runtime/numbers.h"
 #include "sheets/pattern/grids.h"
 #include "store/statements.h"
@@ -81,9 +82,8 @@ void frmCompaction::chkSatLine_Click()
 
 void frmCompaction::PostPeak() const
 {
-    const bool isStandard = program.CurrentTest == Test::StdSoil;
-    PostSummary(program, {{isStandard ? "sum_omcS" : "sum_omcM", txtOMC.Text()},
-                          {isStandard ? "sum_mddS" : "sum_mddM", txtDmax.Text()}});
+    const auto posts = laboratory::Describe(program.CurrentTest).posts;  // of the standard or the modified test
+    PostSummary(program, {{posts[0].column, txtOMC.Text()}, {posts[1].column, txtDmax.Text()}});
 }
 
 }  // namespace terravane

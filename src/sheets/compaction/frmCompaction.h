@@ -47,24 +47,24 @@ struct CompactionScale {
 struct frmCompaction : TestSheet {
     explicit frmCompaction(Program& program);
 
-    TextBox txtDia{*this, "txtDia", "Dia. of Mold (cm)"};
-    TextBox txtHeight{*this, "txtHeight", "Ht. of Mold (cm)"};
-    ComboBox cboWt{*this, "cboWt", "Wt. Hammer", {"2.5 kg", "4.5 kg"}};
-    ComboBox cboBlow{*this, "cboBlow", "Blows/Layer", {"25", "56"}};
-    ComboBox cboLayer{*this, "cboLayer", "No.Layers", {"3", "5"}};
+    TextBox txtDia{*this, laboratory::kMouldDiameter};
+    TextBox txtHeight{*this, laboratory::kMouldHeight};
+    ComboBox cboWt{*this, laboratory::kHammer, {"2.5 kg", "4.5 kg"}};
+    ComboBox cboBlow{*this, laboratory::kBlows, {"25", "56"}};
+    ComboBox cboLayer{*this, laboratory::kLayers, {"3", "5"}};
 
-    Frame FraWt{*this, "FraWt", "Water Content Determination"};
+    Frame FraWt{*this, "FraWt", laboratory::kCompactionWater.frame};
     TextGrid MSHWt{
         *this,
-        "MSHWt",
-        compaction::water::kRows,
-        compaction::kTrials + 1,
+        laboratory::kCompactionWater.control,
+        laboratory::kCompactionWater.Rows(),
+        laboratory::kCompactionWater.Columns(),
         {.MouseDown = [this](MouseButton button, int row, int column) { MSHWt_MouseDown(button, row, column); }}};
-    Frame fraDensity{*this, "fraDensity", "Dry Density Determination"};
+    Frame fraDensity{*this, "fraDensity", laboratory::kCompactionDensity.frame};
     TextGrid MSHDensity{*this,
-                        "MSHDensity",
-                        compaction::density::kRows,
-                        compaction::kTrials + 1,
+                        laboratory::kCompactionDensity.control,
+                        laboratory::kCompactionDensity.Rows(),
+                        laboratory::kCompactionDensity.Columns(),
                         {.MouseDown = OpensByMouse(txtData1)}};
     CellEditor txtData;   // over MSHWt
     CellEditor txtData1;  // over MSHDensity
@@ -72,11 +72,11 @@ struct frmCompaction : TestSheet {
     OptionButton optInt{*this, "optInt", "Interpolation", "method", true};
     OptionButton optFit{*this, "optFit", "Curve Fitting", "method"};
     CommandButton cmdOMC{*this, "cmdOMC", "Compaction Curve", {.Click = [this] { cmdOMC_Click(); }}};
-    TextBox txtOMC{*this, "txtOMC", "OMC"};
-    TextBox txtDmax{*this, "txtDmax", "MDD"};
+    TextBox txtOMC{*this, laboratory::kOptimumMoisture};
+    TextBox txtDmax{*this, laboratory::kMaximumDryDensity};
     TextGrid MSHData{*this, "MSHData", 1, 2};
     CheckBox chkSatLine{*this, "chkSatLine", "AV Line", {.Click = [this] { chkSatLine_Click(); }}};
-    TextBox txtGs{*this, "txtGs", "Gs"};
+    TextBox txtGs{*this, laboratory::kAirVoidGravity};
     ComboBox cboSr{*this, "cboSr", "Air Voids", {"0%", "20%", "40%", "60%", "80%"}, "0%"};
 
     // The work area: the spline by hand.

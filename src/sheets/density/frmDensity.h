@@ -15,25 +15,45 @@ namespace terravane {
 struct frmDensity : TestSheet {
     explicit frmDensity(Program& program);
 
-    TextBox txtPosition{*this, "txtPosition", "Position"};
+    TextBox txtPosition{*this, laboratory::kPosition};
 
-    Frame FraWsand{*this, "FraWsand", "Mass of Sand in Cone"};
-    TextGrid MSHWsand{*this, "MSHWsand", field::cone::kRows, field::kColumns + 1, {.MouseDown = OpensByMouse(txtData)}};
-    Frame FraDsand{*this, "FraDsand", "Density of Sand"};
-    TextGrid MSHDsand{
-        *this, "MSHDsand", field::sand::kRows, field::kColumns + 1, {.MouseDown = OpensByMouse(txtData1)}};
-    Frame FraWsoil{*this, "FraWsoil", "Mass of Wet Soil"};
-    TextGrid MSHWsoil{
-        *this, "MSHWsoil", field::soil::kRows, field::kColumns + 1, {.MouseDown = OpensByMouse(txtData2)}};
-    Frame fraWater{*this, "fraWater", "Water Content"};
-    TextGrid MSHWater{
-        *this, "MSHWater", field::water::kRows, field::kColumns + 1, {.MouseDown = OpensByMouse(txtData3)}};
-    Frame fraVolume{*this, "fraVolume", "Volume of Hole"};
-    TextGrid MSHVolume{
-        *this, "MSHVolume", field::volume::kRows, field::kColumns + 1, {.MouseDown = OpensByMouse(txtData4)}};
-    Frame fraSummary{*this, "fraSummary", "Summary"};  // the caption names the compaction test that was chosen
-    TextGrid MSHSummary{
-        *this, "MSHSummary", field::summary::kRows, field::kColumns + 1, {.MouseDown = OpensByMouse(txtData5)}};
+    Frame FraWsand{*this, "FraWsand", laboratory::kSandInCone.frame};
+    TextGrid MSHWsand{*this,
+                      laboratory::kSandInCone.control,
+                      laboratory::kSandInCone.Rows(),
+                      laboratory::kSandInCone.Columns(),
+                      {.MouseDown = OpensByMouse(txtData)}};
+    Frame FraDsand{*this, "FraDsand", laboratory::kSandDensity.frame};
+    TextGrid MSHDsand{*this,
+                      laboratory::kSandDensity.control,
+                      laboratory::kSandDensity.Rows(),
+                      laboratory::kSandDensity.Columns(),
+                      {.MouseDown = OpensByMouse(txtData1)}};
+    Frame FraWsoil{*this, "FraWsoil", laboratory::kHoleSoil.frame};
+    TextGrid MSHWsoil{*this,
+                      laboratory::kHoleSoil.control,
+                      laboratory::kHoleSoil.Rows(),
+                      laboratory::kHoleSoil.Columns(),
+                      {.MouseDown = OpensByMouse(txtData2)}};
+    Frame fraWater{*this, "fraWater", laboratory::kHoleWater.frame};
+    TextGrid MSHWater{*this,
+                      laboratory::kHoleWater.control,
+                      laboratory::kHoleWater.Rows(),
+                      laboratory::kHoleWater.Columns(),
+                      {.MouseDown = OpensByMouse(txtData3)}};
+    Frame fraVolume{*this, "fraVolume", laboratory::kHoleVolume.frame};
+    TextGrid MSHVolume{*this,
+                       laboratory::kHoleVolume.control,
+                       laboratory::kHoleVolume.Rows(),
+                       laboratory::kHoleVolume.Columns(),
+                       {.MouseDown = OpensByMouse(txtData4)}};
+    Frame fraSummary{*this, "fraSummary",
+                     laboratory::kHoleSummary.frame};  // the caption names the compaction test that was chosen
+    TextGrid MSHSummary{*this,
+                        laboratory::kHoleSummary.control,
+                        laboratory::kHoleSummary.Rows(),
+                        laboratory::kHoleSummary.Columns(),
+                        {.MouseDown = OpensByMouse(txtData5)}};
     CellEditor txtData;   // over MSHWsand
     CellEditor txtData1;  // over MSHDsand
     CellEditor txtData2;  // over MSHWsoil
@@ -41,8 +61,8 @@ struct frmDensity : TestSheet {
     CellEditor txtData4;  // over MSHVolume
     CellEditor txtData5;  // over the maximum densities of MSHSummary, for a job without a compaction test of its own
 
-    OptionButton optStd{*this, "optStd", "Standard Compaction", "compaction", {.Click = [this] { optStd_Click(); }}};
-    OptionButton optMod{*this, "optMod", "Modified Compaction", "compaction", {.Click = [this] { optMod_Click(); }}};
+    OptionButton optStd{*this, laboratory::kFieldCompactions[0], "compaction", {.Click = [this] { optStd_Click(); }}};
+    OptionButton optMod{*this, laboratory::kFieldCompactions[1], "compaction", {.Click = [this] { optMod_Click(); }}};
 
     void Form_Load() override;
 

@@ -42,7 +42,7 @@ void frmDensity::cmdCal_Click()
     WetSoil();
     Volumes();
     for (int hole = 1; hole <= kColumns; ++hole) DensitiesOf(hole);
-    PostSummary(program, {{"sum_compaction", SignedNumberText(AverageCompaction())}});
+    PostSummary(program, {{"compaction", SignedNumberText(AverageCompaction())}});
 }
 
 void frmDensity::SandInCone()

@@ -17,6 +17,7 @@
 #include "controls/picture_box.h"
 #include "controls/text_controls.h"
 #include "laboratory/description.h"
+#include "laboratory/general_data.h"
 #include "program/program.h"
 #include "store/schema.h"
 
@@ -47,14 +48,14 @@ struct TestSheet : Form {
     const laboratory::Sheet& described;
 
     Frame fraGeneral{*this, "fraGeneral", "General Data"};
-    TextBox txtClient{*this, "txtClient", "Client Name"};
-    TextBox txtID{*this, "txtID", "Task No."};
-    TextBox txtProject{*this, "txtProject", "Project Name"};
-    TextBox txtLocation{*this, "txtLocation", "Location"};
-    TextBox txtSoil{*this, "txtSoil", "Sample"};
-    ComboBox cboTest{*this, "cboTest", "Tested by"};
-    ComboBox cboCheck{*this, "cboCheck", "Checked by"};
-    DatePicker DTPDate{*this, "DTPDate", "Date of Test", {.GotFocus = HidesEditors()}};
+    TextBox txtClient{*this, laboratory::kClient};
+    TextBox txtID{*this, laboratory::kTaskNumber};
+    TextBox txtProject{*this, laboratory::kProjectName};
+    TextBox txtLocation{*this, laboratory::kLocation};
+    TextBox txtSoil{*this, laboratory::kSample};
+    ComboBox cboTest{*this, laboratory::kTester};
+    ComboBox cboCheck{*this, laboratory::kChecker};
+    DatePicker DTPDate{*this, laboratory::kTestDate, {.GotFocus = HidesEditors()}};
     TextBox txtLabName{*this, "txtLabName"};  // the banner: the test's Thai and English names in two lines
 
     Toolbar tblMenu{*this,

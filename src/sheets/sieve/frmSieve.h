@@ -38,52 +38,51 @@ struct frmSieve : TestSheet {
     explicit frmSieve(Program& program);
 
     Frame FraWt{*this, "FraWt", "Select Method of Sieving"};
-    OptionButton optNo{*this, "optNo", "Dry", "method", true, {.Click = [this] { optNo_Click(); }}};
-    OptionButton optYes{*this, "optYes", "Wet", "method", {.Click = [this] { optYes_Click(); }}};
-    TextBox txtGsoil{*this, "txtGsoil", "Dry Mass of Original Sample, (g)", {.GotFocus = HidesEditors()}};
+    OptionButton optNo{*this, laboratory::kSieving[0], "method", {.Click = [this] { optNo_Click(); }}, true};
+    OptionButton optYes{*this, laboratory::kSieving[1], "method", {.Click = [this] { optYes_Click(); }}};
+    TextBox txtGsoil{*this, laboratory::kOriginalMass, {.GotFocus = HidesEditors()}};
     TextBox txtDwp{*this,
-                   "txtDwp",
-                   "Dry Mass after Washing      , (g)",
+                   laboratory::kMassAfterWashing,
                    {.KeyPress = [this](Key key) { return txtDwp_KeyPress(key); }, .GotFocus = HidesEditors()}};
-    TextBox txtWl{*this, "txtWl", "Mass Loss through Washing, (g)", {.GotFocus = HidesEditors()}};
-    TextBox txtErr{*this, "txtErr", "Pecent of Mass Loss"};
+    TextBox txtWl{*this, laboratory::kWashingLoss, {.GotFocus = HidesEditors()}};
+    TextBox txtErr{*this, laboratory::kMassLost};
 
     Frame Frame10{*this, "Frame10", "Select Sieve Size"};
     ListBox lstSieve;
     CommandButton cmdSieve{*this, "cmdSieve", "Add/Modified", {.Click = [this] { cmdSieve_Click(); }}};
-    Frame FraWt1{*this, "FraWt1", "Percent Passing Determination"};
+    Frame FraWt1{*this, "FraWt1", laboratory::kSieveStack.frame};
     TextGrid MSHSieve{
         *this,
-        "MSHSieve",
-        kMostSieves + 1,
-        sieve::kColumns,
+        laboratory::kSieveStack.control,
+        laboratory::kSieveStack.Rows(),
+        laboratory::kSieveStack.Columns(),
         {.MouseDown = [this](MouseButton button, int row, int column) { MSHSieve_MouseDown(button, row, column); }}};
     CellEditor txtData;
 
-    TextBox txtP4{*this, "txtP4", "% passing No. 4 sieve "};
-    TextBox txtP10{*this, "txtP10", "% passing No. 10 sieve "};
-    TextBox txtP40{*this, "txtP40", "% passing No. 40 sieve "};
-    TextBox txtP200{*this, "txtP200", "% passing No. 200 sieve "};
+    TextBox txtP4{*this, laboratory::kPassing4};
+    TextBox txtP10{*this, laboratory::kPassing10};
+    TextBox txtP40{*this, laboratory::kPassing40};
+    TextBox txtP200{*this, laboratory::kPassing200};
 
     CommandButton cmdgraph{*this, "cmdgraph", "Plot Graph", {.Click = [this] { cmdgraph_Click(); }}};
     CheckBox chkSmooth{*this, "chkSmooth", "Smooth Curve"};
     CheckBox chkEdit{*this, "chkEdit", "Edit D10, D30, D60", {.Click = [this] { chkEdit_Click(); }}};
-    TextBox txtD60{*this, "txtD60"};
-    TextBox txtD30{*this, "txtD30"};
-    TextBox txtD10{*this, "txtD10"};
-    TextBox txtCu{*this, "txtCu"};
-    TextBox txtCc{*this, "txtCc"};
+    TextBox txtD60{*this, laboratory::kD60};
+    TextBox txtD30{*this, laboratory::kD30};
+    TextBox txtD10{*this, laboratory::kD10};
+    TextBox txtCu{*this, laboratory::kUniformity};
+    TextBox txtCc{*this, laboratory::kCurvature};
 
-    TextBox txtLL{*this, "txtLL", "Liquid Limit (LL)", {.GotFocus = HidesEditors()}};
-    TextBox txtPL{*this, "txtPL", "Plastic Limit (PL)", {.GotFocus = HidesEditors()}};
+    TextBox txtLL{*this, laboratory::kTakenLiquidLimit, {.GotFocus = HidesEditors()}};
+    TextBox txtPL{*this, laboratory::kTakenPlasticLimit, {.GotFocus = HidesEditors()}};
     CommandButton cmdAtt{*this, "cmdAtt", "Import LL - PL", {.Click = [this] { cmdAtt_Click(); }}};
     CommandButton cmdClass{*this, "cmdClass", "Classify", {.Click = [this] { cmdClass_Click(); }}};
     Frame fraUSCS{*this, "fraUSCS", "USCS"};
-    TextBox txtSuscs{*this, "txtSuscs", "Group Symbol"};
-    TextBox txtNuscs{*this, "txtNuscs", "Group Name :"};
+    TextBox txtSuscs{*this, laboratory::kUscsSymbol};
+    TextBox txtNuscs{*this, laboratory::kUscsName};
     Frame fraAASHTO{*this, "fraAASHTO", "AASHTO"};
-    TextBox txtSaash{*this, "txtSaash", "Group Symbol"};
-    TextBox txtMtype{*this, "txtMtype", "Typical Names :"};
+    TextBox txtSaash{*this, laboratory::kAashtoSymbol};
+    TextBox txtMtype{*this, laboratory::kAashtoName};
 
     PictureBox picgraph1{*this, "picgraph1", 0, 0, 9200, 6200};  // tick labels and axis titles of the curve
     PictureBox picGraph{*this, "picGraph", 900, 500, 8000, 5000};

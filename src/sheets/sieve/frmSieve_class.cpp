@@ -102,11 +102,11 @@ void frmSieve::ClassifyAASHTO()
 void frmSieve::PostClasses() const
 {
     if (program.CurrentMaterial == Material::None) return;
-    PostSummary(program, {{"sum_gravel", SignedNumberText(Gravel)},
-                          {"sum_sand", SignedNumberText(Sand)},
-                          {"sum_finer", SignedNumberText(P200)},
-                          {"sum_USCS", txtSuscs.Text()},
-                          {"sum_AASHTO", txtSaash.Text()}});
+    PostSummary(program, {{"gravel", SignedNumberText(Gravel)},
+                          {"sand", SignedNumberText(Sand)},
+                          {"finer", SignedNumberText(P200)},
+                          {"USCS", txtSuscs.Text()},
+                          {"AASHTO", txtSaash.Text()}});
 }
 
 void frmSieve::DrawPlasticityChart()

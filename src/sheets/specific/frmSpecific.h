@@ -33,12 +33,18 @@ struct CalibrationScale {
 struct frmSpecific : TestSheet {
     explicit frmSpecific(Program& program);
 
-    Frame fraCalibration{*this, "fraCalibration", "Flask Calibration"};
-    TextGrid MSHCalibration{
-        *this, "MSHCalibration", kCalibrationReadings + 1, calibration::kColumns, {.MouseDown = OpensByMouse(txtData)}};
-    Frame fraSpecific{*this, "fraSpecific", "Specific Gravity Determination"};
-    TextGrid MSHSpecific{
-        *this, "MSHSpecific", gravity::kRows, kGravityTrials + 1, {.MouseDown = OpensByMouse(txtData1)}};
+    Frame fraCalibration{*this, "fraCalibration", laboratory::kCalibration.frame};
+    TextGrid MSHCalibration{*this,
+                            laboratory::kCalibration.control,
+                            laboratory::kCalibration.Rows(),
+                            laboratory::kCalibration.Columns(),
+                            {.MouseDown = OpensByMouse(txtData)}};
+    Frame fraSpecific{*this, "fraSpecific", laboratory::kGravityTrialGrid.frame};
+    TextGrid MSHSpecific{*this,
+                         laboratory::kGravityTrialGrid.control,
+                         laboratory::kGravityTrialGrid.Rows(),
+                         laboratory::kGravityTrialGrid.Columns(),
+                         {.MouseDown = OpensByMouse(txtData1)}};
     CellEditor txtData;   // over MSHCalibration
     CellEditor txtData1;  // over MSHSpecific
 
@@ -48,8 +54,8 @@ struct frmSpecific : TestSheet {
     OptionButton optPol{*this, "optPol", "Polynomial", "fit", {.Click = [this] { optFit_Click(); }}};
     CommandButton cmdgraph{*this, "cmdgraph", "Plot Graph Calibration", {.Click = [this] { cmdgraph_Click(); }}};
     Label lblEquation{*this, "lblEquation", "Equation of Curve"};
-    TextBox txtFormula{*this, "txtFormula", "Equation of Curve"};
-    TextBox txtR{*this, "txtR", "R-squared Value"};
+    TextBox txtFormula{*this, laboratory::kCalibrationFormula};
+    TextBox txtR{*this, laboratory::kCalibrationRSquared};
 
     PictureBox picGraph{*this, "picGraph", 60, 0, 5900, 4300};       // tick labels and axis titles
     PictureBox picgraph1{*this, "picgraph1", 900, 300, 4750, 3200};  // the plot, standing in it

@@ -130,11 +130,11 @@ TEST_F(Statements, PostResultsIntoTheMaterialsRow)
 {
     InCommand([&] {
         program.CurrentMaterial = Material::Soil;
-        PostSummary(program, {{"sum_omcS", "12.3"}, {"sum_mddS", "1.98"}});
+        PostSummary(program, {{"omcS", "12.3"}, {"mddS", "1.98"}});
     });
     InCommand([&] {
         program.CurrentMaterial = Material::Crush;
-        PostSummary(program, {{"sum_omcM", "6.5"}, {"sum_mddM", "2.15"}});
+        PostSummary(program, {{"omcM", "6.5"}, {"mddM", "2.15"}});
     });
     EXPECT_EQ(program.CurrentSql, "UPDATE SUMMARY Set sum_omcM ='6.5',  sum_mddM ='2.15' Where sum_ID =' 2'");
     EXPECT_EQ(OnDisk("SUMMARY", "sum_omcS"), (std::vector<std::string>{"12.3", "   "}));
