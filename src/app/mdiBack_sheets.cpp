@@ -3,8 +3,7 @@
 #include <array>
 
 #include "app/mdiBack.h"
-#include "reports/open_sheet.h"
-#include "reports/report.h"
+#include "reports/all_reports.h"
 #include "sheets/pattern/test_sheet.h"
 
 namespace terravane {

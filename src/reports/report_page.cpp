@@ -1,5 +1,6 @@
 #include "reports/report_page.h"
 
+#include "drawing/scopes.h"
 #include "sheets/pattern/plot.h"
 
 namespace terravane {
@@ -57,9 +58,15 @@ std::string TextOf(const TestSheet& sheet, std::string_view control)
     return sheet.Get<TextControl>(control).Text();
 }
 
+void SetReportFont(DrawingSurface& page)
+{
+    page.FontName = kReportFont;
+    page.FontBold = false;
+}
+
 void PrintCaption(DrawingSurface& page, double x, double y, std::string_view text)
 {
-    page.FontBold = true;
+    const Bold bold(page);
     page.CurrentY = y;
     PrintLineFrom(page, x, text);
 }
