@@ -62,6 +62,7 @@ void SetReportFont(DrawingSurface& page)
 {
     page.FontName = kReportFont;
     page.FontBold = false;
+    page.FontItalic = false;
 }
 
 void PrintCaption(DrawingSurface& page, double x, double y, std::string_view text)

@@ -77,7 +77,7 @@ struct ReportPage : Printing {
     std::string Text(std::string_view control) const { return TextOf(sheet, control); }
 };
 
-/// What a page begins with: the reports' font, regular.
+/// What a page begins with: the reports' font, neither bold nor italic.
 void SetReportFont(DrawingSurface& page);
 
 /// A caption at (x, y), bold, ending the line.
