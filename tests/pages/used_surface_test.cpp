@@ -1,11 +1,12 @@
 // The same pages whatever was drawn before: a printer and the preview keep fonts and pens from one page, and from one
 // job, to the next.
-#include <array>
+#include <vector>
 
 #include <gtest/gtest.h>
 
 #include "app/form_makers.h"
 #include "drawing/scopes.h"
+#include "laboratory/tests.h"
 #include "reports/all_reports.h"
 #include "reports/cover_page.h"
 #include "reports/page_frame.h"
@@ -80,10 +81,14 @@ TEST_P(UsedSurface, KeepsItsPen)
     EXPECT_FALSE(used.FontBold) << "what a page begins with";
 }
 
-constexpr auto kTests =
-    std::array{terravane::Test::StdSoil, terravane::Test::ModSoil, terravane::Test::DenSoil, terravane::Test::SpcSoil,
-               terravane::Test::AttSoil, terravane::Test::SieSoil, terravane::Test::CBRSoil};
-INSTANTIATE_TEST_SUITE_P(Reports, UsedSurface, ::testing::ValuesIn(kTests));
+std::vector<terravane::Test> AllTests()
+{
+    std::vector<terravane::Test> tests;
+    for (const auto* description : laboratory::Tests()) tests.push_back(description->test);
+    return tests;
+}
+
+INSTANTIATE_TEST_SUITE_P(Reports, UsedSurface, ::testing::ValuesIn(AllTests()));
 
 }  // namespace
 }  // namespace terravane
