@@ -14,7 +14,6 @@
 #include "render/png.h"
 #include "reports/print_report.h"
 #include "results/frmSummary.h"
-#include "results/summary_page.h"
 #include "source_folder.h"
 #include "support/road_project.h"
 #include "support/sheet_commands.h"
@@ -89,7 +88,7 @@ std::vector<DisplayList> PagesOf(const ReportRow& report)
 std::vector<DisplayList> OverallPage()
 {
     Road().Do("menu mnuSum");
-    auto pages = PagesOfSummary(Road().OfProgram().Get<frmSummary>("frmSummary"));
+    auto pages = Road().OfProgram().Get<frmSummary>("frmSummary").Pages();
     Road().Do("close");
     CheckOrEnd("Overall results");
     return pages;
@@ -105,7 +104,7 @@ void RecordOverallResults(benchmark::State& state)
 {
     Road().Do("menu mnuSum");
     const auto& form = Road().OfProgram().Get<frmSummary>("frmSummary");
-    for (auto _ : state) benchmark::DoNotOptimize(PagesOfSummary(form));
+    for (auto _ : state) benchmark::DoNotOptimize(form.Pages());
     Road().Do("close");
     CheckOrEnd("Overall results");
 }

@@ -5,7 +5,7 @@
 #include "app/form_makers.h"
 #include "app/mdiBack.h"
 #include "controls/choice_controls.h"
-#include "reports/open_sheet.h"
+#include "reports/all_reports.h"
 #include "reports/print_report.h"
 
 namespace terravane {

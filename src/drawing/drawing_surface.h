@@ -26,7 +26,6 @@ class DrawingSurface {
     double FontSize = 8.25;  // points
     bool FontBold = false;
     bool FontItalic = false;
-    bool FontTransparent = true;
     Colour ForeColor = kBlack;
     int DrawWidth = 1;  // 5 twips each
     int DrawStyle = 0;  // 0 solid, 1 dash, 2 dot

@@ -1,4 +1,4 @@
-/// Texts placed on a page, and the pens that pages are ruled with. Lengths are twips.
+/// Texts placed on a page. Lengths are twips.
 #pragma once
 
 #include <string_view>
@@ -8,12 +8,6 @@
 namespace terravane {
 
 inline constexpr std::string_view kReportFont = "DilleniaUPC";
-
-inline constexpr int kThinRule = 1;  // draw widths
-inline constexpr int kThickRule = 2;
-
-inline constexpr int kSolid = 0;  // draw styles
-inline constexpr int kDotted = 2;
 
 /// Height of a line in the font in force.
 double LineHeight(const DrawingSurface& page);

@@ -4,7 +4,6 @@
 #include <string>
 
 #include "reports/report_table.h"
-#include "reports/signature_block.h"
 #include "sheets/atterberg/frmAtterberg.h"
 
 namespace terravane {
@@ -66,8 +65,8 @@ constexpr std::array kSummaryLines{
 struct AtterbergPage : ReportPage {
     PageColumns trials;
 
-    AtterbergPage(const TestSheet& open, DrawingSurface& surface)
-        : ReportPage(open, surface), trials(ColumnsBeside(kLabelWidth, WholeWidth(surface), kLimitTrials))
+    explicit AtterbergPage(const Printing& printing)
+        : ReportPage(printing), trials(ColumnsBeside(kLabelWidth, WholeWidth(page), kLimitTrials))
     {}
 };
 
@@ -77,7 +76,7 @@ void DrawSummaryBox(const AtterbergPage& of)
     const PageLines y(of.page, of.y(kSummaryTop));
     const double split = of.trials.Left(5) + 300;
     const RuledBox box(of.page, y, {of.trials.Left(4), of.trials.Left(6)}, 1, 5);
-    of.page.Line(split, y(1), split, y(5));
+    box.Vertical(split);
     box.Thin();
     box.Rows(2, 3);
 }
@@ -86,7 +85,6 @@ void PrintSummary(const AtterbergPage& of)
 {
     const double left = of.trials.Left(4);
     PrintCaption(of.page, left, of.y(kSummaryTop), "Summary of Test Results");
-    of.page.FontBold = false;
     for (const ReportField& line : kSummaryLines) {
         PrintFrom(of.page, left + kLabelInset, line.label);
         PrintFrom(of.page, of.trials.Left(5) + 700, of.Text(line.control));
@@ -96,15 +94,14 @@ void PrintSummary(const AtterbergPage& of)
 
 }  // namespace
 
-void DrawAtterberg(Program& program, DrawingSurface& page, Medium medium)
+void DrawAtterberg(const Printing& printing)
 {
-    const auto& sheet = program.Get<frmAtterberg>("frmAtterberg");
-    const AtterbergPage of(sheet, page);
-    for (const ReportTable& table : kTables) DrawTable(of, {WholeWidth(page), of.trials}, table);
+    const auto& sheet = printing.SheetAs<frmAtterberg>();
+    const AtterbergPage of(printing);
+    for (const ReportTable& table : kTables) DrawTable(of, {WholeWidth(of.page), of.trials}, table);
     DrawSummaryBox(of);
     PrintSummary(of);
-    CopyPlot(page, sheet.picgraph1, sheet.picGraph, kLeft, of.y(kPlotTop));
-    DrawSignatures(program, page, medium);
+    CopyPlot(of.page, sheet.picgraph1, sheet.picGraph, kLeft, of.y(kPlotTop));
 }
 
 }  // namespace terravane

@@ -3,15 +3,14 @@
 /// only the result of a single mould is chosen here.
 #pragma once
 
-#include "program/program.h"
-#include "reports/medium.h"
+#include "reports/report.h"
 
 namespace terravane {
 
 /// The first page's body, below frame and head block.
-void DrawCbrPage1(Program& program, DrawingSurface& page, Medium medium);
+void DrawCbrPage1(const Printing& printing);
 
-/// The second page with its furniture.
-void DrawCbrPage2(Program& program, DrawingSurface& page, Medium medium);
+/// The second page's body, below the frame.
+void DrawCbrPage2(const Printing& printing);
 
 }  // namespace terravane

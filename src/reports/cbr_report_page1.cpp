@@ -6,7 +6,6 @@
 
 #include "reports/cbr_report.h"
 #include "reports/report_table.h"
-#include "reports/signature_block.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
 #include "sheets/cbr/frmCBR.h"
@@ -27,12 +26,12 @@ struct CbrPage : ReportPage {
     PageColumns solution;  // the cells of the right half box
     PageColumns swelling;
 
-    CbrPage(const frmCBR& open, DrawingSurface& surface)
-        : ReportPage(open, surface),
-          cbr(open),
-          leftHalf(LeftHalf(surface)),
-          rightHalf(RightHalf(surface)),
-          moulds(ColumnsBeside(kLabelWidth, WholeWidth(surface), kColumns)),
+    explicit CbrPage(const Printing& printing)
+        : ReportPage(printing),
+          cbr(printing.SheetAs<frmCBR>()),
+          leftHalf(LeftHalf(page)),
+          rightHalf(RightHalf(page)),
+          moulds(ColumnsBeside(kLabelWidth, WholeWidth(page), kColumns)),
           solution(ColumnsBeside(kLabelWidth, rightHalf, kMoulds)),
           swelling{moulds.left, moulds.width / 2}
     {}
@@ -82,6 +81,13 @@ void PrintParameters(const CbrPage& of, const ParameterColumn& column, double le
     }
 }
 
+void PrintTypeOfTest(const CbrPage& of, const PageColumns& halves)
+{
+    const Bold bold(of.page);
+    of.page.CurrentY = of.y(1);
+    PrintHeads(of.page, halves, std::array{CompactionName(of.cbr), ConditionName(of.cbr)});
+}
+
 /// Left half box, lines 1 to 4.
 void DrawTypeOfTest(const CbrPage& of)
 {
@@ -92,9 +98,7 @@ void DrawTypeOfTest(const CbrPage& of)
     box.Verticals(halves, 2, 2);
     box.Thin();
     box.Rows(3);
-    of.page.CurrentY = of.y(1);
-    PrintHeads(of.page, halves, std::array{CompactionName(of.cbr), ConditionName(of.cbr)});
-    of.page.FontBold = false;
+    PrintTypeOfTest(of, halves);
     PrintParameters(of, kParameters[0], halves.Left(1));
     PrintParameters(of, kParameters[1], halves.Left(2));
 }
@@ -108,6 +112,12 @@ void PrintSolution(const CbrPage& of, double line, std::string_view label, const
     int mould = 1;
     for (const std::string& cell : cells)
         PrintCentred(of.page, of.solution.Left(mould++), of.solution.width, Trim(cell));
+}
+
+void PrintSolutionHeads(const CbrPage& of)
+{
+    const Bold bold(of.page);
+    PrintSolution(of, 1, "Conditions", {"Unsoaked", "Soaked", ""});
 }
 
 SolutionCells ResultsOf(const frmCBR& sheet, result::Row row)
@@ -132,8 +142,7 @@ void DrawSolution(const CbrPage& of)
     box.Verticals(of.solution, 1, kMoulds);
     box.Thin();
     box.Rows(3, 2);
-    PrintSolution(of, 1, "Conditions", {"Unsoaked", "Soaked", ""});
-    of.page.FontBold = false;
+    PrintSolutionHeads(of);
     PrintSolution(of, 2, "Number of Blows per Layer/Layers", BlowsOf(of.cbr));
     PrintSolution(of, 3, "CBR at 0.1 in. Penetration (%)", ResultsOf(of.cbr, result::At01));
     PrintSolution(of, 4, "CBR at 0.2 in. Penetration (%)", ResultsOf(of.cbr, result::At02));
@@ -164,6 +173,7 @@ void DrawMouldRules(const CbrPage& of, const MouldTable& table)
 
 void PrintConditions(const CbrPage& of, double line)
 {
+    const Bold bold(of.page);
     const bool isBoth = of.cbr.optBoth.Value();
     const PageColumns conditions{of.moulds.left, of.moulds.width * kMoulds};
     PrintFrom(of.page, kLeft + kLabelInset, of.y(line), "Condition");
@@ -177,7 +187,6 @@ void DrawMouldTable(const CbrPage& of, const MouldTable& table)
     PrintCaption(of.page, kLeft, of.y(table.captionLine), table.caption);
     DrawMouldRules(of, table);
     PrintConditions(of, table.Top());
-    of.page.FontBold = false;
     for (int row = 1; row <= table.Rows(); ++row)
         PrintFrom(of.page, kLeft + kLabelInset, of.y(table.Top() + row), table.grid(row, 0));
     PrintCells(of.page, of.y, of.moulds, table.Top() + 1, table.grid, {1, table.Rows(), 1, kColumns});
@@ -204,8 +213,8 @@ void DrawResult(const CbrPage& of)
 {
     PrintCaption(of.page, kLeft, of.y(21), "Results of Testing ");
     const Edges edges = of.SwellingEdges();
-    of.page.DrawWidth = kThickRule;
-    of.page.Box(edges.left, of.y(22), edges.right, of.y(23));
+    const RuledBox box(of.page, of.y, edges, 22, 23);
+    const Bold bold(of.page);
     of.page.CurrentY = of.y(22);
     PrintCentred(of.page, edges.left, edges.Width(), ResultLine(of.cbr));
 }
@@ -228,6 +237,7 @@ void DrawSwellingRules(const CbrPage& of)
 
 void PrintSwellingHeads(const CbrPage& of)
 {
+    const Bold bold(of.page);
     const PageColumns dates{kLeft, kDateWidth};
     const double pair = of.swelling.width * 2;
     of.page.CurrentY = of.y(24);
@@ -251,7 +261,6 @@ void DrawSwelling(const CbrPage& of)
     PrintCaption(of.page, kLeft, of.y(23), "Swelling Determination");
     DrawSwellingRules(of);
     PrintSwellingHeads(of);
-    of.page.FontBold = false;
     const TextGrid& grid = of.cbr.MSHSwell;
     const int last = grid.Rows() - 1;
     PrintCells(of.page, of.y, {kLeft, kDateWidth}, 27, grid, {swell::First, last, swell::Date, swell::Elapsed});
@@ -260,17 +269,15 @@ void DrawSwelling(const CbrPage& of)
 
 }  // namespace
 
-void DrawCbrPage1(Program& program, DrawingSurface& page, Medium medium)
+void DrawCbrPage1(const Printing& printing)
 {
-    const auto& sheet = program.Get<frmCBR>("frmCBR");
-    const CbrPage of(sheet, page);
+    const CbrPage of(printing);
     DrawTypeOfTest(of);
     DrawSolution(of);
-    DrawMouldTable(of, {"Water Content Determination", 4, sheet.MSHWater});
-    DrawMouldTable(of, {"Dry Density Determination", 11, sheet.MSHCompaction});
+    DrawMouldTable(of, {"Water Content Determination", 4, of.cbr.MSHWater});
+    DrawMouldTable(of, {"Dry Density Determination", 11, of.cbr.MSHCompaction});
     DrawResult(of);
     DrawSwelling(of);
-    DrawSignatures(program, page, medium);
 }
 
 }  // namespace terravane

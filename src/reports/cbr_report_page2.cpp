@@ -4,7 +4,6 @@
 #include <string_view>
 
 #include "reports/cbr_report.h"
-#include "reports/page_frame.h"
 #include "reports/report_table.h"
 #include "sheets/cbr/frmCBR.h"
 
@@ -29,11 +28,11 @@ struct CbrTable : ReportPage {
     PageColumns columns;
     int bottom;  // line
 
-    CbrTable(const frmCBR& open, DrawingSurface& surface)
-        : ReportPage(open, surface, kTableTop),
-          cbr(open),
-          columns(ColumnsBeside(0, WholeWidth(surface), kColumnsAcross)),
-          bottom(kHeadLines + open.MSHPenetrate1.Rows())
+    explicit CbrTable(const Printing& printing)
+        : ReportPage(printing, kTableTop),
+          cbr(printing.SheetAs<frmCBR>()),
+          columns(ColumnsBeside(0, WholeWidth(page), kColumnsAcross)),
+          bottom(kHeadLines + cbr.MSHPenetrate1.Rows())
     {}
 
     /// The columns of a grid count from 0, those of the page from 1.
@@ -80,6 +79,7 @@ void PrintTableHeads(const CbrTable& of)
         {"Reading", "P", "P/A"},
         {"(div)", "(lb)", "(lb/in^2)"},
     }};
+    const Bold bold(of.page);
     PrintMouldHeads(of);
     double line = 1.5;  // two lines in the height of three
     for (const auto head : kDepthHeads) {
@@ -131,16 +131,14 @@ void PrintValuesOf(const CbrTable& of, double x, int mould)
 
 void PrintConditionOf(const CbrTable& of, double x, std::string_view caption, int mould)
 {
-    of.page.FontBold = true;
-    PrintLineFrom(of.page, x, caption);
-    of.page.FontBold = false;
+    PrintCaption(of.page, x, of.page.CurrentY, caption);
     PrintValuesOf(of, x, mould);
 }
 
 /// Between the two curves.
 void PrintSummary(const CbrTable& of)
 {
-    of.page.FontSize = kSummarySize;
+    const TextSize size(of.page, kSummarySize);
     const bool isBoth = of.cbr.optBoth.Value();
     const double x = kLeft + of.cbr.picGraph.Width + kSummaryGap;
     of.page.CurrentY = of.y(of.bottom) + kSummaryBelow + LineHeight(of.page) * (isBoth ? 2 : 4);
@@ -150,19 +148,15 @@ void PrintSummary(const CbrTable& of)
     } else {
         PrintValuesOf(of, x, 1);
     }
-    of.page.FontSize = kBodySize;
 }
 
 }  // namespace
 
-void DrawCbrPage2(Program& program, DrawingSurface& page, Medium medium)
+void DrawCbrPage2(const Printing& printing)
 {
-    DrawFurniture(program, page, medium, "Page 2");
-    const CbrTable of(program.Get<frmCBR>("frmCBR"), page);
+    const CbrTable of(printing);
     DrawTableRules(of);
-    page.FontBold = true;
     PrintTableHeads(of);
-    page.FontBold = false;
     PrintReadings(of);
     CopyCurves(of);
     PrintSummary(of);

@@ -3,9 +3,7 @@
 #include <array>
 #include <string>
 
-#include "reports/open_sheet.h"
 #include "reports/report_table.h"
-#include "reports/signature_block.h"
 
 namespace terravane {
 
@@ -52,8 +50,8 @@ constexpr std::string_view kColon = ": ";
 struct CompactionPage : ReportPage {
     PageColumns samples;
 
-    CompactionPage(const TestSheet& open, DrawingSurface& surface)
-        : ReportPage(open, surface), samples(ColumnsBeside(kSampleLabelWidth, WholeWidth(surface), kSamples))
+    explicit CompactionPage(const Printing& printing)
+        : ReportPage(printing), samples(ColumnsBeside(kSampleLabelWidth, WholeWidth(page), kSamples))
     {}
 
     /// The split between the first two fields of a mould row.
@@ -65,7 +63,7 @@ struct CompactionPage : ReportPage {
 void DrawMoldBox(const CompactionPage& of)
 {
     const RuledBox box(of.page, of.y, {kLeft, of.samples.Left(4)}, 0, 2);
-    for (const double x : {of.ThirdField(), of.Middle()}) of.page.Line(x, of.y(0), x, of.y(2));
+    for (const double x : {of.ThirdField(), of.Middle()}) box.Vertical(x);
     box.Thin();
     box.Rows(1);
 }
@@ -126,16 +124,16 @@ void PrintResults(const CompactionPage& of)
 
 }  // namespace
 
-void DrawCompaction(Program& program, DrawingSurface& page, Medium medium)
+void DrawCompaction(const Printing& printing)
 {
-    const CompactionPage of(OpenSheet(program), page);
+    const CompactionPage of(printing);
     DrawMoldBox(of);
     PrintMoldRows(of);
     DrawResultsBox(of);
     PrintResults(of);
-    for (const ReportTable& table : kTables) DrawTable(of, {WholeWidth(page), of.samples}, table);
-    CopyPlot(page, of.sheet.Get<PictureBox>("picgraph1"), of.sheet.Get<PictureBox>("picGraph"), kLeft, of.y(kPlotLine));
-    DrawSignatures(program, page, medium);
+    for (const ReportTable& table : kTables) DrawTable(of, {WholeWidth(of.page), of.samples}, table);
+    CopyPlot(of.page, of.sheet.Get<PictureBox>("picgraph1"), of.sheet.Get<PictureBox>("picGraph"), kLeft,
+             of.y(kPlotLine));
 }
 
 }  // namespace terravane

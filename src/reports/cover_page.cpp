@@ -1,8 +1,7 @@
 #include "reports/cover_page.h"
 
+#include "drawing/scopes.h"
 #include "reports/brand.h"
-#include "reports/open_sheet.h"
-#include "reports/report.h"
 #include "reports/report_page.h"
 #include "runtime/text.h"
 #include "store/brand_pictures.h"
@@ -18,64 +17,67 @@ constexpr double kTitleSize = 28;  // points
 constexpr double kTextSize = 22;
 constexpr int kGap = 4;  // blank lines between the cover's parts
 
-void PaintLogo(Program& program, Printer& printer)
+void PaintLogo(const Printing& of)
 {
-    const auto logo = LoadBrandPicture(program, "Image6", kCoverLogo);
+    const auto logo = LoadBrandPicture(of.sheet.program, "Image6", kCoverLogo);
     const double scale = kLogoWidth / logo->width;
-    printer.PaintPicture(logo, printer.Width / 2 - kLogoWidth / 2, kLogoTop, kLogoWidth, logo->height * scale);
+    of.page.PaintPicture(logo, of.page.Width / 2 - kLogoWidth / 2, kLogoTop, kLogoWidth, logo->height * scale);
 }
 
 /// Centred on the sheet, ending the line.
-void PrintLine(Printer& printer, std::string_view text)
+void PrintLine(DrawingSurface& page, std::string_view text)
 {
-    PrintCentred(printer, 0, printer.Width, text);
-    printer.Print();
+    PrintCentred(page, 0, page.Width, text);
+    page.Print();
 }
 
-void PrintBlankLines(Printer& printer, int count)
+void PrintBoldLine(DrawingSurface& page, std::string_view text)
 {
-    for (int line = 0; line < count; ++line) printer.Print();
+    const Bold bold(page);
+    PrintLine(page, text);
 }
 
-void PrintBoldLine(Printer& printer, std::string_view text)
+void PrintBlankLines(DrawingSurface& page, int count)
 {
-    printer.FontBold = true;
-    PrintLine(printer, text);
-    printer.FontBold = false;
+    for (int line = 0; line < count; ++line) page.Print();
 }
 
-void PrintJob(Printer& printer, const TestSheet& sheet)
+void PrintTitle(const Printing& of)
 {
-    PrintBlankLines(printer, 1);
-    PrintLine(printer, sheet.txtProject.Text());
-    PrintLine(printer, sheet.txtLocation.Text());
-    PrintBlankLines(printer, kGap);
-    PrintBoldLine(printer, "เสนอ");
-    PrintLine(printer, sheet.txtClient.Text());
-    PrintBlankLines(printer, kGap);
+    const TextSize size(of.page, kTitleSize);
+    of.page.CurrentY = kTitleTop;
+    PrintBoldLine(of.page, of.report.titles.cover);
 }
 
-void PrintOrganisation(Program& program, Printer& printer)
+void PrintJob(DrawingSurface& page, const TestSheet& sheet)
 {
-    PrintBoldLine(printer, "โดย");
-    const jet::Recordset logo = OpenLogoRow(program);
+    PrintBlankLines(page, 1);
+    PrintLine(page, sheet.txtProject.Text());
+    PrintLine(page, sheet.txtLocation.Text());
+    PrintBlankLines(page, kGap);
+    PrintBoldLine(page, "เสนอ");
+    PrintLine(page, sheet.txtClient.Text());
+    PrintBlankLines(page, kGap);
+}
+
+void PrintOrganisation(const Printing& of)
+{
+    PrintBoldLine(of.page, "โดย");
+    const jet::Recordset logo = OpenLogoRow(of.sheet.program);
     for (const std::string_view column : {"logo_cov1", "logo_cov2", "logo_cov3"})
-        PrintLine(printer, Trim(logo.Fields(std::string(column))));
+        PrintLine(of.page, Trim(logo.Fields(std::string(column))));
 }
 
 }  // namespace
 
-void PrintCoverPage(Program& program, Printer& printer)
+void DrawCoverPage(const Printing& of)
 {
-    const TestSheet& sheet = OpenSheet(program);
-    PaintLogo(program, printer);
-    printer.FontName = kReportFont;
-    printer.FontSize = kTitleSize;
-    printer.CurrentY = kTitleTop;
-    PrintBoldLine(printer, ReportOf(program.CurrentTest).titles.cover);
-    printer.FontSize = kTextSize;
-    PrintJob(printer, sheet);
-    PrintOrganisation(program, printer);
+    SetReportFont(of.page);
+    PaintLogo(of);
+    PrintTitle(of);
+    const TextSize size(of.page, kTextSize);
+    PrintJob(of.page, of.sheet);
+    PrintOrganisation(of);
 }
 
 }  // namespace terravane

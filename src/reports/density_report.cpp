@@ -3,7 +3,6 @@
 #include <array>
 
 #include "reports/report_table.h"
-#include "reports/signature_block.h"
 #include "sheets/density/frmDensity.h"
 
 namespace terravane {
@@ -104,19 +103,18 @@ constexpr std::array kBlocks{
 
 }  // namespace
 
-void DrawFieldDensity(Program& program, DrawingSurface& page, Medium medium)
+void DrawFieldDensity(const Printing& printing)
 {
-    const auto& sheet = program.Get<frmDensity>("frmDensity");
-    const ReportPage of(sheet, page);
+    const auto& sheet = printing.SheetAs<frmDensity>();
+    const ReportPage of(printing);
     for (const auto& [edgesOf, table] : kBlocks) {
-        const Edges edges = edgesOf(page);
+        const Edges edges = edgesOf(of.page);
         const TablePlace place{edges, ColumnsBeside(kLabelWidth, edges, table.columns)};
         DrawRules(of, place, table);
-        PrintCaption(page, edges.left, of.y(table.captionLine),
+        PrintCaption(of.page, edges.left, of.y(table.captionLine),
                      table.caption.empty() ? sheet.fraSummary.Caption() : table.caption);
         PrintTable(of, place, table);
     }
-    DrawSignatures(program, page, medium);
 }
 
 }  // namespace terravane

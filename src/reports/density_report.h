@@ -2,12 +2,11 @@
 /// compaction, signatures. Values are printed as they stand on the sheet; nothing is computed.
 #pragma once
 
-#include "program/program.h"
-#include "reports/medium.h"
+#include "reports/report.h"
 
 namespace terravane {
 
 /// The page's body, below frame and head block.
-void DrawFieldDensity(Program& program, DrawingSurface& page, Medium medium);
+void DrawFieldDensity(const Printing& printing);
 
 }  // namespace terravane

@@ -1,6 +1,6 @@
 #include "reports/frmPreview.h"
 
-#include "reports/open_sheet.h"
+#include "reports/all_reports.h"
 #include "reports/page_frame.h"
 #include "reports/print_report.h"
 #include "runtime/numbers.h"
@@ -22,9 +22,8 @@ void frmPreview::Form_Load()
 {
     picPreview.SetVisible(false);
     SetScrollMaxima(program.printer.Width, program.printer.Height);
-    const Report& report = ReportOf(program.CurrentTest);
-    cmdNext.SetVisible(report.drawSecondPage != nullptr);
-    ShowFirstPage(report);
+    cmdNext.SetVisible(ReportOf(program.CurrentTest).second.has_value());
+    ShowFirstPage();
     ShowPageAtFullSize();
     cboScale.SetText("100%");
     TellViews();
@@ -38,18 +37,21 @@ void frmPreview::Form_Unload()
         sheet->RestoreCommandColours();
 }
 
-void frmPreview::ShowFirstPage(const Report& report)
+void frmPreview::ShowFirstPage()
 {
     BeginPage(false);
-    DrawPageFrame(program, picView, Medium::Preview);
+    const Printing first = PrintingOf(program, picView, Medium::Preview);
+    DrawPageFrame(first);
     SetScrollMaxima(program.printer.Width, program.printer.Height);
-    report.drawBody(program, picView, Medium::Preview);
+    DrawPageBody(first);
 }
 
-void frmPreview::ShowSecondPage(const Report& report)
+void frmPreview::ShowSecondPage()
 {
-    BeginPage(report.isSecondOnItsSide);
-    report.drawSecondPage(program, picView, Medium::Preview);
+    BeginPage(ReportOf(program.CurrentTest).second.value().isOnItsSide);
+    const Printing second = PrintingOf(program, picView, Medium::Preview, kSecondPage);
+    DrawPageFrame(second);
+    DrawPageBody(second);
     SetScrollMaxima(picView.Width, picView.Height);
 }
 
@@ -163,13 +165,12 @@ void frmPreview::ResizeViewport(double width, double height)
 
 void frmPreview::cmdNext_Click()
 {
-    const Report& report = ReportOf(program.CurrentTest);
     const bool isSecond = cmdNext.Caption() == kBack;
     if (isSecond) {
         cmdNext.SetCaption(std::string(kNext));
-        ShowFirstPage(report);
+        ShowFirstPage();
     } else {
-        ShowSecondPage(report);
+        ShowSecondPage();
     }
     VScroll1.SetValue(0);
     HScroll1.SetValue(0);

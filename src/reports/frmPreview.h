@@ -7,7 +7,6 @@
 #include "controls/picture_box.h"
 #include "controls/text_controls.h"
 #include "program/program.h"
-#include "reports/report.h"
 
 namespace terravane {
 
@@ -58,8 +57,8 @@ struct frmPreview : Form {
     void ResizeViewport(double width, double height);
 
   private:
-    void ShowFirstPage(const Report& report);
-    void ShowSecondPage(const Report& report);
+    void ShowFirstPage();
+    void ShowSecondPage();
     void ShowPageAtFullSize();
     void BeginPage(bool onItsSide);
     void BringCopyToFront();

@@ -3,7 +3,7 @@
 #include <array>
 #include <string_view>
 
-#include "reports/report.h"
+#include "drawing/scopes.h"
 #include "reports/report_page.h"
 
 namespace terravane {
@@ -42,31 +42,29 @@ HeadColumn RightColumn(const DrawingSurface& page)
     return {label, label + page.TextWidth("Date of Test : ")};
 }
 
-void PrintField(const TestSheet& sheet, DrawingSurface& page, const ReportField& field, const HeadColumn& column)
+void PrintField(const Printing& of, const ReportField& field, const HeadColumn& column)
 {
     if (field.label.empty()) return;
-    PrintFrom(page, column.label, field.label);
-    PrintFrom(page, column.value, kColon);
-    page.PrintOn(TextOf(sheet, field.control));
+    PrintFrom(of.page, column.label, field.label);
+    PrintFrom(of.page, column.value, kColon);
+    of.page.PrintOn(TextOf(of.sheet, field.control));
 }
 
-void PrintRow(const TestSheet& sheet, DrawingSurface& page, const HeadRow& row)
+void PrintRow(const Printing& of, const HeadRow& row)
 {
-    PrintField(sheet, page, row.left, LeftColumn(page));
-    PrintField(sheet, page, row.right, RightColumn(page));
-    page.Print();
+    PrintField(of, row.left, LeftColumn(of.page));
+    PrintField(of, row.right, RightColumn(of.page));
+    of.page.Print();
 }
 
 }  // namespace
 
-void DrawHeadBlock(const TestSheet& sheet, DrawingSurface& page, Medium medium)
+void DrawHeadBlock(const Printing& of)
 {
-    const Report& report = ReportOf(sheet.program.CurrentTest);
-    page.FontSize = kHeadSize;
-    page.FontBold = false;
-    page.CurrentY = page.TextWidth("D") * report.headFactor.On(medium) + kBelowFactor;
-    for (const HeadRow& row : kHeadRows) PrintRow(sheet, page, row);
-    if (report.hasPosition) PrintRow(sheet, page, kPositionRow);
+    const TextSize size(of.page, kHeadSize);
+    of.page.CurrentY = of.page.TextWidth("D") * of.report.headFactor.On(of.medium) + kBelowFactor;
+    for (const HeadRow& row : kHeadRows) PrintRow(of, row);
+    if (of.report.hasPosition) PrintRow(of, kPositionRow);
 }
 
 }  // namespace terravane

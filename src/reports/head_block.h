@@ -1,13 +1,12 @@
 /// The job's particulars below a page's title: client, project, location; report number, date, sample.
 #pragma once
 
-#include "reports/medium.h"
-#include "sheets/pattern/test_sheet.h"
+#include "reports/report.h"
 
 namespace terravane {
 
 /// Draws the sheet's block, one text height a row. Nothing is clipped: a long name runs into what stands at
 /// its right.
-void DrawHeadBlock(const TestSheet& sheet, DrawingSurface& page, Medium medium);
+void DrawHeadBlock(const Printing& of);
 
 }  // namespace terravane

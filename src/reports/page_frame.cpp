@@ -1,10 +1,11 @@
 #include "reports/page_frame.h"
 
+#include <string>
+
+#include "drawing/scopes.h"
 #include "program/version.h"
 #include "reports/brand.h"
 #include "reports/head_block.h"
-#include "reports/open_sheet.h"
-#include "reports/report.h"
 #include "reports/report_page.h"
 #include "runtime/text.h"
 #include "store/brand_pictures.h"
@@ -39,35 +40,30 @@ constexpr PerMedium<FrameDifferences> kDifferences{
     {kBanner, 1240, 1235},
 };
 
-/// A compaction page is titled by the sheet's banner, whatever the current test says.
-Test TitledTest(const Program& program)
+void DrawFooter(const Printing& of)
 {
-    if (!IsCompaction(program.CurrentTest)) return program.CurrentTest;
-    const bool isStandard = OpenSheet(program).txtLabName.Text().find("Standard") != std::string::npos;
-    return isStandard ? Test::StdSoil : Test::ModSoil;
+    const TextSize size(of.page, kFooterSize);
+    const std::string number = "Page " + std::to_string(of.number);
+    of.page.CurrentY = of.page.ScaleHeight - kFooterHeight;
+    PrintFrom(of.page, kLeft, of.sheet.stbDes.Panel(1));
+    PrintLineFrom(of.page, RightEdge(of.page) - of.page.TextWidth(number), number);
 }
 
-const ReportTitles& TitlesOf(const Program& program)
+/// Eight letter widths of the footer down, a width and not a height.
+double BannerTop(DrawingSurface& page)
 {
-    return ReportOf(TitledTest(program)).titles;
+    const TextSize size(page, kFooterSize);
+    return page.TextWidth("n") * 8;
 }
 
-void DrawFooter(const Program& program, DrawingSurface& page, std::string_view pageText)
+/// Ends the line, below which the title box begins.
+void DrawBanner(const Printing& of)
 {
-    page.CurrentY = page.ScaleHeight - kFooterHeight;
-    PrintFrom(page, kLeft, OpenSheet(program).stbDes.Panel(1));
-    PrintLineFrom(page, RightEdge(page) - page.TextWidth(pageText), pageText);
-}
-
-/// The banner's top is eight letter widths down, a width and not a height.
-void DrawBanner(DrawingSurface& page, Medium medium)
-{
-    page.CurrentY = page.TextWidth("n") * 8;
-    page.FontSize = kBannerSize;
-    page.FontItalic = true;
-    const double measured = page.TextWidth(kDifferences.On(medium).bannerMeasured);
-    PrintLineFrom(page, (page.ScaleWidth - measured) / 2, kBanner);
-    page.FontItalic = false;
+    of.page.CurrentY = BannerTop(of.page);
+    const TextSize size(of.page, kBannerSize);
+    const Italic italic(of.page);
+    const double measured = of.page.TextWidth(kDifferences.On(of.medium).bannerMeasured);
+    PrintLineFrom(of.page, (of.page.ScaleWidth - measured) / 2, kBanner);
 }
 
 /// Top and bottom of the title box.
@@ -75,84 +71,84 @@ struct TitleBox {
     double top, bottom;
 };
 
+/// Its heights are lines of the banner above it.
 TitleBox DrawTitleBox(DrawingSurface& page)
 {
+    const TextSize size(page, kBannerSize);
     const double line = LineHeight(page);
     const double right = RightEdge(page);
     const TitleBox box{page.CurrentY, page.CurrentY + line * kBoxLines};
     const double cell = kLeft + line * kLogoCellLines;
     const double rule = box.top + line * kNameLines;
-    page.DrawWidth = kTitleBoxRule;
     page.FilledBox(kLeft, box.top, right, box.bottom, kWhite);
-    page.Box(kLeft, box.top, right, box.bottom);
-    page.DrawWidth = kTitleRule;
+    {
+        const Stroke stroke(page, kTitleBoxRule);
+        page.Box(kLeft, box.top, right, box.bottom);
+    }
+    const Stroke stroke(page, kTitleRule);
     page.Line(cell, rule, right - line * kLogoCellLines, rule);
     page.Line(cell, box.top, cell, box.bottom);
     return box;
 }
 
 /// The names centre on the sheet, the titles on the printable width.
-void PrintNames(Program& program, DrawingSurface& page)
+void PrintNames(const Printing& of)
 {
-    const jet::Recordset logo = OpenLogoRow(program);
+    const jet::Recordset logo = OpenLogoRow(of.sheet.program);
     const auto print = [&](const std::string& column, double lines) {
-        page.CurrentY = LineHeight(page) * lines;
-        PrintCentred(page, 0, page.Width, Trim(logo.Fields(column)));
+        of.page.CurrentY = LineHeight(of.page) * lines;
+        PrintCentred(of.page, 0, of.page.Width, Trim(logo.Fields(column)));
     };
     print("logo_dep", 3);
     print("logo_ins", 3.8);
 }
 
-void PrintTitles(const Program& program, DrawingSurface& page, Medium medium)
+void PrintTitles(const Printing& of)
 {
-    const ReportTitles& titles = TitlesOf(program);
-    const double measured = page.TextWidth(titles.thai.On(titles.crossed ? TheOther(medium) : medium));
-    page.CurrentY = LineHeight(page) * 4.9;
-    PrintFrom(page, (page.ScaleWidth - measured) / 2, titles.thai.On(medium));
-    page.CurrentY = LineHeight(page) * 5.7;
-    PrintCentred(page, 0, page.ScaleWidth, titles.english);
+    const ReportTitles& titles = of.titles;
+    const double measured = of.page.TextWidth(titles.thai.On(titles.crossed ? TheOther(of.medium) : of.medium));
+    of.page.CurrentY = LineHeight(of.page) * 4.9;
+    PrintFrom(of.page, (of.page.ScaleWidth - measured) / 2, titles.thai.On(of.medium));
+    of.page.CurrentY = LineHeight(of.page) * 5.7;
+    PrintCentred(of.page, 0, of.page.ScaleWidth, titles.english);
 }
 
-void DrawLogos(Program& program, DrawingSurface& page, const TitleBox& box, Medium medium)
+void DrawLogos(const Printing& of, const TitleBox& box)
 {
     constexpr double kDepartmentSide = 1250, kInstituteSide = 1200, kInstituteLeft = 640;
-    const double cell = LineHeight(page) * kLogoCellLines;
-    const double rule = page.ScaleWidth - 630 - cell;
-    page.Line(rule, box.top, rule, box.bottom);
-    page.PaintPicture(LoadBrandPicture(program, "Image2", kDepartmentLogo), page.ScaleWidth - 530 - cell,
-                      kDifferences.On(medium).departmentLogoTop, kDepartmentSide, kDepartmentSide);
-    page.PaintPicture(LoadBrandPicture(program, "Image1", kInstituteLogo), kInstituteLeft,
-                      kDifferences.On(medium).instituteLogoTop, kInstituteSide, kInstituteSide);
+    Program& program = of.sheet.program;
+    const FrameDifferences& tops = kDifferences.On(of.medium);
+    const Stroke stroke(of.page, kTitleRule);
+    const double cell = LineHeight(of.page) * kLogoCellLines;
+    const double rule = of.page.ScaleWidth - 630 - cell;
+    of.page.Line(rule, box.top, rule, box.bottom);
+    of.page.PaintPicture(LoadBrandPicture(program, "Image2", kDepartmentLogo), of.page.ScaleWidth - 530 - cell,
+                         tops.departmentLogoTop, kDepartmentSide, kDepartmentSide);
+    of.page.PaintPicture(LoadBrandPicture(program, "Image1", kInstituteLogo), kInstituteLeft, tops.instituteLogoTop,
+                         kInstituteSide, kInstituteSide);
+}
+
+/// Footer, banner, title box.
+void DrawFurniture(const Printing& of)
+{
+    SetReportFont(of.page);
+    DrawFooter(of);
+    DrawBanner(of);
+    const TitleBox box = DrawTitleBox(of.page);
+    const Bold bold(of.page);
+    const TextSize size(of.page, kTitleSize);
+    PrintNames(of);
+    PrintTitles(of);
+    DrawLogos(of, box);
 }
 
 }  // namespace
 
-void DrawPageFrame(Program& program, DrawingSurface& page, Medium medium)
+void DrawPageFrame(const Printing& of)
 {
-    DrawFurniture(program, page, medium, "Page 1");
-    DrawHeadBlock(OpenSheet(program), page, medium);
-}
-
-void DrawFurniture(Program& program, DrawingSurface& page, Medium medium, std::string_view pageText)
-{
-    page.FontName = kReportFont;
-    page.FontBold = false;
-    page.FontSize = kFooterSize;
-    DrawFooter(program, page, pageText);
-    DrawBanner(page, medium);
-    const TitleBox box = DrawTitleBox(page);
-    page.FontBold = true;
-    page.FontTransparent = true;
-    page.FontSize = kTitleSize;
-    PrintNames(program, page);
-    PrintTitles(program, page, medium);
-    DrawLogos(program, page, box, medium);
-    page.FontBold = false;
-}
-
-std::string_view EnglishTitle(const Program& program)
-{
-    return TitlesOf(program).english;
+    if (of.Kind().isOnItsSide) return;
+    DrawFurniture(of);
+    if (of.number == kFirstPage) DrawHeadBlock(of);
 }
 
 }  // namespace terravane

@@ -1,23 +1,13 @@
-/// The furniture that every report page begins with: footer, banner, boxed title with logos and names, head
-/// block.
+/// The frame that every upright report page begins with: the furniture, which is footer, banner and boxed title with
+/// logos and names, and the head block.
 #pragma once
 
-#include <string_view>
-
-#include "program/program.h"
-#include "reports/medium.h"
+#include "reports/report.h"
 
 namespace terravane {
 
-/// Furniture and head block of the first page of the current test's report. Errors: what the brand store and its
-/// pictures raise; the page is left half drawn.
-void DrawPageFrame(Program& program, DrawingSurface& page, Medium medium);
-
-/// The furniture alone, for pages without a head block. `pageText` stands at the right of the footer: "Page
-/// 2".
-void DrawFurniture(Program& program, DrawingSurface& page, Medium medium, std::string_view pageText);
-
-/// The English title of the current test's report.
-std::string_view EnglishTitle(const Program& program);
+/// Furniture and, on the first page, the head block; nothing on a page on its side. Errors: what the brand store and
+/// its pictures raise; the page is left half drawn.
+void DrawPageFrame(const Printing& of);
 
 }  // namespace terravane

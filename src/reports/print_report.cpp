@@ -1,27 +1,43 @@
 #include "reports/print_report.h"
 
+#include "reports/all_reports.h"
 #include "reports/cover_page.h"
-#include "reports/open_sheet.h"
 #include "reports/page_frame.h"
-#include "reports/report.h"
+#include "reports/signature_block.h"
 #include "runtime/text.h"
 
 namespace terravane {
 
-void PrintReport(Program& program, Printer& printer)
+namespace {
+
+void DrawPage(const Printing& of)
 {
-    const Report& report = ReportOf(program.CurrentTest);
-    PrintCoverPage(program, printer);
-    printer.NewPage();
-    DrawPageFrame(program, printer, Medium::Printer);
-    report.drawBody(program, printer, Medium::Printer);
-    if (report.drawSecondPage == nullptr) return;
-    printer.NewPage();
-    if (report.isSecondOnItsSide) printer.SetOrientation(Orientation::Landscape);
-    report.drawSecondPage(program, printer, Medium::Printer);
+    DrawPageFrame(of);
+    DrawPageBody(of);
 }
 
-std::vector<DisplayList> PagesOfReport(Program& program)
+}  // namespace
+
+void DrawPageBody(const Printing& of)
+{
+    of.Kind().drawBody(of);
+    if (of.number == kFirstPage) DrawSignatures(of);
+}
+
+void PrintReport(const Program& program, Printer& printer)
+{
+    const auto page = [&](int number) { return PrintingOf(program, printer, Medium::Printer, number); };
+    const auto& second = ReportOf(program.CurrentTest).second;
+    DrawCoverPage(page(kCover));
+    printer.NewPage();
+    DrawPage(page(kFirstPage));
+    if (!second) return;
+    printer.NewPage();
+    if (second->isOnItsSide) printer.SetOrientation(Orientation::Landscape);
+    DrawPage(page(kSecondPage));
+}
+
+std::vector<DisplayList> PagesOfReport(const Program& program)
 {
     Printer copy = program.printer;
     copy.KillDoc();
@@ -31,7 +47,7 @@ std::vector<DisplayList> PagesOfReport(Program& program)
 
 std::string JobTitle(const Program& program)
 {
-    const std::string title(EnglishTitle(program));
+    const std::string title(TitlesOf(program).english);
     const std::string number(Trim(OpenSheet(program).txtID.Text()));
     return number.empty() ? title : title + " " + number;
 }

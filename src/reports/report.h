@@ -1,13 +1,17 @@
-/// What the parts that all reports share must know about each, as one row a test: cover, frame, head block, signatures,
-/// preview and print walk this one table.
+/// What a report is: what the parts that all reports share must know about each, and one of its pages on its way to a
+/// surface. Knows no report; the table of them is in all_reports.
 #pragma once
 
+#include <optional>
 #include <string_view>
 
 #include "program/program.h"
 #include "reports/medium.h"
+#include "sheets/pattern/test_sheet.h"
 
 namespace terravane {
+
+struct Printing;
 
 /// What a page and the cover are headed with.
 /// cover    in Thai
@@ -28,27 +32,51 @@ struct SignaturePlace {
     bool fixedPreview = false;
 };
 
-using DrawPage = void (*)(Program& program, DrawingSurface& page, Medium medium);
+/// One page of a report.
+/// drawBody     what stands on it but for its frame and the signatures
+/// isOnItsSide  where no frame stands: the body prints the footer itself
+struct PageOfReport {
+    void (*drawBody)(const Printing& printing);
+    bool isOnItsSide = false;
+};
 
-/// sheet              the form that serves the test
-/// headFactor         height of the head block's first row, as a multiple of the width of "D"
-/// hasPosition        whether the head block tells the position, too
-/// drawBody           the first page, below frame and head block
-/// drawSecondPage     with its own frame, if any; null where the report has one page
-/// isSecondOnItsSide  whether that page is laid on its side
+/// sheet        the form that serves the test
+/// headFactor   height of the head block's first row, as a multiple of the width of "D"
+/// hasPosition  whether the head block tells the position, too
+/// first        with head block and signatures
+/// second       without them, if any
 struct Report {
     Test test;
     std::string_view sheet;
     ReportTitles titles;
     PerMedium<double> headFactor;
     SignaturePlace signatures;
-    DrawPage drawBody;
-    DrawPage drawSecondPage = nullptr;
-    bool isSecondOnItsSide = false;
+    PageOfReport first;
+    std::optional<PageOfReport> second = std::nullopt;
     bool hasPosition = false;
 };
 
-/// Error 5 for a test without a report.
-const Report& ReportOf(Test test);
+inline constexpr int kCover = 0, kFirstPage = 1, kSecondPage = 2;
+
+/// One page being drawn: all that its routines may ask.
+/// titles  of its frame: a compaction page bears the title of the sheet's banner, whatever the report's cover says
+/// number  of the page; kCover is the cover
+struct Printing {
+    const Report& report;
+    const ReportTitles& titles;
+    const TestSheet& sheet;
+    DrawingSurface& page;
+    Medium medium;
+    int number;
+
+    /// The sheet as the form that it is; error 424 where another stands under that name.
+    template <class Sheet>
+    const Sheet& SheetAs() const
+    {
+        return sheet.program.Get<Sheet>(report.sheet);
+    }
+
+    const PageOfReport& Kind() const { return number == kSecondPage ? report.second.value() : report.first; }
+};
 
 }  // namespace terravane

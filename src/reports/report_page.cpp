@@ -1,5 +1,6 @@
 #include "reports/report_page.h"
 
+#include "drawing/scopes.h"
 #include "sheets/pattern/plot.h"
 
 namespace terravane {
@@ -68,9 +69,16 @@ double ColonLeft(const DrawingSurface& page, double place, std::string_view colo
     return place + width > valueLeft ? valueLeft - page.TextWidth(" ") - width : place;
 }
 
+void SetReportFont(DrawingSurface& page)
+{
+    page.FontName = kReportFont;
+    page.FontBold = false;
+    page.FontItalic = false;
+}
+
 void PrintCaption(DrawingSurface& page, double x, double y, std::string_view text)
 {
-    page.FontBold = true;
+    const Bold bold(page);
     page.CurrentY = y;
     PrintLineFrom(page, x, text);
 }

@@ -1,4 +1,4 @@
-/// The measures that all report pages share, and a sheet on its way to a page. Lengths are twips.
+/// The measures that all report pages share, and the body of a page. Lengths are twips.
 #pragma once
 
 #include <string>
@@ -6,7 +6,7 @@
 
 #include "controls/picture_box.h"
 #include "drawing/placed_text.h"
-#include "sheets/pattern/test_sheet.h"
+#include "reports/report.h"
 
 namespace terravane {
 
@@ -65,14 +65,12 @@ struct ReportField {
 /// What a text control of the sheet shows, as it stands.
 std::string TextOf(const TestSheet& sheet, std::string_view control);
 
-/// The body of a page being drawn: the sheet that it is about, and its rows.
-struct ReportPage {
-    const TestSheet& sheet;
-    DrawingSurface& page;
+/// The body of a page being drawn, and its rows. The body's size is in force afterwards.
+struct ReportPage : Printing {
     PageLines y;
 
-    ReportPage(const TestSheet& open, DrawingSurface& surface, double top = kBodyTop)
-        : sheet(open), page(surface), y(BodyLines(surface, top))
+    explicit ReportPage(const Printing& printing, double top = kBodyTop)
+        : Printing(printing), y(BodyLines(printing.page, top))
     {}
 
     double Right() const { return RightEdge(page); }
@@ -87,7 +85,10 @@ double UnitLeft(const DrawingSurface& page, double place);
 /// where that reaches back over the colon. colon  with the blanks it is printed with; those behind it count for nothing
 double ColonLeft(const DrawingSurface& page, double place, std::string_view colon, double valueLeft);
 
-/// A caption at (x, y), bold, ending the line; bold stays on.
+/// What a page begins with: the reports' font, neither bold nor italic.
+void SetReportFont(DrawingSurface& page);
+
+/// A caption at (x, y), bold, ending the line.
 void PrintCaption(DrawingSurface& page, double x, double y, std::string_view text);
 
 /// A sheet's plot, copied as it stands and not drawn anew: both boxes in their own sizes, the frame with its upper left

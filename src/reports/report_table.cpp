@@ -26,10 +26,10 @@ void DrawInnerRules(const RuledBox& box, const PageColumns& columns, const Repor
 
 void PrintHeadLine(const ReportPage& of, const TablePlace& place, const ReportTable& table)
 {
+    const Bold bold(of.page);  // for the measure, too
     const double left = place.edges.left, labels = place.columns.left - left;
     const double inset =
         table.headCentredAs.empty() ? kLabelInset : (labels - of.page.TextWidth(table.headCentredAs)) / 2;
-    of.page.FontBold = true;
     PrintFrom(of.page, left + inset, of.y(table.Top()), table.head);
     for (int column = 1; column <= table.columns; ++column)
         PrintCentred(of.page, place.columns.Left(column), place.columns.width, std::to_string(column));
@@ -67,7 +67,6 @@ void PrintTable(const ReportPage& of, const TablePlace& place, const ReportTable
     const int lastRow = table.firstRow + table.Rows() - 1;
     const bool isAveraged = table.lastRow != LastRow::Cells;
     if (!table.head.empty()) PrintHeadLine(of, place, table);
-    of.page.FontBold = false;
     of.page.CurrentY = of.y(table.FirstRow());
     for (const std::string_view label : table.labels) PrintLineFrom(of.page, place.edges.left + kLabelInset, label);
     PrintCells(of.page, of.y, place.columns, table.FirstRow(), grid,
@@ -76,9 +75,8 @@ void PrintTable(const ReportPage& of, const TablePlace& place, const ReportTable
 }
 
 RuledBox::RuledBox(DrawingSurface& page, const PageLines& y, const Edges& edges, double top, double bottom)
-    : page_(page), y_(y), edges_(edges), top_(top), bottom_(bottom)
+    : page_(page), stroke_(page, kThickRule), y_(y), edges_(edges), top_(top), bottom_(bottom)
 {
-    Thick();
     page.Box(edges.left, y(top), edges.right, y(bottom));
 }
 
@@ -89,8 +87,12 @@ void RuledBox::Rows(const Edges& edges, double first, int count) const
 
 void RuledBox::Verticals(const PageColumns& columns, int first, int last, double top, double bottom) const
 {
-    for (int column = first; column <= last; ++column)
-        page_.Line(columns.Left(column), y_(top), columns.Left(column), y_(bottom));
+    for (int column = first; column <= last; ++column) Vertical(columns.Left(column), top, bottom);
+}
+
+void RuledBox::Vertical(double x, double top, double bottom) const
+{
+    page_.Line(x, y_(top), x, y_(bottom));
 }
 
 void PrintHeads(DrawingSurface& page, const PageColumns& columns, std::span<const std::string_view> heads)

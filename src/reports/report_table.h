@@ -7,6 +7,7 @@
 
 #include "controls/cell_editor.h"
 #include "controls/text_grid.h"
+#include "drawing/scopes.h"
 #include "reports/report_page.h"
 
 namespace terravane {
@@ -57,7 +58,7 @@ struct TablePlace {
     PageColumns columns;
 };
 
-/// Draws a table, caption first. Bold is off afterwards.
+/// Draws a table, caption first.
 void DrawTable(const ReportPage& of, const TablePlace& place, const ReportTable& table);
 
 /// Its box and rules alone.
@@ -69,7 +70,7 @@ void PrintTable(const ReportPage& of, const TablePlace& place, const ReportTable
 // What tables of other kinds are made of.
 
 /// A box and the rules in it, which reach from edge to edge unless they say more. Each rule is as thick as was said
-/// last; heights are lines of the page.
+/// last; heights are lines of the page. The pen is the page's own again when the box is done.
 class RuledBox {
   public:
     /// Draws the box, thick, and goes on so.
@@ -89,8 +90,13 @@ class RuledBox {
     }
     void Verticals(const PageColumns& columns, int first, int last, double top, double bottom) const;
 
+    /// One vertical between columns.
+    void Vertical(double x) const { Vertical(x, top_, bottom_); }
+    void Vertical(double x, double top, double bottom) const;
+
   private:
     DrawingSurface& page_;
+    Stroke stroke_;
     PageLines y_;
     Edges edges_;
     double top_, bottom_;

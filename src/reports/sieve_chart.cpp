@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "controls/choice_controls.h"
+#include "drawing/scopes.h"
 #include "laboratory/masks.h"
 #include "reports/report_page.h"
 #include "runtime/numbers.h"
@@ -82,20 +84,17 @@ constexpr double kBoundaryLine = 2;
 constexpr double kSieveLine = 1;
 
 /// Edges of the plot and how size and percent map to it, in twips of the page on its side.
-struct ChartPage {
-    const frmSieve& sheet;
-    DrawingSurface& page;
+struct ChartPage : Printing {
     double left, right, top, bottom;
     double decade;
     double tenPercent;
 
-    ChartPage(const frmSieve& open, DrawingSurface& surface)
-        : sheet(open),
-          page(surface),
-          left(surface.Width * 1.5 / 11),
-          right(surface.Width * 10 / 11),
-          top(surface.Height * 4.5 / 16),
-          bottom(surface.Height * 13 / 16),
+    explicit ChartPage(const Printing& printing)
+        : Printing(printing),
+          left(page.Width * 1.5 / 11),
+          right(page.Width * 10 / 11),
+          top(page.Height * 4.5 / 16),
+          bottom(page.Height * 13 / 16),
           decade(std::trunc(std::nearbyint(right - left) / kDecades)),
           tenPercent((bottom - top) / kTens)
     {}
@@ -120,7 +119,7 @@ struct ChartPage {
 
 void PrintFooter(const ChartPage& of)
 {
-    of.page.FontSize = kFooterSize;
+    const TextSize size(of.page, kFooterSize);
     of.page.CurrentY = of.page.Height - 1000;
     PrintFrom(of.page, 1000, of.sheet.stbDes.Panel(1));
     of.PrintUpTo(of.right, of.page.CurrentY, "Page 2 ");
@@ -131,11 +130,10 @@ void DrawSizeGrid(const ChartPage& of)
 {
     double size = 0.01;
     of.PrintOver(of.right, of.bottom + 200, "0.01");
-    of.page.DrawWidth = kGridPen;
     for (int decade = 0; decade < kDecades; ++decade) {
         for (int part = 10; part >= 1; --part) {
             const double x = of.right - decade * of.decade - DecimalLogarithm(part) * of.decade;
-            of.page.DrawWidth = part == 10 ? kHeavyPen : kGridPen;
+            const Stroke stroke(of.page, part == 10 ? kHeavyPen : kGridPen);
             of.page.Line(x, of.top, x, of.bottom);
             if (part == 10) of.PrintOver(x - 10, of.bottom + 200, Format(size *= 10, kTwoDecimals));
         }
@@ -144,6 +142,7 @@ void DrawSizeGrid(const ChartPage& of)
 
 void DrawPercentGrid(const ChartPage& of)
 {
+    const Stroke stroke(of.page, kGridPen);
     const double middle = of.page.TextHeight("1") / 2;
     for (int ten = 0; ten <= kTens; ++ten) {
         const double y = of.bottom - ten * of.tenPercent;
@@ -155,14 +154,13 @@ void DrawPercentGrid(const ChartPage& of)
 
 void DrawFrame(const ChartPage& of)
 {
-    of.page.DrawWidth = kHeavyPen;
+    const Stroke stroke(of.page, kHeavyPen);
     of.page.Box(of.left, of.top, of.right, of.bottom);
-    of.page.DrawWidth = kFinePen;
 }
 
 void DrawSieveTicks(const ChartPage& of)
 {
-    of.page.DrawStyle = kDotted;
+    const Stroke stroke(of.page, kFinePen, kDotted);
     for (const SizeLabel& label : kSieveLabels) {
         const double x = of.X(label.millimetre);
         of.page.Line(x, of.top, x, of.top + kTickLength);
@@ -173,8 +171,7 @@ void DrawSieveTicks(const ChartPage& of)
 
 void DrawBoundaries(const ChartPage& of)
 {
-    of.page.DrawWidth = kGridPen;
-    of.page.DrawStyle = kSolid;
+    const Stroke stroke(of.page, kGridPen);
     for (const double y : {of.top, of.bottom}) of.page.Line(of.left, y, of.right, y);
     for (const SizeLabel& boundary : kBoundaries) {
         const double x = of.X(boundary.millimetre);
@@ -194,6 +191,7 @@ void DrawBand(const ChartPage& of, const Band& band, double line)
 /// Over the plot, where neither grid nor curve runs through it.
 void DrawLegend(const ChartPage& of)
 {
+    const Stroke stroke(of.page, kGridPen);
     for (const Band& band : kMainBands) DrawBand(of, band, kMainBandLine);
     for (const Band& band : kSubBands) DrawBand(of, band, kSubBandLine);
 }
@@ -201,54 +199,53 @@ void DrawLegend(const ChartPage& of)
 void PrintTitles(const ChartPage& of)
 {
     const double middle = (of.left + of.right) / 2;
-    of.page.FontBold = true;
+    const Bold bold(of.page);
     of.PrintOver(middle, of.bottom + 2 * LineHeight(of.page), "Grain Size(mm)");
     of.PrintOver(middle, 700, "PATICLE SIZE DISTRIBUTION CURVE");
-    of.page.FontBold = false;
+}
+
+/// The sheet has the caption of the percents, which reads upwards, as a picture.
+void CopyPercentCaption(const ChartPage& of)
+{
     const auto& caption = of.sheet.Get<PictureBox>("Image3");
     of.page.PaintPicture(caption.Name(), caption.Image(), 700, 5600, 550, 1800);
 }
 
 /// A label without a size of its own is marked where the last one was, such as the pan below the finest sieve.
-void DrawMarks(const ChartPage& of, Medium medium)
+void DrawMarks(const ChartPage& of)
 {
     const auto& stack = of.sheet.Get<TextGrid>("MSHSieve");
     std::optional<double> x;
-    of.page.FillSolid = true;
-    of.page.FillColor = kMarkColour;
+    const Stroke stroke(of.page, kGridPen);
+    const Filled filled(of.page, kMarkColour);
     for (int row = 1; row <= kMostSieves; ++row) {
         const auto label = Trim(stack(row, sieve::Number));
         for (const Mark& mark : kMarks) {
-            if (mark.label == label && (medium == Medium::Preview || !mark.previewOnly)) x = of.X(mark.millimetre);
+            if (mark.label == label && (of.medium == Medium::Preview || !mark.previewOnly)) x = of.X(mark.millimetre);
         }
         if (x && !label.empty()) of.page.Circle(*x, of.Y(Val(stack(row, sieve::Passing))), kMarkRadius);
     }
-    of.page.FillSolid = false;
 }
 
 /// The curve that stands on the sheet: drawn from other points, it would not be the one that was looked at.
 void DrawCurve(const ChartPage& of)
 {
-    const TextGrid* points = of.sheet.ShownCurve;
+    const TextGrid* points = of.SheetAs<frmSieve>().ShownCurve;
     std::vector<DrawnPoint> curve;
     for (int row = 1; points && row < points->Rows() && points->Rows() > 2; ++row)
         curve.push_back({of.X(Val((*points)(row, 0))), of.Y(Val((*points)(row, 1)))});
-    of.page.DrawStyle = kSolid;
-    of.page.DrawWidth = kCurvePen;
+    const Stroke stroke(of.page, kCurvePen);
     of.page.Polyline(curve, kBlue);
-    of.page.DrawWidth = kFinePen;
 }
 
 }  // namespace
 
-void DrawSieveChart(Program& program, DrawingSurface& page, Medium medium)
+void DrawSieveChart(const Printing& printing)
 {
-    const ChartPage of(program.Get<frmSieve>("frmSieve"), page);
-    page.DrawStyle = kSolid;
-    page.FontBold = false;
-    page.FontName = kReportFont;
+    const ChartPage of(printing);
+    SetReportFont(of.page);
     PrintFooter(of);
-    page.FontSize = kChartSize;
+    const TextSize size(of.page, kChartSize);
     DrawSizeGrid(of);
     DrawPercentGrid(of);
     DrawFrame(of);
@@ -256,7 +253,8 @@ void DrawSieveChart(Program& program, DrawingSurface& page, Medium medium)
     DrawBoundaries(of);
     DrawLegend(of);
     PrintTitles(of);
-    DrawMarks(of, medium);
+    CopyPercentCaption(of);
+    DrawMarks(of);
     DrawCurve(of);
 }
 

@@ -5,9 +5,7 @@
 
 #include "controls/choice_controls.h"
 #include "laboratory/masks.h"
-#include "reports/open_sheet.h"
 #include "reports/report_table.h"
-#include "reports/signature_block.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
 #include "sheets/sieve/frmSieve.h"
@@ -59,11 +57,10 @@ constexpr std::array kSystems{
 
 /// The page being drawn, with the eight columns of its tables.
 struct SievePage : ReportPage {
-    Medium medium;
     PageColumns columns;
 
-    SievePage(const TestSheet& open, DrawingSurface& surface, Medium where)
-        : ReportPage(open, surface), medium(where), columns(ColumnsBeside(0, WholeWidth(surface), sieve::kColumns))
+    explicit SievePage(const Printing& printing)
+        : ReportPage(printing), columns(ColumnsBeside(0, WholeWidth(page), sieve::kColumns))
     {}
 
     /// The right end of the method box.
@@ -75,8 +72,7 @@ struct SievePage : ReportPage {
 
 void DrawMassBoxes(const SievePage& of)
 {
-    of.page.DrawWidth = kThickRule;
-    of.page.Box(kLeft, of.y(1), of.MethodEnd(), of.y(4));
+    const RuledBox method(of.page, of.y, {kLeft, of.MethodEnd()}, 1, 4);
     const RuledBox masses(of.page, of.y, {of.MethodEnd(), of.Right()}, 1, 4);
     masses.Thin();
     masses.Rows(2, 2);
@@ -125,9 +121,8 @@ void PrintFractions(const SievePage& of)
 
 void DrawTableRules(const SievePage& of)
 {
-    of.page.DrawWidth = kThickRule;
     of.page.FilledBox(kLeft, of.y(kTableTop), of.Right(), of.y(kBodyLine), kWhite);
-    of.page.Box(kLeft, of.y(kTableTop), of.Right(), of.y(kBodyLine));
+    const RuledBox heads(of.page, of.y, WholeWidth(of.page), kTableTop, kBodyLine);
     const RuledBox body(of.page, of.y, WholeWidth(of.page), kBodyLine, kRemarkLine);
     body.Thin();
     body.Rows(kBodyLine + 1, kMostSieves - 1);
@@ -136,13 +131,12 @@ void DrawTableRules(const SievePage& of)
 
 void PrintTableHeads(const SievePage& of)
 {
+    const Bold bold(of.page);
     double line = kTableTop;
-    of.page.FontBold = true;
     for (const HeadLine& heads : kHeads) {
         of.page.CurrentY = of.y(line++);
         PrintHeads(of.page, of.columns, heads);
     }
-    of.page.FontBold = false;
 }
 
 void DrawSieveTable(const SievePage& of)
@@ -165,6 +159,13 @@ void PrintRemark(const SievePage& of)
                                            : " which is more than 2% then the test should be rerun."));
 }
 
+void PrintGrainSizeHead(const SievePage& of, double top, double left, std::string_view label)
+{
+    const Bold bold(of.page);
+    of.page.CurrentY = top;
+    PrintCentred(of.page, left, of.columns.width, label);
+}
+
 void DrawGrainSizes(const SievePage& of)
 {
     const PageLines y = of.From(kGrainSizesLine);
@@ -176,10 +177,7 @@ void DrawGrainSizes(const SievePage& of)
     for (const ReportField& size : kGrainSizes) {
         const double left = of.columns.Left(column++);
         const std::string text = of.Text(size.control);
-        of.page.FontBold = true;
-        of.page.CurrentY = y(0);
-        PrintCentred(of.page, left, of.columns.width, size.label);
-        of.page.FontBold = false;
+        PrintGrainSizeHead(of, y(0), left, size.label);
         of.page.CurrentY = y(1);
         PrintCentred(of.page, left, of.columns.width, Trim(BehindEquals(text)));
     }
@@ -192,14 +190,18 @@ void PrintClassesCaption(const SievePage& of, const PageLines& y)
                      " % PI = " + NumberText(of.Value("txtLL") - of.Value("txtPL")) + " %)");
 }
 
+void PrintHeading(DrawingSurface& page, double top, std::string_view heading)
+{
+    const Bold bold(page);
+    PrintFrom(page, kLeft + kLabelInset, top, heading);
+}
+
 void DrawSystem(const SievePage& of, const RuledBox& box, const PageLines& y, double top, const System& system)
 {
     const double split = kLeft + WholeWidth(of.page).Width() / 6 + 150;
     box.Rows(top + 1, kSystemLines - 1);
-    of.page.Line(split, y(top + 1), split, y(top + kSystemLines));
-    of.page.FontBold = true;
-    PrintFrom(of.page, kLeft + kLabelInset, y(top), system.heading);
-    of.page.FontBold = false;
+    box.Vertical(split, top + 1, top + kSystemLines);
+    PrintHeading(of.page, y(top), system.heading);
     for (const ReportField& row : system.rows) {
         PrintFrom(of.page, kLeft + kLabelInset, y(++top), row.label);
         PrintFrom(of.page, split + kLabelInset, of.Text(row.control));
@@ -219,9 +221,9 @@ void DrawClasses(const SievePage& of)
 
 }  // namespace
 
-void DrawSieve(Program& program, DrawingSurface& page, Medium medium)
+void DrawSieve(const Printing& printing)
 {
-    const SievePage of(OpenSheet(program), page, medium);
+    const SievePage of(printing);
     DrawMassBoxes(of);
     PrintMethod(of);
     PrintMasses(of);
@@ -230,7 +232,6 @@ void DrawSieve(Program& program, DrawingSurface& page, Medium medium)
     PrintRemark(of);
     DrawGrainSizes(of);
     DrawClasses(of);
-    DrawSignatures(program, page, medium);
 }
 
 }  // namespace terravane

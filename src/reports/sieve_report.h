@@ -2,12 +2,11 @@
 /// sheet; only the three fractions are worked out here.
 #pragma once
 
-#include "program/program.h"
-#include "reports/medium.h"
+#include "reports/report.h"
 
 namespace terravane {
 
 /// The page's body, below frame and head block.
-void DrawSieve(Program& program, DrawingSurface& page, Medium medium);
+void DrawSieve(const Printing& printing);
 
 }  // namespace terravane

@@ -3,9 +3,8 @@
 #include <string>
 #include <string_view>
 
+#include "drawing/scopes.h"
 #include "reports/brand.h"
-#include "reports/open_sheet.h"
-#include "reports/report.h"
 #include "reports/report_page.h"
 
 namespace terravane {
@@ -32,34 +31,32 @@ void PrintDottedLine(DrawingSurface& page, std::string_view label)
 
 void PrintSignature(DrawingSurface& page, double top, std::string_view label, const std::string& name)
 {
+    const TextSize size(page, kSignatureSize);
     page.CurrentY = top;
-    page.FontSize = kSignatureSize;
-    page.FontBold = false;
     PrintDottedLine(page, label);
     const double dots = page.TextWidth(kDots);
     PrintCentred(page, RightEdge(page) - dots, dots, "(" + name + ")");
     page.Print();
-    page.FontSize = kBodySize;
 }
 
-std::string ApproverOn(Program& program, const SignaturePlace& place, Medium medium)
+std::string ApproverOn(const Printing& of)
 {
-    if (place.fixedPreview && medium == Medium::Preview) return std::string(kPreviewApprover);
+    if (of.report.signatures.fixedPreview && of.medium == Medium::Preview) return std::string(kPreviewApprover);
+    Program& program = of.sheet.program;
     LoadApproverName(program);
     return program.ApproverName;
 }
 
 }  // namespace
 
-void DrawSignatures(Program& program, DrawingSurface& page, Medium medium)
+void DrawSignatures(const Printing& of)
 {
-    const TestSheet& sheet = OpenSheet(program);
-    const SignaturePlace& place = ReportOf(program.CurrentTest).signatures;
-    page.FontSize = kBodySize;
-    const PageLines below(page, LineHeight(page) * place.anchor.On(medium));
-    PrintSignature(page, below(1), kTested, sheet.cboTest.Text());
-    PrintSignature(page, below(place.second), kChecked, sheet.cboCheck.Text());
-    PrintSignature(page, below(place.third), kApproved, ApproverOn(program, place, medium));
+    const SignaturePlace& place = of.report.signatures;
+    const TextSize size(of.page, kBodySize);
+    const PageLines below(of.page, LineHeight(of.page) * place.anchor.On(of.medium));
+    PrintSignature(of.page, below(1), kTested, of.sheet.cboTest.Text());
+    PrintSignature(of.page, below(place.second), kChecked, of.sheet.cboCheck.Text());
+    PrintSignature(of.page, below(place.third), kApproved, ApproverOn(of));
 }
 
 }  // namespace terravane

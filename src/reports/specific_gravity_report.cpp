@@ -3,7 +3,6 @@
 #include <array>
 
 #include "reports/report_table.h"
-#include "reports/signature_block.h"
 #include "sheets/specific/frmSpecific.h"
 
 namespace terravane {
@@ -49,9 +48,9 @@ struct GravityPage : ReportPage {
     PageColumns trials;    // their width is a sixth of what the labels leave, also at three trials
     PageColumns readings;  // three across the labels and the first trial
 
-    GravityPage(const TestSheet& open, DrawingSurface& surface)
-        : ReportPage(open, surface, kGravityTop),
-          trials(ColumnsBeside(kLabelWidth, WholeWidth(surface), 6)),
+    explicit GravityPage(const Printing& printing)
+        : ReportPage(printing, kGravityTop),
+          trials(ColumnsBeside(kLabelWidth, WholeWidth(page), 6)),
           readings{kLeft, (kLabelWidth + trials.width) / int{calibration::kColumns}}
     {}
 };
@@ -66,18 +65,23 @@ void DrawReadingRules(const GravityPage& of)
     box.Verticals(of.readings, 2, calibration::kColumns);
 }
 
-/// Caption on line 0, heads on lines 1 and 2, the seven readings below them to line 10.
-void DrawReadings(const GravityPage& of)
+void PrintReadingHeads(const GravityPage& of)
 {
-    PrintCaption(of.page, kLeft, of.y(0), "Calibration Data");
-    DrawReadingRules(of);
+    const Bold bold(of.page);
     double line = 1;
     for (const auto& heads : kCalibrationHeads) {
         of.page.CurrentY = of.y(line++);
         PrintHeads(of.page, of.readings, heads);
     }
-    of.page.FontBold = false;
-    PrintCells(of.page, of.y, of.readings, line, of.sheet.Get<TextGrid>("MSHCalibration"),
+}
+
+/// Caption on line 0, heads on lines 1 and 2, the seven readings below them to line 10.
+void DrawReadings(const GravityPage& of)
+{
+    PrintCaption(of.page, kLeft, of.y(0), "Calibration Data");
+    DrawReadingRules(of);
+    PrintReadingHeads(of);
+    PrintCells(of.page, of.y, of.readings, 3, of.sheet.Get<TextGrid>("MSHCalibration"),
                {1, kCalibrationReadings, calibration::Number, calibration::Temperature});
 }
 
@@ -97,15 +101,14 @@ void PrintEquation(const GravityPage& of)
 
 }  // namespace
 
-void DrawSpecificGravity(Program& program, DrawingSurface& page, Medium medium)
+void DrawSpecificGravity(const Printing& printing)
 {
-    const auto& sheet = program.Get<frmSpecific>("frmSpecific");
-    const GravityPage of(sheet, page);
+    const auto& sheet = printing.SheetAs<frmSpecific>();
+    const GravityPage of(printing);
     DrawReadings(of);
     PrintEquation(of);
-    CopyPlot(page, sheet.picGraph, sheet.picgraph1, of.Right() - sheet.picGraph.Width, of.y(1));
+    CopyPlot(of.page, sheet.picGraph, sheet.picgraph1, of.Right() - sheet.picGraph.Width, of.y(1));
     DrawTable(of, {{kLeft, of.trials.Left(kGravityTrials + 1)}, of.trials}, kTrials);
-    DrawSignatures(program, page, medium);
 }
 
 }  // namespace terravane

@@ -2,12 +2,11 @@
 /// as they stand on the sheet; nothing is computed.
 #pragma once
 
-#include "program/program.h"
-#include "reports/medium.h"
+#include "reports/report.h"
 
 namespace terravane {
 
 /// The page's body, below frame and head block.
-void DrawSpecificGravity(Program& program, DrawingSurface& page, Medium medium);
+void DrawSpecificGravity(const Printing& printing);
 
 }  // namespace terravane

@@ -2,7 +2,6 @@
 
 #include "laboratory/tests.h"
 #include "results/product_picture.h"
-#include "results/summary_page.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
 #include "store/statements.h"
@@ -149,7 +148,7 @@ void frmSummary::cmdPrint_Click() const
 try {
     const auto target = program.Ask().AskPrinter();
     if (!target) return;
-    DrawSummaryPage(*this, program.printer);
+    DrawPage(program.printer);
     program.printer.SetTarget(*target, std::string(kSummaryTitle));
     program.printer.EndDoc();
 } catch (const RuntimeError&) {

@@ -2,6 +2,9 @@
 /// knows neither the sheets nor how they post.
 #pragma once
 
+#include <string_view>
+#include <vector>
+
 #include "controls/choice_controls.h"
 #include "controls/furniture.h"
 #include "controls/text_controls.h"
@@ -10,6 +13,9 @@
 #include "results/summary_lines.h"
 
 namespace terravane {
+
+/// On the print and as its job's name.
+inline constexpr std::string_view kSummaryTitle = "Overall Testing Results";
 
 struct frmSummary : Form {
     explicit frmSummary(Program& program);
@@ -32,6 +38,9 @@ struct frmSummary : Form {
     void cmdPrint_Click() const;
     void cmdClose_Click() const { program.Unload(Name()); }
 
+    /// The one page that printing would send, drawn on a copy of the program's printer.
+    std::vector<DisplayList> Pages() const;
+
   private:
     void OpenRecentProject() const;
     void ShowHeadings();
@@ -39,6 +48,7 @@ struct frmSummary : Form {
     void MarkResults();
     void LayOutGrid();
     void ShowTitles();
+    void DrawPage(Printer& printer) const;
 };
 
 }  // namespace terravane

@@ -6,7 +6,7 @@
 #include "controls/text_grid.h"
 #include "render/png.h"
 #include "reports/print_report.h"
-#include "results/summary_page.h"
+#include "results/frmSummary.h"
 #include "runtime/numbers.h"
 #include "script/commands.h"
 #include "script/item_answers.h"
@@ -73,7 +73,7 @@ const PictureBox& PreviewPage(const Program& program)
 std::vector<DisplayList> PagesToPrint(Program& program)
 {
     const auto* results = dynamic_cast<const frmSummary*>(program.Loaded("frmSummary"));
-    return results ? PagesOfSummary(*results) : PagesOfReport(program);
+    return results ? results->Pages() : PagesOfReport(program);
 }
 
 void WritePrintedPage(Session& session, int number)

@@ -3,7 +3,7 @@
 // the right one starts at 6003; the six columns are (10906 - 3000) / 6 = 1317.67 wide, from 3500 on.
 #include <gtest/gtest.h>
 
-#include "reports/cbr_report.h"
+#include "reports/all_reports.h"
 #include "reports/print_report.h"
 #include "support/cbr_laboratory.h"
 #include "support/page_marks.h"
@@ -209,8 +209,8 @@ TEST_F(CbrPage, PreviewAndPrinterShareTheFirstPagesBody)
     preview.FontName = "DilleniaUPC";
     Printer printer;
     printer.FontName = "DilleniaUPC";
-    DrawCbrPage1(bench.program, preview, Medium::Preview);
-    DrawCbrPage1(bench.program, printer, Medium::Printer);
+    DrawPageBody(PrintingOf(bench.program, preview, Medium::Preview));
+    DrawPageBody(PrintingOf(bench.program, printer, Medium::Printer));
     EXPECT_EQ(preview.Items(), printer.Items());
 }
 

@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-#include "reports/density_report.h"
+#include "reports/all_reports.h"
 #include "reports/print_report.h"
 #include "support/density_laboratory.h"
 #include "support/page_marks.h"
@@ -245,8 +245,8 @@ TEST_F(DensityPage, PreviewAndPrinterShareTheBody)
     preview.FontName = "DilleniaUPC";
     Printer printer;
     printer.FontName = "DilleniaUPC";
-    DrawFieldDensity(bench.program, preview, Medium::Preview);
-    DrawFieldDensity(bench.program, printer, Medium::Printer);
+    DrawPageBody(PrintingOf(bench.program, preview, Medium::Preview));
+    DrawPageBody(PrintingOf(bench.program, printer, Medium::Printer));
     EXPECT_EQ(preview.Items(), printer.Items());
 }
 

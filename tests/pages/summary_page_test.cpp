@@ -1,10 +1,10 @@
 // The page of the overall results as a list of drawn things. Lengths in twips; a line of the table's size 16 is 417.6,
 // so that row n begins at 4500 + 417.6 n. The three columns are (11906 - 2500) / 3 = 3135.33 wide, from 1250 on; the
 // third is cut at 1250 + 2.5 × 3135.33 = 9088.33.
-#include "results/summary_page.h"
 
 #include <gtest/gtest.h>
 
+#include "results/frmSummary.h"
 #include "support/page_marks.h"
 #include "support/results_bench.h"
 
@@ -37,12 +37,12 @@ struct SummaryPage : ::testing::Test {
         }
     }
 
-    PageMarks Page() const { return {PagesOfSummary(form).front().items}; }
+    PageMarks Page() const { return {form.Pages().front().items}; }
 };
 
 TEST_F(SummaryPage, IsOneUprightPage)
 {
-    const auto pages = PagesOfSummary(form);
+    const auto pages = form.Pages();
     ASSERT_EQ(pages.size(), 1u);
     EXPECT_EQ(pages.front().width, 11906);
     EXPECT_EQ(pages.front().height, 16838);

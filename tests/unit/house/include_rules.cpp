@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <fstream>
 #include <iterator>
+#include <map>
 #include <regex>
 #include <sstream>
 #include <string_view>
@@ -191,6 +192,95 @@ std::string Sentence(const IncludeLine& line, const std::string& reason)
     return "src/" + line.file + ", line " + std::to_string(line.number) + ", includes " + header + ", but " + reason;
 }
 
+/// "frmCBR_data" of "sheets/cbr/frmCBR_data".
+std::string NameOf(const std::string& unit)
+{
+    return unit.substr(unit.rfind('/') + 1);
+}
+
+std::string FolderOfFile(const std::string& file)
+{
+    return file.substr(0, file.rfind('/'));
+}
+
+std::string Stem(const std::string& file)
+{
+    return file.substr(0, file.rfind('.'));
+}
+
+bool Includes(const std::vector<IncludeLine>& lines, const std::string& header)
+{
+    return std::ranges::any_of(lines, [&](const IncludeLine& line) { return line.quoted && line.header == header; });
+}
+
+/// The file's own stem; a source's is shortened at its '_' until it includes the header of that name.
+std::string UnitOf(const std::string& file, const std::vector<IncludeLine>& lines)
+{
+    const std::string own = Stem(file);
+    if (file.ends_with(".h")) return own;
+    for (std::size_t end = own.size(); end != std::string::npos && end > own.rfind('/'); end = own.rfind('_', end - 1))
+        if (Includes(lines, own.substr(0, end) + ".h")) return own.substr(0, end);
+    return own;
+}
+
+using Neighbours = std::map<std::string, std::set<std::string>>;
+
+/// The units from one to another along the arrows, both ends included; empty where no way leads there.
+Words WayBetween(const Neighbours& neighbours, const std::string& from, const std::string& to)
+{
+    std::map<std::string, std::string> cameFrom{{from, ""}};
+    Words found{from};
+    for (std::size_t next = 0; next < found.size() && !cameFrom.contains(to); ++next) {
+        const auto here = neighbours.find(found[next]);
+        if (here == neighbours.end()) continue;
+        for (const std::string& unit : here->second)
+            if (cameFrom.emplace(unit, here->first).second) found.push_back(unit);
+    }
+    Words way;
+    if (!cameFrom.contains(to)) return way;
+    for (std::string unit = to; !unit.empty(); unit = cameFrom.at(unit)) way.insert(way.begin(), unit);
+    return way;
+}
+
+/// "a, b, c" of units, without their folder.
+std::string NamesOf(const Words& units)
+{
+    std::string names;
+    for (const std::string& unit : units) names += (names.empty() ? "" : ", ") + NameOf(unit);
+    return names;
+}
+
+std::set<std::string> UnitsIn(const std::string& folder, const std::vector<Source>& sources)
+{
+    std::set<std::string> units;
+    for (const Source& source : sources)
+        if (FolderOfFile(source.file) == folder)
+            units.insert(UnitOf(source.file, IncludeLinesOf(source.file, source.text)));
+    return units;
+}
+
+/// Names of the order that stand for nothing, units without a place in it.
+Words PlaceComplaints(const FolderOrder& order, const std::set<std::string>& units)
+{
+    Words complaints;
+    for (const std::string& unit : units)
+        if (!order.RankOf(NameOf(unit)))
+            complaints.push_back("The order of \"" + order.folder + "\" has no place for " + NameOf(unit) + ".");
+    for (const Words& rank : order.ranks)
+        for (const std::string& name : rank)
+            if (!name.starts_with('*') && !units.contains(order.folder + '/' + name))
+                complaints.push_back("The order of \"" + order.folder + "\" names " + name + ", which is not there.");
+    return complaints;
+}
+
+std::vector<Words> RanksIn(const std::string& cell)
+{
+    std::vector<Words> ranks;
+    std::istringstream stream(cell);
+    for (std::string rank; std::getline(stream, rank, ';');) ranks.push_back(QuotedAsCode(rank));
+    return ranks;
+}
+
 std::optional<std::string> ComplaintOfOwn(const IncludeRules& rules, const IncludeLine& line)
 {
     const std::string from = FolderOf(line.file), to = FolderOf(line.header);
@@ -231,6 +321,18 @@ const Layer* IncludeRules::Find(const std::string& folder) const
     return found == layers.end() ? nullptr : &*found;
 }
 
+std::optional<std::size_t> FolderOrder::RankOf(const std::string& name) const
+{
+    std::optional<std::size_t> byEnding;
+    for (std::size_t rank = 0; rank < ranks.size(); ++rank) {
+        for (const std::string& known : ranks[rank]) {
+            if (known == name) return rank;
+            if (known.starts_with('*') && name.ends_with(known.substr(1))) byEnding = rank;
+        }
+    }
+    return byEnding;
+}
+
 IncludeRules ReadIncludeRules(const std::string& page)
 {
     IncludeRules rules;
@@ -241,6 +343,8 @@ IncludeRules ReadIncludeRules(const std::string& page)
     }
     for (const Words& cells : TableOf(page, "header"))
         rules.foreign.push_back({QuotedAsCode(cells.at(0)).at(0), cells.at(1), QuotedAsCode(cells.at(2))});
+    for (const Words& cells : TableOf(page, "folder | its files, the lowest first"))
+        rules.orders.push_back({QuotedAsCode(cells.at(0)).at(0), RanksIn(cells.at(1))});
     return rules;
 }
 
@@ -260,6 +364,49 @@ std::vector<IncludeLine> IncludeLinesOf(const std::string& file, const std::stri
 std::optional<std::string> Complaint(const IncludeRules& rules, const IncludeLine& line)
 {
     return line.quoted ? ComplaintOfOwn(rules, line) : ComplaintOfForeign(rules, line);
+}
+
+std::vector<Arrow> ArrowsInside(const std::vector<Source>& sources)
+{
+    std::vector<Arrow> arrows;
+    for (const Source& source : sources) {
+        const auto lines = IncludeLinesOf(source.file, source.text);
+        const std::string from = UnitOf(source.file, lines);
+        for (const IncludeLine& line : lines) {
+            const std::string to = Stem(line.header);
+            if (line.quoted && to != from && FolderOfFile(to) == FolderOfFile(from)) arrows.push_back({from, to, line});
+        }
+    }
+    return arrows;
+}
+
+Words CircleComplaints(const std::vector<Arrow>& arrows)
+{
+    Neighbours neighbours;
+    for (const Arrow& arrow : arrows) neighbours[arrow.from].insert(arrow.to);
+    Words complaints;
+    for (const Arrow& arrow : arrows) {
+        const Words back = WayBetween(neighbours, arrow.to, arrow.from);
+        if (!back.empty()) complaints.push_back(Sentence(arrow.line, "that leads back: " + NamesOf(back) + "."));
+    }
+    return complaints;
+}
+
+Words OrderComplaints(const IncludeRules& rules, const std::vector<Source>& sources)
+{
+    Words complaints;
+    const auto arrows = ArrowsInside(sources);
+    for (const FolderOrder& order : rules.orders) {
+        std::ranges::copy(PlaceComplaints(order, UnitsIn(order.folder, sources)), std::back_inserter(complaints));
+        for (const Arrow& arrow : arrows) {
+            if (FolderOfFile(arrow.from) != order.folder) continue;
+            const auto from = order.RankOf(NameOf(arrow.from)), to = order.RankOf(NameOf(arrow.to));
+            if (from && to && *to > *from)
+                complaints.push_back(Sentence(
+                    arrow.line, "in the order of \"" + order.folder + "\" " + NameOf(arrow.to) + " stands higher."));
+        }
+    }
+    return complaints;
 }
 
 std::vector<Layer> LayersOfBuild(const std::string& cmakeLists)

@@ -24,6 +24,10 @@ constexpr auto kPage = R"(
 | `sheets` | the sheets | runtime, jet | stands |
 | `render` | painting | runtime | to come |
 
+| folder | its files, the lowest first |
+|---|---|
+| `jet` | `page`; `*_page`, `row`; `file_page` |
+
 | header | of | stands in |
 |---|---|---|
 | `Q` | Qt | `render/`, `sheets/main.cpp` |
@@ -38,6 +42,34 @@ std::string ComplaintOf(const std::string& file, const std::string& line)
     if (lines.size() != 1) return std::to_string(lines.size()) + " include lines";
     return Complaint(ReadIncludeRules(kPage), lines.front()).value_or("");
 }
+
+/// A source whose lines are includes of these headers.
+Source Including(const std::string& file, std::initializer_list<std::string_view> headers)
+{
+    Source source{file, {}};
+    for (const std::string_view header : headers) source.text.append("#include \"").append(header).append("\"\n");
+    return source;
+}
+
+Words CirclesIn(const std::vector<Source>& sources)
+{
+    return CircleComplaints(ArrowsInside(sources));
+}
+
+const std::vector<Source>& Sources()
+{
+    static const std::vector<Source> sources = [] {
+        std::vector<Source> read;
+        for (const std::string& file : SourcesBelow(kRoot / "src"))
+            read.push_back({file, ReadText(kRoot / "src" / file)});
+        return read;
+    }();
+    return sources;
+}
+
+/// Circles that are being undone: the JSON of a journal entry includes the work that makes it; a form owns its controls
+/// and they know it; the layouts name what builds them.
+constexpr std::string_view kKnownCircles[] = {"src/batch/", "src/controls/", "src/desktop/"};
 
 std::size_t LinesIn(const std::string& text)
 {
@@ -100,6 +132,47 @@ TEST(IncludeRules, HeadersOfOthersStandWhereTheirRowSays)
               "of the headers of others names it.");
 }
 
+TEST(IncludeRules, FilesOfAFolderDoNotLeadBackToThemselves)
+{
+    EXPECT_EQ(CirclesIn({Including("jet/page.cpp", {"jet/page.h", "jet/row.h"}), Including("jet/row.h", {})}), Words{});
+    EXPECT_EQ(CirclesIn({Including("jet/page.cpp", {"jet/page.h", "jet/row.h"}),
+                         Including("jet/row.cpp", {"jet/row.h", "jet/file.h"}),
+                         Including("jet/file.h", {"jet/page.h", "runtime/text.h"})}),
+              (Words{"src/jet/page.cpp, line 2, includes \"jet/row.h\", but that leads back: row, file, page.",
+                     "src/jet/row.cpp, line 2, includes \"jet/file.h\", but that leads back: file, page, row.",
+                     "src/jet/file.h, line 1, includes \"jet/page.h\", but that leads back: page, row, file."}));
+}
+
+TEST(IncludeRules, SourcesThatContinueAHeadersNameAreOneUnitWithIt)
+{
+    const Source part = Including("sheets/cbr/frmCBR_load_plot.cpp", {"sheets/cbr/frmCBR.h", "sheets/cbr/dial.h"});
+    EXPECT_EQ(CirclesIn({part, Including("sheets/cbr/dial.h", {})}), Words{});
+    EXPECT_EQ(CirclesIn({part, Including("sheets/cbr/dial.cpp", {"sheets/cbr/frmCBR.h"})}).size(), 2U);
+    EXPECT_EQ(CirclesIn({Including("jet/row_list.cpp", {"jet/rows.h"}), Including("jet/rows.h", {"jet/row.h"}),
+                         Including("jet/row.h", {})}),
+              Words{})
+        << "It continues the name of a header that it does not include.";
+    EXPECT_EQ(
+        CirclesIn({Including("jet/row_list.h", {"jet/row.h"}), Including("jet/row.h", {"jet/row_list.h"})}).size(), 2U)
+        << "A header is a unit, whatever its name.";
+}
+
+TEST(IncludeRules, InAFolderWithAnOrderNoArrowRunsUp)
+{
+    const auto complaints = [](const std::vector<Source>& sources) {
+        return OrderComplaints(ReadIncludeRules(kPage), sources);
+    };
+    const Source page = Including("jet/page.h", {}), row = Including("jet/row.h", {"jet/page.h", "jet/data_page.h"}),
+                 data = Including("jet/data_page.h", {}), file = Including("jet/file_page.h", {"jet/row.h"});
+    EXPECT_EQ(complaints({page, row, data, file}), Words{});
+    EXPECT_EQ(complaints({page, row, Including("jet/data_page.h", {"jet/file_page.h"}), file}),
+              (Words{"src/jet/data_page.h, line 1, includes \"jet/file_page.h\", but in the order of \"jet\" file_page "
+                     "stands higher."}));
+    EXPECT_EQ(complaints({page, row, data, file, Including("jet/lexer.h", {})}),
+              (Words{"The order of \"jet\" has no place for lexer."}));
+    EXPECT_EQ(complaints({page, data, file}), (Words{"The order of \"jet\" names row, which is not there."}));
+}
+
 TEST(IncludeRules, ABuildLayerIsReadWithWhatItUses)
 {
     const auto layers = LayersOfBuild("terravane_layer(a)\nterravane_layer(b USES a\n  c LINKS Qt6::Gui)\n");
@@ -113,8 +186,8 @@ TEST(IncludeRules, ABuildLayerIsReadWithWhatItUses)
 TEST(House, EveryIncludeFollowsTheLayerTable)
 {
     int checked = 0;
-    for (const std::string& file : SourcesBelow(kRoot / "src")) {
-        for (const IncludeLine& line : IncludeLinesOf(file, ReadText(kRoot / "src" / file))) {
+    for (const auto& [file, text] : Sources()) {
+        for (const IncludeLine& line : IncludeLinesOf(file, text)) {
             const auto complaint = Complaint(Rules(), line);
             EXPECT_FALSE(complaint.has_value()) << *complaint;
             ++checked;
@@ -123,10 +196,26 @@ TEST(House, EveryIncludeFollowsTheLayerTable)
     EXPECT_GT(checked, 100) << "hardly any include line was found below " << kRoot / "src";
 }
 
+TEST(House, NoFileOfAFolderLeadsBackToItself)
+{
+    EXPECT_GT(ArrowsInside(Sources()).size(), 100U) << "hardly any include inside a folder was found";
+    Words complaints = CircleComplaints(ArrowsInside(Sources()));
+    for (const std::string_view folder : kKnownCircles)
+        EXPECT_GT(std::erase_if(complaints, [&](const std::string& known) { return known.starts_with(folder); }), 0U)
+            << "No circle is left in " << folder << ": take it from the list.";
+    EXPECT_EQ(complaints, Words{});
+}
+
+TEST(House, FoldersWithAnOrderKeepIt)
+{
+    EXPECT_FALSE(Rules().orders.empty()) << "docs/architecture.md has no table of orders inside folders.";
+    EXPECT_EQ(OrderComplaints(Rules(), Sources()), Words{});
+}
+
 TEST(House, EveryQuotedIncludeNamesAFile)
 {
-    for (const std::string& file : SourcesBelow(kRoot / "src"))
-        for (const IncludeLine& line : IncludeLinesOf(file, ReadText(kRoot / "src" / file)))
+    for (const auto& [file, text] : Sources())
+        for (const IncludeLine& line : IncludeLinesOf(file, text))
             EXPECT_TRUE(!line.quoted || std::filesystem::exists(kRoot / "src" / line.header))
                 << "src/" << file << ", line " << line.number << ", includes \"" << line.header
                 << "\", which is no file of src/.";
@@ -159,8 +248,8 @@ TEST(House, TheBuildLinksWhatTheLayerTableNames)
 
 TEST(House, NoSourceFileIsLongerThanSixHundredLines)
 {
-    for (const std::string& file : SourcesBelow(kRoot / "src"))
-        EXPECT_LE(LinesIn(ReadText(kRoot / "src" / file)), 600U) << "src/" << file << " holds two subjects: split it.";
+    for (const auto& [file, text] : Sources())
+        EXPECT_LE(LinesIn(text), 600U) << "src/" << file << " holds two subjects: split it.";
 }
 
 }  // namespace terravane::house

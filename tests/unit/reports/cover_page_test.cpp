@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "reports/all_reports.h"
 #include "support/page_marks.h"
 #include "support/report_bench.h"
 #include "unit/runtime/raises.h"
@@ -16,7 +17,7 @@ constexpr double kLine = 574.2;  // size 22
 std::vector<DrawnItem> CoverOf(ReportBench& bench)
 {
     Printer printer;
-    PrintCoverPage(bench.program, printer);
+    DrawCoverPage(PrintingOf(bench.program, printer, Medium::Printer, kCover));
     return printer.Items();
 }
 

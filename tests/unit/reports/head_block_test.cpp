@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "reports/all_reports.h"
 #include "support/page_marks.h"
 #include "support/report_bench.h"
 
@@ -14,7 +15,7 @@ std::vector<DrawnItem> HeadOf(const TestSheet& sheet, Medium medium)
 {
     DrawingSurface page(kA4Short, kA4Long);
     page.FontName = "DilleniaUPC";
-    DrawHeadBlock(sheet, page, medium);
+    DrawHeadBlock(PrintingOf(sheet.program, page, medium));
     return page.Items();
 }
 

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "reports/all_reports.h"
 #include "support/page_marks.h"
 #include "support/report_bench.h"
 #include "unit/runtime/raises.h"
@@ -16,14 +17,14 @@ const std::string kBanner = "Terravane Program for Road Construction Materials 2
 std::vector<DrawnItem> PreviewFrame(ReportBench& bench)
 {
     DrawingSurface page(kA4Short, kA4Long);
-    DrawPageFrame(bench.program, page, Medium::Preview);
+    DrawPageFrame(PrintingOf(bench.program, page, Medium::Preview));
     return page.Items();
 }
 
 std::vector<DrawnItem> PrintedFrame(ReportBench& bench)
 {
     Printer printer;
-    DrawPageFrame(bench.program, printer, Medium::Printer);
+    DrawPageFrame(PrintingOf(bench.program, printer, Medium::Printer));
     return printer.Items();
 }
 
@@ -140,7 +141,7 @@ TEST_P(PageTitle, StandsInThaiAndEnglish)
     EXPECT_EQ(TextsOf(PreviewFrame(bench), wanted.english).size(), 1u);
     EXPECT_EQ(TextsOf(PrintedFrame(bench), wanted.printedThai).size(), 1u);
     EXPECT_EQ(TextsOf(PrintedFrame(bench), wanted.english).size(), 1u);
-    EXPECT_EQ(EnglishTitle(bench.program), wanted.english);
+    EXPECT_EQ(TitlesOf(bench.program).english, wanted.english);
 }
 
 const std::string kStandardThai = "การทดสอบการบดอัดแบบมาตรฐาน";
@@ -189,7 +190,7 @@ TEST(PageFrame, NamesCentreOnTheSheetAndTitlesOnThePrintableWidth)
     bench.OpenCompaction();
     DrawingSurface page(kA4Short, kA4Long);
     page.ScaleWidth = kA4Short - 200;
-    DrawPageFrame(bench.program, page, Medium::Preview);
+    DrawPageFrame(PrintingOf(bench.program, page, Medium::Preview));
     const TextItem name = TextOn(page.Items(), "Institute of Roads");
     const TextItem title = TextOn(page.Items(), "Standard Compaction Test");
     EXPECT_NEAR(name.x + WidthOf(name, name.text) / 2, 5953, kTwip);
@@ -201,7 +202,7 @@ TEST(PageFrame, PageTwoHasItsNumberAndNoHeadBlock)
     ReportBench bench;
     bench.Open(terravane::Test::CBRSoil, "frmCBR");
     DrawingSurface page(kA4Short, kA4Long);
-    DrawFurniture(bench.program, page, Medium::Preview, "Page 2");
+    DrawPageFrame(PrintingOf(bench.program, page, Medium::Preview, kSecondPage));
     EXPECT_EQ(TextsOf(page.Items(), "Page 2").size(), 1u);
     EXPECT_EQ(TextsOf(page.Items(), "Page 1").size(), 0u);
     EXPECT_EQ(TextsOf(page.Items(), "Highway Department").size(), 0u);

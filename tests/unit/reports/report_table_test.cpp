@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include "reports/all_reports.h"
 #include "support/page_marks.h"
 #include "support/report_bench.h"
 
@@ -115,7 +116,8 @@ struct DrawnTable : ::testing::Test {
     PageMarks Drawn()
     {
         const Edges edges{500, 2300};
-        DrawTable(ReportPage(sheet, surface, 1000), {edges, ColumnsBeside(1000, edges, 2)}, table);
+        DrawTable(ReportPage(PrintingOf(bench.program, surface, Medium::Printer), 1000),
+                  {edges, ColumnsBeside(1000, edges, 2)}, table);
         return {surface.Items()};
     }
 

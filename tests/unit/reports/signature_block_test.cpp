@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "reports/all_reports.h"
 #include "reports/brand.h"
 #include "support/page_marks.h"
 #include "support/report_bench.h"
@@ -18,9 +19,8 @@ std::vector<DrawnItem> SignaturesOn(ReportBench& bench, Medium medium)
     DrawingSurface page(kA4Short, kA4Long);
     page.FontName = "DilleniaUPC";
     page.FontSize = 20;
-    page.FontBold = true;
-    DrawSignatures(bench.program, page, medium);
-    EXPECT_EQ(page.FontSize, 13);
+    DrawSignatures(PrintingOf(bench.program, page, medium));
+    EXPECT_EQ(page.FontSize, 20) << "as it was";
     return page.Items();
 }
 

@@ -2,7 +2,7 @@
 // tests/pages.
 #include <gtest/gtest.h>
 
-#include "results/summary_page.h"
+#include "results/frmSummary.h"
 #include "support/drawn_items.h"
 #include "support/results_bench.h"
 
@@ -16,7 +16,7 @@ TEST(PrintOverallResults, SendsTheOnePageThatIsLookedAt)
     ResultsBench bench;
     bench.AnswerPrintDialog();
     frmSummary& form = bench.Open();
-    const auto looked = PagesOfSummary(form);
+    const auto looked = form.Pages();
     form.cmdPrint.Press();
     ASSERT_EQ(bench.printed.size(), 1u);
     EXPECT_EQ(bench.printed.front().size(), 1u);
@@ -32,7 +32,7 @@ TEST(PrintOverallResults, LookingLeavesThePrinterAsItIs)
     const frmSummary& form = bench.Open();
     bench.program.printer.SetOrientation(Orientation::Landscape);
     bench.program.printer.FontName = "MS Sans Serif";
-    EXPECT_EQ(PagesOfSummary(form), PagesOfSummary(form));
+    EXPECT_EQ(form.Pages(), form.Pages());
     EXPECT_EQ(bench.program.printer.PageOrientation(), Orientation::Landscape);
     EXPECT_EQ(bench.program.printer.FontName, "MS Sans Serif");
 }
@@ -43,7 +43,7 @@ TEST(PrintOverallResults, StandUprightAfterAReportOnItsSide)
     ResultsBench bench;
     bench.program.printer.SetOrientation(Orientation::Landscape);
     frmSummary& form = bench.Open();
-    const auto pages = PagesOfSummary(form);
+    const auto pages = form.Pages();
     EXPECT_EQ(pages.front().width, 11906);
     EXPECT_EQ(pages.front().height, 16838);
     bench.AnswerPrintDialog();

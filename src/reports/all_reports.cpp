@@ -1,4 +1,4 @@
-#include "reports/report.h"
+#include "reports/all_reports.h"
 
 #include <algorithm>
 #include <array>
@@ -23,7 +23,7 @@ constexpr Report CompactionReport(Test test, const ReportTitles& titles)
             .titles = titles,
             .headFactor = 20.5,
             .signatures = {.anchor = 32.5, .second = 5, .third = 9, .fixedPreview = true},
-            .drawBody = DrawCompaction};
+            .first = {DrawCompaction}};
 }
 
 constexpr std::array kReports{
@@ -42,7 +42,7 @@ constexpr std::array kReports{
                       .crossed = true},
            .headFactor = 20.5,
            .signatures = {.anchor = 39, .second = 3.5, .third = 6},
-           .drawBody = DrawFieldDensity,
+           .first = {DrawFieldDensity},
            .hasPosition = true},
     Report{.test = Test::SpcSoil,
            .sheet = "frmSpecific",
@@ -51,7 +51,7 @@ constexpr std::array kReports{
                       .cover = "ผลทดสอบหาความถ่วงจำเพาะของดิน"},
            .headFactor = {20.5, 23.5},
            .signatures = {.anchor = {29.4, 29.5}, .second = 5, .third = 9},
-           .drawBody = DrawSpecificGravity},
+           .first = {DrawSpecificGravity}},
     Report{.test = Test::AttSoil,
            .sheet = "frmAtterberg",
            .titles = {.thai = {"การทดสอบหาขีดจำกัดอัตเทอร์เบิร์ก"},
@@ -59,7 +59,7 @@ constexpr std::array kReports{
                       .cover = "ผลทดสอบหาขีดจำกัดอัตเทอร์เบิร์ก"},
            .headFactor = {20.5, 22},
            .signatures = {.anchor = {36, 37}, .second = 4, .third = 7},
-           .drawBody = DrawAtterberg},
+           .first = {DrawAtterberg}},
     Report{.test = Test::SieSoil,
            .sheet = "frmSieve",
            .titles = {.thai = {"การทดสอบหาขนาดเม็ดดินด้วยวิธีร่อนผ่านตะแกรงมาตรฐาน"},
@@ -67,9 +67,8 @@ constexpr std::array kReports{
                       .cover = "ผลทดสอบหาขนาดเม็ดดินด้วยวิธีร่อนผ่านตะแกรงมาตรฐาน"},
            .headFactor = {21.5, 22},
            .signatures = {.anchor = {31, 32}, .second = 5, .third = 9},
-           .drawBody = DrawSieve,
-           .drawSecondPage = DrawSieveChart,
-           .isSecondOnItsSide = true},
+           .first = {DrawSieve},
+           .second = PageOfReport{.drawBody = DrawSieveChart, .isOnItsSide = true}},
     Report{.test = Test::CBRSoil,
            .sheet = "frmCBR",
            .titles = {.thai = {"การทดสอบหาค่า ซี.บี.อาร์."},
@@ -77,9 +76,17 @@ constexpr std::array kReports{
                       .cover = "ผลทดสอบการหาค่าซี.บี.อาร์."},
            .headFactor = 20.5,
            .signatures = {.anchor = 34.5, .second = 4, .third = 7},
-           .drawBody = DrawCbrPage1,
-           .drawSecondPage = DrawCbrPage2},
+           .first = {DrawCbrPage1},
+           .second = PageOfReport{DrawCbrPage2}},
 };
+
+/// A compaction page is titled by the sheet's banner, whatever the current test says.
+Test TitledTest(const Program& program)
+{
+    if (!IsCompaction(program.CurrentTest)) return program.CurrentTest;
+    const bool isStandard = OpenSheet(program).txtLabName.Text().find("Standard") != std::string::npos;
+    return isStandard ? Test::StdSoil : Test::ModSoil;
+}
 
 }  // namespace
 
@@ -88,6 +95,31 @@ const Report& ReportOf(Test test)
     const auto report = std::ranges::find(kReports, test, &Report::test);
     if (report == kReports.end()) throw RuntimeError(error::kInvalidProcedureCall, "This test has no report");
     return *report;
+}
+
+std::string_view SheetNameOf(Test test)
+{
+    return ReportOf(test).sheet;
+}
+
+TestSheet& OpenSheet(const Program& program)
+{
+    return program.Get<TestSheet>(SheetNameOf(program.CurrentTest));
+}
+
+const ReportTitles& TitlesOf(const Program& program)
+{
+    return ReportOf(TitledTest(program)).titles;
+}
+
+Printing PrintingOf(const Program& program, DrawingSurface& page, Medium medium, int number)
+{
+    return {.report = ReportOf(program.CurrentTest),
+            .titles = TitlesOf(program),
+            .sheet = OpenSheet(program),
+            .page = page,
+            .medium = medium,
+            .number = number};
 }
 
 }  // namespace terravane

@@ -1,7 +1,8 @@
-#include "results/summary_page.h"
-
+// The print of the overall results: one upright page, drawn from what the form shows.
 #include "drawing/placed_text.h"
+#include "drawing/scopes.h"
 #include "program/version.h"
+#include "results/frmSummary.h"
 #include "runtime/text.h"
 
 namespace terravane {
@@ -54,11 +55,15 @@ class SummaryTable {
         : page_(page), grid_(grid), line_(LineHeight(page)), third_((page.ScaleWidth - 2 * kMargin) / 3)
     {}
 
+    void DrawFrame() const
+    {
+        const Stroke stroke(page_, kThickRule);
+        page_.Box(Left(0), Top(0), Left(summary::kColumns), Top(summary::kRows));
+    }
+
     void DrawRules() const
     {
-        page_.DrawWidth = kThickRule;
-        page_.Box(Left(0), Top(0), Left(summary::kColumns), Top(summary::kRows));
-        page_.DrawWidth = kThinRule;
+        const Stroke stroke(page_, kThinRule);
         page_.Line(Left(summary::kProperty), Top(0), Left(summary::kProperty), Top(summary::kRows));
         page_.Line(Left(summary::kSoil), Top(0), Left(summary::kSoil), Top(summary::kRows));
         page_.Line(Left(summary::kCrush), Top(1), Left(summary::kCrush), Top(summary::kRows));
@@ -118,24 +123,41 @@ class SummaryTable {
     double line_, third_;
 };
 
-void PrintBanner(DrawingSurface& page)
+void PrintName(DrawingSurface& page, double top, Colour colour, std::string_view name)
 {
-    page.ForeColor = kThaiColour;
-    PrintFrom(page, kBannerLeft, kThaiTop, kThaiName);
-    page.ForeColor = kNameColour;
-    PrintFrom(page, kBannerLeft, kNameTop, kName);
-    page.ForeColor = kBlack;
-    page.FontSize = kVersionSize;
+    const Bold bold(page);
+    const TextSize size(page, kTitleSize);
+    const TextColour coloured(page, colour);
+    PrintFrom(page, kBannerLeft, top, name);
+}
+
+void PrintVersion(DrawingSurface& page)
+{
+    const Bold bold(page);
+    const TextSize size(page, kVersionSize);
     PrintFrom(page, kBannerLeft, kVersionTop, kVersion);
-    page.FontBold = false;
+}
+
+void PrintMaker(DrawingSurface& page)
+{
+    const TextSize size(page, kVersionSize);
     PrintFrom(page, RightEdge(page) - page.TextWidth(kMaker), kVersionTop, kMaker);
-    page.DrawWidth = kThinRule;
+}
+
+void DrawBanner(const frmSummary& form, DrawingSurface& page)
+{
+    page.PaintPicture(form.imgLogo.Content(), kMargin, kLogoTop, kLogoSide, kLogoSide);
+    PrintName(page, kThaiTop, kThaiColour, kThaiName);
+    PrintName(page, kNameTop, kNameColour, kName);
+    PrintVersion(page);
+    PrintMaker(page);
+    const Stroke stroke(page, kThinRule);
     page.Line(kBannerLeft, kBannerRule, RightEdge(page), kBannerRule);
 }
 
 void PrintJob(const frmSummary& form, DrawingSurface& page)
 {
-    page.FontSize = kTextSize;
+    const TextSize size(page, kTextSize);
     double y = kJobTop;
     for (const TextBox* box : {&form.txtProject, &form.txtLocation}) {
         PrintFrom(page, kMargin, y, box->Caption());
@@ -144,37 +166,29 @@ void PrintJob(const frmSummary& form, DrawingSurface& page)
     }
 }
 
+void PrintTitle(DrawingSurface& page)
+{
+    const Bold bold(page);
+    const TextSize size(page, kTitleSize);
+    page.CurrentY = kTitleTop;
+    PrintCentred(page, 0, page.ScaleWidth, kSummaryTitle);
+}
+
 /// Slanted and light, so that it reads as a note below the table.
 void PrintRemark(DrawingSurface& page)
 {
-    page.FontSize = kRemarkSize;
-    page.FontBold = false;
-    page.FontItalic = true;
+    const Regular regular(page);
+    const Italic italic(page);
+    const TextSize size(page, kRemarkSize);
     PrintFrom(page, kMargin, kRemarkTop, kRemarkText);
-    page.FontSize = kTextSize;
-    page.FontBold = true;
-    page.FontItalic = false;
 }
 
-}  // namespace
-
-void DrawSummaryPage(const frmSummary& form, Printer& page)
+void DrawTable(const frmSummary& form, DrawingSurface& page)
 {
-    page.SetOrientation(Orientation::Portrait);
-    page.FontName = kReportFont;
-    page.FontSize = kTitleSize;
-    page.FontBold = true;
-    page.FontItalic = false;
-    page.DrawStyle = kSolid;
-    page.PaintPicture(form.imgLogo.Content(), kMargin, kLogoTop, kLogoSide, kLogoSide);
-    PrintBanner(page);
-    PrintJob(form, page);
-    page.FontBold = true;
-    page.FontSize = kTitleSize;
-    page.CurrentY = kTitleTop;
-    PrintCentred(page, 0, page.ScaleWidth, kSummaryTitle);
-    page.FontSize = kTextSize;
+    const Bold bold(page);
+    const TextSize size(page, kTextSize);
     const SummaryTable table(page, form.mshSum);
+    table.DrawFrame();
     table.DrawRules();
     table.PrintHeads();
     table.PrintTestsAndCaptions();
@@ -183,11 +197,25 @@ void DrawSummaryPage(const frmSummary& form, Printer& page)
     table.PrintValues(summary::kCrush);
 }
 
-std::vector<DisplayList> PagesOfSummary(const frmSummary& form)
+}  // namespace
+
+void frmSummary::DrawPage(Printer& printer) const
 {
-    Printer copy = form.program.printer;
+    printer.SetOrientation(Orientation::Portrait);
+    printer.FontName = kReportFont;
+    printer.FontBold = false;
+    printer.FontItalic = false;
+    DrawBanner(*this, printer);
+    PrintJob(*this, printer);
+    PrintTitle(printer);
+    DrawTable(*this, printer);
+}
+
+std::vector<DisplayList> frmSummary::Pages() const
+{
+    Printer copy = program.printer;
     copy.KillDoc();
-    DrawSummaryPage(form, copy);
+    DrawPage(copy);
     return copy.Pages();
 }
 
