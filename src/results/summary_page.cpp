@@ -48,9 +48,9 @@ double RightEdge(const DrawingSurface& page)
 }
 
 /// The table on the page: a line of text a row of the grid. The line is measured once, in the size then in force.
-class SummaryTable {
+class PrintedTable {
   public:
-    SummaryTable(DrawingSurface& page, const TextGrid& grid)
+    PrintedTable(DrawingSurface& page, const TextGrid& grid)
         : page_(page), grid_(grid), line_(LineHeight(page)), third_((page.ScaleWidth - 2 * kMargin) / 3)
     {}
 
@@ -174,7 +174,7 @@ void DrawSummaryPage(const frmSummary& form, Printer& page)
     page.CurrentY = kTitleTop;
     PrintCentred(page, 0, page.ScaleWidth, kSummaryTitle);
     page.FontSize = kTextSize;
-    const SummaryTable table(page, form.mshSum);
+    const PrintedTable table(page, form.mshSum);
     table.DrawRules();
     table.PrintHeads();
     table.PrintTestsAndCaptions();

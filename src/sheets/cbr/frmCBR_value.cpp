@@ -20,7 +20,7 @@ namespace {
 using namespace cbr;
 
 constexpr double kDensityStep = 0.001;   // g/cm³, of the curve
-constexpr double kTickDistance = 0.1;    // g/cm³
+constexpr double kDensityTick = 0.1;    // g/cm³
 constexpr double kLabelNeeds = 300;      // twips across
 constexpr std::size_t kDigits = 3;       // characters of a density that give the axis its end
 constexpr std::size_t kShareDigits = 2;  // characters of the share that are read: "100%" reads 10
@@ -46,7 +46,7 @@ constexpr std::array kCurves{
     RatioCurve{result::At01, Mark::OpenCircle, kRatioAt01},
     RatioCurve{result::At02, Mark::FilledCircle, kRatioAt02},
 };
-constexpr std::array kKey{
+constexpr std::array kValueKey{
     KeyEntry{kCurves[0].mark, kCurves[0].name},
     KeyEntry{kCurves[1].mark, kCurves[1].name},
 };
@@ -132,7 +132,7 @@ DensityScale frmCBR::ScaleOfDensities() const
         for (const RatioCurve& curve : kCurves) greatest = std::max(greatest, Val(mshLPC(curve.row, mould)));
     }
     const RisingAxis ratio = AxisFor(greatest, kRatioSteps, picGraph3.ScaleHeight - kBoxMargin);
-    return {picGraph3.ScaleWidth - kBoxMargin, Cut(lowest), Cut(highest) + kTickDistance, ratio};
+    return {picGraph3.ScaleWidth - kBoxMargin, Cut(lowest), Cut(highest) + kDensityTick, ratio};
 }
 
 void frmCBR::DrawDensityAxes(const DensityScale& scale)
@@ -142,15 +142,15 @@ void frmCBR::DrawDensityAxes(const DensityScale& scale)
     PrintAxisTitles(picGraph2, picGraph3, "Dry Density, g/cm^3", "California Bearing Ratio, %", kSmallAxisSize,
                     kTitleLeft);
     DrawRisingAxis(picGraph2, picGraph3, scale.ratio);
-    const double divisions = Int((scale.last - scale.first) / kTickDistance + 0.5);
+    const double divisions = Int((scale.last - scale.first) / kDensityTick + 0.5);
     const double most = Int(scale.width / kLabelNeeds);
     const double every = Int(divisions / most) + 1;
     for (double tick = 0; tick <= divisions; tick += every) {
-        const double density = scale.first + tick * kTickDistance;
+        const double density = scale.first + tick * kDensityTick;
         DrawTick(picGraph2, picGraph3, scale.X(density), Format(density, kOneDecimal));
     }
     DrawPlotBoxes(picGraph2, picGraph3);
-    DrawKey(picGraph2, (picGraph3.Top - picGraph2.TextHeight("M")) / 2, kKey);
+    DrawKey(picGraph2, (picGraph3.Top - picGraph2.TextHeight("M")) / 2, kValueKey);
 }
 
 /// The three points of a row and the parabola through them, from the first mould's density to the third's.
