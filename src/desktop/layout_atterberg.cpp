@@ -27,7 +27,8 @@ Place AtterbergCurveTab()
 
 Place AtterbergLayout()
 {
-    return Column({Banner("txtLabName"), GeneralData(), Tabs("SSTData", {AtterbergReadingsTab(), AtterbergCurveTab()})});
+    return Column(
+        {Banner("txtLabName"), GeneralData(), Tabs("SSTData", {AtterbergReadingsTab(), AtterbergCurveTab()})});
 }
 
 }  // namespace terravane

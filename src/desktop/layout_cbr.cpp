@@ -51,8 +51,8 @@ Place ValueTab()
 
 Place CbrLayout()
 {
-    return Column(
-        {Banner("txtLabName"), GeneralData(), Tabs("SSTData", {MouldsTab(), PenetrationTab(), CurvesTab(), ValueTab()})});
+    return Column({Banner("txtLabName"), GeneralData(),
+                   Tabs("SSTData", {MouldsTab(), PenetrationTab(), CurvesTab(), ValueTab()})});
 }
 
 }  // namespace terravane

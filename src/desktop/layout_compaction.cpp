@@ -32,7 +32,8 @@ Place CompactionCurveTab()
 
 Place CompactionLayout()
 {
-    return Column({Banner("txtLabName"), GeneralData(), Tabs("SSTData", {CompactionReadingsTab(), CompactionCurveTab()})});
+    return Column(
+        {Banner("txtLabName"), GeneralData(), Tabs("SSTData", {CompactionReadingsTab(), CompactionCurveTab()})});
 }
 
 }  // namespace terravane

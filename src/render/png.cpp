@@ -22,8 +22,8 @@ QSize PixelsOf(const DisplayList& list, double scale)
 {
     const double width = std::ceil(list.width * scale);
     const double height = std::ceil(list.height * scale);
-    const bool fits =
-        width >= 1 && height >= 1 && width <= kLongestPngSide && height <= kLongestPngSide && width * height <= kMostPixels;
+    const bool fits = width >= 1 && height >= 1 && width <= kLongestPngSide && height <= kLongestPngSide &&
+                      width * height <= kMostPixels;
     if (!fits) throw RuntimeError(error::kInvalidProcedureCall);
     return {static_cast<int>(width), static_cast<int>(height)};
 }

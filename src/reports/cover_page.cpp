@@ -14,7 +14,7 @@ namespace {
 constexpr double kLogoWidth = 1420;
 constexpr double kLogoTop = 1200;
 constexpr double kTitleTop = 4000;
-constexpr double kTitleSize = 28;  // points
+constexpr double kCoverTitleSize = 28;  // points
 constexpr double kTextSize = 22;
 constexpr int kGap = 4;  // blank lines between the cover's parts
 
@@ -70,7 +70,7 @@ void PrintCoverPage(Program& program, Printer& printer)
     const TestSheet& sheet = OpenSheet(program);
     PaintLogo(program, printer);
     printer.FontName = kReportFont;
-    printer.FontSize = kTitleSize;
+    printer.FontSize = kCoverTitleSize;
     printer.CurrentY = kTitleTop;
     PrintBoldLine(printer, ReportOf(program.CurrentTest).titles.cover);
     printer.FontSize = kTextSize;

@@ -20,7 +20,7 @@ namespace {
 using namespace cbr;
 
 constexpr double kDensityStep = 0.001;   // g/cm³, of the curve
-constexpr double kDensityTick = 0.1;    // g/cm³
+constexpr double kDensityTick = 0.1;     // g/cm³
 constexpr double kLabelNeeds = 300;      // twips across
 constexpr std::size_t kDigits = 3;       // characters of a density that give the axis its end
 constexpr std::size_t kShareDigits = 2;  // characters of the share that are read: "100%" reads 10
