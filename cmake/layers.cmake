@@ -1,26 +1,27 @@
-# A build from nothing spends most of its time on reading headers, so that the release build reads the common ones once:
-# the standard library's for every layer, Qt's and JSON's for the layers that name them. The other builds go without and
-# so find an include that is missing.
-set(TERRAVANE_COMMON_HEADERS <algorithm> <array> <cmath> <cstdint> <functional> <map> <memory> <optional> <span> <string>
-    <string_view> <utility> <variant> <vector>)
-
-function(terravane_precompile name)
+# A build from nothing spends most of its time on reading the same headers and compiling the same templates for file
+# after file, so that the release build takes the files of a folder as one unit. What files keep to themselves (in an
+# unnamed namespace) has names of its own in a folder, therefore; APART are files of which that would be asked in vain,
+# as regular expressions of their names. The other builds compile file by file, and so find an include that is missing.
+function(terravane_compile_together target)
+  cmake_parse_arguments(together "" "" "FILES;APART" ${ARGN})
   if(NOT CMAKE_BUILD_TYPE STREQUAL "Release")
     return()
   endif()
-  if(layer_PRECOMPILED_AS)
-    target_precompile_headers(terravane_${name} REUSE_FROM terravane_${layer_PRECOMPILED_AS})
-  elseif(ARGN OR name IN_LIST TERRAVANE_CHECKED_LAYERS OR name STREQUAL "runtime")
-    target_precompile_headers(terravane_${name} PRIVATE ${TERRAVANE_COMMON_HEADERS} ${ARGN})
-  else()
-    target_precompile_headers(terravane_${name} REUSE_FROM terravane_runtime)
-  endif()
+  set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_MODE GROUP)
+  foreach(pattern IN LISTS together_APART)
+    list(FILTER together_FILES EXCLUDE REGEX ${pattern})
+  endforeach()
+  foreach(file IN LISTS together_FILES)
+    cmake_path(GET file PARENT_PATH folder)
+    cmake_path(GET folder FILENAME folder)
+    set_source_files_properties(${file} PROPERTIES UNITY_GROUP ${folder})
+  endforeach()
 endfunction()
 
 # A layer is a folder of src/ and a library of the same name; every .cpp below the folder belongs to it, but main.cpp.
-# PRECOMPILES: headers to read once beside the common ones; PRECOMPILED_AS: the layer that has read the same.
+# APART: files that the release build compiles by themselves.
 function(terravane_layer name)
-  cmake_parse_arguments(layer "" "PRECOMPILED_AS" "USES;LINKS;PRECOMPILES" ${ARGN})
+  cmake_parse_arguments(layer "" "" "USES;LINKS;APART" ${ARGN})
   file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/${name}/*.cpp)
   list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
   list(TRANSFORM layer_USES PREPEND terravane_)
@@ -30,7 +31,7 @@ function(terravane_layer name)
   if(name IN_LIST TERRAVANE_CHECKED_LAYERS)
     target_compile_definitions(terravane_${name} PRIVATE $<$<CONFIG:Release>:_GLIBCXX_ASSERTIONS>)
   endif()
-  terravane_precompile(${name} ${layer_PRECOMPILES})
+  terravane_compile_together(terravane_${name} FILES ${sources} APART ${layer_APART})
 endfunction()
 
 # A program: one main.cpp over layers. The target `programs` builds them all, without the tests.

@@ -7,14 +7,14 @@ namespace terravane {
 
 namespace {
 
-constexpr double kWidth = 6600, kHeight = 3600;  // twips
+constexpr double kDialogWidth = 6600, kDialogHeight = 3600;  // twips
 
 }  // namespace
 
 frmProject::frmProject(Program& owner) : Form(owner, "frmProject", "General Data"), program(owner)
 {
-    Width = kWidth;
-    Height = kHeight;
+    Width = kDialogWidth;
+    Height = kDialogHeight;
 }
 
 void frmProject::cmdOK_Click() const

@@ -16,7 +16,7 @@ std::string TwoDigits(long number)
 }
 
 /// "0:31", "2:05:00".
-std::string Clock(double seconds)
+std::string ClockText(double seconds)
 {
     const long all = std::lround(std::ceil(seconds));
     const long hours = all / 3600, minutes = all / 60 % 60;
@@ -36,7 +36,7 @@ std::string Progress::Bar(Seconds elapsed) const
                       std::to_string(static_cast<int>(share * 100)) + " %";
     if (worked_ == 0 || elapsed.count() <= 0) return bar;
     const double rate = static_cast<double>(worked_) / elapsed.count();
-    return bar + "  " + Format(rate, "#0.0") + "/s  " + Clock(static_cast<double>(total_ - done_) / rate) + " left";
+    return bar + "  " + Format(rate, "#0.0") + "/s  " + ClockText(static_cast<double>(total_ - done_) / rate) + " left";
 }
 
 }  // namespace terravane

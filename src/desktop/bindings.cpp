@@ -21,15 +21,11 @@
 
 #include "controls/form.h"
 #include "desktop/looks.h"
+#include "desktop/qt_text.h"
 
 namespace terravane {
 
 namespace {
-
-QString ToQt(const std::string& text)
-{
-    return QString::fromStdString(text);
-}
 
 /// Selects the view's text when a handler asked for it since the last look.
 template <class View>

@@ -29,6 +29,7 @@
 #include "desktop/looks.h"
 #include "desktop/picture_view.h"
 #include "desktop/plot_view.h"
+#include "desktop/qt_text.h"
 #include "render/decoded_pictures.h"
 
 namespace terravane {
@@ -58,11 +59,6 @@ std::optional<Key> KeyOf(int key)
         default:
             return std::nullopt;
     }
-}
-
-QString ToQt(std::string_view text)
-{
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
 /// Its parts above each other where the height allows it, else beside each other: a screen of 720 lines shows two

@@ -7,13 +7,13 @@ using namespace layout;
 
 namespace {
 
-Place ReadingsTab()
+Place AtterbergReadingsTab()
 {
     return Column({Pair({Group("fraLL", {One("MSHLL", 1)}, 1), Group("fraPL", {One("MSHPL", 1)}, 1)}),
                    Row({Space(), One("cmdCal")})});
 }
 
-Place CurveTab()
+Place AtterbergCurveTab()
 {
     return Row({
         Plot("picgraph1", "picGraph", 3),
@@ -27,7 +27,8 @@ Place CurveTab()
 
 Place AtterbergLayout()
 {
-    return Column({Banner("txtLabName"), GeneralData(), Tabs("SSTData", {ReadingsTab(), CurveTab()})});
+    return Column(
+        {Banner("txtLabName"), GeneralData(), Tabs("SSTData", {AtterbergReadingsTab(), AtterbergCurveTab()})});
 }
 
 }  // namespace terravane

@@ -17,7 +17,7 @@ Place MouldsTab()
     });
 }
 
-Place ReadingsTab()
+Place PenetrationTab()
 {
     return Row({
         Group("fraSwell", {One("MSHSwell", 1), Row({Field("dtpSwell"), Space()})}, 5),
@@ -51,8 +51,8 @@ Place ValueTab()
 
 Place CbrLayout()
 {
-    return Column(
-        {Banner("txtLabName"), GeneralData(), Tabs("SSTData", {MouldsTab(), ReadingsTab(), CurvesTab(), ValueTab()})});
+    return Column({Banner("txtLabName"), GeneralData(),
+                   Tabs("SSTData", {MouldsTab(), PenetrationTab(), CurvesTab(), ValueTab()})});
 }
 
 }  // namespace terravane

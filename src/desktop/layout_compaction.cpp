@@ -7,7 +7,7 @@ using namespace layout;
 
 namespace {
 
-Place ReadingsTab()
+Place CompactionReadingsTab()
 {
     return Column({
         Row({Field("txtDia"), Field("txtHeight"), Field("cboWt"), Field("cboBlow"), Field("cboLayer"), Space()}),
@@ -16,7 +16,7 @@ Place ReadingsTab()
     });
 }
 
-Place CurveTab()
+Place CompactionCurveTab()
 {
     return Row({
         Plot("picgraph1", "picGraph", 3),
@@ -32,7 +32,8 @@ Place CurveTab()
 
 Place CompactionLayout()
 {
-    return Column({Banner("txtLabName"), GeneralData(), Tabs("SSTData", {ReadingsTab(), CurveTab()})});
+    return Column(
+        {Banner("txtLabName"), GeneralData(), Tabs("SSTData", {CompactionReadingsTab(), CompactionCurveTab()})});
 }
 
 }  // namespace terravane

@@ -10,7 +10,7 @@ namespace {
 /// A logo with its two commands below it.
 Place LogoWith(std::string_view box, std::string_view name, std::string_view open, std::string_view change)
 {
-    return Column({Picture(box, name), Row({Space(), One(open), One(change), Space()})}, 1);
+    return Column({layout::Picture(box, name), Row({Space(), One(open), One(change), Space()})}, 1);
 }
 
 Place HeadTab()

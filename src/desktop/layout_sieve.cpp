@@ -18,7 +18,7 @@ Place MassesTab()
     });
 }
 
-Place CurveTab()
+Place GradingTab()
 {
     return Row({
         Plot("picgraph1", "picGraph", 4),
@@ -46,7 +46,7 @@ Place ClassesTab()
 
 Place SieveLayout()
 {
-    return Column({Banner("txtLabName"), GeneralData(), Tabs("SSTData", {MassesTab(), CurveTab(), ClassesTab()})});
+    return Column({Banner("txtLabName"), GeneralData(), Tabs("SSTData", {MassesTab(), GradingTab(), ClassesTab()})});
 }
 
 }  // namespace terravane

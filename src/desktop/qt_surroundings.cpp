@@ -14,16 +14,12 @@
 #include <memory>
 
 #include "desktop/looks.h"
+#include "desktop/qt_text.h"
 #include "render/pdf.h"
 
 namespace terravane {
 
 namespace {
-
-QString ToQt(const std::string& text)
-{
-    return QString::fromStdString(text);
-}
 
 QMessageBox::Icon IconOf(MessageStyle style)
 {

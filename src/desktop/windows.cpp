@@ -21,16 +21,12 @@
 #include "controls/visit_control.h"
 #include "desktop/layouts.h"
 #include "desktop/looks.h"
+#include "desktop/qt_text.h"
 #include "render/painter.h"
 
 namespace terravane {
 
 namespace {
-
-QString ToQt(const std::string& text)
-{
-    return QString::fromStdString(text);
-}
 
 constexpr std::chrono::milliseconds kFrameSeen{200};
 

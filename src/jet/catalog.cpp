@@ -31,7 +31,7 @@ T NumberOf(const TableDefinition& table, const RowView& row, std::string_view na
     return bytes ? Get<T>(*bytes, 0) : T{0};
 }
 
-std::string NameOf(const TableDefinition& table, const RowView& row)
+std::string TableNameOf(const TableDefinition& table, const RowView& row)
 {
     const auto bytes = row.BytesOf(Named(table, "Name"));
     return bytes ? DecodeText(*bytes) : std::string();
@@ -41,7 +41,7 @@ bool IsUserTable(const TableDefinition& catalog, const RowView& row)
 {
     return NumberOf<std::uint16_t>(catalog, row, "Type") == kTableType &&
            (NumberOf<std::uint32_t>(catalog, row, "Flags") & kHiddenObject) == 0 &&
-           !SameName(Left(NameOf(catalog, row), kSystemPrefix.size()), kSystemPrefix);
+           !SameName(Left(TableNameOf(catalog, row), kSystemPrefix.size()), kSystemPrefix);
 }
 
 template <typename T>
@@ -85,7 +85,7 @@ std::vector<TableEntry> UserTables(const Image& image)
     for (const StoredRow& stored : FindRows(image, catalog).rows) {
         const RowView row = ReadRow(catalog, stored.bytes);
         if (!IsUserTable(catalog, row)) continue;
-        tables.push_back({NameOf(catalog, row), NumberOf<std::uint32_t>(catalog, row, "Id") & kPageOfId});
+        tables.push_back({TableNameOf(catalog, row), NumberOf<std::uint32_t>(catalog, row, "Id") & kPageOfId});
     }
     return tables;
 }
@@ -122,7 +122,7 @@ void RebuildCatalogIndexes(Image& image)
     const TableDefinition rights = ReadDefinition(image, kRightsPage);
     WriteIndex(image, objects, 0, EntriesOf(image, objects, [&](Bytes& key, const RowView& row) {
                    AppendKey(key, SignedOf(objects, row, "ParentId"));
-                   AppendKey(key, NameOf(objects, row));
+                   AppendKey(key, TableNameOf(objects, row));
                }));
     WriteIndex(image, objects, 1, EntriesOf(image, objects, [&](Bytes& key, const RowView& row) {
                    AppendKey(key, SignedOf(objects, row, "Id"));

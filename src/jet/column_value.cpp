@@ -62,9 +62,9 @@ std::string Date(ByteView bytes)
     return second == 0 ? ShortDate(moment) : ShortDate(moment) + " " + Format(moment, "hh:nn:ss");
 }
 
-using Reader = std::string (*)(ByteView);
+using ValueReader = std::string (*)(ByteView);
 
-const std::map<ColumnType, Reader> kReaders{
+const std::map<ColumnType, ValueReader> kReaders{
     {ColumnType::Boolean, [](ByteView b) { return std::string(b[0] != 0 ? "True" : "False"); }},
     {ColumnType::Byte, [](ByteView b) { return std::to_string(Get<std::uint8_t>(b, 0)); }},
     {ColumnType::Int16, [](ByteView b) { return std::to_string(static_cast<std::int16_t>(Get<std::uint16_t>(b, 0))); }},

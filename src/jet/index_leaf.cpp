@@ -16,7 +16,7 @@ namespace terravane::jet {
 
 namespace {
 
-constexpr std::size_t kBitsAt = 0x1B;
+constexpr std::size_t kMaskAt = 0x1B;
 constexpr std::size_t kEntriesAt = 0x1E0;
 constexpr std::size_t kAddress = 4;  // bytes behind the key
 constexpr std::uint8_t kNotNull = 0x7F;
@@ -98,7 +98,7 @@ void WriteLeaf(MutableBytes page, PageNumber owner, std::vector<Bytes> entries)
         if (entry.size() > kPageSize - end) throw Refused("The database has too many tables for one index page.");
         std::ranges::copy(entry, page.begin() + static_cast<std::ptrdiff_t>(end));
         end += entry.size();
-        WriteBit(page.subspan(kBitsAt), end - kEntriesAt, true);
+        WriteBit(page.subspan(kMaskAt), end - kEntriesAt, true);
     }
     Put<std::uint16_t>(page, 2, U16(kPageSize - end));
 }

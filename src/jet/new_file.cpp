@@ -29,7 +29,6 @@ constexpr PageNumber kNewPages = 16;
 constexpr PageNumber kFirstDataPage = 14;  // of MSysObjects; that of MSysACEs follows, the others have none
 constexpr std::size_t kTablesWithRows = 2;
 constexpr std::size_t kMapBits = (kMapRow - 5) * 8;
-constexpr std::size_t kMaxColumns = 255;
 constexpr std::size_t kMaxText = 255;
 constexpr std::size_t kMaxName = 64;
 

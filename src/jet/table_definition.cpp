@@ -37,7 +37,6 @@ constexpr std::size_t kKeysAt = kFixedPart + 4;  // of the first physical index
 constexpr std::size_t kIndexStep = 12;
 constexpr std::uint32_t kConstant = 1625;
 constexpr std::uint32_t kIndexConstant = 1923;
-constexpr std::size_t kMaxColumns = 255;
 constexpr std::size_t kMaxIndexes = 64;
 constexpr std::size_t kKeyColumns = 10;
 constexpr std::uint16_t kNoColumn = 0xFFFF;

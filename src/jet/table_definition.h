@@ -35,6 +35,9 @@ inline constexpr std::uint8_t kNullable = 0x02;
 inline constexpr std::uint8_t kAutonumber = 0x04;
 }  // namespace column_flag
 
+/// The most columns that a table can have.
+inline constexpr std::size_t kMaxColumns = 255;
+
 struct Column {
     std::string name;
     ColumnType type = ColumnType::Text;

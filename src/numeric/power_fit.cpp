@@ -14,13 +14,13 @@ using Row = std::vector<double>;
 using Matrix = std::vector<Row>;
 
 /// Σ x^k and Σ y·x^k, k from 0 to twice the highest power.
-struct Sums {
+struct PowerSums {
     Row powers, products;
 };
 
-Sums SumsOf(std::span<const double> x, std::span<const double> y, std::size_t highest)
+PowerSums PowerSumsOf(std::span<const double> x, std::span<const double> y, std::size_t highest)
 {
-    Sums sums{Row(2 * highest + 1), Row(2 * highest + 1)};
+    PowerSums sums{Row(2 * highest + 1), Row(2 * highest + 1)};
     for (std::size_t point = 0; point < x.size(); ++point) {
         double power = 1;
         for (std::size_t k = 0; k < sums.powers.size(); ++k, power *= x[point]) {
@@ -65,7 +65,7 @@ std::vector<double> FitPowers(std::span<const double> x, std::span<const double>
     const auto first = static_cast<std::size_t>(lowest), last = static_cast<std::size_t>(highest);
     const std::size_t unknowns = last - first + 1;
     if (CountDifferent(x, lowest == 0) < unknowns) Divide(0, 0);
-    const Sums sums = SumsOf(x, y, last);
+    const PowerSums sums = PowerSumsOf(x, y, last);
     Matrix matrix(unknowns, Row(unknowns));
     Row rightSide(unknowns);
     for (std::size_t row = 0; row < unknowns; ++row) {

@@ -20,7 +20,7 @@ void Store(double& cell, double value)
 }
 
 template <class Real>
-struct Sums {
+struct LineSums {
     Real x = 0, y = 0, xy = 0, xx = 0;
 
     void Add(double atX, double atY)
@@ -44,7 +44,7 @@ template <class Real>
 StraightLine FitStraightLine(std::span<const Real> x, std::span<const Real> y)
 {
     if (NoTwoDiffer(x)) throw RuntimeError(error::kOverflow);  // 0/0
-    Sums<Real> sums;
+    LineSums<Real> sums;
     for (std::size_t i = 0; i < x.size(); ++i) sums.Add(x[i], y[i]);
     const auto count = static_cast<double>(x.size());
     const double sumX = sums.x, sumY = sums.y, sumXY = sums.xy, sumXX = sums.xx;

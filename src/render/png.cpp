@@ -16,14 +16,14 @@ namespace {
 
 constexpr double kTwipsPerPixel = 15;
 constexpr double kMostPixels = 200e6;
-constexpr double kLongestSide = 32767;  // what Qt's painter reaches on an image
+constexpr double kLongestPngSide = 32767;  // what Qt's painter reaches on an image
 
 QSize PixelsOf(const DisplayList& list, double scale)
 {
     const double width = std::ceil(list.width * scale);
     const double height = std::ceil(list.height * scale);
-    const bool fits =
-        width >= 1 && height >= 1 && width <= kLongestSide && height <= kLongestSide && width * height <= kMostPixels;
+    const bool fits = width >= 1 && height >= 1 && width <= kLongestPngSide && height <= kLongestPngSide &&
+                      width * height <= kMostPixels;
     if (!fits) throw RuntimeError(error::kInvalidProcedureCall);
     return {static_cast<int>(width), static_cast<int>(height)};
 }

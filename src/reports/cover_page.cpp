@@ -13,7 +13,7 @@ namespace {
 constexpr double kLogoWidth = 1420;
 constexpr double kLogoTop = 1200;
 constexpr double kTitleTop = 4000;
-constexpr double kTitleSize = 28;  // points
+constexpr double kCoverTitleSize = 28;  // points
 constexpr double kTextSize = 22;
 constexpr int kGap = 4;  // blank lines between the cover's parts
 
@@ -44,7 +44,7 @@ void PrintBlankLines(DrawingSurface& page, int count)
 
 void PrintTitle(const Printing& of)
 {
-    const TextSize size(of.page, kTitleSize);
+    const TextSize size(of.page, kCoverTitleSize);
     of.page.CurrentY = kTitleTop;
     PrintBoldLine(of.page, of.report.titles.cover);
 }

@@ -49,9 +49,9 @@ double RightEdge(const DrawingSurface& page)
 }
 
 /// The table on the page: a line of text a row of the grid. The line is measured once, in the size then in force.
-class SummaryTable {
+class PrintedTable {
   public:
-    SummaryTable(DrawingSurface& page, const TextGrid& grid)
+    PrintedTable(DrawingSurface& page, const TextGrid& grid)
         : page_(page), grid_(grid), line_(LineHeight(page)), third_((page.ScaleWidth - 2 * kMargin) / 3)
     {}
 
@@ -187,7 +187,7 @@ void DrawTable(const frmSummary& form, DrawingSurface& page)
 {
     const Bold bold(page);
     const TextSize size(page, kTextSize);
-    const SummaryTable table(page, form.mshSum);
+    const PrintedTable table(page, form.mshSum);
     table.DrawFrame();
     table.DrawRules();
     table.PrintHeads();

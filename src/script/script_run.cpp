@@ -11,10 +11,10 @@ constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 /// A line as errors name it: without the blanks around it.
 std::string Shown(const std::string& line)
 {
-    constexpr std::string_view kBlanks = " \t\r";
-    const auto first = line.find_first_not_of(kBlanks);
+    constexpr std::string_view kAround = " \t\r";
+    const auto first = line.find_first_not_of(kAround);
     if (first == std::string::npos) return {};
-    return line.substr(first, line.find_last_not_of(kBlanks) - first + 1);
+    return line.substr(first, line.find_last_not_of(kAround) - first + 1);
 }
 
 }  // namespace

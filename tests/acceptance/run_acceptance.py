@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
 """Runs scripts through terravane-script and compares the answers, line by line, with the file kept beside each.
 
-    tests/acceptance/run_acceptance.py [--program build/bin/terravane-script] [--update] [SCRIPT.trv ...]
+    tests/acceptance/run_acceptance.py [--program build/bin/terravane-script] [--update] [SCRIPT.trv | FOLDER ...]
 
-Without scripts it runs all below its own folder. Each runs in a fresh folder of its own, on 21 November 2026, and is
+A folder stands for its scripts; without either it runs all below its own folder. Each runs in a fresh folder of its own, on 21 November 2026, and is
 compared with SCRIPT.expected, in which the fresh folder is written <work>. --update writes what came instead.
 --sample compares nothing: the script must end well and no answer may be an error or a refusal.
 
@@ -113,7 +113,10 @@ def refusals(lines):
 
 def judge(program, script, mode):
     """What is wrong, as lines; nothing where all is well."""
-    lines, wrong = run_script(program, script)
+    try:
+        lines, wrong = run_script(program, script)
+    except subprocess.TimeoutExpired as late:
+        return [str(late)]
     if mode.sample:
         return wrong + refusals(lines)
     if mode.update and not wrong:
@@ -122,16 +125,21 @@ def judge(program, script, mode):
     return wrong + compare(script, lines)
 
 
+def scripts_of(paths):
+    """The scripts among the paths and those of the folders among them."""
+    return [script for path in paths for script in (sorted(path.glob("*.trv")) if path.is_dir() else [path])]
+
+
 def main(arguments):
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
     parser.add_argument("--program", type=pathlib.Path, default=ROOT / "build/bin/terravane-script")
     parser.add_argument("--update", action="store_true", help="write what came into the .expected files")
     parser.add_argument("--sample", action="store_true", help="compare nothing, accept no error")
-    parser.add_argument("scripts", nargs="*", type=pathlib.Path)
+    parser.add_argument("scripts", nargs="*", type=pathlib.Path, metavar="SCRIPT | FOLDER")
     mode = parser.parse_args(arguments)
     program = mode.program.resolve()
     failed = 0
-    for script in mode.scripts or sorted(TESTS.glob("*/*.trv")):
+    for script in scripts_of(mode.scripts or sorted(TESTS.iterdir())):
         wrong = judge(program, script.resolve(), mode)
         failed += bool(wrong)
         print(f"{'FAILED' if wrong else 'ok'}  {script}")

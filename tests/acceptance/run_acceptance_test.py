@@ -7,6 +7,7 @@ import pathlib
 import sys
 import tempfile
 import unittest
+import unittest.mock
 
 sys.dont_write_bytecode = True
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent))
@@ -53,6 +54,26 @@ class Runner(unittest.TestCase):
 
     def test_missing_answers_fail(self):
         self.assertEqual(self.run_one("1\n")[0], 1)
+
+    def test_a_folder_stands_for_its_scripts_and_each_that_fails_is_named(self):
+        for name, kept in ("first", "1\n"), ("second", "2\n"), ("third", "3\n"):
+            (self.folder / f"{name}.trv").write_text("1\n", encoding="utf-8")
+            (self.folder / f"{name}.expected").write_text(kept, encoding="utf-8")
+        with contextlib.redirect_stdout(io.StringIO()) as printed:
+            status = run_acceptance.main(["--program", str(self.program), str(self.folder)])
+        self.assertEqual(status, 1)
+        failed = [line for line in printed.getvalue().splitlines() if line.startswith("FAILED")]
+        self.assertEqual([line.rsplit("/", 1)[1] for line in failed], ["second.trv", "third.trv"])
+
+    def test_a_script_that_does_not_end_fails_and_the_next_one_runs(self):
+        self.program.write_text(REPEATER.replace("'quit '*)", "endless) sleep 9 ;; 'quit '*)"), encoding="utf-8")
+        for name, line in ("first", "endless\n"), ("second", "1\n"):
+            (self.folder / f"{name}.trv").write_text(line, encoding="utf-8")
+            (self.folder / f"{name}.expected").write_text("1\n", encoding="utf-8")
+        with unittest.mock.patch.object(run_acceptance, "SECONDS", 1):
+            with contextlib.redirect_stdout(io.StringIO()) as printed:
+                self.assertEqual(run_acceptance.main(["--program", str(self.program), str(self.folder)]), 1)
+        self.assertRegex(printed.getvalue(), "(?s)FAILED .*first.trv.*timed out.*ok .*second.trv")
 
     def test_the_fresh_folder_is_written_work(self):
         self.assertEqual(self.run_one("PWD/road.mdb\n", "<work>/road.mdb\n")[0], 0)

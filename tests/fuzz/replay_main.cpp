@@ -13,6 +13,7 @@
 #include <iterator>
 #include <random>
 #include <string>
+#include <utility>
 #include <vector>
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
@@ -78,11 +79,33 @@ class Mutator {
     std::mt19937 random_{1};
 };
 
-/// Kept on the disk while it runs, so that a crash leaves it behind.
-void Run(const Input& input, const std::string& kept)
+/// Where the input that runs is kept, so that a crash leaves it behind. The file stays open: a file system may write to
+/// the disk, and wait for it, whenever one that was cut is closed.
+class Keeper {
+  public:
+    explicit Keeper(std::string path) : path_(std::move(path)), file_(path_, std::ios::binary | std::ios::trunc) {}
+
+    void Keep(const Input& input)
+    {
+        file_.seekp(0);
+        file_.write(reinterpret_cast<const char*>(input.data()), static_cast<std::streamsize>(input.size())).flush();
+        std::filesystem::resize_file(path_, input.size());
+    }
+
+    void Remove()
+    {
+        file_.close();
+        std::filesystem::remove(path_);
+    }
+
+  private:
+    std::string path_;
+    std::ofstream file_;
+};
+
+void Run(const Input& input, Keeper& keeper)
 {
-    std::ofstream(kept, std::ios::binary)
-        .write(reinterpret_cast<const char*>(input.data()), static_cast<std::streamsize>(input.size()));
+    keeper.Keep(input);
     LLVMFuzzerTestOneInput(input.data(), input.size());
 }
 
@@ -91,17 +114,17 @@ void Run(const Input& input, const std::string& kept)
 int main(int argc, char** argv)
 {
     if (argc < 3) return EXIT_FAILURE;
-    const std::string kept = std::string(argv[0]) + ".last";
     const std::vector<Input> corpus = ReadCorpus(argv[1]);
     if (corpus.empty()) {
         std::fprintf(stderr, "no corpus in %s\n", argv[1]);
         return EXIT_FAILURE;
     }
-    for (const Input& input : corpus) Run(input, kept);
+    Keeper keeper{std::string(argv[0]) + ".last"};
+    for (const Input& input : corpus) Run(input, keeper);
     Mutator mutator;
     const int rounds = std::atoi(argv[2]);
-    for (int round = 0; round < rounds; ++round) Run(mutator.Changed(corpus[mutator.Below(corpus.size())]), kept);
-    std::filesystem::remove(kept);
+    for (int round = 0; round < rounds; ++round) Run(mutator.Changed(corpus[mutator.Below(corpus.size())]), keeper);
+    keeper.Remove();
     std::printf("%zu inputs, %d changed copies: no failure\n", corpus.size(), rounds);
     return EXIT_SUCCESS;
 }

@@ -9,7 +9,7 @@
 #include "support/page_marks.h"
 #include "support/report_bench.h"
 
-namespace terravane {
+namespace terravane::atterberg_page {
 namespace {
 
 using namespace support;
@@ -239,4 +239,4 @@ TEST_F(AtterbergPage, NoTwoTextsOverlap)
 }
 
 }  // namespace
-}  // namespace terravane
+}  // namespace terravane::atterberg_page

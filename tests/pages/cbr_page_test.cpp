@@ -9,7 +9,7 @@
 #include "support/page_marks.h"
 #include "support/report_bench.h"
 
-namespace terravane {
+namespace terravane::cbr_page {
 namespace {
 
 using namespace support;
@@ -356,4 +356,4 @@ TEST_F(CbrPage, TwentyPenetrationsLeaveRoomForTheCurves)
 }
 
 }  // namespace
-}  // namespace terravane
+}  // namespace terravane::cbr_page

@@ -7,7 +7,7 @@
 #include "support/page_marks.h"
 #include "support/report_bench.h"
 
-namespace terravane {
+namespace terravane::compaction_page {
 namespace {
 
 using namespace support;
@@ -264,4 +264,4 @@ TEST_F(CompactionPage, NoTwoTextsOverlap)
 }
 
 }  // namespace
-}  // namespace terravane
+}  // namespace terravane::compaction_page

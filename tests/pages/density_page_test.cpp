@@ -12,7 +12,7 @@
 #include "support/page_marks.h"
 #include "support/report_bench.h"
 
-namespace terravane {
+namespace terravane::density_page {
 namespace {
 
 using namespace support;
@@ -275,4 +275,4 @@ TEST_F(DensityPage, ReadingsOfUsualLengthTouchNothing)
 }
 
 }  // namespace
-}  // namespace terravane
+}  // namespace terravane::density_page

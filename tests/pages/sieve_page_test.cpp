@@ -9,7 +9,7 @@
 #include "support/report_bench.h"
 #include "support/sieve_laboratory.h"
 
-namespace terravane {
+namespace terravane::sieve_page {
 namespace {
 
 using namespace support;
@@ -381,4 +381,4 @@ TEST_F(SievePage, ThePrinterStaysOnItsSideAfterAPrint)
 }
 
 }  // namespace
-}  // namespace terravane
+}  // namespace terravane::sieve_page

@@ -8,7 +8,7 @@
 #include "support/page_marks.h"
 #include "support/report_bench.h"
 
-namespace terravane {
+namespace terravane::specific_gravity_page {
 namespace {
 
 using namespace support;
@@ -208,4 +208,4 @@ TEST_F(SpecificGravityPage, NoTwoTextsOverlap)
 }
 
 }  // namespace
-}  // namespace terravane
+}  // namespace terravane::specific_gravity_page

@@ -17,7 +17,7 @@ namespace terravane::support {
 namespace {
 
 constexpr std::string_view kProjectPath = "/lab/TRVN_road.mdb";
-constexpr unsigned kSeedsInTheTestCommand = 3;
+constexpr unsigned kSeedsInTheTestCommand = 1;
 constexpr int kUnitsWithoutColumn = 10;
 constexpr int kMostDifferences = 5;
 constexpr std::string_view kGrowingList = "MSHPenetrate1";

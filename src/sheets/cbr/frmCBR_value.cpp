@@ -20,7 +20,7 @@ namespace {
 using namespace cbr;
 
 constexpr double kDensityStep = 0.001;   // g/cm³, of the curve
-constexpr double kTickDistance = 0.1;    // g/cm³
+constexpr double kDensityTick = 0.1;     // g/cm³
 constexpr double kLabelNeeds = 300;      // twips across
 constexpr std::size_t kDigits = 3;       // characters of a density that give the axis its end
 constexpr std::size_t kShareDigits = 2;  // characters of the share that are read: "100%" reads 10
@@ -47,7 +47,7 @@ constexpr std::array kCurves{
     RatioCurve{result::At02, Mark::FilledCircle, kRatioAt02},
 };
 constexpr AxisTitles kAxes{"Dry Density, g/cm^3", "California Bearing Ratio, %", kSmallAxisSize, kTitleLeft};
-constexpr std::array kKey{
+constexpr std::array kValueKey{
     KeyEntry{kCurves[0].mark, kCurves[0].name},
     KeyEntry{kCurves[1].mark, kCurves[1].name},
 };
@@ -133,7 +133,7 @@ DensityScale frmCBR::ScaleOfDensities() const
         for (const RatioCurve& curve : kCurves) greatest = std::max(greatest, Val(mshLPC(curve.row, mould)));
     }
     const RisingAxis ratio = AxisFor(greatest, kRatioSteps, picGraph3.ScaleHeight - kBoxMargin);
-    return {picGraph3.ScaleWidth - kBoxMargin, Cut(lowest), Cut(highest) + kTickDistance, ratio};
+    return {picGraph3.ScaleWidth - kBoxMargin, Cut(lowest), Cut(highest) + kDensityTick, ratio};
 }
 
 void frmCBR::DrawEmptyDensityPlot()
@@ -149,18 +149,18 @@ void frmCBR::DrawDensityAxes(const DensityScale& scale)
     DrawRisingAxis(picGraph2, picGraph3, scale.ratio);
     DrawDensityTicks(scale);
     DrawPlotBoxes(picGraph2, picGraph3);
-    DrawKey(picGraph2, (picGraph3.Top - picGraph2.TextHeight("M")) / 2, kKey);
+    DrawKey(picGraph2, (picGraph3.Top - picGraph2.TextHeight("M")) / 2, kValueKey);
 }
 
 /// As many as their labels leave room for.
 void frmCBR::DrawDensityTicks(const DensityScale& scale)
 {
     const auto label = [](double density) { return Format(density, kOneDecimal); };
-    const double divisions = Int((scale.last - scale.first) / kTickDistance + 0.5);
+    const double divisions = Int((scale.last - scale.first) / kDensityTick + 0.5);
     const double most = Int(scale.width / std::max(kLabelNeeds, picGraph2.TextWidth(label(scale.last))));
     const double every = Int(divisions / most) + 1;
     for (double tick = 0; tick <= divisions; tick += every) {
-        const double density = scale.first + tick * kTickDistance;
+        const double density = scale.first + tick * kDensityTick;
         DrawTick(picGraph2, picGraph3, scale.X(density), label(density));
     }
 }

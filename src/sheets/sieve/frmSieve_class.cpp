@@ -13,7 +13,7 @@ namespace terravane {
 
 namespace {
 
-constexpr double kTitleLeft = 80;  // of the turned title
+constexpr double kChartTitleLeft = 80;  // of the turned title
 constexpr double kSampleRadius = 40;
 constexpr double kOverLetters = 40;   // white above the letters of a line
 constexpr int kColumns = 10;          // of 10 percent liquid limit
@@ -113,7 +113,7 @@ void frmSieve::DrawPlasticityChart()
 {
     picChart.Cls();
     picChart1.Cls();
-    PrintAxisTitles(picChart1, picChart, {"Liquid Limit (%)", "Plasticity Index (%)", kAxisSize, kTitleLeft});
+    PrintAxisTitles(picChart1, picChart, {"Liquid Limit (%)", "Plasticity Index (%)", kAxisSize, kChartTitleLeft});
     DrawOutline(picChart1, picChart);
     DrawChartGrid();
     const ChartScale scale = ScaleOf(picChart);

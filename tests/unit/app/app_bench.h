@@ -8,6 +8,8 @@
 #include <string>
 #include <vector>
 
+#include <gtest/gtest.h>
+
 #include "app/form_makers.h"
 #include "app/frmProject.h"
 #include "app/mdiBack.h"
@@ -128,5 +130,12 @@ struct AppBench {
         return connection.Execute("SELECT * from " + table + "'").Fields(column);
     }
 };
+
+/// No message and no reported failure so far.
+inline void ExpectSilence(const AppBench& bench)
+{
+    EXPECT_TRUE(bench.surroundings.messages.empty()) << bench.surroundings.messages.front().text;
+    EXPECT_TRUE(bench.surroundings.failures.empty()) << bench.surroundings.failures.front().Description();
+}
 
 }  // namespace terravane::testing

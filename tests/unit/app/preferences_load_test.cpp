@@ -7,12 +7,6 @@
 namespace terravane::testing {
 namespace {
 
-void ExpectSilence(const AppBench& bench)
-{
-    EXPECT_TRUE(bench.surroundings.messages.empty()) << bench.surroundings.messages.front().text;
-    EXPECT_TRUE(bench.surroundings.failures.empty()) << bench.surroundings.failures.front().Description();
-}
-
 PictureItem PictureIn(const PictureBox& box)
 {
     if (box.Items().size() != 1) return {};

@@ -33,12 +33,6 @@ void ExpectErrorBox(const AppBench& bench, const std::string& text)
     EXPECT_EQ(box.buttons, MessageButtons::Ok);
 }
 
-void ExpectSilence(const AppBench& bench)
-{
-    EXPECT_TRUE(bench.surroundings.messages.empty());
-    EXPECT_TRUE(bench.surroundings.failures.empty());
-}
-
 void ExpectNoProject(AppBench& bench)
 {
     EXPECT_EQ(bench.Frame().StatusBar1.BackColor(), kNoProjectColour);

@@ -11,8 +11,8 @@ using support::BatchBench;
 using Sentences = std::vector<std::string>;
 
 /// A job as it should be: MDD 2.00 posted, saved and taken over by the field density test.
-struct Job : BatchBench {
-    Job()
+struct StaleJob : BatchBench {
+    StaleJob()
     {
         PutCompaction(*this, "STDSOIL", support::kTopAt200);
         PutPeak(*this, "10.0", "2.00");
@@ -22,7 +22,7 @@ struct Job : BatchBench {
 
 TEST(Stale, NothingInAJobWhoseResultsFollow)
 {
-    EXPECT_EQ(Job().Stale(), Sentences());
+    EXPECT_EQ(StaleJob().Stale(), Sentences());
 }
 
 TEST(Stale, NothingInANewProject)
@@ -33,7 +33,7 @@ TEST(Stale, NothingInANewProject)
 // The trap: a compaction trial weighed again, plotted and saved, after the field density test took the old MDD.
 TEST(Stale, ADensityTestThatTookTheMddOfBeforeIsTold)
 {
-    Job job;
+    StaleJob job;
     PutCompaction(job, "STDSOIL", support::kTopAt250);
     PutPeak(job, "10.0", "2.50");
     EXPECT_EQ(job.Stale(),
@@ -45,7 +45,7 @@ TEST(Stale, ADensityTestThatTookTheMddOfBeforeIsTold)
 // The sheet forgets its result when it is opened again, so a Save without a new plot leaves the store without one.
 TEST(Stale, ACompactionSavedWithoutANewPlotIsTold)
 {
-    Job job;
+    StaleJob job;
     PutCompaction(job, "STDSOIL", support::kTopAt250);
     job.PutAll("STDSOIL", "std_mdd", "");
     job.PutAll("STDSOIL", "std_omc", "");
@@ -57,7 +57,7 @@ TEST(Stale, ACompactionSavedWithoutANewPlotIsTold)
 
 TEST(Stale, TheTestsOwnSavedResultIsToldToo)
 {
-    Job job;
+    StaleJob job;
     job.PutAll("STDSOIL", "std_mdd", "1.99");
     EXPECT_EQ(job.Stale(),
               Sentences{"soil: STDSOIL std_mdd 1.99: the readings of the standard compaction give 2.00 now"});
@@ -74,7 +74,7 @@ TEST(Stale, APostedResultWithoutReadingsIsTold)
 // A mould without a height has no volume.
 TEST(Stale, APostedResultWhoseReadingsFailIsToldWithTheFailure)
 {
-    Job job;
+    StaleJob job;
     job.PutAll("STDSOIL", "std_height", "0");
     const auto stale = job.Stale();
     ASSERT_FALSE(stale.empty());
@@ -85,7 +85,7 @@ TEST(Stale, APostedResultWhoseReadingsFailIsToldWithTheFailure)
 
 TEST(Stale, ABlankIsNeverStale)
 {
-    Job job;
+    StaleJob job;
     job.Put("SUMMARY", "sum_mddS", 1, "   ");
     job.Put("SUMMARY", "sum_compaction", 1, "");
     EXPECT_EQ(job.Stale(), Sentences());
@@ -129,7 +129,7 @@ TEST(Stale, AResultOfNeitherCurveIsComparedWithTheSheetsOwn)
 // A gravity and limits may be typed where the tests that give them were not made.
 TEST(Stale, WhatWasTypedForWantOfATestIsNotStale)
 {
-    Job job;
+    StaleJob job;
     job.PutAll("STDSOIL", "std_gs", "2.70");
     job.PutAll("SIESOIL", "sie_LL", "25");
     job.Put("SIESOIL", "sie_mss", 1, "400");

@@ -14,7 +14,7 @@ namespace terravane::house {
 
 namespace {
 
-const std::filesystem::path kRoot = kSourceFolder;
+const std::filesystem::path kSources = kSourceFolder;
 
 /// What runs a program, loads code or hands a name to the desktop, and the only files that may.
 struct Power {
@@ -34,8 +34,8 @@ std::vector<std::string> FilesWith(const std::string& pattern)
 {
     const std::regex wanted(pattern);
     std::vector<std::string> files;
-    for (const auto& file : SourcesBelow(kRoot / "src")) {
-        if (std::regex_search(ReadText(kRoot / "src" / file), wanted)) files.push_back(file);
+    for (const auto& file : SourcesBelow(kSources / "src")) {
+        if (std::regex_search(ReadText(kSources / "src" / file), wanted)) files.push_back(file);
     }
     return files;
 }
@@ -49,7 +49,7 @@ TEST(UntrustedFiles, AreNeverRunNorOpenedWithAnotherProgram)
 
 TEST(UntrustedFiles, OnlyTheGuideOfTheBrandFolderIsOpened)
 {
-    const std::string text = ReadText(kRoot / "src/app/mdiBack.cpp");
+    const std::string text = ReadText(kSources / "src/app/mdiBack.cpp");
     const std::regex opening(R"(OpenDocument\(([^;]*)\);)");
     std::vector<std::string> paths;
     for (std::sregex_iterator at(text.begin(), text.end(), opening), end; at != end; ++at) paths.push_back((*at)[1]);

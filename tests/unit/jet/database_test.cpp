@@ -28,7 +28,7 @@ int Update(Database& database, const std::string& statement)
     return database.Update(std::get<UpdateStatement>(ReadStatement(statement)));
 }
 
-std::vector<std::string> Texts(std::size_t count, const std::string& text)
+std::vector<std::string> Repeated(std::size_t count, const std::string& text)
 {
     return std::vector(count, text);
 }
@@ -46,7 +46,7 @@ TEST(Database, NewTableListsItsRowsInOrderOfInsertion)
     const Database database = Soil();
     EXPECT_EQ(database.TableNames(), std::vector<std::string>{"STDSOIL"});
     EXPECT_EQ(ColumnOf(database, "stdsoil", 0), (std::vector<std::string>{" 1", " 2", " 3", " 4", " 5", " 6"}));
-    EXPECT_EQ(ColumnOf(database, "STDSOIL", 2), Texts(6, "   "));
+    EXPECT_EQ(ColumnOf(database, "STDSOIL", 2), Repeated(6, "   "));
     EXPECT_EQ(database.ReadRows("STDSOIL").columns, (std::vector<std::string>{"std_ID", "std_soil", "std_can"}));
 }
 
@@ -69,7 +69,7 @@ TEST(Database, KeyWithoutItsBlankFindsNoRowAndThatIsNoError)
     Database database = Soil();
     EXPECT_EQ(Update(database, "UPDATE STDSOIL Set std_can ='x' Where std_ID ='3'"), 0);
     EXPECT_FALSE(database.Select({"STDSOIL", {}, {{"std_ID", " 3"}}}).rows.empty());
-    EXPECT_EQ(ColumnOf(database, "STDSOIL", 2), Texts(6, "   "));
+    EXPECT_EQ(ColumnOf(database, "STDSOIL", 2), Repeated(6, "   "));
 }
 
 TEST(Database, ConditionsCompareWithoutCaseAndAllMustHold)
@@ -84,7 +84,7 @@ TEST(Database, UpdateWithoutConditionChangesAllRows)
 {
     Database database = Soil();
     EXPECT_EQ(Update(database, "UPDATE STDSOIL Set std_can =''"), 6);
-    EXPECT_EQ(ColumnOf(database, "STDSOIL", 2), Texts(6, ""));
+    EXPECT_EQ(ColumnOf(database, "STDSOIL", 2), Repeated(6, ""));
 }
 
 TEST(Database, EmptyTextIsNotNullAndColumnsLeftOutAre)
@@ -99,9 +99,9 @@ TEST(Database, TextsCountUtf16UnitsUpToTheColumnsLength)
 {
     Database database = Soil();
     Update(database, "UPDATE STDSOIL Set std_can ='12345', std_soil ='" + Thai(20) + "'");
-    EXPECT_EQ(ColumnOf(database, "STDSOIL", 1), Texts(6, Thai(20)));
+    EXPECT_EQ(ColumnOf(database, "STDSOIL", 1), Repeated(6, Thai(20)));
     Update(database, "UPDATE STDSOIL Set std_can ='😀😀'");  // two units each
-    EXPECT_EQ(ColumnOf(database, "STDSOIL", 2), Texts(6, "😀😀"));
+    EXPECT_EQ(ColumnOf(database, "STDSOIL", 2), Repeated(6, "😀😀"));
     EXPECT_EQ(FailureOf([&] { Update(database, "UPDATE STDSOIL Set std_can ='😀😀😀'"); }),
               (Failure{-2147217833, "The text of 'std_can' is 6 characters long; the column takes 5."}));
 }
@@ -157,7 +157,7 @@ TEST(Database, RowsThatOutgrowTheirPageKeepTheirOrderAndAreNotMoved)
                              "' Where k =' " + std::to_string(row) + "'");
     }
     EXPECT_EQ(ColumnOf(database, "CBR", 0), keys);
-    EXPECT_EQ(ColumnOf(database, "CBR", 1), Texts(20, text));
+    EXPECT_EQ(ColumnOf(database, "CBR", 1), Repeated(20, text));
     EXPECT_EQ(ColumnOf(database, "CBR", 3)[10], "11");
     const Bytes bytes = database.ToBytes();
     for (std::size_t page = 18; page < bytes.size() / kPage; ++page) {

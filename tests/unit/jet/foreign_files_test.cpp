@@ -24,7 +24,7 @@ Bytes TwoTexts(std::u16string_view key, std::u16string_view value)
     return TextRow({Utf16(key), Utf16(value)});
 }
 
-int Update(Database& database, const std::string& statement)
+int Change(Database& database, const std::string& statement)
 {
     return database.Update(std::get<UpdateStatement>(ReadStatement(statement)));
 }
@@ -57,7 +57,7 @@ TEST(ForeignFile, MovedRowCountsAtThePlaceOfItsPointer)
 TEST(ForeignFile, ChangeLaysMovedRowsOutAfreshInTheirOrder)
 {
     Database database = Database::FromBytes(MovedRows().bytes);
-    EXPECT_EQ(Update(database, "UPDATE T Set v ='changed' Where k ='c'"), 1);
+    EXPECT_EQ(Change(database, "UPDATE T Set v ='changed' Where k ='c'"), 1);
     EXPECT_EQ(ColumnOf(database, "T", 1), (Texts{"first", "second", "changed", "fourth"}));
     const Bytes rows = PageOf(database.ToBytes(), 18);
     EXPECT_EQ(NumberAt(rows, 12, 2), 4U);
@@ -96,7 +96,7 @@ TEST(ForeignFile, CompressedTextsAreReadAndWrittenWhereTheColumnAllowsThem)
                                                {0, TextRow({Utf16(u"c"), Utf16(u"ดิน")})}}));
     Database database = Database::FromBytes(file.bytes);
     EXPECT_EQ(ColumnOf(database, "T", 1), (Texts{"first", "Со-0", "ดิน"}));
-    Update(database, "UPDATE T Set k ='kkk', v ='soil' Where k ='c'");
+    Change(database, "UPDATE T Set k ='kkk', v ='soil' Where k ='c'");
     EXPECT_EQ(ColumnOf(database, "T", 1), (Texts{"first", "Со-0", "soil"}));
     // the third row: key plain, value compressed, the two rows above as they were
     const Bytes page = PageOf(database.ToBytes(), 18);
@@ -115,8 +115,8 @@ TEST(ForeignFile, NullsAndRowsOfFewerColumnsReadAsNullAndTakeValues)
     Database database = Database::FromBytes(file.bytes);
     EXPECT_EQ(ColumnOf(database, "T", 0), (Texts{"a", "b", "(null)"}));
     EXPECT_EQ(ColumnOf(database, "T", 1), (Texts{"(null)", "(null)", ""}));
-    EXPECT_EQ(Update(database, "UPDATE T Set v ='x' Where v =''"), 1) << "a null equals nothing";
-    EXPECT_EQ(Update(database, "UPDATE T Set v ='new' Where k ='b'"), 1);
+    EXPECT_EQ(Change(database, "UPDATE T Set v ='x' Where v =''"), 1) << "a null equals nothing";
+    EXPECT_EQ(Change(database, "UPDATE T Set v ='new' Where k ='b'"), 1);
     EXPECT_EQ(ColumnOf(database, "T", 1), (Texts{"(null)", "new", "x"}));
 }
 
@@ -131,7 +131,7 @@ TEST(ForeignFile, PagesOfOthersAmongTheTablesAreSkippedAndKept)
     file.AddPage(DataPage(kDefinition, {{0, TwoTexts(u"last", u"row")}}));
     Database database = Database::FromBytes(file.bytes);
     EXPECT_EQ(ColumnOf(database, "T", 0), (Texts{"0", "last"}));
-    Update(database, "UPDATE T Set v ='a longer text than before'");
+    Change(database, "UPDATE T Set v ='a longer text than before'");
     for (const std::size_t page : {19U, 20U, 21U}) {
         EXPECT_EQ(PageOf(database.ToBytes(), page), PageOf(file.bytes, page)) << page;
     }
@@ -308,7 +308,7 @@ TEST(ForeignFile, ChangeOfATextKeepsItsNeighboursBytes)
     CraftedFile file = OddFile(MemoInRow(u"memo"));
     Database database = Database::FromBytes(file.bytes);
     const std::vector<Value> before = database.ReadRows("T").rows.at(0);
-    EXPECT_EQ(Update(database, "UPDATE T Set [text] ='longer one' Where whole ='-5'"), 1);
+    EXPECT_EQ(Change(database, "UPDATE T Set [text] ='longer one' Where whole ='-5'"), 1);
     std::vector<Value> expected = before;
     expected[5] = "longer one";
     EXPECT_EQ(database.ReadRows("T").rows.at(0), expected);
@@ -318,7 +318,7 @@ TEST(ForeignFile, ColumnsThatAreNoTextCantBeSet)
 {
     Database database = Database::FromBytes(OddFile(MemoInRow(u"memo")).bytes);
     for (const char* column : {"whole", "yes", "memo", "guid"}) {
-        EXPECT_EQ(FailureOf([&] { Update(database, std::string("UPDATE T Set ") + column + " ='1'"); }).number,
+        EXPECT_EQ(FailureOf([&] { Change(database, std::string("UPDATE T Set ") + column + " ='1'"); }).number,
                   -2147217913)
             << column;
     }
@@ -376,7 +376,7 @@ TEST(IndexedTable, RowThatOutgrowsItsPageMovesBehindAPointer)
     Database database = Database::FromBytes(Indexed(rows).bytes);
     const std::string text(250, 'y');
     for (const char* key : {"a", "b", "c", "d", "e", "f", "g", "h"}) {
-        EXPECT_EQ(Update(database, "UPDATE T Set v ='" + text + "' Where k ='" + key + "'"), 1);
+        EXPECT_EQ(Change(database, "UPDATE T Set v ='" + text + "' Where k ='" + key + "'"), 1);
     }
     EXPECT_EQ(ColumnOf(database, "T", 0), (Texts{"a", "b", "c", "d", "e", "f", "g", "h"}));
     EXPECT_EQ(ColumnOf(database, "T", 1), Texts(8, text));
@@ -393,7 +393,7 @@ TEST(IndexedTable, MovedRowComesHomeWhenItFitsAgain)
     CraftedFile file = Indexed({{kMovedRow, Pointer(19, 0)}, {0, TwoTexts(u"b", u"x")}});
     file.AddPage(DataPage(kDefinition, {{kMovedTarget, TwoTexts(u"a", std::u16string(200, u'x'))}}));
     Database database = Database::FromBytes(file.bytes);
-    Update(database, "UPDATE T Set v ='short' Where k ='a'");
+    Change(database, "UPDATE T Set v ='short' Where k ='a'");
     EXPECT_EQ(ColumnOf(database, "T", 1), (Texts{"short", "x"}));
     EXPECT_EQ(NumberAt(PageOf(database.ToBytes(), 18), 14, 2) & 0xC000, 0U);
     EXPECT_EQ(NumberAt(PageOf(database.ToBytes(), 19), 14, 2), 0xC000U | 4096U);
@@ -403,7 +403,7 @@ TEST(IndexedTable, KeysAndNewRowsAreRefused)
 {
     Database database = Database::FromBytes(Indexed({{0, TwoTexts(u"a", u"x")}}).bytes);
     const Bytes before = database.ToBytes();
-    EXPECT_EQ(FailureOf([&] { Update(database, "UPDATE T Set v ='y', k ='b'"); }),
+    EXPECT_EQ(FailureOf([&] { Change(database, "UPDATE T Set v ='y', k ='b'"); }),
               (Failure{-2147467259, "The column 'k' has an index and can't be changed."}));
     EXPECT_EQ(FailureOf([&] {
                   database.Insert({"T", {{"v", "y"}}});

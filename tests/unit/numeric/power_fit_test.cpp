@@ -59,7 +59,7 @@ Long ValueByReflections(const std::vector<double>& x, const std::vector<double>&
     return value;
 }
 
-int ErrorOf(const std::vector<double>& x, const std::vector<double>& y, int lowest, int highest)
+int ErrorOfFit(const std::vector<double>& x, const std::vector<double>& y, int lowest, int highest)
 {
     try {
         FitPowers(x, y, lowest, highest);
@@ -156,13 +156,13 @@ TEST(FitPowers, NoReadingsAtAllGiveNoCurve)
 
 TEST(FitPowers, TooFewDifferentPointsAreZeroByZero)
 {
-    EXPECT_EQ(ErrorOf(std::vector<double>(9, 0.0), std::vector<double>(9, 0.0), 1, 5), error::kOverflow);
-    EXPECT_EQ(ErrorOf({0, 0.025, 0.05, 0.075, 0.1}, {0, 1, 2, 3, 4}, 1, 5), error::kOverflow)
+    EXPECT_EQ(ErrorOfFit(std::vector<double>(9, 0.0), std::vector<double>(9, 0.0), 1, 5), error::kOverflow);
+    EXPECT_EQ(ErrorOfFit({0, 0.025, 0.05, 0.075, 0.1}, {0, 1, 2, 3, 4}, 1, 5), error::kOverflow)
         << "The point at 0 says nothing about a curve through the origin.";
-    EXPECT_EQ(ErrorOf({1.80, 1.80, 1.90}, {5, 6, 7}, 0, 2), error::kOverflow)
+    EXPECT_EQ(ErrorOfFit({1.80, 1.80, 1.90}, {5, 6, 7}, 0, 2), error::kOverflow)
         << "Two densities make a straight line, not a parabola, whatever rounding leaves of the last pivot.";
-    EXPECT_EQ(ErrorOf({}, {}, 0, 2), error::kOverflow);
-    EXPECT_EQ(ErrorOf({0, 0.025, 0.05, 0.075, 0.1, 0.125}, {0, 1, 2, 3, 4, 5}, 1, 5), 0);
+    EXPECT_EQ(ErrorOfFit({}, {}, 0, 2), error::kOverflow);
+    EXPECT_EQ(ErrorOfFit({0, 0.025, 0.05, 0.075, 0.1, 0.125}, {0, 1, 2, 3, 4, 5}, 1, 5), 0);
 }
 
 // Swapping the rows would solve it; the method does not.

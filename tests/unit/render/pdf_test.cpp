@@ -66,7 +66,7 @@ class MadePdf : public testing::Test {
     std::filesystem::path folder_;
 };
 
-bool Contains(const std::string& text, const std::string& part)
+bool Holds(const std::string& text, const std::string& part)
 {
     return text.find(part) != std::string::npos;
 }
@@ -132,7 +132,7 @@ DisplayList PageOfEverything()
 }
 
 /// A report of several pages, each with texts of its own.
-std::vector<DisplayList> Report()
+std::vector<DisplayList> SeveralPages()
 {
     std::vector<DisplayList> pages;
     for (const char* text : {"Atterberg", "Sieve", "การบดอัด"}) {
@@ -149,21 +149,21 @@ const PdfDocument kDocument{"Road 7", kDay, {{"Atterberg", 0}, {"Sieve (soil)", 
 
 TEST_F(MadePdf, IsTheSameBytesForTheSamePages)
 {
-    EXPECT_EQ(MakePdf(Report(), kDocument), MakePdf(Report(), kDocument));
+    EXPECT_EQ(MakePdf(SeveralPages(), kDocument), MakePdf(SeveralPages(), kDocument));
 }
 
 TEST_F(MadePdf, DiffersByTitleDateAndPages)
 {
-    const Bytes bytes = MakePdf(Report(), kDocument);
-    EXPECT_NE(bytes, MakePdf(Report(), {"Road 8", kDay, kDocument.sections}));
-    EXPECT_NE(bytes, MakePdf(Report(), {"Road 7", kDay + std::chrono::hours(24), kDocument.sections}));
+    const Bytes bytes = MakePdf(SeveralPages(), kDocument);
+    EXPECT_NE(bytes, MakePdf(SeveralPages(), {"Road 8", kDay, kDocument.sections}));
+    EXPECT_NE(bytes, MakePdf(SeveralPages(), {"Road 7", kDay + std::chrono::hours(24), kDocument.sections}));
     EXPECT_NE(bytes, MakePdf(std::vector<DisplayList>(6, PageOfEverything()), kDocument));
 }
 
 // Some of the threads make other documents in between: what they draw must not show in this one.
 TEST_F(MadePdf, IsTheSameBytesInManyThreadsAtOnce)
 {
-    const Bytes alone = MakePdf(Report(), kDocument);
+    const Bytes alone = MakePdf(SeveralPages(), kDocument);
     std::array<Bytes, 8> made;
     {
         std::vector<std::jthread> threads;
@@ -171,7 +171,7 @@ TEST_F(MadePdf, IsTheSameBytesInManyThreadsAtOnce)
             threads.emplace_back([&bytes] {
                 for (int round = 0; round < 5; ++round) {
                     MakePdf(std::vector<DisplayList>{PageOfEverything()}, {"Another", kDay, {}});
-                    bytes = MakePdf(Report(), kDocument);
+                    bytes = MakePdf(SeveralPages(), kDocument);
                 }
             });
     }
@@ -181,12 +181,12 @@ TEST_F(MadePdf, IsTheSameBytesInManyThreadsAtOnce)
 // A face forgets the texts that it has drawn when there are too many.
 TEST_F(MadePdf, IsTheSameBytesBehindThousandsOfOtherTexts)
 {
-    const Bytes before = MakePdf(Report(), kDocument);
+    const Bytes before = MakePdf(SeveralPages(), kDocument);
     DrawingSurface figures(11906, 16838);
     figures.FontName = "DilleniaUPC";
     for (int number = 0; number < 5000; ++number) figures.Print(std::to_string(number) + " ฟ");
     MakePdf(std::vector<DisplayList>{*figures.Image()}, {"Figures", kDay, {}});
-    EXPECT_EQ(MakePdf(Report(), kDocument), before);
+    EXPECT_EQ(MakePdf(SeveralPages(), kDocument), before);
 }
 
 // The test program runs itself: the one that is started finds a path and writes the file.
@@ -194,10 +194,10 @@ TEST_F(MadePdf, IsTheSameBytesInEveryProcess)
 {
     constexpr auto kVariable = "TERRAVANE_TEST_PDF";
     if (const char* path = std::getenv(kVariable)) {
-        WritePdf(files_, path, Report(), kDocument);
+        WritePdf(files_, path, SeveralPages(), kDocument);
         return;
     }
-    const Bytes here = MakePdf(Report(), kDocument);
+    const Bytes here = MakePdf(SeveralPages(), kDocument);
     for (const std::string locale : {"C", "C.UTF-8"}) {
         const std::string path = PathOf(locale + ".pdf");
         const std::string said = Said("TZ=Asia/Bangkok LC_ALL=" + locale + " " + kVariable + "=" + path + " " +
@@ -210,23 +210,23 @@ TEST_F(MadePdf, IsTheSameBytesInEveryProcess)
 
 TEST_F(MadePdf, HasNoFaultThatAReaderFinds)
 {
-    WritePdf(files_, PathOf("report.pdf"), Report(), kDocument);
+    WritePdf(files_, PathOf("report.pdf"), SeveralPages(), kDocument);
     const std::string said = Said("qpdf --check " + PathOf("report.pdf"));
-    EXPECT_TRUE(Contains(said, "No syntax or stream encoding errors found")) << said;
+    EXPECT_TRUE(Holds(said, "No syntax or stream encoding errors found")) << said;
     EXPECT_EQ(Said("pdftotext " + PathOf("report.pdf") + " /dev/null"), "");
 }
 
 TEST_F(MadePdf, SaysItsTitleAndItsDate)
 {
-    WritePdf(files_, PathOf("report.pdf"), Report(), {"Test of Soil ดิน", kDay, {}});
+    WritePdf(files_, PathOf("report.pdf"), SeveralPages(), {"Test of Soil ดิน", kDay, {}});
     const std::string info = Said("TZ=UTC pdfinfo -isodates " + PathOf("report.pdf"));
-    EXPECT_TRUE(Contains(info, "Title:           Test of Soil ดิน")) << info;
-    EXPECT_TRUE(Contains(info, "CreationDate:    2026-11-21T12:00:00")) << info;
+    EXPECT_TRUE(Holds(info, "Title:           Test of Soil ดิน")) << info;
+    EXPECT_TRUE(Holds(info, "CreationDate:    2026-11-21T12:00:00")) << info;
 }
 
 TEST_F(MadePdf, HasABookmarkForEachSection)
 {
-    WritePdf(files_, PathOf("report.pdf"), Report(), kDocument);
+    WritePdf(files_, PathOf("report.pdf"), SeveralPages(), kDocument);
     const std::string outline = Said("qpdf --json=1 --json-key=outlines " + PathOf("report.pdf"));
     std::size_t from = 0;
     for (const auto& [page, title] : {std::pair("1", "Atterberg"), {"3", "Sieve (soil)"}, {"5", "การบดอัด"}}) {
@@ -241,13 +241,13 @@ TEST_F(MadePdf, HasABookmarkForEachSection)
 
 TEST_F(MadePdf, HasNoBookmarksWithoutSections)
 {
-    EXPECT_TRUE(Contains(Of(Report(), "qpdf --json=1 --json-key=outlines"), "\"outlines\": []"));
+    EXPECT_TRUE(Holds(Of(SeveralPages(), "qpdf --json=1 --json-key=outlines"), "\"outlines\": []"));
 }
 
 TEST_F(MadePdf, RefusesASectionBehindTheLastPage)
 {
     try {
-        MakePdf(Report(), {"Road 7", kDay, {{"Summary", 6}}});
+        MakePdf(SeveralPages(), {"Road 7", kDay, {{"Summary", 6}}});
         FAIL() << "a bookmark leads to no page";
     } catch (const RuntimeError& error) {
         EXPECT_EQ(error.Number(), 5);
@@ -260,7 +260,7 @@ TEST_F(MadePdf, HasItsTextsToBeCopiedOut)
     const std::string text = Of({PageOfEverything()}, "pdftotext", " -");
     for (const char* part : {"การทดสอบหาค่า ซี.บี.อาร์.", "ผู้ตรวจ", "Institute of Roads, 12.50 %",
                              "Classification of a field, 35 µm ± 2 °C", "Soil and ดิน ≥ 2", "Dry Density (g/cc)"})
-        EXPECT_TRUE(Contains(text, part)) << part << " is not in\n" << text;
+        EXPECT_TRUE(Holds(text, part)) << part << " is not in\n" << text;
 }
 
 TEST_F(MadePdf, HasCharactersThatReportsHardlyUse)
@@ -269,7 +269,7 @@ TEST_F(MadePdf, HasCharactersThatReportsHardlyUse)
     page.FontSize = 20;
     page.Print("Łódź");
     const std::string text = Of({*page.Image()}, "pdftotext", " -");
-    EXPECT_TRUE(Contains(text, "Łódź")) << text;
+    EXPECT_TRUE(Holds(text, "Łódź")) << text;
 }
 
 TEST_F(MadePdf, HasAJpegFileAsItIs)

@@ -157,20 +157,20 @@ void ExpectAsOnPaper(double value)
 TEST(Format, AgreesWithRoundingOnPaperForAnySize)
 {
     RandomValues random(3);
-    for (int round = 0; round < 100'000; ++round) ExpectAsOnPaper(random.OfAnySize());
+    for (int round = 0; round < Rounds(10'000); ++round) ExpectAsOnPaper(random.OfAnySize());
 }
 
 TEST(Format, AgreesWithRoundingOnPaperForTypedReadings)
 {
     RandomValues random(4);
-    for (int round = 0; round < 100'000; ++round) ExpectAsOnPaper(random.Typed());
+    for (int round = 0; round < Rounds(10'000); ++round) ExpectAsOnPaper(random.Typed());
 }
 
 // The doubles nearest around a half: up to forty steps to each side cross the 15th digit.
 TEST(Format, AgreesWithRoundingOnPaperAroundEveryHalf)
 {
     RandomValues random(5);
-    for (int round = 0; round < 2'000; ++round) {
+    for (int round = 0; round < Rounds(200); ++round) {
         const double places = std::pow(10.0, static_cast<double>(random.Below(8)));
         double value =
             (static_cast<double>(random.Below(1 + (random.Bits() >> 24 >> random.Below(38)))) + 0.5) / places;
@@ -182,7 +182,7 @@ TEST(Format, AgreesWithRoundingOnPaperAroundEveryHalf)
 TEST(Format, AgreesWithRoundingOnPaperForAnyBits)
 {
     RandomValues random(6);
-    for (int round = 0; round < 20'000; ++round) {
+    for (int round = 0; round < Rounds(2'000); ++round) {
         const double value = std::bit_cast<double>(random.Bits());
         if (std::isfinite(value)) ExpectAsOnPaper(value);
     }

@@ -3,9 +3,17 @@
 
 #include <cmath>
 #include <cstdint>
+#include <cstdlib>
 #include <random>
 
 namespace terravane {
+
+/// How many values a test tries: as many as it says, or TERRAVANE_ROUNDS times as many where that is set.
+inline int Rounds(int everyDay)
+{
+    const char* const times = std::getenv("TERRAVANE_ROUNDS");
+    return times ? everyDay * std::atoi(times) : everyDay;
+}
 
 class RandomValues {
   public:

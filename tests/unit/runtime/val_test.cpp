@@ -99,7 +99,7 @@ TEST(Val, ReadsNumbersOfAnyLengthToTheNearestDouble)
 TEST(Val, AgreesWithAnIndependentReader)
 {
     RandomValues random(1);
-    for (int round = 0; round < 300'000; ++round) {
+    for (int round = 0; round < Rounds(30'000); ++round) {
         std::string text;
         const auto length = 1 + random.Below(25);
         const auto point = random.Below(length + 1);
@@ -116,7 +116,7 @@ TEST(Val, ReadsAnyBytesAsSomeFiniteNumber)
 {
     constexpr std::string_view kLikely = "0123456789.+-eEdD \t\n,";
     RandomValues random(2);
-    for (int round = 0; round < 300'000; ++round) {
+    for (int round = 0; round < Rounds(30'000); ++round) {
         std::string text(random.Below(20), '\0');
         for (char& c : text) {
             c = random.Below(4) == 0 ? static_cast<char>(random.Bits()) : kLikely[random.Below(kLikely.size())];

@@ -4,10 +4,9 @@
 
 #include "support/laboratory.h"
 
-namespace terravane {
+namespace terravane::compaction {
 namespace {
 
-using namespace compaction;
 using support::Laboratory;
 using support::RowOf;
 using support::SetMould;
@@ -194,4 +193,4 @@ TEST_F(CompactionCalculate, ReducesCrushedRockInAllSixColumns)
 }
 
 }  // namespace
-}  // namespace terravane
+}  // namespace terravane::compaction

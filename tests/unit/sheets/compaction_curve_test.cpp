@@ -5,10 +5,9 @@
 #include "support/laboratory.h"
 #include "unit/runtime/raises.h"
 
-namespace terravane {
+namespace terravane::compaction {
 namespace {
 
-using namespace compaction;
 using support::Laboratory;
 
 struct Point {
@@ -318,4 +317,4 @@ TEST_F(CompactionCurve, FindsTheTopOfCrushedRock)
 }
 
 }  // namespace
-}  // namespace terravane
+}  // namespace terravane::compaction

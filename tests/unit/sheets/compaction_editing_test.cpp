@@ -3,10 +3,9 @@
 
 #include "support/laboratory.h"
 
-namespace terravane {
+namespace terravane::compaction {
 namespace {
 
-using namespace compaction;
 using support::Laboratory;
 using support::TypeCell;
 using support::Untrapped;
@@ -263,4 +262,4 @@ TEST_F(CompactionEditing, AsksForThePreviewByItsName)
 }
 
 }  // namespace
-}  // namespace terravane
+}  // namespace terravane::compaction

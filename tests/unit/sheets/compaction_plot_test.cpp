@@ -6,10 +6,9 @@
 #include "jet/engine_error.h"
 #include "support/laboratory.h"
 
-namespace terravane {
+namespace terravane::compaction {
 namespace {
 
-using namespace compaction;
 using support::Laboratory;
 using TestKind = terravane::Test;  // inside a test "Test" is the test
 using Texts = std::vector<std::string>;
@@ -365,4 +364,4 @@ TEST_F(CompactionPlot, TellsItsViewsOnceACommand)
 }
 
 }  // namespace
-}  // namespace terravane
+}  // namespace terravane::compaction

@@ -6,10 +6,9 @@
 #include "support/laboratory.h"
 #include "unit/runtime/raises.h"
 
-namespace terravane {
+namespace terravane::compaction {
 namespace {
 
-using namespace compaction;
 using support::kProject;
 using support::Laboratory;
 using support::TypeCell;
@@ -316,4 +315,4 @@ TEST_F(CompactionStore, CannotOpenWithoutTheBrandStore)
 }
 
 }  // namespace
-}  // namespace terravane
+}  // namespace terravane::compaction

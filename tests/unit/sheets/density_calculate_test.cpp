@@ -4,11 +4,10 @@
 
 #include "support/density_laboratory.h"
 
-namespace terravane {
+namespace terravane::field {
 namespace {
 
 using namespace support;
-using namespace field;
 
 struct DensityCalculate : testing::Test {
     DensityLaboratory lab;
@@ -286,4 +285,4 @@ TEST_F(DensityCalculate, AFileThatIsGoneFailsAtThePostingOnly)
 }
 
 }  // namespace
-}  // namespace terravane
+}  // namespace terravane::field

@@ -3,11 +3,10 @@
 
 #include "support/density_laboratory.h"
 
-namespace terravane {
+namespace terravane::field {
 namespace {
 
 using namespace support;
-using namespace field;
 
 struct DensityEditing : testing::Test {
     DensityLaboratory lab;
@@ -99,4 +98,4 @@ TEST_F(DensityEditing, AllTabsCanBeOpenedFromTheStart)
 }
 
 }  // namespace
-}  // namespace terravane
+}  // namespace terravane::field

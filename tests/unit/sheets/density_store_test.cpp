@@ -3,11 +3,10 @@
 
 #include "support/density_laboratory.h"
 
-namespace terravane {
+namespace terravane::field {
 namespace {
 
 using namespace support;
-using namespace field;
 
 constexpr const char* kStandardCaption = "Summary (Percent Compaction for Standard Compaction)";
 constexpr const char* kModifiedCaption = "Summary (Percent Compaction for Modified Compaction)";
@@ -176,4 +175,4 @@ TEST_F(DensityStore, AProjectThatIsGoneLeavesTheOldMaxima)
 }
 
 }  // namespace
-}  // namespace terravane
+}  // namespace terravane::field

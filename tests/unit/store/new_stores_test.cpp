@@ -15,7 +15,7 @@
 namespace terravane {
 namespace {
 
-constexpr const char* kPath = "/lab/TRVN_road.mdb";
+constexpr const char* kNewFile = "/lab/TRVN_road.mdb";
 
 struct NewStores : testing::Test {
     MemoryFileSystem files;
@@ -26,8 +26,8 @@ struct NewStores : testing::Test {
 
 TEST_F(NewStores, HoldTheTablesInTheOrderOfCreationWithTheirRows)
 {
-    CreateProjectFile(files, kPath);
-    const auto project = Opened(kPath);
+    CreateProjectFile(files, kNewFile);
+    const auto project = Opened(kNewFile);
     const std::vector<std::pair<std::string, std::size_t>> listed{
         {"HEAD", 1},     {"STDSOIL", 6},  {"MODSOIL", 6},   {"DENSOIL", 6},  {"SPCSOIL", 7},  {"ATTSOIL", 5},
         {"SIESOIL", 10}, {"CBRSOIL", 20}, {"STDCRUSH", 6},  {"MODCRUSH", 6}, {"DENCRUSH", 6}, {"CBRCRUSH", 20},
@@ -43,8 +43,8 @@ TEST_F(NewStores, HoldTheTablesInTheOrderOfCreationWithTheirRows)
 
 TEST_F(NewStores, HoldKeysAndThreeBlanksEverywhereElse)
 {
-    CreateProjectFile(files, kPath);
-    const auto project = Opened(kPath);
+    CreateProjectFile(files, kNewFile);
+    const auto project = Opened(kNewFile);
     EXPECT_EQ(project.ReadRows("STDSOIL").rows[2][0], " 3");
     for (const TableSchema& table : ProjectTables()) {
         const auto rows = project.ReadRows(table.name).rows;
@@ -61,8 +61,8 @@ TEST_F(NewStores, HoldKeysAndThreeBlanksEverywhereElse)
 
 TEST_F(NewStores, HaveTheirColumnsInTheFileAsTheyAreListed)
 {
-    CreateProjectFile(files, kPath);
-    const auto project = Opened(kPath);
+    CreateProjectFile(files, kNewFile);
+    const auto project = Opened(kNewFile);
     EXPECT_EQ(project.ReadRows("HEAD").columns,
               (std::vector<std::string>{"project_client", "project_name", "project_location", "project_number"}));
     for (const TableSchema& table : ProjectTables()) {
@@ -74,10 +74,10 @@ TEST_F(NewStores, HaveTheirColumnsInTheFileAsTheyAreListed)
 
 TEST_F(NewStores, DoNotTouchAFileThatExists)
 {
-    files.Put(kPath, "something else");
-    EXPECT_EQ(ErrorOf([&] { CreateProjectFile(files, kPath); }), jet::engine::kDatabaseExists);
-    EXPECT_EQ(ErrorOf([&] { CreateBrandStore(files, kPath); }), jet::engine::kDatabaseExists);
-    const Bytes kept = files.Content(kPath);
+    files.Put(kNewFile, "something else");
+    EXPECT_EQ(ErrorOf([&] { CreateProjectFile(files, kNewFile); }), jet::engine::kDatabaseExists);
+    EXPECT_EQ(ErrorOf([&] { CreateBrandStore(files, kNewFile); }), jet::engine::kDatabaseExists);
+    const Bytes kept = files.Content(kNewFile);
     EXPECT_EQ(std::string(kept.begin(), kept.end()), "something else");
 }
 
@@ -89,7 +89,7 @@ TEST_F(NewStores, FailWhereTheFolderIsMissing)
 TEST_F(NewStores, LeaveNothingBehindWhereTheDiskIsFull)
 {
     files.FailAtStep(1, error::kDiskFull);
-    EXPECT_EQ(ErrorOf([&] { CreateProjectFile(files, kPath); }), error::kDiskFull);
+    EXPECT_EQ(ErrorOf([&] { CreateProjectFile(files, kNewFile); }), error::kDiskFull);
     EXPECT_TRUE(files.Paths().empty());
 }
 
