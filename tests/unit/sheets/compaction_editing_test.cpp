@@ -230,6 +230,9 @@ TEST_F(CompactionEditing, ColoursItsCommandsUnderTheMouse)
     sheet.Form_MouseMove();
     EXPECT_EQ(sheet.cmdCal.BackColor(), rest);
     EXPECT_EQ(sheet.cmdView.BackColor(), rest);
+    sheet.cmdView.MouseMove();
+    sheet.cmdView.MouseLeave();
+    EXPECT_EQ(sheet.cmdView.BackColor(), rest) << "The mouse may leave a command for another window.";
 }
 
 TEST_F(CompactionEditing, ShowsTheTimeAtEachTick)
