@@ -327,6 +327,30 @@ TEST_F(CbrPage, NoLineRunsThroughAMouldNumberOfTheSwellingTable)
     }
 }
 
+// The heads of the depth are two lines in the height of three.
+TEST_F(CbrPage, HeadsOfTheReadingsStandOverTheirColumns)
+{
+    const auto page = Printed(2);
+    ExpectAt(page, "Penetration", 500 + 0.5 * kTenth, TableY(1.5));
+    ExpectAt(page, "(in)", 500 + 0.5 * kTenth, TableY(2.5));
+    struct Head {
+        const char* text;
+        double column, line;
+    };
+    for (const Head& head : {Head{"Load Dial", 1.5, 1}, Head{"Reading", 1.5, 2}, Head{"(div)", 1.5, 3},
+                             Head{"Load", 2.5, 1}, Head{"P", 2.5, 2}, Head{"(lb)", 2.5, 3}, Head{"Stress", 3.5, 1},
+                             Head{"P/A", 3.5, 2}, Head{"(lb/in^2)", 3.5, 3}}) {
+        const auto texts = page.Texts(head.text);
+        ASSERT_EQ(texts.size(), 3U) << head.text;
+        for (std::size_t mould = 0; mould < 3; ++mould) {
+            const TextItem& text = texts[mould];
+            const double middle = 500 + (head.column + 3 * static_cast<double>(mould)) * kTenth;
+            EXPECT_NEAR(text.x + TextWidth(text.font, text.text) / 2, middle, kTwip) << head.text << " of " << mould;
+            EXPECT_NEAR(text.y, TableY(head.line), kTwip) << head.text;
+        }
+    }
+}
+
 TEST_F(CbrPage, ThePreviewTurnsToThePage)
 {
     frmPreview& preview = bench.Preview();

@@ -68,6 +68,21 @@ INSTANTIATE_TEST_SUITE_P(Formats, PictureHeader,
                                          Sample{"Ico", kIco, PictureFormat::Ico, 256, 48}),
                          [](const auto& sample) { return sample.param.name; });
 
+// Every marker that is no frame stands before the frame once: those with a length are passed over by it, those without
+// one have nothing behind them.
+TEST(JpegHeader, MarkersThatAreNoFrameArePassedOver)
+{
+    Bytes jpeg{0xFF, 0xD8};
+    for (const std::uint8_t segment : Bytes{0xC4, 0xC8, 0xCC, 0xDB, 0xE0, 0xEF, 0xFE})
+        jpeg.insert(jpeg.end(), {0xFF, segment, 0, 3, 0xC0});
+    for (const std::uint8_t alone : Bytes{0x01, 0xD0, 0xD1, 0xD2, 0xD3, 0xD4, 0xD5, 0xD6, 0xD7})
+        jpeg.insert(jpeg.end(), {0xFF, alone});
+    jpeg.insert(jpeg.end(), {0xFF, 0xCF, 0, 17, 8, 0, 0xC8, 0x01, 0x2C, 3});
+    const auto picture = ReadPicture("logo.jpg", jpeg);
+    EXPECT_EQ(picture->width, 300);
+    EXPECT_EQ(picture->height, 200);
+}
+
 int NumberOf(Bytes bytes)
 {
     try {

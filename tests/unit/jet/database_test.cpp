@@ -222,6 +222,17 @@ TEST(Database, TableOfThirteenHundredPagesKeepsAllRowsInOrder)
     EXPECT_EQ(freeMap[5 + (pages - first) / 8] >> (pages - first) % 8 & 1, 1) << "the next page counts as used";
 }
 
+// 300 rows of 13 bytes would fit one page, whose slots are counted in a byte.
+TEST(Database, TableOfManyShortRowsKeepsThemAll)
+{
+    Database database = Database::New(kCreated);
+    database.Create(std::get<CreateTableStatement>(ReadStatement("CREATE TABLE T(k text(1))")));
+    for (int row = 0; row < 300; ++row) database.Insert({"T", {{"k", row < 299 ? "a" : "z"}}});
+    const auto rows = ColumnOf(Database::FromBytes(database.ToBytes()), "T", 0);
+    ASSERT_EQ(rows.size(), 300U);
+    EXPECT_EQ(rows.back(), "z");
+}
+
 // 500 rows of a text of 255 characters: 500 times as a column they would be 74 MB, 100 times they are 15 MB.
 TEST(Database, ResultThatWouldFillTheMemoryIsRefused)
 {

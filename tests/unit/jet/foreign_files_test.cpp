@@ -120,6 +120,23 @@ TEST(ForeignFile, NullsAndRowsOfFewerColumnsReadAsNullAndTakeValues)
     EXPECT_EQ(ColumnOf(database, "T", 1), (Texts{"(null)", "new", "x"}));
 }
 
+// A map in its second form: entry 0 leads to a page of bits, entry 1, with the top bit set, is left over from a larger
+// table and leads to a page that is none.
+TEST(ForeignFile, LeftoverInAMapOfPagesLeadsNowhere)
+{
+    CraftedFile file = TwoColumns();
+    Bytes bits = FromHex("05010000");
+    bits.resize(kPage);
+    bits[4 + kRows / 8] = 1U << kRows % 8;
+    const std::uint32_t page = file.AddPage(bits);
+    const std::size_t map = kMaps * kPage + kPage - 69;
+    std::fill_n(file.bytes.begin() + static_cast<std::ptrdiff_t>(map), 69, std::uint8_t{0});
+    file.bytes[map] = 1;
+    PutNumber(file.bytes, map + 1, page, 4);
+    PutNumber(file.bytes, map + 5, 0x80000000U | kRows, 4);
+    EXPECT_EQ(ColumnOf(Database::FromBytes(file.bytes), "T", 0), Texts{"0"});
+}
+
 TEST(ForeignFile, PagesOfOthersAmongTheTablesAreSkippedAndKept)
 {
     CraftedFile file = TwoColumns();
@@ -301,6 +318,19 @@ TEST(ForeignFile, ValuesOfOtherTypesReadAsTexts)
         "-5",   "True", "12.34", "0.5", "01/01/2000 18:00:00", "abc", "memo", "{33221100-5544-7766-8899-AABBCCDDEEFF}",
         "0AFF", "200",  "-2",    "1.5"};
     EXPECT_EQ(database.ReadRows("T").rows.at(0), expected);
+}
+
+// -12.05 as -120500 ten-thousandths; of the day before 30 December 1899 a quarter has gone at -1.25.
+TEST(ForeignFile, AmountsWithAZeroBehindThePointAndDaysBeforeTheFirstAreRead)
+{
+    Bytes row = OddValues(MemoInRow(u"memo"));
+    PutNumber(row, 2 + 4, static_cast<std::uint64_t>(std::int64_t{-120500}), 8);
+    PutNumber(row, 2 + 20, std::bit_cast<std::uint64_t>(-1.25), 8);
+    CraftedFile file = OddFile(MemoInRow(u"memo"));
+    file.SetPage(kRows, DataPage(kDefinition, {{0, row}}));
+    const auto values = Database::FromBytes(file.bytes).ReadRows("T").rows.at(0);
+    EXPECT_EQ(values.at(2), "-12.05");
+    EXPECT_EQ(values.at(4), "29/12/1899 06:00:00");
 }
 
 TEST(ForeignFile, ChangeOfATextKeepsItsNeighboursBytes)

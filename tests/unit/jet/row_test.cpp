@@ -95,6 +95,28 @@ TEST(Row, ThatKnowsFewerColumnsIsWidened)
     EXPECT_EQ(parts.Build(), FromHex("0400 07000000 6100 6200 0a00 0800 0600 0200 0b"));
 }
 
+// Other writers leave ones in the rest of the mask's last byte.
+TEST(Row, BitsBehindItsLastColumnMeanNothing)
+{
+    const TableDefinition table = MixedTable();
+    const Bytes narrow = FromHex("0200 07000000 6100 0800 0600 0100 ff");
+    const RowView row = ReadRow(table, narrow);
+    EXPECT_EQ(BytesOf(row, table.columns[1]), FromHex("6100"));
+    EXPECT_EQ(BytesOf(row, table.columns[2]), FromHex("00")) << "a boolean that was not there yet is false";
+    EXPECT_FALSE(row.BytesOf(table.columns[3]).has_value());
+}
+
+TEST(Row, EightColumnsHaveOneByteOfMask)
+{
+    TableDefinition table;
+    table.columnNumbers = 8;
+    for (std::uint16_t number = 0; number < 8; ++number)
+        table.columns.push_back(FixedColumn(ColumnType::Int16, number, static_cast<std::uint16_t>(2 * number), 2));
+    const Bytes bytes = FromHex("0800 0100 0200 0300 0400 0500 0600 0700 0800 ff");
+    EXPECT_EQ(BytesOf(ReadRow(table, bytes), table.columns[7]), FromHex("0800"));
+    EXPECT_EQ(RowParts(table, ReadRow(table, bytes)).Build(), bytes);
+}
+
 TEST(Row, SlackBetweenValuesAndOffsetsIsSkipped)
 {
     const TableDefinition table = MixedTable();

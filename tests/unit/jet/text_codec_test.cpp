@@ -25,6 +25,8 @@ TEST(TextCodec, CompressesOnlyWhereTheColumnAllowsAndItPays)
     EXPECT_EQ(EncodeText(u"ab", true), FromHex("6100 6200"));        // as long as with the mark
     EXPECT_EQ(EncodeText(u"abก", true), FromHex("6100 6200 010e"));  // a character above U+00FF
     EXPECT_EQ(EncodeText(u"caf\u00e9", true), FromHex("fffe 636166e9"));
+    EXPECT_EQ(EncodeText(u"\u0001\u00ff\u00ff", true), FromHex("fffe 01ffff"));
+    EXPECT_EQ(EncodeText(u"abc\u0100", true), FromHex("6100 6200 6300 0001"));
 }
 
 TEST(TextCodec, ReadsTextsThatChangeTheirModeInside)

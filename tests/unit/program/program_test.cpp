@@ -263,6 +263,9 @@ TEST_F(ProgramTest, TellsOfAFileThatCannotBeWrittenAndGoesOn)
     EXPECT_EQ(ask.errors[0].number, error::kDiskFull);
     EXPECT_EQ(StoredClient("/lab/a.mdb"), "   ") << "The file keeps what it had.";
     program.Run("next", [] {});
+    EXPECT_EQ(StoredClient("/lab/a.mdb"), "   ") << "What was told as not saved is not saved later in silence.";
+    files.FailAtStep(1, error::kDiskFull);
+    program.Run("the one after it", [] {});
     EXPECT_EQ(ask.errors.size(), 1U) << "One failure is told once, not by every later command.";
 }
 

@@ -35,6 +35,18 @@ TEST(PrintReport, LookingAtThePagesLeavesThePrinterAsItIs)
     EXPECT_EQ(PagesOfReport(bench.program), pages) << "looking twice shows the same";
 }
 
+TEST(PrintReport, PagesLookedAtHaveNothingOfAnUnfinishedJob)
+{
+    ReportBench bench;
+    bench.OpenCompaction();
+    const auto pages = PagesOfReport(bench.program);
+    bench.program.printer.Print("unfinished");
+    bench.program.printer.NewPage();
+    bench.program.printer.Print("unfinished too");
+    EXPECT_EQ(PagesOfReport(bench.program), pages);
+    EXPECT_EQ(bench.program.printer.Pages().size(), 2u) << "the job itself goes on";
+}
+
 TEST(PrintReport, PrintedPagesAreThePagesLookedAt)
 {
     ReportBench bench;

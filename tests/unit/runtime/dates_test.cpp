@@ -34,6 +34,14 @@ TEST(MakeMoment, RefusesADayThatDoesNotExist)
     EXPECT_EQ(ErrorOf([] { MakeMoment(2026, 1, 1, 24); }), error::kInvalidProcedureCall);
 }
 
+// The dates that a project file can hold begin with the year 100.
+TEST(MakeMoment, RefusesAYearBeforeAHundred)
+{
+    EXPECT_EQ(ErrorOf([] { MakeMoment(99, 12, 31); }), error::kInvalidProcedureCall);
+    EXPECT_EQ(ErrorOf([] { MakeMoment(100, 1, 1); }), 0);
+    EXPECT_EQ(ErrorOf([] { ParseDate("31/12/0099"); }), error::kTypeMismatch) << "a slip of the pen";
+}
+
 TEST(ParseDate, ReadsTheThreeWaysOfWritingADay)
 {
     const Moment day = MakeMoment(2026, 11, 5);

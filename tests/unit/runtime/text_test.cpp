@@ -85,5 +85,11 @@ TEST(SameName, IgnoresTheCaseOfLettersAToZAlone)
     EXPECT_FALSE(SameName("[", "{"));
 }
 
+TEST(SameName, KnowsEveryLetterInBothCases)
+{
+    EXPECT_TRUE(SameName("abcdefghijklmnopqrstuvwxyz", "ABCDEFGHIJKLMNOPQRSTUVWXYZ"));
+    EXPECT_FALSE(SameName("`", "@")) << "the sign before the letters";
+}
+
 }  // namespace
 }  // namespace terravane

@@ -135,6 +135,18 @@ TEST_F(CompactionEditing, ErasesATrialAfterAsking)
     EXPECT_EQ(sheet.MSHDensity(density::DryDensity, 3), "1.64") << "So does the next trial.";
 }
 
+TEST_F(CompactionEditing, ErasesTheFirstTrialAtAPressOnTheTitles)
+{
+    support::SetMould(sheet);
+    support::TypeTrial(sheet, 1, {"A1", "140", "130", "15", "8", "3552", "1876"});
+    sheet.MSHWt.PressMouse(MouseButton::Right, 2, 0);
+    ASSERT_EQ(lab.ask.messages.size(), 1U);
+    EXPECT_EQ(sheet.MSHWt(water::CanNumber, 1), "");
+    EXPECT_EQ(sheet.MSHDensity(density::Mould, 1), "");
+    EXPECT_EQ(sheet.MSHWt(water::CanNumber, 0), "Moisture Can No. ") << "The titles stay.";
+    EXPECT_EQ(sheet.MSHDensity(density::Mould, 0), "Mass of Mold, (g)");
+}
+
 TEST_F(CompactionEditing, KeepsATrialWhenTheQuestionIsCancelled)
 {
     TypeCell(sheet.txtData, water::CanNumber, 1, "A1");
@@ -229,6 +241,9 @@ TEST_F(CompactionEditing, ColoursItsCommandsUnderTheMouse)
     sheet.Form_MouseMove();
     EXPECT_EQ(sheet.cmdCal.BackColor(), rest);
     EXPECT_EQ(sheet.cmdView.BackColor(), rest);
+    sheet.cmdView.MouseMove();
+    sheet.cmdView.MouseLeave();
+    EXPECT_EQ(sheet.cmdView.BackColor(), rest) << "The mouse may leave a command for another window.";
 }
 
 TEST_F(CompactionEditing, ShowsTheTimeAtEachTick)

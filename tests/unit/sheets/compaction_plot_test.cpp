@@ -119,6 +119,15 @@ TEST_F(CompactionPlot, LabelsEachPercentUpToTenAndEveryFourthPastTwenty)
     EXPECT_FALSE(Shows(sheet->picgraph1, "13"));
 }
 
+// A mould that was typed after Calculate has blank cells below it.
+TEST_F(CompactionPlot, TrialThatWasNotCalculatedMovesNoAxis)
+{
+    sheet->MSHDensity(density::DryDensity, 2) = "";
+    sheet->MSHDensity(density::WaterContent, 2) = "";
+    sheet->cmdOMC.Press();
+    for (const char* label : {"1.55", "2.07", "13", "25"}) EXPECT_TRUE(Shows(sheet->picgraph1, label)) << label;
+}
+
 // (11.00 - 1.00) / 8 is 1.25, of which the tick keeps .25.
 TEST_F(CompactionPlot, DropsWholeUnitsFromTheTick)
 {

@@ -81,6 +81,14 @@ TEST_F(SieveClassify, PostsTheFractionsAndBothGroupsOfItsMaterial)
     EXPECT_EQ(lab.Posted("sum_USCS", 0), "   ");
 }
 
+// Percentages of one decimal give fractions of one; typed ones may have two, and the fractions keep both.
+TEST_F(SieveClassify, FractionsHaveTwoDecimals)
+{
+    Classify("86.25", "74.0", "51.0", "21.134", "25", "12");
+    EXPECT_EQ(lab.Posted("sum_gravel"), " 13.75");
+    EXPECT_EQ(lab.Posted("sum_sand"), " 65.12");
+}
+
 TEST_F(SieveClassify, FractionsBelowOneLoseTheZeroAndNegativeOnesKeepTheSign)
 {
     Classify("99.5", "90", "80", "99.8", "60", "20");
