@@ -9,12 +9,12 @@ namespace terravane {
 
 namespace {
 
-constexpr char kMark = '/';
+constexpr char kSlash = '/';
 
 /// The folder's path as its files' paths begin.
 std::string Beginning(const std::string& folder)
 {
-    return folder.empty() || folder.back() == kMark ? folder : folder + kMark;
+    return folder.empty() || folder.back() == kSlash ? folder : folder + kSlash;
 }
 
 std::shared_ptr<const Bytes> Kept(std::span<const std::uint8_t> content)
@@ -77,7 +77,7 @@ std::vector<std::string> MemoryFileSystem::Names(const std::string& folder) cons
 void MemoryFileSystem::MakeFolders(const std::string& path)
 {
     const std::string whole = Beginning(path);
-    for (std::size_t mark = whole.find(kMark); mark != std::string::npos; mark = whole.find(kMark, mark + 1))
+    for (std::size_t mark = whole.find(kSlash); mark != std::string::npos; mark = whole.find(kSlash, mark + 1))
         folders_.insert(whole.substr(0, mark + 1));
 }
 
