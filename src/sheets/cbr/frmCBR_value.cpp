@@ -46,7 +46,7 @@ constexpr std::array kCurves{
     RatioCurve{result::At01, Mark::OpenCircle, kRatioAt01},
     RatioCurve{result::At02, Mark::FilledCircle, kRatioAt02},
 };
-constexpr AxisTitles kAxes{"Dry Density, g/cm^3", "California Bearing Ratio, %", kSmallAxisSize, kTitleLeft};
+constexpr AxisTitles kValueAxes{"Dry Density, g/cm^3", "California Bearing Ratio, %", kSmallAxisSize, kTitleLeft};
 constexpr std::array kValueKey{
     KeyEntry{kCurves[0].mark, kCurves[0].name},
     KeyEntry{kCurves[1].mark, kCurves[1].name},
@@ -138,14 +138,14 @@ DensityScale frmCBR::ScaleOfDensities() const
 
 void frmCBR::DrawEmptyDensityPlot()
 {
-    DrawEmptyPlot(picGraph2, picGraph3, kAxes);
+    DrawEmptyPlot(picGraph2, picGraph3, kValueAxes);
 }
 
 void frmCBR::DrawDensityAxes(const DensityScale& scale)
 {
     picGraph2.Cls();
     picGraph3.Cls();
-    PrintAxisTitles(picGraph2, picGraph3, kAxes);
+    PrintAxisTitles(picGraph2, picGraph3, kValueAxes);
     DrawRisingAxis(picGraph2, picGraph3, scale.ratio);
     DrawDensityTicks(scale);
     DrawPlotBoxes(picGraph2, picGraph3);
