@@ -84,7 +84,7 @@ void FormatDataPage(MutableBytes page, PageNumber owner)
     Put<std::uint32_t>(page, kOwnerAt, owner);
 }
 
-std::vector<SlotContent> TakeApart(ByteView page)
+std::vector<SlotContent> SlotContentsOf(ByteView page)
 {
     std::vector<SlotContent> slots;
     for (const Slot& slot : ReadSlots(page)) {

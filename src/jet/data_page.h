@@ -57,7 +57,7 @@ inline PageNumber OwnerOf(ByteView page)
 /// An empty data page.
 void FormatDataPage(MutableBytes page, PageNumber owner);
 
-std::vector<SlotContent> TakeApart(ByteView page);
+std::vector<SlotContent> SlotContentsOf(ByteView page);
 
 /// Whether so many slots with so many bytes in all have room on one page.
 bool FitsOnePage(const std::vector<SlotContent>& slots);

@@ -97,7 +97,7 @@ PageNumber AppendDataPage(Image& image, const TableDefinition& table)
     return page;
 }
 
-void LayOutAll(Image& image, const Pages& pages)
+void WritePages(Image& image, const Pages& pages)
 {
     for (const auto& [number, slots] : pages) LayOut(image.Change(number), slots);
 }
@@ -105,7 +105,7 @@ void LayOutAll(Image& image, const Pages& pages)
 std::vector<SlotContent>& Opened(Pages& pages, const Image& image, PageNumber number)
 {
     const auto at = pages.find(number);
-    return at != pages.end() ? at->second : pages.emplace(number, TakeApart(image.Page(number))).first->second;
+    return at != pages.end() ? at->second : pages.emplace(number, SlotContentsOf(image.Page(number))).first->second;
 }
 
 // --- changing without an index
@@ -119,7 +119,7 @@ bool ReplaceInPlace(Image& image, const StoredRows& stored, const std::vector<Ro
         Opened(pages, image, at.page)[at.slot].bytes = change.bytes;
     }
     if (!std::ranges::all_of(pages, [](const auto& page) { return FitsOnePage(page.second); })) return false;
-    LayOutAll(image, pages);
+    WritePages(image, pages);
     return true;
 }
 
@@ -133,7 +133,7 @@ std::vector<Bytes> AllRows(const StoredRows& stored, const std::vector<RowChange
 }
 
 /// The rows dealt out to pages, each as full as it goes.
-std::vector<std::vector<SlotContent>> Dealt(std::vector<Bytes> rows)
+std::vector<std::vector<SlotContent>> DistributedToPages(std::vector<Bytes> rows)
 {
     std::vector<std::vector<SlotContent>> pages;
     for (Bytes& row : rows) {
@@ -149,10 +149,10 @@ std::vector<std::vector<SlotContent>> Dealt(std::vector<Bytes> rows)
 
 /// All rows over the table's pages from the first one on. A page left over keeps one deleted slot: other
 /// readers take an owned page without any slot for an empty row.
-void LayOutAfresh(Image& image, const TableDefinition& table, const std::vector<PageNumber>& owned,
-                  std::vector<Bytes> rows)
+void RepackRows(Image& image, const TableDefinition& table, const std::vector<PageNumber>& owned,
+                std::vector<Bytes> rows)
 {
-    const auto pages = Dealt(std::move(rows));
+    const auto pages = DistributedToPages(std::move(rows));
     for (std::size_t i = 0; i < std::max(pages.size(), owned.size()); ++i) {
         const PageNumber number = i < owned.size() ? owned[i] : AppendDataPage(image, table);
         LayOut(image.Change(number), i < pages.size() ? pages[i] : std::vector<SlotContent>{{slot::kDeleted, {}}});
@@ -164,7 +164,7 @@ void LayOutAfresh(Image& image, const TableDefinition& table, const std::vector<
 /// A slot is replaced where its page has the room.
 bool TryReplace(Image& image, RowPointer at, SlotContent content)
 {
-    std::vector<SlotContent> slots = TakeApart(image.Page(at.page));
+    std::vector<SlotContent> slots = SlotContentsOf(image.Page(at.page));
     slots.at(at.slot) = std::move(content);
     if (!FitsOnePage(slots)) return false;
     LayOut(image.Change(at.page), slots);
@@ -174,7 +174,7 @@ bool TryReplace(Image& image, RowPointer at, SlotContent content)
 /// A slot behind all others of a page, where there is room.
 bool TryAdd(Image& image, PageNumber page, const SlotContent& content, RowPointer& at)
 {
-    std::vector<SlotContent> slots = TakeApart(image.Page(page));
+    std::vector<SlotContent> slots = SlotContentsOf(image.Page(page));
     at = {page, U8(slots.size())};
     slots.push_back(content);
     if (!FitsOnePage(slots)) return false;
@@ -225,7 +225,7 @@ void ChangeRows(Image& image, const TableDefinition& table, const StoredRows& st
     if (!table.indexes.empty()) {
         for (const auto& [row, bytes] : changes) ReplaceKeepingAddress(image, table, stored.rows[row], bytes);
     } else if (stored.outOfPlace || !ReplaceInPlace(image, stored, changes)) {
-        LayOutAfresh(image, table, stored.pages, AllRows(stored, changes));
+        RepackRows(image, table, stored.pages, AllRows(stored, changes));
     }
 }
 

@@ -60,14 +60,14 @@ class DecodedPictures {
         else
             std::rotate(entries_.begin(), known, known + 1);
         QImage image = entries_.front().second;
-        ForgetUnused();
+        EvictUnused();
         return image;
     }
 
   private:
     using Entry = std::pair<std::shared_ptr<const Picture>, QImage>;
 
-    void ForgetUnused()
+    void EvictUnused()
     {
         qsizetype size = 0;
         std::erase_if(entries_, [&](const Entry& entry) {

@@ -10,7 +10,7 @@ namespace terravane {
 namespace {
 
 /// Square of the distance between a point and the stretch from a to b.
-double SquareOff(const DrawnPoint& point, const DrawnPoint& a, const DrawnPoint& b)
+double SquaredDistance(const DrawnPoint& point, const DrawnPoint& a, const DrawnPoint& b)
 {
     const double dx = b.x - a.x;
     const double dy = b.y - a.y;
@@ -30,7 +30,7 @@ std::pair<std::size_t, double> Farthest(std::span<const DrawnPoint> points, Stre
 {
     std::pair<std::size_t, double> farthest{stretch.first, -1};
     for (std::size_t at = stretch.first + 1; at < stretch.second; ++at) {
-        const double off = SquareOff(points[at], points[stretch.first], points[stretch.second]);
+        const double off = SquaredDistance(points[at], points[stretch.first], points[stretch.second]);
         if (!(off <= farthest.second)) farthest = {at, off};  // one that is no number counts as far off
     }
     return farthest;

@@ -113,7 +113,7 @@ std::optional<Status> StatusOf(const std::string& path)
 }
 
 /// The folder itself where the path is that of a bare name.
-std::string OrHere(const std::string& folder)
+std::string OrCurrentFolder(const std::string& folder)
 {
     return folder.empty() ? "." : folder;
 }
@@ -199,13 +199,13 @@ bool DiskFileSystem::Exists(const std::string& path) const
 
 bool DiskFileSystem::IsFolder(const std::string& path) const
 {
-    const auto status = StatusOf(OrHere(path));
+    const auto status = StatusOf(OrCurrentFolder(path));
     return status && S_ISDIR(status->st_mode);
 }
 
 bool DiskFileSystem::IsWritableFolder(const std::string& path) const
 {
-    return IsFolder(path) && access(OrHere(path).c_str(), W_OK | X_OK) == 0;
+    return IsFolder(path) && access(OrCurrentFolder(path).c_str(), W_OK | X_OK) == 0;
 }
 
 std::vector<std::string> DiskFileSystem::Names(const std::string& folder) const
@@ -213,7 +213,8 @@ std::vector<std::string> DiskFileSystem::Names(const std::string& folder) const
     namespace fs = std::filesystem;
     std::error_code failure;
     std::vector<std::string> names;
-    for (fs::directory_iterator at(OrHere(folder), failure), end; !failure && at != end; at.increment(failure)) {
+    for (fs::directory_iterator at(OrCurrentFolder(folder), failure), end; !failure && at != end;
+         at.increment(failure)) {
         names.push_back(at->path().filename().string());
     }
     if (failure) ThrowMaking(failure.value(), folder);
@@ -223,7 +224,7 @@ std::vector<std::string> DiskFileSystem::Names(const std::string& folder) const
 void DiskFileSystem::MakeFolders(const std::string& path)
 {
     std::error_code failure;
-    std::filesystem::create_directories(OrHere(path), failure);
+    std::filesystem::create_directories(OrCurrentFolder(path), failure);
     if (failure) ThrowMaking(failure.value(), path);
 }
 
@@ -303,7 +304,7 @@ void DiskFileSystem::RenameToFree(const std::string& from, const std::string& to
 
 void DiskFileSystem::SyncFolder(const std::string& folder)
 {
-    const Handle handle(OrHere(folder), O_RDONLY | O_DIRECTORY);
+    const Handle handle(OrCurrentFolder(folder), O_RDONLY | O_DIRECTORY);
     if (!handle.IsOpen()) ThrowSystem(errno, folder);
     const int result = Uninterrupted([&] { return fsync(handle.Number()); });
     if (result != 0 && errno != EINVAL) ThrowSystem(errno, folder);  // EINVAL: this disk syncs no folders

@@ -101,7 +101,7 @@ std::size_t Size(int count)
 }
 
 /// Sets sign and point among the digits of a scaled value: blanks of the mask filled, optional zeros dropped.
-std::string SetOut(bool isNegative, std::string_view digits, const Mask& mask)
+std::string WrittenByMask(bool isNegative, std::string_view digits, const Mask& mask)
 {
     const std::size_t behind = std::min(digits.size(), Size(mask.places));
     const std::string_view whole = digits.substr(0, digits.size() - behind);
@@ -124,11 +124,11 @@ std::string FormatUnder(const Mask& mask, double value)
     if (!std::isfinite(value)) return NumberText(value);
     const double magnitude = std::abs(value);
     const std::int64_t scaled = ScaledSurely(magnitude, mask.places);
-    if (scaled < 0) return SetOut(value < 0, ScaledDigits(magnitude, mask.places), mask);
+    if (scaled < 0) return WrittenByMask(value < 0, ScaledDigits(magnitude, mask.places), mask);
     std::array<char, 20> digits;
     const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), scaled).ptr;
     const auto length = scaled == 0 ? 0 : static_cast<std::size_t>(end - digits.data());
-    return SetOut(value < 0, {digits.data(), length}, mask);
+    return WrittenByMask(value < 0, {digits.data(), length}, mask);
 }
 
 }  // namespace

@@ -49,7 +49,7 @@ constexpr std::array kSiltsAndClays{
 };
 
 /// Of several rows that hold the last.
-constexpr std::string_view LastHolding(std::span<const GroupRow> rows, const Limits& limits)
+constexpr std::string_view LastMatching(std::span<const GroupRow> rows, const Limits& limits)
 {
     std::string_view group;
     for (const GroupRow& row : rows) {
@@ -58,10 +58,10 @@ constexpr std::string_view LastHolding(std::span<const GroupRow> rows, const Lim
     }
     return group;
 }
-static_assert(LastHolding(kSiltsAndClays, {51, 40}) == kFatClay);
-static_assert(LastHolding(kSiltsAndClays, {40.5, 35.5}).empty());
-static_assert(LastHolding(kSiltsAndClays, {41, 36}).empty());
-static_assert(LastHolding(kSiltyOrClayeyGravels, {41, 36}) == "A-2-5");
+static_assert(LastMatching(kSiltsAndClays, {51, 40}) == kFatClay);
+static_assert(LastMatching(kSiltsAndClays, {40.5, 35.5}).empty());
+static_assert(LastMatching(kSiltsAndClays, {41, 36}).empty());
+static_assert(LastMatching(kSiltyOrClayeyGravels, {41, 36}) == "A-2-5");
 
 /// Where the sample passes both tests of A-1, the nearer bounds decide.
 std::string_view FragmentsGroup(const AashtoSample& of)
@@ -83,13 +83,13 @@ bool IsFineSand(const AashtoSample& of)
 std::string_view GranularGroup(const AashtoSample& of)
 {
     if (const auto fragments = FragmentsGroup(of); !fragments.empty()) return fragments;
-    return IsFineSand(of) ? "A-3" : LastHolding(kSiltyOrClayeyGravels, of.limits);
+    return IsFineSand(of) ? "A-3" : LastMatching(kSiltyOrClayeyGravels, of.limits);
 }
 
 std::string_view FinerGroup(const AashtoSample& of)
 {
     if (of.passing200 <= kFinerAbove) return {};
-    const std::string_view group = LastHolding(kSiltsAndClays, of.limits);
+    const std::string_view group = LastMatching(kSiltsAndClays, of.limits);
     if (group != kFatClay) return group;
     return of.limits.liquid - 30 >= of.limits.PlasticityIndex() ? "A-7-5" : "A-7-6";
 }

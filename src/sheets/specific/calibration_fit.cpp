@@ -28,7 +28,7 @@ double SquareRoot(double value)
 }
 
 /// (St - Sr) / St: the share of the masses' scatter that the curve explains.
-double ShareExplained(const CalibrationCurve& curve, const CalibrationReadings& readings)
+double DeterminationOf(const CalibrationCurve& curve, const CalibrationReadings& readings)
 {
     const auto& mass = readings.mass;
     double mean = 0, total = 0, rest = 0;
@@ -65,7 +65,7 @@ CalibrationCurve FitExponential(const CalibrationReadings& readings)
     for (const double mass : readings.mass) logarithms.push_back(Log(mass));
     const auto line = FitStraightLine<double>(readings.temperature, logarithms);
     CalibrationCurve curve{CalibrationModel::Exponential, Exp(line.intercept), line.slope};
-    curve.determination = ShareExplained(curve, readings);
+    curve.determination = DeterminationOf(curve, readings);
     return curve;
 }
 
@@ -113,7 +113,7 @@ CalibrationCurve FitQuadratic(const CalibrationReadings& readings)
     curve.c = Divide(cell(2, 3), cell(2, 2));
     curve.b = Divide(cell(1, 3) - cell(1, 2) * curve.c, cell(1, 1));
     curve.a = Divide(cell(0, 3) - cell(0, 1) * curve.b - cell(0, 2) * curve.c, cell(0, 0));
-    curve.determination = ShareExplained(curve, readings);
+    curve.determination = DeterminationOf(curve, readings);
     return curve;
 }
 

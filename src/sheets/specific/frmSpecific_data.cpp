@@ -48,7 +48,7 @@ void frmSpecific::GravityOf(int trial)
 
 void frmSpecific::PostGravity() const
 {
-    PostSummary(program, {{"sum_Gs", MSHSpecific(gravity::Average, 1).Text()}});
+    PostSummary(program, {{"sum_Gs", MSHSpecific(gravity::Average, 1)}});
 }
 
 }  // namespace terravane
