@@ -165,9 +165,8 @@ void frmCBR::ReadValues(const LoadScale& scale, int mould, const MouldTask& task
 /// The ratio at 0.1 in holds unless that at 0.2 in is higher.
 void frmCBR::PostSingleMould() const
 {
-    const auto at01 = mshLPC(result::At01, 1), at02 = mshLPC(result::At02, 1);
-    const std::string CBRValue = Val(at01) >= Val(at02) ? at01.Text() : at02.Text();
-    PostSummary(program, {{"sum_CBR", CBRValue}});
+    const std::string &at01 = mshLPC(result::At01, 1), &at02 = mshLPC(result::At02, 1);
+    PostSummary(program, {{"sum_CBR", Val(at01) >= Val(at02) ? at01 : at02}});
 }
 
 }  // namespace terravane
