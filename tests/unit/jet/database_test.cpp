@@ -229,7 +229,7 @@ TEST(Database, TableOfManyShortRowsKeepsThemAll)
     Database database = Database::New(kCreated);
     database.Create(std::get<CreateTableStatement>(ReadStatement("CREATE TABLE T(k text(1))")));
     for (int row = 0; row < 300; ++row) database.Insert({"T", {{"k", row < 299 ? "a" : "z"}}});
-    const auto rows = ColumnOf(Database::FromBytes(database.ToBytes()), "T", 0);
+    const auto rows = ColumnOf(Database::FromBytes(database.Content()), "T", 0);
     ASSERT_EQ(rows.size(), 300U);
     EXPECT_EQ(rows.back(), "z");
 }

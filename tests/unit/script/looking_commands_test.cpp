@@ -94,7 +94,8 @@ TEST_F(LookingCommands, PreviewTellsItsPageAndIsRendered)
 TEST_F(LookingCommands, PictureBoxesTellTheirItems)
 {
     EXPECT_EQ(RunOnSheet("picture picGraph\n").Text(), "");
-    EXPECT_NE(RunOnSheet("click cmdOMC\npicture picgraph1\n").Text().find("{\"text\":"), std::string::npos)
+    EXPECT_NE(RunOnSheet("click cmdCal\nclick cmdOMC\npicture picgraph1\n").Text().find("{\"text\":"),
+              std::string::npos)
         << "The axis titles stand on the outer box.";
 }
 
