@@ -102,10 +102,10 @@ void frmSieve::PostClasses()
 {
     if (program.CurrentMaterial == Material::None) return;
     Post({{"gravel", SignedNumberText(Gravel)},
-                          {"sand", SignedNumberText(Sand)},
-                          {"finer", SignedNumberText(P200)},
-                          {"USCS", txtSuscs.Text()},
-                          {"AASHTO", txtSaash.Text()}});
+          {"sand", SignedNumberText(Sand)},
+          {"finer", SignedNumberText(P200)},
+          {"USCS", txtSuscs.Text()},
+          {"AASHTO", txtSaash.Text()}});
 }
 
 void frmSieve::DrawPlasticityChart()
