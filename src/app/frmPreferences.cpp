@@ -26,8 +26,15 @@ frmPreferences::frmPreferences(Program& owner)
 }
 
 void frmPreferences::Form_Load()
-try {
+{
     PreparePersonGrid();
+    LoadStore();
+    keptNames_ = NamesShown();
+    keptPersons_ = PersonsShown();
+}
+
+void frmPreferences::LoadStore()
+try {
     program.BrandFolder = program.BrandFolderNow();
     for (const Logo& logo : {kInstitute, kDepartment, kCover}) LoadLogo(logo);
     ConnectStore();
@@ -73,6 +80,18 @@ void frmPreferences::ChangeNames()
     const std::string institute = txtIsName.Text(), department = txtDname.Text();
     const std::string cover1 = txtCov1.Text(), cover2 = txtCov2.Text(), cover3 = txtCov3.Text();
     Write(UpdateLogo({institute, department, cover1, cover2, cover3}));
+    program.FlushStores();  // a disk may refuse them: then they are not kept
+    keptNames_ = NamesShown();
+}
+
+std::vector<std::string> frmPreferences::NamesShown() const
+{
+    return {txtIsName.Text(), txtDname.Text(), txtCov1.Text(), txtCov2.Text(), txtCov3.Text()};
+}
+
+bool frmPreferences::HoldsUnkeptTexts() const
+{
+    return NamesShown() != keptNames_ || PersonsShown() != keptPersons_ || IsTypingPerson();
 }
 
 void frmPreferences::cmdDbase_Click()

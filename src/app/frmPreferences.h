@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "controls/cell_editor.h"
 #include "controls/choice_controls.h"
@@ -104,6 +105,8 @@ struct frmPreferences : Form {
     /// What fails ends the load without a word, and what was not yet filled stays empty: a first start has no brand
     /// store, and the form is where it is made.
     void Form_Load() override;
+    /// Names and persons that the store does not have, and a name that is being typed over its cell.
+    bool HoldsUnkeptTexts() const override;
 
     void cmdOpen_Click() { ChoosePicture(kInstitute); }
     void cmdOpen1_Click() { ChoosePicture(kDepartment); }
@@ -147,6 +150,7 @@ struct frmPreferences : Form {
     void ChoosePicture(const Logo& logo);
     void ChangeLogo(const Logo& logo);
 
+    void LoadStore();
     void ConnectStore();
     void Write(std::string statement);
     void LoadNames();
@@ -158,6 +162,11 @@ struct frmPreferences : Form {
     void CommitAndGoOn(std::string_view text);
     void HidePersonEditors();
 
+    std::vector<std::string> NamesShown() const;
+    std::vector<std::string> PersonsShown() const;
+    bool IsTypingPerson() const;
+
+    std::vector<std::string> keptNames_, keptPersons_;  // as the store has them; as shown where it was not read
     bool isConnected_ = false;  // whether the form came as far as its own connection to the store
 };
 

@@ -107,6 +107,25 @@ void frmPreferences::cmdPerson_Click()
     for (int row = 1; row <= kPersons; ++row) {
         Write(UpdatePerson(row, mshPerson(row, person::kName), mshPerson(row, person::kPosition)));
     }
+    program.FlushStores();
+    keptPersons_ = PersonsShown();
+}
+
+std::vector<std::string> frmPreferences::PersonsShown() const
+{
+    std::vector<std::string> persons;
+    for (int row = 1; row <= kPersons; ++row) {
+        for (const int column : {person::kName, person::kPosition}) persons.push_back(mshPerson(row, column));
+    }
+    return persons;
+}
+
+bool frmPreferences::IsTypingPerson() const
+{
+    const auto differs = [this](const TextControl& editor) {
+        return editor.Visible() && editor.Text() != mshPerson(mshPerson.Row(), mshPerson.Column());
+    };
+    return differs(txtData) || differs(cboList);
 }
 
 void frmPreferences::cmdClear_Click()

@@ -1,5 +1,8 @@
 #include "app/frmProject.h"
 
+#include <algorithm>
+#include <array>
+
 #include "app/mdiBack.h"
 #include "store/statements.h"
 
@@ -15,6 +18,13 @@ frmProject::frmProject(Program& owner) : Form(owner, "frmProject", "General Data
 {
     Width = kDialogWidth;
     Height = kDialogHeight;
+}
+
+/// The boxes start empty.
+bool frmProject::HoldsUnkeptTexts() const
+{
+    const auto hasText = [](const TextBox* box) { return !box->Text().empty(); };
+    return std::ranges::any_of(std::array{&txtProject, &txtLocation, &txtID, &txtClient}, hasText);
 }
 
 void frmProject::cmdOK_Click() const

@@ -23,6 +23,7 @@ struct frmProject : Form {
 
     void Form_Load() override { Top = Height / 2; }
     void Form_Activate() override { txtID.SetFocus(); }
+    bool HoldsUnkeptTexts() const override;
 
     /// Accept: the texts go into the file, the frame turns green, the form closes. Errors of the store, an
     /// apostrophe's and a full disk's among them: then the form stays with its texts.

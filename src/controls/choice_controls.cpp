@@ -32,15 +32,28 @@ OptionButton::OptionButton(Form& owner, const Naming& naming, std::string group,
     : OptionButton(owner, naming.control, naming.caption, std::move(group), value, std::move(events))
 {}
 
+void OptionButton::Press()
+{
+    if (!Enabled()) return;
+    if (!value_) TakeChoice();
+    Raise("Click", Click);
+}
+
 void OptionButton::Choose()
 {
     if (value_) return;
+    TakeChoice();
+    Raise("Click", Click);
+}
+
+/// The others of the group go off.
+void OptionButton::TakeChoice()
+{
     for (OptionButton* other : ControlsOf<OptionButton>(Owner())) {
         if (other->group_ == group_) other->Release();
     }
     value_ = true;
     Changed();
-    Raise("Click", Click);
 }
 
 void OptionButton::Release()

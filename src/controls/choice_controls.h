@@ -34,7 +34,10 @@ class OptionButton : public ControlKind<OptionButton> {
 
     bool Value() const { return value_; }
     const std::string& Group() const { return group_; }
-    /// Chooses this one: the others of the group go off, and Click runs if it was not chosen before.
+    /// The user's press: chooses this one and runs Click, also where it is chosen already. Nothing happens where the
+    /// option is disabled.
+    void Press();
+    /// A handler's choice: the others of the group go off, and Click runs if this one was not chosen before.
     void Choose();
     /// Takes the choice away without choosing another; runs no event.
     void Release();
@@ -42,6 +45,8 @@ class OptionButton : public ControlKind<OptionButton> {
     Handler Click;
 
   private:
+    void TakeChoice();
+
     std::string group_;
     bool value_;
 };

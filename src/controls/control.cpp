@@ -53,6 +53,11 @@ void Control::SetForeColor(std::optional<Colour> colour)
     if (Assign(foreColour_, colour)) Changed();
 }
 
+void Control::SetMousePointer(Pointer pointer)
+{
+    if (Assign(pointer_, pointer)) Changed();
+}
+
 void Control::SetFocus()
 {
     if (HasFocus()) return;

@@ -14,6 +14,12 @@
 
 namespace terravane {
 
+/// The platform's own colours, as forms give them to controls. What a view shows is its palette's: light or dark.
+inline constexpr Colour kWindowColour{255, 255, 255}, kButtonFace{240, 240, 240};
+
+/// What the mouse looks like over a control.
+enum class Pointer { Arrow, Hand };
+
 /// The keys that handlers know; what a key types is the view's.
 enum class Key { Enter, Esc, Up, Down, Left, Right, Tab };
 
@@ -74,6 +80,8 @@ class Control {
     void SetBackColor(std::optional<Colour> colour);
     std::optional<Colour> ForeColor() const { return foreColour_; }
     void SetForeColor(std::optional<Colour> colour);
+    Pointer MousePointer() const { return pointer_; }
+    void SetMousePointer(Pointer pointer);
 
     /// Gives the control the form's focus: the control that had it is told first, then this one. A view calls
     /// it when the user enters the control; nothing happens where it has the focus already.
@@ -107,6 +115,7 @@ class Control {
     std::string name_, caption_, toolTip_;
     bool enabled_ = true, visible_ = true;
     std::optional<Colour> backColour_, foreColour_;
+    Pointer pointer_ = Pointer::Arrow;
     int selectAllRequests_ = 0;
     Announcement changes_;
 };

@@ -57,6 +57,10 @@ class Form {
     virtual void Form_Activate() {}
     virtual void Form_Unload() {}
 
+    /// Whether something that was typed here would be lost if the form closed now; Esc closes it only where nothing
+    /// would.
+    virtual bool HoldsUnkeptTexts() const { return false; }
+
     /// The control of that name, without regard to case; none: nullptr.
     Control* Find(std::string_view name);
     const Control* Find(std::string_view name) const;

@@ -44,6 +44,17 @@ void TabControl::SetTabEnabled(int tab, bool enabled)
     Changed();
 }
 
+void TabControl::Hold(int tab, std::initializer_list<const Control*> controls)
+{
+    for (const Control* control : controls) tabOf_[control] = tab;
+}
+
+bool TabControl::Reaches(const Control& control) const
+{
+    const auto found = tabOf_.find(&control);
+    return found == tabOf_.end() || TabEnabled(found->second);
+}
+
 Toolbar::Toolbar(Form& owner, std::string_view name, std::vector<ToolButton> buttons, ToolbarEvents events)
     : ControlKind(owner, name),
       ButtonClick(std::move(events.ButtonClick)),

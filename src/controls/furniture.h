@@ -4,6 +4,8 @@
 #include <chrono>
 #include <cstddef>
 #include <functional>
+#include <initializer_list>
+#include <map>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -59,11 +61,17 @@ class TabControl : public ControlKind<TabControl> {
     bool TabEnabled(int tab) const { return enabledTabs_.at(static_cast<std::size_t>(tab)); }
     void SetTabEnabled(int tab, bool enabled);
 
+    /// Says which controls stand on a tab. Those of tabs that are never disabled need not be told.
+    void Hold(int tab, std::initializer_list<const Control*> controls);
+    /// Whether the user can come to the control: not while it stands on a disabled tab.
+    bool Reaches(const Control& control) const;
+
     std::function<void(int previousTab)> TabChanged;
 
   private:
     std::vector<std::string> captions_;
     std::vector<bool> enabledTabs_;
+    std::map<const Control*, int> tabOf_;
     int tab_ = 0;
 };
 

@@ -61,6 +61,16 @@ void ShowEntry(QComboBox& view, const std::string& text)
     view.lineEdit()->setCursorPosition(cursor);
 }
 
+bool IsPlatforms(Colour colour)
+{
+    return colour == kWindowColour || colour == kButtonFace;
+}
+
+void ShowPointer(const Control& control, QWidget& view)
+{
+    if (control.MousePointer() == Pointer::Hand) view.setCursor(Qt::PointingHandCursor);
+}
+
 /// A new view is shown with its window; telling it so before costs its styling anew.
 void ShowOrHide(QWidget& view, bool visible)
 {
@@ -157,7 +167,8 @@ Subscription BindFurniture(Control& control, QWidget& view)
         ShowOrHide(view, control.Visible());
         if (!control.ToolTip().empty()) view.setToolTip(ToQt(control.ToolTip()));
         const auto ground = control.BackColor();
-        if (ground) looks::SetGround(view, looks::ToQt(*ground));
+        if (ground && !IsPlatforms(*ground)) looks::SetGround(view, looks::ToQt(*ground));
+        ShowPointer(control, view);
     });
 }
 
@@ -211,7 +222,7 @@ Subscription Bind(OptionButton& option, QRadioButton& view)
 {
     view.setAutoExclusive(false);  // the controls know their groups
     QObject::connect(&view, &QRadioButton::clicked, &view, [&option, &view] {
-        option.Choose();
+        option.Press();
         view.setChecked(option.Value());
     });
     return option.Show([&option, &view] {
@@ -266,6 +277,7 @@ Subscription Bind(TabControl& tabs, QTabWidget& view)
 Subscription Bind(Toolbar& bar, QToolBar& view)
 {
     view.setAccessibleName(ToQt(bar.Name()));
+    ShowPointer(bar, view);
     std::vector<QToolButton*> tools;
     for (int number = 1; number <= static_cast<int>(bar.Buttons().size()); ++number) {
         tools.push_back(MakeToolButton(bar, number, view));

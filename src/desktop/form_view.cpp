@@ -260,6 +260,7 @@ QWidget* FormView::MakeField(const Place& place, QWidget& parent)
     QWidget* view = MakeControl(control, *widget);
     box->addWidget(MakeCaption(control, view, widget));
     box->addWidget(view, 1);
+    if (!place.text.empty()) box->addWidget(new QLabel(ToQt(place.text), widget));
     bindings_.push_back(control.Show([&control, widget] { widget->setVisible(control.Visible()); }));
     return widget;
 }

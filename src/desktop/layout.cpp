@@ -48,6 +48,11 @@ Place Field(std::string_view control, int stretch)
     return {Place::Kind::Field, control, {}, {}, stretch};
 }
 
+Place Measured(std::string_view control, std::string_view unit)
+{
+    return {Place::Kind::Field, control, {}, unit, 0};
+}
+
 Place Named(std::string_view control, std::string_view caption)
 {
     return {Place::Kind::Control, control, {}, caption, 0};

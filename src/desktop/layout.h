@@ -17,7 +17,7 @@ struct Place {
         Group,    // a captioned frame around the parts; control is the form's Frame
         Tabs,     // parts are the pages; control is the tab control
         Control,  // the control alone
-        Field,    // the control with its caption at its left
+        Field,    // the control with its caption at its left, `text` its unit
         Result,   // caption small, figure large, `text` its unit
         Banner,   // the coloured title of a sheet
         Picture,  // a picture box that shows one picture, `text` what it is
@@ -41,6 +41,8 @@ Place Group(std::string_view frame, std::vector<Place> parts, int stretch = 0);
 Place Tabs(std::string_view control, std::vector<Place> pages);
 Place One(std::string_view control, int stretch = 0);
 Place Field(std::string_view control, int stretch = 0);
+/// The same with the unit behind it.
+Place Measured(std::string_view control, std::string_view unit);
 /// The control under a caption of the window's own, for one that has none.
 Place Named(std::string_view control, std::string_view caption);
 /// Fields under each other with captions of the window's own.

@@ -10,7 +10,7 @@ namespace {
 Place AtterbergReadingsTab()
 {
     return Column({Pair({Group("fraLL", {One("MSHLL", 1)}, 1), Group("fraPL", {One("MSHPL", 1)}, 1)}),
-                   Row({Space(), One("cmdCal")})});
+                   Row({Space(), One("cmdCal"), One("cmdView")})});
 }
 
 Place AtterbergCurveTab()
@@ -18,7 +18,7 @@ Place AtterbergCurveTab()
     return Row({
         Plot("picgraph1", "picGraph", 3),
         Column({Row({Result("txtLL", "%"), Result("txtPL", "%")}), Row({Result("txtPI", ""), Result("txtFI", "")}),
-                Plot("picPI", "", 0), Plot("picFI", "", 0), Space(), Row({Space(), One("cmdPlot"), One("cmdView")})},
+                Plot("picPI", "", 0), Plot("picFI", "", 0), Space(), Row({Space(), One("cmdPlot")})},
                2),
     });
 }

@@ -13,7 +13,7 @@ Place MouldsTab()
         Row({One("optUnsoak"), One("optSoak"), One("optBoth"), Space(), One("optStd"), One("optMod"),
              Field("txtCompaction"), Field("txtOMC"), Field("txtMDD")}),
         Pair({Group("fraWater", {One("MSHWater", 1)}, 1), Group("fraDensity", {One("MSHCompaction", 1)}, 1)}),
-        Row({Field("txtK"), Field("txtWeight"), Space(), One("cmdCal"), One("cmdView")}),
+        Row({Measured("txtK", "lb/div"), Field("txtWeight"), Space(), One("cmdCal"), One("cmdView")}),
     });
 }
 

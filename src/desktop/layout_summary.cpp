@@ -7,7 +7,11 @@ using namespace layout;
 
 Place SummaryLayout()
 {
-    return Column({Group("fraResults", {Fields({"txtProject", "txtLocation"}), One("mshSum", 1)}, 1),
+    return Column({Group("fraResults",
+                         {Row({Column({One("imgLogo"), Space()}),
+                               Column({Fields({"txtProject", "txtLocation"}), One("mshSum", 1)}, 1)},
+                              1)},
+                         1),
                    Row({Space(), One("cmdPrint"), One("cmdClose")})});
 }
 

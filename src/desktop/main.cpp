@@ -53,7 +53,6 @@ int main(int argc, char** argv)
     using namespace terravane;
     QApplication application(argc, argv);
     QApplication::setApplicationName("terravane");
-    QApplication::setApplicationDisplayName("Terravane");
     QApplication::setWindowIcon(looks::ProgramIcon());
     QApplication::setQuitOnLastWindowClosed(false);
 

@@ -29,6 +29,7 @@ namespace terravane {
 namespace {
 
 constexpr std::chrono::milliseconds kFrameSeen{200};
+constexpr int kSplashPicture = 240;  // pixels, both ways
 
 /// Where words end in Thai Qt looks up in a dictionary, which it reads with the first text of such letters; and each
 /// letter's shape is made for its first text. That takes some milliseconds: better before a sheet is opened than while
@@ -75,7 +76,14 @@ FrameWindow::FrameWindow(Program& program, Form& frame) : program_(program), for
     setCentralWidget(area_);
     BuildMenu();
     BuildBands();
+    connect(this, &QWidget::windowTitleChanged, this, [this] { KeepTitle(); });
     QTimer::singleShot(kFrameSeen, this, [this] { PreloadGlyphs(font()); });
+}
+
+/// Qt would write the title of a sheet that fills the frame behind the frame's own.
+void FrameWindow::KeepTitle()
+{
+    setWindowTitle(ToQt(form_.Caption()));
 }
 
 void FrameWindow::BuildMenu()
@@ -194,8 +202,10 @@ void DialogWindow::ChooseDefault()
     for (QPushButton* command : commands) command->setAutoDefault(false);
 }
 
+/// Enter presses the command that has the focus. Esc closes, but takes nothing away that was typed.
 void DialogWindow::keyPressEvent(QKeyEvent* event)
 {
+    if (event->matches(QKeySequence::Cancel) && form_.HoldsUnkeptTexts()) return;
     auto* command = qobject_cast<QPushButton*>(focusWidget());
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (isEnter && command) return command->click();
@@ -214,7 +224,8 @@ void DialogWindow::reject()
     CloseForm(program_, form_);
 }
 
-SplashWindow::SplashWindow(Form& form) : QWidget(nullptr, Qt::SplashScreen), form_(form)
+/// A plain window without a frame: to one that calls itself a splash window managers give no keyboard.
+SplashWindow::SplashWindow(Form& form) : QWidget(nullptr, Qt::FramelessWindowHint), form_(form)
 {
     setWindowTitle(ToQt(form.Caption()));
     setWindowIcon(looks::ProgramIcon());
@@ -224,18 +235,33 @@ SplashWindow::SplashWindow(Form& form) : QWidget(nullptr, Qt::SplashScreen), for
     for (Timer* timer : ControlsOf<Timer>(form)) bindings_.push_back(Bind(*timer, *new QTimer(this)));
 }
 
+void SplashWindow::showEvent(QShowEvent*)
+{
+    activateWindow();
+}
+
+/// Image1 with four lines around it.
+void SplashWindow::PaintPicture(QPainter& painter) const
+{
+    if (!form_.Get<terravane::Image>("Image1").Visible()) return;
+    const QRect picture(looks::kMargin * 2, (height() - kSplashPicture) / 2, kSplashPicture, kSplashPicture);
+    const DisplayList mark = looks::ProgramMark();
+    painter.save();
+    painter.translate(picture.topLeft());
+    painter.scale(kSplashPicture / mark.width, kSplashPicture / mark.height);
+    PaintList(painter, mark);
+    painter.restore();
+    painter.setPen(palette().color(QPalette::Dark));
+    painter.drawRect(picture.adjusted(-looks::kGap, -looks::kGap, looks::kGap, looks::kGap));
+}
+
 void SplashWindow::paintEvent(QPaintEvent*)
 {
     const auto text = [this](std::string_view label) { return PlainCaption(form_.Get<Label>(label)); };
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
     painter.fillRect(rect(), palette().window());
-    painter.save();
-    painter.translate(looks::kMargin * 2, (height() - 240) / 2.0);
-    const DisplayList mark = looks::ProgramMark();
-    painter.scale(240 / mark.width, 240 / mark.height);
-    PaintList(painter, mark);
-    painter.restore();
+    PaintPicture(painter);
+    painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(palette().color(QPalette::WindowText));
     painter.setFont(looks::Scaled(font(), 2.6, true));
     painter.drawText(QRect(288, 96, 260, 56), Qt::AlignLeft | Qt::AlignVCenter, text("lblName"));
@@ -243,6 +269,8 @@ void SplashWindow::paintEvent(QPaintEvent*)
     painter.drawText(QRect(288, 152, 260, 28), Qt::AlignLeft | Qt::AlignVCenter, text("lblSubject"));
     painter.setFont(font());
     painter.drawText(QRect(288, 184, 260, 24), Qt::AlignLeft | Qt::AlignVCenter, text("lblVersion"));
+    painter.setPen(palette().color(QPalette::PlaceholderText));
+    painter.drawText(QRect(288, 256, 260, 24), Qt::AlignLeft | Qt::AlignVCenter, text("lblPress"));
 }
 
 void SplashWindow::keyPressEvent(QKeyEvent*)

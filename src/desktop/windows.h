@@ -49,6 +49,7 @@ class FrameWindow : public SettledWindow<QMainWindow> {
     void closeEvent(QCloseEvent* event) override;
 
   private:
+    void KeepTitle();
     void BuildMenu();
     void BuildBands();
 
@@ -94,16 +95,19 @@ class DialogWindow : public SettledWindow<QDialog> {
     Form& form_;
 };
 
-/// The program's name over its mark until the time is up or a key is pressed.
+/// The program's name beside its picture until the time is up or a key is pressed.
 class SplashWindow : public QWidget {
   public:
     explicit SplashWindow(Form& form);
 
   protected:
+    void showEvent(QShowEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
   private:
+    void PaintPicture(QPainter& painter) const;
+
     Form& form_;
     Bindings bindings_;
 };

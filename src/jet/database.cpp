@@ -256,12 +256,4 @@ void Database::Create(const CreateTableStatement& create)
     transaction.Commit();
 }
 
-bool SameTables(const Database& left, const Database& right)
-{
-    const std::vector<std::string> tables = left.TableNames();
-    return tables == right.TableNames() && std::ranges::all_of(tables, [&](const std::string& table) {
-               return left.ReadRows(table) == right.ReadRows(table);
-           });
-}
-
 }  // namespace terravane::jet

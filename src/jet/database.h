@@ -28,7 +28,6 @@ class Database {
     static Database New(double created, const Locale& locale = {});
 
     const Bytes& Content() const { return image_.All(); }
-    Bytes ToBytes() const { return image_.All(); }
 
     bool HasChanges() const { return image_.Changed(); }
     void MarkSaved() { image_.MarkSaved(); }
@@ -60,8 +59,5 @@ class Database {
     double created_ = 0;
     Locale locale_;
 };
-
-/// Whether two databases have the same user tables with the same columns and rows, in the same order.
-bool SameTables(const Database& left, const Database& right);
 
 }  // namespace terravane::jet

@@ -16,7 +16,10 @@ constexpr std::string_view kBack = "<<Back";
 
 frmPreview::frmPreview(Program& owner)
     : Form(owner, "frmPreview", "Report Preview", WindowKind::Preview), program(owner)
-{}
+{
+    Toolbar1.SetMousePointer(Pointer::Hand);
+    for (Image* holder : {&Image1, &Image2, &Image6, &imgPoint}) holder->SetVisible(false);
+}
 
 void frmPreview::Form_Load()
 {

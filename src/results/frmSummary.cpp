@@ -87,6 +87,12 @@ void frmSummary::ShowHeadings()
     const jet::Recordset head = Query(program, program.ProjectConnection, SelectAll("HEAD"));
     txtProject.SetText(head.Fields("project_Name"));
     txtLocation.SetText(head.Fields("project_Location"));
+    headings_ = {txtProject.Text(), txtLocation.Text()};
+}
+
+bool frmSummary::HoldsUnkeptTexts() const
+{
+    return headings_ != std::array{txtProject.Text(), txtLocation.Text()};
 }
 
 /// SUMMARY has a row a material, soil first.

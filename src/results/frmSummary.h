@@ -2,6 +2,8 @@
 /// knows neither the sheets nor how they post.
 #pragma once
 
+#include <array>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -33,6 +35,7 @@ struct frmSummary : Form {
     /// Reads the results afresh from the file of the recent entry, which becomes the current project. Errors of the
     /// store where that file is missing, damaged or without one of the tables.
     void Form_Load() override;
+    bool HoldsUnkeptTexts() const override;
 
     /// One page, on the printer that the user chooses. Cancel and every failure end it without a word.
     void cmdPrint_Click() const;
@@ -49,6 +52,8 @@ struct frmSummary : Form {
     void LayOutGrid();
     void ShowTitles();
     void DrawPage(Printer& printer) const;
+
+    std::array<std::string, 2> headings_;  // project and location as they were read
 };
 
 }  // namespace terravane

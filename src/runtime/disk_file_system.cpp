@@ -8,7 +8,6 @@
 #include <optional>
 #include <thread>
 
-#include <dirent.h>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>

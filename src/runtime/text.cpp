@@ -141,13 +141,6 @@ std::size_t CharacterCount(std::string_view text) noexcept
     return count;
 }
 
-std::size_t Utf16Length(std::string_view text) noexcept
-{
-    std::size_t units = 0;
-    ForEachCharacter(text, [&](char32_t code) { units += code < 0x10000 ? 1 : 2; });
-    return units;
-}
-
 std::u16string ToUtf16(std::string_view text)
 {
     std::u16string units;

@@ -17,7 +17,6 @@ std::string_view Left(std::string_view text, std::size_t characters) noexcept;
 std::string_view SkipCharacters(std::string_view text, std::size_t characters) noexcept;
 
 std::size_t CharacterCount(std::string_view text) noexcept;
-std::size_t Utf16Length(std::string_view text) noexcept;
 
 /// UTF-16 from UTF-8 and back. A byte or a unit that is no text becomes U+FFFD: nothing fails.
 std::u16string ToUtf16(std::string_view text);

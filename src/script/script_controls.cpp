@@ -1,5 +1,6 @@
 #include "script/script_controls.h"
 
+#include <algorithm>
 #include <ranges>
 
 #include "controls/cell_editor.h"
@@ -31,7 +32,7 @@ struct UsesOfKind {
     }
     ControlUses operator()(OptionButton& option) const
     {
-        return {.click = [&option] { option.Choose(); }, .clickTakesFocus = true};
+        return {.click = [&option] { option.Press(); }, .clickTakesFocus = true};
     }
     ControlUses operator()(CheckBox& box) const
     {
@@ -56,6 +57,12 @@ struct UsesOfKind {
     ControlUses operator()(PictureBox& box) const { return {.drawing = &box}; }
     ControlUses operator()(OneOf<Image, ScrollBar, StatusBar, Timer> auto&) const { return {}; }
 };
+
+bool IsOnDisabledTab(Control& control)
+{
+    const auto shuts = [&control](const TabControl* tabs) { return !tabs->Reaches(control); };
+    return std::ranges::any_of(ControlsOf<TabControl>(control.Owner()), shuts);
+}
 
 [[noreturn]] void FailMissing(std::string_view name)
 {
@@ -94,7 +101,7 @@ ControlUses UsesOf(Control& control)
 std::optional<std::string_view> WhyUnusable(Control& control)
 {
     if (!control.Visible()) return "hidden";
-    if (!control.Enabled()) return "disabled";
+    if (!control.Enabled() || IsOnDisabledTab(control)) return "disabled";
     const TextControl* box = UsesOf(control).text;
     if (box && box->Locked()) return "locked";
     return std::nullopt;

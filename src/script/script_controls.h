@@ -52,8 +52,8 @@ struct AskedProperty {
 };
 AskedProperty PropertyNamed(const Program& program, const std::string& asked);
 
-/// Why a person could not use the control now: "hidden", "disabled", "locked" where
-/// it takes text; nothing where a person could.
+/// Why a person could not use the control now: "hidden", "disabled" where the control or the tab that it stands on is,
+/// "locked" where it takes text; nothing where a person could.
 std::optional<std::string_view> WhyUnusable(Control& control);
 
 }  // namespace terravane

@@ -1,5 +1,9 @@
 #include "store/statements.h"
 
+#include <algorithm>
+#include <iterator>
+
+#include "runtime/text.h"
 #include "store/new_stores.h"
 
 namespace terravane {
@@ -9,6 +13,12 @@ namespace {
 std::string Quoted(std::string_view value)
 {
     return "'" + std::string(value) + "'";
+}
+
+/// SUMMARY has a row a material, soil first.
+int SummaryRow(const Program& program)
+{
+    return program.CurrentMaterial == Material::Crush ? 2 : 1;
 }
 
 }  // namespace
@@ -59,13 +69,28 @@ void Execute(Program& program, jet::Connection& connection, std::string statemen
     connection.Execute(program.CurrentSql);
 }
 
+std::string PostedValueEmptiedBy(Program& program, const std::vector<PostedText>& results)
+{
+    std::vector<PostedText> empty;
+    std::ranges::copy_if(results, std::back_inserter(empty),
+                         [](const PostedText& result) { return Trim(result.text).empty(); });
+    if (empty.empty()) return {};
+    OpenProjectConnection(program);
+    auto posted = Query(program, program.ProjectConnection, SelectAll(SummaryTable().name));
+    for (int row = 1; row < SummaryRow(program); ++row) posted.MoveNext();
+    for (const auto& [column, text] : empty) {
+        const auto value = Trim(posted.Fields(SummaryTable().ColumnName(column)));
+        if (!value.empty()) return std::string(value);
+    }
+    return {};
+}
+
 void PostSummary(Program& program, const std::vector<PostedText>& results)
 {
     OpenProjectConnection(program);
-    const int row = program.CurrentMaterial == Material::Crush ? 2 : 1;
     std::vector<Assignment> assignments;
     for (const auto& [column, text] : results) assignments.push_back({SummaryTable().ColumnName(column), text});
-    Execute(program, program.ProjectConnection, UpdateRow(SummaryTable(), assignments, row));
+    Execute(program, program.ProjectConnection, UpdateRow(SummaryTable(), assignments, SummaryRow(program)));
 }
 
 }  // namespace terravane

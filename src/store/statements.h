@@ -49,6 +49,10 @@ struct PostedText {
     std::string text;
 };
 
+/// The first value in SUMMARY that posting these results of the current material would replace by an empty text,
+/// without blanks at its ends; empty where there is none.
+std::string PostedValueEmptiedBy(Program& program, const std::vector<PostedText>& results);
+
 /// Posts results of the current material into SUMMARY, in one statement on a connection of its own. They
 /// reach the file at the end of the command.
 void PostSummary(Program& program, const std::vector<PostedText>& results);

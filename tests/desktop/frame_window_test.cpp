@@ -1,6 +1,7 @@
 // The frame as a user sees it: strip, buttons, menu, sheets over sheets, dialogs.
 #include <QAction>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenuBar>
@@ -12,6 +13,7 @@
 #include <gtest/gtest.h>
 
 #include "controls/cell_editor.h"
+#include "controls/furniture.h"
 #include "desktop/desktop_fixture.h"
 #include "desktop/layouts.h"
 
@@ -76,6 +78,34 @@ TEST(FrameWindow, ASecondSheetTakesThePlaceOfTheFirst)
     EXPECT_EQ(banner->palette().color(QPalette::Window), QColor(128, 0, 128)) << "Crushed rock is purple.";
 }
 
+// A sheet fills the frame: the title on the screen is the frame's own and nothing else.
+TEST(FrameWindow, KeepsItsTitleWhenASheetFillsIt)
+{
+    DesktopFixture running;
+    running.MakeProject();
+    running.OpenSheet("mnuStd1");
+    ASSERT_TRUE(running.Window("frmCompaction")->isMaximized());
+    EXPECT_EQ(running.Window("mdiBack")->windowTitle(),
+              "Terravane Program : Version 1.0 -  [Materials for Road Construction]");
+    EXPECT_EQ(running.Window("frmCompaction")->windowTitle(), "Compaction Test");
+}
+
+TEST(FrameWindow, EscapeClosesGeneralDataOnlyWhileNothingIsTyped)
+{
+    DesktopFixture running;
+    running.surroundings.files = {running.PathOf("road.mdb"), running.PathOf("lane.mdb")};
+    running.PressMenu("mnuNew");
+    auto* number = running.Widget<QLineEdit>("frmProject", "txtID");
+    QTest::keyClicks(number, "R-17");
+    QTest::keyClick(number, Qt::Key_Escape);
+    ASSERT_TRUE(running.program.Loaded("frmProject")) << "Four headings are not lost by one key.";
+    EXPECT_EQ(number->text(), "R-17");
+    number->clear();
+    running.FormNamed("frmProject").Get<TextBox>("txtID").Type("");
+    QTest::keyClick(number, Qt::Key_Escape);
+    EXPECT_FALSE(running.program.Loaded("frmProject"));
+}
+
 TEST(FrameWindow, ClosingItEndsTheProgramAndKeepsTheRecentFile)
 {
     DesktopFixture running;
@@ -106,6 +136,11 @@ TEST(FrameWindow, TheGuideIsAskedForInTheBrandFolder)
     EXPECT_TRUE(running.surroundings.opened.ends_with("BrandList/UserGuide.pdf")) << running.surroundings.opened;
 }
 
+std::set<std::string> SetOf(const std::vector<std::string>& names)
+{
+    return {names.begin(), names.end()};
+}
+
 TEST(Layouts, EveryVisibleControlHasAPlace)
 {
     DesktopFixture running;
@@ -115,8 +150,7 @@ TEST(Layouts, EveryVisibleControlHasAPlace)
         running.OpenSheet(key);
         const Form& form = *running.program.ShownForms().back().form;
         const std::string& name = form.Name();
-        const auto placed = PlacedControls(LayoutOf(name));
-        const std::set<std::string> places(placed.begin(), placed.end());
+        const auto places = SetOf(PlacedControls(LayoutOf(name)));
         for (const Control* control : form.Controls()) {
             const bool isFurniture = dynamic_cast<const Toolbar*>(control) || dynamic_cast<const StatusBar*>(control) ||
                                      dynamic_cast<const Timer*>(control) || dynamic_cast<const Image*>(control) ||
@@ -125,6 +159,54 @@ TEST(Layouts, EveryVisibleControlHasAPlace)
             EXPECT_TRUE(places.contains(control->Name())) << name << " shows no " << control->Name() << ".";
         }
     }
+}
+
+/// The pages of the tabs in a layout; none where it has no tabs.
+std::vector<Place> PagesOf(const Place& place)
+{
+    if (place.kind == Place::Kind::Tabs) return place.parts;
+    for (const Place& part : place.parts) {
+        if (auto pages = PagesOf(part); !pages.empty()) return pages;
+    }
+    return {};
+}
+
+// Scripts have no window: the sheets themselves say what stands on a tab that is disabled.
+TEST(Layouts, WhatStandsOnADisabledTabIsOutOfReach)
+{
+    DesktopFixture running;
+    running.MakeProject();
+    for (const char* key : {"mnuStd1", "mnuAtt1", "mnuSpe1", "mnuSie1", "mnuCBR1", "mnuDen1"}) {
+        running.OpenSheet(key);
+        const Form& form = *running.program.ShownForms().back().form;
+        const auto& tabs = form.Get<TabControl>("SSTData");
+        const auto pages = PagesOf(LayoutOf(form.Name()));
+        std::set<std::string> shut;
+        for (int tab = 0; tab < tabs.Count(); ++tab) {
+            if (!tabs.TabEnabled(tab)) shut.merge(SetOf(PlacedControls(pages.at(static_cast<std::size_t>(tab)))));
+        }
+        for (const Control* control : form.Controls()) {
+            EXPECT_EQ(!tabs.Reaches(*control), shut.contains(control->Name()))
+                << form.Name() << " and its window disagree on " << control->Name() << ".";
+        }
+    }
+}
+
+TEST(Pointer, IsAHandOverTheCommandsThatTakeIt)
+{
+    DesktopFixture running;
+    running.MakeProject();
+    running.OpenSheet("mnuStd1");
+    const auto shape = [&](const char* form, const char* control) {
+        return running.Widget(form, control)->cursor().shape();
+    };
+    for (const char* command : {"cmdCal", "cmdView", "cmdOMC", "tblMenu"})
+        EXPECT_EQ(shape("frmCompaction", command), Qt::PointingHandCursor) << command;
+    EXPECT_EQ(running.Widget("frmCompaction", "tblMenu")->findChild<QToolButton*>()->cursor().shape(),
+              Qt::PointingHandCursor);
+    EXPECT_EQ(shape("frmCompaction", "Command5"), Qt::ArrowCursor);
+    running.FormNamed("frmCompaction").Get<CommandButton>("cmdView").Press();
+    EXPECT_EQ(shape("frmPreview", "Toolbar1"), Qt::PointingHandCursor);
 }
 
 TEST(Accessibility, EveryFieldSaysWhatItIs)

@@ -299,7 +299,7 @@ class Guide {
         });
         KeepBox("box-erase", [this] {
             surroundings_.QtSurroundings::Show(
-                {"คุณต้องการลบข้อมูลคอลัมภ์นี้ใช่หรือไม่?", "ยืนยันการลบ", MessageStyle::Plain, MessageButtons::OkCancel});
+                {"คุณต้องการลบข้อมูลคอมลัมภ์นี้ใช่หรือไม่?", "ยืนยันการลบ", MessageStyle::Plain, MessageButtons::OkCancel});
         });
     }
 

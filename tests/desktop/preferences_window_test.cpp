@@ -293,5 +293,42 @@ TEST(PreferencesWindow, EveryFieldSaysWhatItIs)
     }
 }
 
+TEST(PreferencesWindow, EscapeClosesItWhileNothingIsTyped)
+{
+    PreferencesDesk running;
+    running.Open("mnuLogoT");
+    QTest::keyClick(running.Window(kForm), Qt::Key_Escape);
+    EXPECT_FALSE(running.program.Loaded(kForm));
+}
+
+TEST(PreferencesWindow, EscapeTakesNoTypedNameAwayUntilItIsChanged)
+{
+    PreferencesDesk running;
+    running.Open("mnuLogoT");
+    QTest::keyClicks(running.Widget(kForm, "txtIsName"), "Road laboratory");
+    QTest::keyClick(running.Window(kForm), Qt::Key_Escape);
+    ASSERT_TRUE(running.program.Loaded(kForm));
+    running.Click("cmdName1");
+    QTest::keyClick(running.Window(kForm), Qt::Key_Escape);
+    EXPECT_FALSE(running.program.Loaded(kForm)) << "The store has the name.";
+}
+
+TEST(PreferencesWindow, EscapeTakesNoTypedPersonAwayUntilTheyAreSaved)
+{
+    PreferencesDesk running;
+    running.Open("mnuOpr");
+    running.ClickCell(1, kName);
+    QTest::keyClicks(running.Grid()->EditorBox(), "Somchai");
+    QTest::keyClick(running.Window(kForm), Qt::Key_Escape);
+    ASSERT_TRUE(running.program.Loaded(kForm)) << "A name that is being typed";
+    QTest::keyClick(running.Grid()->EditorBox(), Qt::Key_Return);
+    running.Click("cmdName1");
+    QTest::keyClick(running.Window(kForm), Qt::Key_Escape);
+    ASSERT_TRUE(running.program.Loaded(kForm)) << "The names were changed, the persons were not saved.";
+    running.Click("cmdPerson");
+    QTest::keyClick(running.Window(kForm), Qt::Key_Escape);
+    EXPECT_FALSE(running.program.Loaded(kForm));
+}
+
 }  // namespace
 }  // namespace terravane

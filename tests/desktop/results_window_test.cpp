@@ -41,7 +41,7 @@ TEST_F(ResultsWindow, OpensFromTheMenuAboveTheFrame)
 TEST_F(ResultsWindow, EveryVisibleControlHasAPlace)
 {
     OpenFromMenu();
-    for (const char* name : {"txtProject", "txtLocation", "mshSum", "cmdPrint", "cmdClose"}) {
+    for (const char* name : {"imgLogo", "txtProject", "txtLocation", "mshSum", "cmdPrint", "cmdClose"}) {
         const auto* view = running.Widget("frmSummary", name);
         ASSERT_NE(view, nullptr) << name;
         EXPECT_TRUE(view->isVisible()) << name;
@@ -99,6 +99,19 @@ TEST_F(ResultsWindow, ClosesByEscape)
     QTest::keyClick(OpenFromMenu(), Qt::Key_Escape);
     EXPECT_EQ(running.program.Loaded("frmSummary"), nullptr);
     EXPECT_NE(OpenFromMenu(), nullptr) << "and opens again";
+}
+
+TEST_F(ResultsWindow, EscapeLeavesATypedProjectNameStanding)
+{
+    QWidget* window = OpenFromMenu();
+    auto* project = running.Widget<QLineEdit>("frmSummary", "txtProject");
+    QTest::keyClicks(project, "x");
+    QTest::keyClick(window, Qt::Key_Escape);
+    ASSERT_NE(running.program.Loaded("frmSummary"), nullptr);
+    EXPECT_EQ(project->text(), "ถนนสาย ก-ข ตอน 1x");
+    QTest::keyClick(project, Qt::Key_Backspace);
+    QTest::keyClick(window, Qt::Key_Escape);
+    EXPECT_EQ(running.program.Loaded("frmSummary"), nullptr) << "What was typed is taken back.";
 }
 
 TEST_F(ResultsWindow, PrintsIntoTheChosenFile)

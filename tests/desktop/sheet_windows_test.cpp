@@ -2,11 +2,13 @@
 // and boxes on the screen, the buttons are clicked, and the results are those that the script gets without a window.
 #include <QFile>
 #include <QGroupBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QScrollBar>
 #include <QTabWidget>
 #include <QToolButton>
+#include <algorithm>
 #include <fstream>
 
 #include <gtest/gtest.h>
@@ -186,6 +188,18 @@ TEST(DensityWindow, TheSummaryNamesTheChosenCompactionTest)
     EXPECT_EQ(frame->title().toStdString(), "Summary");
     Hands(running, "frmDensity").Do({"click", "optMod"});
     EXPECT_EQ(frame->title().toStdString(), "Summary (Percent Compaction for Modified Compaction)");
+}
+
+TEST(CbrWindow, TheRingConstantHasItsUnitBehindIt)
+{
+    DesktopFixture running;
+    running.MakeProject();
+    running.OpenSheet("mnuCBR1");
+    const auto* box = running.Widget("frmCBR", "txtK");
+    const auto labels = box->parentWidget()->findChildren<QLabel*>();
+    const auto unit = std::ranges::find(labels, QString("lb/div"), &QLabel::text);
+    ASSERT_NE(unit, labels.end());
+    EXPECT_GE((*unit)->x(), box->geometry().right());
 }
 
 TEST_P(SheetWindows, FromTypedReadingsToResultsAndReport)

@@ -182,7 +182,7 @@ TEST(Mdbtools, ReadsATableThatShrankToFewerPages)
                                            {0, TextRow({Utf16(u"b"), Utf16(u"2")})}}));
     jet::Database database = jet::Database::FromBytes(crafted.bytes);
     database.Update({"T", {{"v", "new"}}, {}});
-    EXPECT_EQ(FileOnDisk(database.ToBytes()).Rows("T"), (Lines{"a|new", "b|new"}));
+    EXPECT_EQ(FileOnDisk(database.Content()).Rows("T"), (Lines{"a|new", "b|new"}));
 }
 
 // The owned map changes its form at 512 pages, the free map moves its window.
@@ -200,7 +200,7 @@ TEST(Mdbtools, ReadsATableOfThirteenHundredPages)
         insert.values[0].text = keys.back();
         database.Insert(insert);
     }
-    Lines rows = FileOnDisk(database.ToBytes()).Rows("BIG");
+    Lines rows = FileOnDisk(database.Content()).Rows("BIG");
     for (std::string& row : rows) row.resize(row.find('|'));
     EXPECT_EQ(rows, keys);
 }

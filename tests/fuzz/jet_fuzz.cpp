@@ -3,6 +3,7 @@
 #include <cstdlib>
 
 #include "jet/database.h"
+#include "support/same_tables.h"
 
 namespace {
 
@@ -15,19 +16,19 @@ void Check(bool holds)
 
 void CheckSave(const jet::Database& database)
 {
-    Check(jet::SameTables(database, jet::Database::FromBytes(database.ToBytes())));
+    Check(support::SameTables(database, jet::Database::FromBytes(database.Content())));
 }
 
 /// All rows of a table take a text in their first column, of the length that `length` says.
 void Change(jet::Database& database, const std::string& table, std::size_t length)
 {
-    const Bytes before = database.ToBytes();
+    const Bytes before = database.Content();
     try {
         const auto& columns = database.Table(table).columns;
         if (columns.empty()) return;
         database.Update({table, {{columns.front().name, std::string(length, 'x')}}, {}});
     } catch (const RuntimeError&) {
-        Check(database.ToBytes() == before);
+        Check(database.Content() == before);
     }
 }
 

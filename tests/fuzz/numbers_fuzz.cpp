@@ -73,7 +73,6 @@ void CheckTexts(const std::string& text)
     Check(CharacterCount(Left(text, 3)) <= 3);
     Check(Left(text, 3).size() + SkipCharacters(text, 3).size() == text.size());
     Check(Trim(Trim(text)) == Trim(text));
-    Check(Utf16Length(text) == ToUtf16(text).size());
 }
 
 }  // namespace

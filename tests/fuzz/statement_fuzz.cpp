@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "jet/database.h"
+#include "support/same_tables.h"
 
 namespace {
 
@@ -35,7 +36,7 @@ try {
     const jet::Statement statement = jet::ReadStatement({reinterpret_cast<const char*>(data), size});
     jet::Database database = kSample;
     std::visit(Execute{database}, statement);
-    if (!jet::SameTables(database, jet::Database::FromBytes(database.ToBytes()))) std::abort();
+    if (!support::SameTables(database, jet::Database::FromBytes(database.Content()))) std::abort();
     return 0;
 } catch (const terravane::RuntimeError&) {
     return 0;

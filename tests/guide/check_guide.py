@@ -48,7 +48,7 @@ def messages(path, text):
     text = joined(text)
     for call in calls(text, r"\b(?:RuntimeError|Refused|SyntaxError|NotAllowed)\("):
         yield from re.findall(LITERAL, call)
-    for call in calls(text, r"\b(?:Message \w+|Ask\(\)\.Show\(|tr\(\"Run-time|setInformativeText)"):
+    for call in calls(text, r"\b(?:Message \w+|Ask\(\)\.Show\(|tr\(\"Run-time|setInformativeText|Tell\()"):
         yield from re.findall(LITERAL, call)
     if path.name == "runtime_error.cpp":
         yield from re.findall(r"KnownError\{[^,]+, " + LITERAL, text)

@@ -139,7 +139,7 @@ void PressControl(Form& form, std::string_view name)
 {
     Control* control = form.Find(name);
     if (auto* button = dynamic_cast<CommandButton*>(control)) return button->Press();
-    if (auto* option = dynamic_cast<OptionButton*>(control)) return option->Choose();
+    if (auto* option = dynamic_cast<OptionButton*>(control)) return option->Press();
     if (auto* tick = dynamic_cast<CheckBox*>(control)) return tick->SetValue(true);
     throw std::logic_error("nothing to press: " + std::string(name));
 }
@@ -379,7 +379,7 @@ void SheetBench::DropWhatNoColumnTakes()
 {
     ForEachTyped(*sheet_, [this](CellEditor& editor, int row, int column) {
         const auto units = static_cast<std::size_t>(Units(editor.Grid().Name(), row, column));
-        if (Utf16Length(editor.Grid()(row, column)) > units) TypeCell(editor, row, column, "1");
+        if (ToUtf16(editor.Grid()(row, column)).size() > units) TypeCell(editor, row, column, "1");
     });
 }
 

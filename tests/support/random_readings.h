@@ -79,7 +79,7 @@ class RandomReadings {
   private:
     static std::string Cut(std::string text, int units)
     {
-        while (Utf16Length(text) > static_cast<std::size_t>(units)) text = Left(text, CharacterCount(text) - 1);
+        while (ToUtf16(text).size() > static_cast<std::size_t>(units)) text = Left(text, CharacterCount(text) - 1);
         return text;
     }
 

@@ -2,7 +2,6 @@
 
 #include "sheets/pattern/grids.h"
 #include "sheets/pattern/plot.h"
-#include "store/statements.h"
 
 namespace terravane {
 
@@ -25,6 +24,7 @@ frmAtterberg::frmAtterberg(Program& owner)
       txtData(*this, "txtData", MSHLL, TypedCellsOf(laboratory::kLiquidLimit)),
       txtData1(*this, "txtData1", MSHPL, TypedCellsOf(laboratory::kPlasticLimit))
 {
+    SSTData.Hold(kFlowTab, {&picgraph1, &picGraph, &txtLL, &txtPL, &txtPI, &txtFI, &picPI, &picFI, &cmdPlot});
     ChainFocus(kHeadBlockWay);
 }
 
@@ -34,7 +34,7 @@ void frmAtterberg::Form_Load()
     DrawEquations();
     DrawAxes();
     cmdPlot.SetEnabled(false);
-    SSTData.SetTabEnabled(1, false);
+    SSTData.SetTabEnabled(kFlowTab, false);
     TestSheet::Form_Load();
 }
 
@@ -51,7 +51,7 @@ void frmAtterberg::DrawEquations()
 }
 
 /// The flow index goes to the summary's column of that name; no swelling is measured here.
-void frmAtterberg::PostLimits() const
+void frmAtterberg::PostLimits()
 {
     PostSummary(program,
                 {{"LL", txtLL.Text()}, {"PL", txtPL.Text()}, {"PI", txtPI.Text()}, {"swelling", txtFI.Text()}});

@@ -10,6 +10,8 @@
 
 namespace terravane {
 
+inline constexpr int kFlowTab = 1;  // of SSTData
+
 /// How blows and water content map to the plot: 10 to 100 blows across on a logarithmic axis, whole tens of percent
 /// upwards from 0. Twips, blows, percent.
 struct FlowScale {
@@ -80,7 +82,7 @@ struct frmAtterberg : TestSheet {
     void DrawGuides(const FlowScale& scale, double liquidLimit);
     void ReadLimits(const StraightLine& curve);
     double MeanPlasticLimit() const;
-    void PostLimits() const;
+    void PostLimits();
 };
 
 }  // namespace terravane

@@ -13,7 +13,7 @@ void frmAtterberg::cmdCal_Click()
     for (int thread = 1; HasTrial(MSHPL, thread); ++thread) PlasticLimitOf(thread);
     AveragePlasticLimits();
     cmdPlot.SetEnabled(true);
-    SSTData.SetTabEnabled(1, true);
+    SSTData.SetTabEnabled(kFlowTab, true);
 }
 
 /// Whether a column was filled: its first typed row, the number of blows or the wet mass, is there.

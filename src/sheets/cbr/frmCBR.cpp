@@ -113,6 +113,8 @@ frmCBR::frmCBR(Program& owner)
     picgraph1.Container = &picGraph;
     picGraph3.Container = &picGraph2;
     dtpSwell.SetVisible(false);
+    SSTData.Hold(kValueTab, {&picGraph2, &picGraph3, &fraCompaction, &txtOMC1, &txtMDD1, &cboCBR, &txtCBR, &lbl01,
+                             &lbl02, &cmdCBR});
     ChainFocus(kWay);
 }
 

@@ -218,7 +218,7 @@ struct frmCBR : TestSheet {
     void ReadValues(const cbr::LoadScale& scale, int mould, const cbr::MouldTask& task);
     void MarkStress(const cbr::LoadScale& scale, double penetration, double stress);
     void DrawLabelled(int mould, bool pullsCurveUp);
-    void PostSingleMould() const;
+    void PostSingleMould();
 
     void FitDensityCurve(cbr::result::Row row);
     double RatioAt(double density) const;

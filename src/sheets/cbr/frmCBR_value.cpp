@@ -11,7 +11,6 @@
 #include "runtime/text.h"
 #include "sheets/cbr/frmCBR.h"
 #include "sheets/pattern/plot.h"
-#include "store/statements.h"
 
 namespace terravane {
 
@@ -75,7 +74,7 @@ void frmCBR::cmdCBR_Click()
     for (const RatioCurve& curve : kCurves) DrawRatios(scale, curve.row);
     txtCBR.SetText("");
     if (!Trim(cboCBR.Text()).empty() && !Trim(txtMDD.Text()).empty()) ReadDesignValue(scale);
-    PostSummary(program, {{"CBR", txtCBR.Text()}});
+    Post({{"CBR", txtCBR.Text()}});
 }
 
 void frmCBR::lbl01_Click()

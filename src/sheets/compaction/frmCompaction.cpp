@@ -6,7 +6,6 @@
 #include "laboratory/tests.h"
 #include "runtime/numbers.h"
 #include "sheets/pattern/grids.h"
-#include "store/statements.h"
 
 namespace terravane {
 
@@ -41,6 +40,9 @@ frmCompaction::frmCompaction(Program& owner)
 {
     MSH2.SetVisible(false);
     MSH3.SetVisible(false);
+    cmdOMC.SetMousePointer(Pointer::Hand);
+    SSTData.Hold(kCurveTab, {&picgraph1, &picGraph, &optInt, &optFit, &txtOMC, &txtDmax, &MSHData, &chkSatLine, &txtGs,
+                             &cboSr, &optWholeCurve, &Option2, &Text6, &Text4, &Text5, &Command5, &Command6, &cmdOMC});
     ChainFocus(kWay);
     ChainFocus(kHammerWay);
 }
@@ -49,7 +51,7 @@ void frmCompaction::Form_Load()
 {
     BuildGrids();
     DrawAxes();
-    SSTData.SetTabEnabled(1, false);
+    SSTData.SetTabEnabled(kCurveTab, false);
     TestSheet::Form_Load();
 }
 
@@ -65,7 +67,7 @@ void frmCompaction::BuildGrids()
 void frmCompaction::MSHWt_MouseDown(MouseButton button, int row, int column)
 {
     if (button == MouseButton::Left) return PressCell(txtData, row, column);
-    if (AsksToErase("คอลัมภ์นี้")) EraseTrial(std::max(column, 1));  // a press on the titles counts as the first trial
+    if (AsksToErase("คอมลัมภ์นี้")) EraseTrial(std::max(column, 1));  // a press on the titles counts as the first trial
 }
 
 void frmCompaction::SSTData_Click(int previousTab)
@@ -80,10 +82,10 @@ void frmCompaction::chkSatLine_Click()
     if (!chkSatLine.Value()) txtGs.SetText("");
 }
 
-void frmCompaction::PostPeak() const
+void frmCompaction::PostPeak()
 {
     const auto posts = laboratory::Describe(program.CurrentTest).posts;  // of the standard or the modified test
-    PostSummary(program, {{posts[0].column, txtOMC.Text()}, {posts[1].column, txtDmax.Text()}});
+    Post({{posts[0].column, txtOMC.Text()}, {posts[1].column, txtDmax.Text()}});
 }
 
 }  // namespace terravane

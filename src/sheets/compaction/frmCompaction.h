@@ -14,6 +14,10 @@
 
 namespace terravane {
 
+namespace compaction {
+inline constexpr int kCurveTab = 1;  // of SSTData
+}
+
 /// One accepted trial: water content in percent, dry density in g/cm³, as they stand on the sheet.
 struct CompactionPoints {
     std::vector<double> water;
@@ -138,7 +142,7 @@ struct frmCompaction : TestSheet {
     void DrawGuides(const CompactionScale& scale, CompactionPeak peak);
     void DrawAirVoidLine(const CompactionScale& scale);
     void CaptionAirVoidLine();
-    void PostPeak() const;
+    void PostPeak();
 };
 
 }  // namespace terravane

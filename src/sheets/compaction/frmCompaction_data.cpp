@@ -22,7 +22,7 @@ void frmCompaction::cmdCal_Click()
     BlankCalculatedRows();
     for (int trial = 1; trial <= kTrials; ++trial) WaterContentOf(trial);
     for (int trial = 1; trial <= kTrials; ++trial) DensityOf(trial);
-    SSTData.SetTabEnabled(1, true);
+    SSTData.SetTabEnabled(kCurveTab, true);
 }
 
 void frmCompaction::BlankCalculatedRows()

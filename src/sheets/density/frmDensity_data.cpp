@@ -3,7 +3,6 @@
 #include "laboratory/masks.h"
 #include "runtime/numbers.h"
 #include "sheets/density/frmDensity.h"
-#include "store/statements.h"
 
 namespace terravane {
 
@@ -42,7 +41,7 @@ void frmDensity::cmdCal_Click()
     WetSoil();
     Volumes();
     for (int hole = 1; hole <= kColumns; ++hole) DensitiesOf(hole);
-    PostSummary(program, {{"compaction", SignedNumberText(AverageCompaction())}});
+    Post({{"compaction", SignedNumberText(AverageCompaction())}});
 }
 
 void frmDensity::SandInCone()

@@ -4,7 +4,6 @@
 
 #include "laboratory/masks.h"
 #include "runtime/text.h"
-#include "store/statements.h"
 
 namespace terravane {
 
@@ -15,6 +14,10 @@ TestSheet::TestSheet(Program& owner, const laboratory::Sheet& sheet)
       SSTData(*this, "SSTData", {sheet.tabs.begin(), sheet.tabs.end()},
               {.TabChanged = [this](int previousTab) { SSTData_Click(previousTab); }})
 {
+    imgMouse.SetVisible(false);
+    for (Control* pointed : std::initializer_list<Control*>{&cmdCal, &cmdView, &tblMenu})
+        pointed->SetMousePointer(Pointer::Hand);
+    txtLabName.SetForeColor(kWhite);
     RestoreCommandColours();
 }
 
@@ -42,7 +45,7 @@ void TestSheet::SSTData_Click(int)
 
 void TestSheet::Timer1_Timer()
 {
-    stbDes.SetPanel(2, Format(program.Ask().Now(), kClock));
+    stbDes.SetPanel(kClockPanel, Format(program.Ask().Now(), kClock));
 }
 
 void TestSheet::RestoreCommandColours()
@@ -71,6 +74,18 @@ bool TestSheet::AsksToErase(std::string_view what) const
     const Message question{"คุณต้องการลบข้อมูล" + std::string(what) + "ใช่หรือไม่?", "ยืนยันการลบ", MessageStyle::Plain,
                            MessageButtons::OkCancel};
     return program.Ask().Show(question) == MessageAnswer::Ok;
+}
+
+void TestSheet::Post(const std::vector<PostedText>& results)
+{
+    const std::string emptied = PostedValueEmptiedBy(program, results);
+    PostSummary(program, results);
+    Tell(emptied.empty() ? std::string() : "An empty result took the place of the posted value " + emptied + ".");
+}
+
+void TestSheet::Tell(std::string sentence)
+{
+    stbDes.SetPanel(kNoticePanel, std::move(sentence));
 }
 
 StoredResults TestSheet::ResultsOf(Test test) const

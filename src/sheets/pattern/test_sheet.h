@@ -20,6 +20,7 @@
 #include "laboratory/general_data.h"
 #include "program/program.h"
 #include "store/schema.h"
+#include "store/statements.h"
 
 namespace terravane {
 
@@ -39,6 +40,9 @@ inline constexpr Colour kCommandHover{255, 224, 192};
 /// The way that Enter takes through the fields outside the grids, for the sheets without fields of their own between.
 inline constexpr std::array<std::string_view, 7> kHeadBlockWay{"txtClient", "txtID",   "txtProject", "txtLocation",
                                                                "txtSoil",   "cboTest", "cboCheck"};
+
+/// The panels of stbDes that change while the sheet is open.
+inline constexpr std::size_t kNoticePanel = 2, kClockPanel = 3;
 
 struct TestSheet : Form {
     /// described  a constant of the program
@@ -76,7 +80,7 @@ struct TestSheet : Form {
                           {.Click = [this] { cmdView_Click(); },
                            .MouseMove = [this] { cmdView.SetBackColor(kCommandHover); },
                            .MouseLeave = [this] { Form_MouseMove(); }}};
-    StatusBar stbDes{*this, "stbDes", 2};  // the project's path; the time
+    StatusBar stbDes{*this, "stbDes", 3};  // the project's path, what a command has to tell, the time
     Timer Timer1{*this, "Timer1", std::chrono::milliseconds(1000), {.Ticked = [this] { Timer1_Timer(); }}};
     Image imgMouse{*this, "imgMouse"};  // holds the hand cursor of the commands
 
@@ -102,6 +106,10 @@ struct TestSheet : Form {
     void ChainFocus(std::span<const std::string_view> way);
     /// Asks whether the readings of `what`, a row or a column in the technician's words, shall go.
     bool AsksToErase(std::string_view what) const;
+    /// Posts results of the current material into the summary. An empty one that takes the place of a value is told.
+    void Post(const std::vector<PostedText>& results);
+    /// A sentence that asks nothing of the user, in place of the one before; an empty one takes it away.
+    void Tell(std::string sentence);
     /// What Save stored with a test of the current material.
     StoredResults ResultsOf(Test test) const;
 

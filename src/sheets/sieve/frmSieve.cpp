@@ -73,7 +73,7 @@ void frmSieve::SetHints()
 void frmSieve::LockResults()
 {
     for (TextBox* result : {&txtErr, &txtD60, &txtD30, &txtD10, &txtCu, &txtCc}) result->SetLocked(true);
-    for (TextBox* washing : {&txtDwp, &txtWl}) washing->SetEnabled(false);
+    OpenWashing(false);
 }
 
 void frmSieve::Form_Load()
@@ -99,10 +99,12 @@ void frmSieve::optNo_Click()
     for (TextBox* washing : {&txtDwp, &txtWl}) washing->SetText("");
 }
 
-/// The view shows what is disabled in the colour of a button's face.
 void frmSieve::OpenWashing(bool open)
 {
-    for (TextBox* washing : {&txtDwp, &txtWl}) washing->SetEnabled(open);
+    for (TextBox* washing : {&txtDwp, &txtWl}) {
+        washing->SetEnabled(open);
+        washing->SetBackColor(open ? kWindowColour : kButtonFace);
+    }
 }
 
 bool frmSieve::txtDwp_KeyPress(Key key)

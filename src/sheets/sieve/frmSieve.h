@@ -175,7 +175,7 @@ struct frmSieve : TestSheet {
     Limits LimitsNow() const;
     void ClassifyUSCS();
     void ClassifyAASHTO();
-    void PostClasses() const;
+    void PostClasses();
     void DrawPlasticityChart();
     void DrawChartGrid();
     void DrawZones();

@@ -7,7 +7,6 @@
 #include "sheets/sieve/aashto.h"
 #include "sheets/sieve/frmSieve.h"
 #include "sheets/sieve/uscs.h"
-#include "store/statements.h"
 
 namespace terravane {
 
@@ -99,14 +98,14 @@ void frmSieve::ClassifyAASHTO()
     if (const auto name = TypicalName(group); !name.empty()) txtMtype.SetText(name);
 }
 
-void frmSieve::PostClasses() const
+void frmSieve::PostClasses()
 {
     if (program.CurrentMaterial == Material::None) return;
-    PostSummary(program, {{"gravel", SignedNumberText(Gravel)},
-                          {"sand", SignedNumberText(Sand)},
-                          {"finer", SignedNumberText(P200)},
-                          {"USCS", txtSuscs.Text()},
-                          {"AASHTO", txtSaash.Text()}});
+    Post({{"gravel", SignedNumberText(Gravel)},
+          {"sand", SignedNumberText(Sand)},
+          {"finer", SignedNumberText(P200)},
+          {"USCS", txtSuscs.Text()},
+          {"AASHTO", txtSaash.Text()}});
 }
 
 void frmSieve::DrawPlasticityChart()

@@ -88,7 +88,7 @@ struct frmSpecific : TestSheet {
     void DrawCurve(const CalibrationScale& scale, const CalibrationReadings& readings);
 
     void GravityOf(int trial);
-    void PostGravity() const;
+    void PostGravity();
 
     CalibrationCurve curve_;  // the one fitted last
 };

@@ -4,7 +4,6 @@
 #include "runtime/text.h"
 #include "sheets/specific/frmSpecific.h"
 #include "sheets/specific/water_density.h"
-#include "store/statements.h"
 
 namespace terravane {
 
@@ -46,9 +45,9 @@ void frmSpecific::GravityOf(int trial)
         Format(Divide(value(gravity::Correction) * value(gravity::DrySoil), displaced), kNoForcedZero);
 }
 
-void frmSpecific::PostGravity() const
+void frmSpecific::PostGravity()
 {
-    PostSummary(program, {{"Gs", MSHSpecific(gravity::Average, 1)}});
+    Post({{"Gs", MSHSpecific(gravity::Average, 1)}});
 }
 
 }  // namespace terravane

@@ -26,7 +26,7 @@ TEST(OptionButton, ExcludesTheOthersOfItsGroupOnly)
     EXPECT_TRUE(form.optSoak.Value()) << "Another group keeps its choice.";
 }
 
-TEST(OptionButton, RunsClickWhenItWasNotChosenBefore)
+TEST(OptionButton, ChosenByAHandlerRunsClickOnlyWhenItWasNotChosenBefore)
 {
     ChoiceForm form;
     int clicks = 0, others = 0;
@@ -37,6 +37,29 @@ TEST(OptionButton, RunsClickWhenItWasNotChosenBefore)
     EXPECT_EQ(clicks, 1);
     EXPECT_EQ(others, 0) << "Losing the choice is no click.";
     EXPECT_EQ(form.events, std::vector<std::string>{"frmPlain.optFit_Click"});
+}
+
+TEST(OptionButton, PressedAgainWhileItIsChosenIsAPress)
+{
+    ChoiceForm form;
+    int clicks = 0;
+    form.optInt.Click = [&] { ++clicks; };
+    form.optInt.Press();
+    form.optInt.Press();
+    EXPECT_EQ(clicks, 2);
+    EXPECT_TRUE(form.optInt.Value());
+}
+
+TEST(OptionButton, PressedTakesTheChoiceFromTheOthersAndADisabledOneDoesNot)
+{
+    ChoiceForm form;
+    form.optFit.SetEnabled(false);
+    form.optFit.Press();
+    EXPECT_TRUE(form.optInt.Value());
+    form.optFit.SetEnabled(true);
+    form.optFit.Press();
+    EXPECT_TRUE(form.optFit.Value());
+    EXPECT_FALSE(form.optInt.Value());
 }
 
 TEST(OptionButton, IsSetBeforeItsClickRuns)

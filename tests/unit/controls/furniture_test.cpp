@@ -43,6 +43,18 @@ TEST(TabControl, HasTabsThatCanBeDisabled)
     EXPECT_EQ(form.SSTData.TabCaption(1), "Curve");
 }
 
+TEST(TabControl, NobodyComesToWhatStandsOnADisabledTab)
+{
+    BarForm form;
+    form.SSTData.Hold(1, {&form.lblMold1});
+    EXPECT_TRUE(form.SSTData.Reaches(form.lblMold1)) << "A tab that is not in front is one press away.";
+    form.SSTData.SetTabEnabled(1, false);
+    EXPECT_FALSE(form.SSTData.Reaches(form.lblMold1));
+    EXPECT_TRUE(form.SSTData.Reaches(form.tblMenu)) << "It stands on no tab.";
+    form.SSTData.SetTabEnabled(1, true);
+    EXPECT_TRUE(form.SSTData.Reaches(form.lblMold1));
+}
+
 TEST(Toolbar, CountsItsButtonsFromOne)
 {
     BarForm form;

@@ -3,6 +3,7 @@
 
 #include "jet/database.h"
 #include "support/jet_files.h"
+#include "support/same_tables.h"
 
 namespace terravane {
 namespace {
@@ -23,7 +24,7 @@ void OpenAndSave(const Bytes& bytes, Tally& tally)
         Database database = Database::FromBytes(bytes);
         for (const std::string& table : database.TableNames()) (void)database.ReadRows(table);
         database.Update({"STDSOIL", {{"std_c2", std::string(50, 'x')}}, {}});
-        ASSERT_TRUE(SameTables(database, Database::FromBytes(database.ToBytes())));
+        ASSERT_TRUE(SameTables(database, Database::FromBytes(database.Content())));
         ++tally.read;
     } catch (const RuntimeError&) {
         ++tally.refused;

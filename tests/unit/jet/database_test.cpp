@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "support/jet_files.h"
+#include "support/same_tables.h"
 
 namespace terravane {
 namespace {
@@ -53,7 +54,7 @@ TEST(Database, NewTableListsItsRowsInOrderOfInsertion)
 TEST(Database, SurvivesItsOwnBytes)
 {
     const Database database = Soil();
-    EXPECT_TRUE(SameTables(database, Database::FromBytes(database.ToBytes())));
+    EXPECT_TRUE(SameTables(database, Database::FromBytes(database.Content())));
 }
 
 TEST(Database, UpdateChangesTheRowsOfItsConditionAlone)
@@ -109,10 +110,10 @@ TEST(Database, TextsCountUtf16UnitsUpToTheColumnsLength)
 TEST(Database, TooLongATextChangesNothingOfItsStatement)
 {
     Database database = Soil();
-    const Bytes before = database.ToBytes();
+    const Bytes before = database.Content();
     EXPECT_EQ(FailureOf([&] { Update(database, "UPDATE STDSOIL Set std_soil ='x', std_can ='1234567'"); }),
               (Failure{-2147217833, "The text of 'std_can' is 7 characters long; the column takes 5."}));
-    EXPECT_EQ(database.ToBytes(), before);
+    EXPECT_EQ(database.Content(), before);
 }
 
 TEST(Database, UnknownNamesAreTold)
@@ -131,7 +132,7 @@ TEST(Database, UnknownNamesAreTold)
 
 TEST(Database, ChangeTellsOfItselfOnlyWhereBytesDiffer)
 {
-    Database database = Database::FromBytes(Soil().ToBytes());
+    Database database = Database::FromBytes(Soil().Content());
     EXPECT_FALSE(database.HasChanges());
     Update(database, "UPDATE STDSOIL Set std_can ='   '");
     EXPECT_FALSE(database.HasChanges());
@@ -159,7 +160,7 @@ TEST(Database, RowsThatOutgrowTheirPageKeepTheirOrderAndAreNotMoved)
     EXPECT_EQ(ColumnOf(database, "CBR", 0), keys);
     EXPECT_EQ(ColumnOf(database, "CBR", 1), Repeated(20, text));
     EXPECT_EQ(ColumnOf(database, "CBR", 3)[10], "11");
-    const Bytes bytes = database.ToBytes();
+    const Bytes bytes = database.Content();
     for (std::size_t page = 18; page < bytes.size() / kPage; ++page) {
         const Bytes content = PageOf(bytes, page);
         ASSERT_EQ(NumberAt(content, 0, 2), 0x0101U);
@@ -175,18 +176,18 @@ TEST(Database, PagesLeftOverKeepOneDeletedSlot)
     Database database = Database::New(kCreated);
     database.Create({{"T", {{"a", 250}, {"b", 250}}}});
     for (int row = 0; row < 12; ++row) database.Insert({"T", {{"a", Thai(250)}, {"b", Thai(250)}}});  // 4 a page
-    Bytes bytes = database.ToBytes();
+    Bytes bytes = database.Content();
     ASSERT_EQ(bytes.size(), 21 * kPage);
     // A stale copy makes the next change lay all rows out afresh; they are short by then.
     Update(database, "UPDATE T Set a ='', b =''");
-    bytes = database.ToBytes();
+    bytes = database.Content();
     Bytes stale = PageOf(bytes, 20);
     stale[15] = static_cast<std::uint8_t>(stale[15] | 0x80);
     std::copy(stale.begin(), stale.end(), bytes.begin() + 20 * kPage);
     Database damaged = Database::FromBytes(bytes);
     const std::size_t rows = damaged.ReadRows("T").rows.size();
     EXPECT_EQ(Update(damaged, "UPDATE T Set a ='x'"), static_cast<int>(rows));
-    bytes = damaged.ToBytes();
+    bytes = damaged.Content();
     EXPECT_EQ(NumberAt(PageOf(bytes, 18), 12, 2), rows);
     EXPECT_EQ(NumberAt(PageOf(bytes, 20), 12, 2), 1U);
     EXPECT_EQ(NumberAt(PageOf(bytes, 20), 14, 2), 0xC000U | 4096U);
@@ -211,11 +212,11 @@ TEST(Database, TableOfThirteenHundredPagesKeepsAllRowsInOrder)
         insert.values[0].text = keys.back();
         database.Insert(insert);
     }
-    const Database reread = Database::FromBytes(database.ToBytes());
-    EXPECT_GT(database.ToBytes().size(), 1300 * kPage);
+    const Database reread = Database::FromBytes(database.Content());
+    EXPECT_GT(database.Content().size(), 1300 * kPage);
     EXPECT_EQ(ColumnOf(reread, "BIG", 0), keys);
-    const Bytes freeMap = PartOf(PageOf(database.ToBytes(), 1), kPage - 69, 69);
-    const std::size_t pages = database.ToBytes().size() / kPage;
+    const Bytes freeMap = PartOf(PageOf(database.Content(), 1), kPage - 69, 69);
+    const std::size_t pages = database.Content().size() / kPage;
     const std::size_t first = NumberAt(freeMap, 1, 4);
     EXPECT_LE(first, pages - 1);
     EXPECT_EQ(freeMap[5 + (pages - 1 - first) / 8] >> (pages - 1 - first) % 8 & 1, 0) << "the last page counts as free";
@@ -228,7 +229,7 @@ TEST(Database, TableOfManyShortRowsKeepsThemAll)
     Database database = Database::New(kCreated);
     database.Create(std::get<CreateTableStatement>(ReadStatement("CREATE TABLE T(k text(1))")));
     for (int row = 0; row < 300; ++row) database.Insert({"T", {{"k", row < 299 ? "a" : "z"}}});
-    const auto rows = ColumnOf(Database::FromBytes(database.ToBytes()), "T", 0);
+    const auto rows = ColumnOf(Database::FromBytes(database.Content()), "T", 0);
     ASSERT_EQ(rows.size(), 300U);
     EXPECT_EQ(rows.back(), "z");
 }
@@ -254,7 +255,7 @@ TEST(Database, DefinitionOf255ColumnsTakesSeveralPages)
     for (int c = 0; c < 255; ++c) table.columns.push_back({"a_rather_long_name_of_a_column_" + std::to_string(c), 1});
     database.Create({table});
     database.Insert({"WIDE", {{table.columns[254].name, "x"}}});
-    const Database reread = Database::FromBytes(database.ToBytes());
+    const Database reread = Database::FromBytes(database.Content());
     EXPECT_EQ(reread.ReadRows("WIDE").columns.size(), 255U);
     EXPECT_EQ(reread.ReadRows("WIDE").columns[254], table.columns[254].name);
     EXPECT_EQ(reread.ReadRows("WIDE").rows.at(0)[254], "x");
@@ -268,7 +269,7 @@ TEST(Database, DefinitionOf255ColumnsTakesSeveralPages)
 TEST(Database, CreateRefusesWhatNoTableCanBe)
 {
     Database database = Soil();
-    const Bytes before = database.ToBytes();
+    const Bytes before = database.Content();
     const auto refusal = [&](const NewTable& table) {
         return FailureOf([&] { database.Create({table}); }).description;
     };
@@ -281,7 +282,7 @@ TEST(Database, CreateRefusesWhatNoTableCanBe)
     EXPECT_EQ(refusal({"T", {{"a", 0}}}), "Size of field 'a' is not between 1 and 255.");
     EXPECT_EQ(refusal({"T", {{"a", 256}}}), "Size of field 'a' is not between 1 and 255.");
     EXPECT_EQ(refusal({"T", {{"a", 1}, {"A", 1}}}), "Cannot define field 'A' more than once.");
-    EXPECT_EQ(database.ToBytes(), before);
+    EXPECT_EQ(database.Content(), before);
     Database opened = Database::FromBytes(before);
     EXPECT_EQ(FailureOf([&] {
                   opened.Create({{"T", {{"a", 1}}}});
@@ -297,12 +298,12 @@ TEST(Database, MoreTablesThanTheCatalogsIndexTakesAreRefused)
         database.Create({{"A_TABLE_WITH_A_RATHER_LONG_NAME_" + std::to_string(i), {{"a", 1}}}});
     };
     for (int i = 0; i < 60; ++i) create(i);
-    EXPECT_EQ(Database::FromBytes(database.ToBytes()).TableNames().size(), 60U);
+    EXPECT_EQ(Database::FromBytes(database.Content()).TableNames().size(), 60U);
     const Failure failure = FailureOf([&] {
         for (int i = 60; i < 200; ++i) create(i);
     });
     EXPECT_EQ(failure, (Failure{-2147467259, "The database has too many tables for one index page."}));
-    EXPECT_TRUE(SameTables(database, Database::FromBytes(database.ToBytes())));
+    EXPECT_TRUE(SameTables(database, Database::FromBytes(database.Content())));
 }
 
 TEST(Database, ChangeTouchesNothingButItsTable)
@@ -310,7 +311,7 @@ TEST(Database, ChangeTouchesNothingButItsTable)
     const Bytes before = NewFile(SampleStatements());
     Database database = Database::FromBytes(before);
     Update(database, "UPDATE MODSOIL Set mod_c1 ='changed' Where mod_ID =' 4'");
-    const Bytes after = database.ToBytes();
+    const Bytes after = database.Content();
     ASSERT_EQ(after.size(), before.size());
     std::vector<std::size_t> changed;
     for (std::size_t page = 0; page < before.size() / kPage; ++page) {

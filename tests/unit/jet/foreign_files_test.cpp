@@ -6,6 +6,7 @@
 
 #include "jet/database.h"
 #include "support/jet_files.h"
+#include "support/same_tables.h"
 
 namespace terravane {
 namespace {
@@ -59,10 +60,10 @@ TEST(ForeignFile, ChangeLaysMovedRowsOutAfreshInTheirOrder)
     Database database = Database::FromBytes(MovedRows().bytes);
     EXPECT_EQ(Change(database, "UPDATE T Set v ='changed' Where k ='c'"), 1);
     EXPECT_EQ(ColumnOf(database, "T", 1), (Texts{"first", "second", "changed", "fourth"}));
-    const Bytes rows = PageOf(database.ToBytes(), 18);
+    const Bytes rows = PageOf(database.Content(), 18);
     EXPECT_EQ(NumberAt(rows, 12, 2), 4U);
     for (std::size_t slot = 0; slot < 4; ++slot) EXPECT_EQ(NumberAt(rows, 14 + 2 * slot, 2) & 0xC000, 0U);
-    const Bytes left = PageOf(database.ToBytes(), 19);
+    const Bytes left = PageOf(database.Content(), 19);
     EXPECT_EQ(NumberAt(left, 12, 2), 1U);
     EXPECT_EQ(NumberAt(left, 14, 2), 0xC000U | 4096U);
 }
@@ -99,7 +100,7 @@ TEST(ForeignFile, CompressedTextsAreReadAndWrittenWhereTheColumnAllowsThem)
     Change(database, "UPDATE T Set k ='kkk', v ='soil' Where k ='c'");
     EXPECT_EQ(ColumnOf(database, "T", 1), (Texts{"first", "Со-0", "soil"}));
     // the third row: key plain, value compressed, the two rows above as they were
-    const Bytes page = PageOf(database.ToBytes(), 18);
+    const Bytes page = PageOf(database.Content(), 18);
     const Bytes expected = TextRow({Utf16(u"kkk"), FromHex("fffe 736f696c")});
     EXPECT_EQ(PartOf(page, NumberAt(page, 18, 2), expected.size()), expected);
     EXPECT_EQ(PartOf(page, NumberAt(page, 16, 2), kPage - NumberAt(page, 16, 2)),
@@ -150,7 +151,7 @@ TEST(ForeignFile, PagesOfOthersAmongTheTablesAreSkippedAndKept)
     EXPECT_EQ(ColumnOf(database, "T", 0), (Texts{"0", "last"}));
     Change(database, "UPDATE T Set v ='a longer text than before'");
     for (const std::size_t page : {19U, 20U, 21U}) {
-        EXPECT_EQ(PageOf(database.ToBytes(), page), PageOf(file.bytes, page)) << page;
+        EXPECT_EQ(PageOf(database.Content(), page), PageOf(file.bytes, page)) << page;
     }
 }
 
@@ -410,12 +411,12 @@ TEST(IndexedTable, RowThatOutgrowsItsPageMovesBehindAPointer)
     }
     EXPECT_EQ(ColumnOf(database, "T", 0), (Texts{"a", "b", "c", "d", "e", "f", "g", "h"}));
     EXPECT_EQ(ColumnOf(database, "T", 1), Texts(8, text));
-    const Bytes page = PageOf(database.ToBytes(), 18);
+    const Bytes page = PageOf(database.Content(), 18);
     EXPECT_EQ(NumberAt(page, 12, 2), 8U);
     int moved = 0;
     for (std::size_t slot = 0; slot < 8; ++slot) moved += (NumberAt(page, 14 + 2 * slot, 2) & 0xC000) == kMovedRow;
     EXPECT_GT(moved, 0);
-    EXPECT_TRUE(SameTables(database, Database::FromBytes(database.ToBytes())));
+    EXPECT_TRUE(SameTables(database, Database::FromBytes(database.Content())));
 }
 
 TEST(IndexedTable, MovedRowComesHomeWhenItFitsAgain)
@@ -425,21 +426,21 @@ TEST(IndexedTable, MovedRowComesHomeWhenItFitsAgain)
     Database database = Database::FromBytes(file.bytes);
     Change(database, "UPDATE T Set v ='short' Where k ='a'");
     EXPECT_EQ(ColumnOf(database, "T", 1), (Texts{"short", "x"}));
-    EXPECT_EQ(NumberAt(PageOf(database.ToBytes(), 18), 14, 2) & 0xC000, 0U);
-    EXPECT_EQ(NumberAt(PageOf(database.ToBytes(), 19), 14, 2), 0xC000U | 4096U);
+    EXPECT_EQ(NumberAt(PageOf(database.Content(), 18), 14, 2) & 0xC000, 0U);
+    EXPECT_EQ(NumberAt(PageOf(database.Content(), 19), 14, 2), 0xC000U | 4096U);
 }
 
 TEST(IndexedTable, KeysAndNewRowsAreRefused)
 {
     Database database = Database::FromBytes(Indexed({{0, TwoTexts(u"a", u"x")}}).bytes);
-    const Bytes before = database.ToBytes();
+    const Bytes before = database.Content();
     EXPECT_EQ(FailureOf([&] { Change(database, "UPDATE T Set v ='y', k ='b'"); }),
               (Failure{-2147467259, "The column 'k' has an index and can't be changed."}));
     EXPECT_EQ(FailureOf([&] {
                   database.Insert({"T", {{"v", "y"}}});
               }),
               (Failure{-2147467259, "The table 'T' has an index or counts its rows; none can be added."}));
-    EXPECT_EQ(database.ToBytes(), before);
+    EXPECT_EQ(database.Content(), before);
 }
 
 // --- the catalog and the definition

@@ -52,6 +52,16 @@ TEST(Preview, KeepsTheLoadedPicturesInItsHolders)
     EXPECT_EQ(preview.Image6.Content()->name, "cov_logo.jpg");
 }
 
+TEST(Preview, ShowsNoneOfItsHolders)
+{
+    ReportBench bench;
+    bench.OpenCompaction();
+    frmPreview& preview = bench.Preview();
+    for (const Image* holder : {&preview.Image1, &preview.Image2, &preview.Image6, &preview.imgPoint})
+        EXPECT_FALSE(holder->Visible()) << holder->Name();
+    EXPECT_EQ(preview.Toolbar1.MousePointer(), Pointer::Hand);
+}
+
 // 50 %: 5953 by 8419, centred across: (11000 - 5953) / 2 = 2523.5, 8419 - 7500 = 919 to scroll.
 // 75 %: 8929.5 by 12628.5, both rounded half to even: 8930 and 12628; (11000 - 8930) / 2 = 1035, 5128 to scroll.
 TEST(Preview, ZoomRoundsToWholeTwipsAndCentres)

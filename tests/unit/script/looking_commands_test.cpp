@@ -94,8 +94,9 @@ TEST_F(LookingCommands, PreviewTellsItsPageAndIsRendered)
 TEST_F(LookingCommands, PictureBoxesTellTheirItems)
 {
     EXPECT_EQ(RunOnSheet("picture picGraph\n").Text(), "{\"box\":[0,0,5400,3950],\"width\":1,\"colour\":\"#000000\"}\n")
-        << "A plot without a curve is its box.";
-    EXPECT_NE(RunOnSheet("click cmdOMC\npicture picgraph1\n").Text().find("{\"text\":"), std::string::npos)
+        << "Before the curve stands the empty frame.";
+    EXPECT_NE(RunOnSheet("click cmdCal\nclick cmdOMC\npicture picgraph1\n").Text().find("{\"text\":"),
+              std::string::npos)
         << "The axis titles stand on the outer box.";
 }
 

@@ -346,6 +346,42 @@ TEST_F(CbrValue, WithoutShareOrMaximumDensityStaysEmpty)
     EXPECT_EQ(sheet.txtCBR.Text(), "");
 }
 
+// The press posts an empty text, as the method has it; the value that stood there is gone, and the status line says so.
+TEST_F(CbrValue, AnEmptyResultThatTakesAValueAwayIsToldInOneSentence)
+{
+    PutResults({"1.90", "2.00", "2.10"}, {"80", "90", "100"}, {"40", "50", "60"});
+    const auto told = [this] { return sheet.stbDes.Panel(kNoticePanel); };
+    sheet.cmdCBR.Press();
+    EXPECT_EQ(told(), "") << "Nothing was posted before: nothing is lost.";
+    sheet.txtMDD.Type("2.10");
+    sheet.cmdCBR.Press();
+    EXPECT_EQ(lab.PostedRatios().at(0), "49.5");
+    EXPECT_EQ(told(), "");
+    sheet.txtMDD.Type("");
+    sheet.cmdCBR.Press();
+    EXPECT_EQ(lab.PostedRatios().at(0), "");
+    EXPECT_EQ(told(), "An empty result took the place of the posted value 49.5.");
+    sheet.txtMDD.Type("2.10");
+    sheet.cmdCBR.Press();
+    EXPECT_EQ(told(), "") << "The sentence goes with the next value.";
+}
+
+TEST_F(CbrValue, TheSentenceNamesTheValueOfTheOpenMaterial)
+{
+    lab.Change("UPDATE SUMMARY Set sum_CBR ='7.7' Where sum_ID =' 2'");
+    PutResults({"1.90", "2.00", "2.10"}, {"80", "90", "100"}, {"40", "50", "60"});
+    sheet.cmdCBR.Press();
+    EXPECT_EQ(sheet.stbDes.Panel(kNoticePanel), "") << "The crushed rock's value stands.";
+    frmCBR& rock = lab.OpenCbr(Material::Crush);
+    TypeThreeMoulds(rock);
+    rock.txtMDD.Type("");
+    rock.cmdCal.Press();
+    rock.cmdLPen.Press();
+    rock.cmdCBR.Press();
+    EXPECT_EQ(rock.stbDes.Panel(kNoticePanel), "An empty result took the place of the posted value 7.7.");
+    EXPECT_EQ(lab.PostedRatios().at(1), "");
+}
+
 TEST_F(CbrValue, FewerThanThreeDensitiesAreNoParabola)
 {
     PutResults({"1.90", "1.90", "2.10"}, {"80", "90", "100"}, {"40", "50", "60"});

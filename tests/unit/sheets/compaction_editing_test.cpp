@@ -126,7 +126,7 @@ TEST_F(CompactionEditing, ErasesATrialAfterAsking)
     sheet.cmdCal.Press();
     sheet.MSHWt.PressMouse(MouseButton::Right, 6, 2);
     ASSERT_EQ(lab.ask.messages.size(), 1U);
-    EXPECT_EQ(lab.ask.messages[0].text, "คุณต้องการลบข้อมูลคอลัมภ์นี้ใช่หรือไม่?");
+    EXPECT_EQ(lab.ask.messages[0].text, "คุณต้องการลบข้อมูลคอมลัมภ์นี้ใช่หรือไม่?");
     EXPECT_EQ(lab.ask.messages[0].title, "ยืนยันการลบ");
     EXPECT_EQ(lab.ask.messages[0].buttons, MessageButtons::OkCancel);
     for (int row = 1; row < 8; ++row) EXPECT_EQ(sheet.MSHWt(row, 2), "") << "Row " << row;
@@ -246,11 +246,24 @@ TEST_F(CompactionEditing, ColoursItsCommandsUnderTheMouse)
     EXPECT_EQ(sheet.cmdView.BackColor(), rest) << "The mouse may leave a command for another window.";
 }
 
+TEST_F(CompactionEditing, ShowsTheHandOverItsCommandsFromAHiddenImage)
+{
+    for (const Control* pointed :
+         std::initializer_list<const Control*>{&sheet.cmdCal, &sheet.cmdView, &sheet.cmdOMC, &sheet.tblMenu})
+        EXPECT_EQ(pointed->MousePointer(), Pointer::Hand) << pointed->Name();
+    EXPECT_FALSE(sheet.imgMouse.Visible());
+}
+
+TEST_F(CompactionEditing, TheBannerIsWhite)
+{
+    EXPECT_EQ(sheet.txtLabName.ForeColor(), kWhite);
+}
+
 TEST_F(CompactionEditing, ShowsTheTimeAtEachTick)
 {
     lab.ask.now = MakeMoment(2026, 11, 21, 9, 5, 7);
     sheet.Timer1.Tick();
-    EXPECT_EQ(sheet.stbDes.Panel(2), "09 : 05 : 07");
+    EXPECT_EQ(sheet.stbDes.Panel(kClockPanel), "09 : 05 : 07");
 }
 
 TEST_F(CompactionEditing, LeavesTheScreenByItsSecondButton)

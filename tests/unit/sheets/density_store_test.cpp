@@ -41,6 +41,18 @@ TEST_F(DensityStore, TheChoiceFetchesTheStoredMaximumIntoHolesWithWater)
     EXPECT_FALSE(sheet.optStd.Value());
 }
 
+// A technician saves the compaction test once more and presses the option that is chosen already.
+TEST_F(DensityStore, TheSameChoicePressedAgainFetchesTheMaximumAnew)
+{
+    lab.StoreMaximum("STDSOIL", "std_mdd", "1.84");
+    TypeHole(sheet, 1, kHole);
+    sheet.optStd.Press();
+    EXPECT_EQ(Maxima(sheet), "1.84|   |   |   |   |   ");
+    lab.StoreMaximum("STDSOIL", "std_mdd", "1.91");
+    sheet.optStd.Press();
+    EXPECT_EQ(Maxima(sheet), "1.91|   |   |   |   |   ");
+}
+
 TEST_F(DensityStore, OnlyTheFirstRowOfTheCompactionTestCounts)
 {
     lab.StoreMaximum("STDSOIL", "std_mdd", "1.84");

@@ -92,6 +92,26 @@ TEST_F(SieveCalculate, WashingGivesTheLossAtEnterAndSwallowsTheKey)
     EXPECT_FALSE(sheet.txtWl.Enabled());
 }
 
+// The window's colour where they can be typed, a button's face where not.
+TEST_F(SieveCalculate, TheBoxesOfTheWashingTellByTheirColourWhetherTheyTakeAMass)
+{
+    const auto colours = [this] { return std::array{sheet.txtDwp.BackColor(), sheet.txtWl.BackColor()}; };
+    const auto both = [](Colour colour) { return std::array{std::optional(colour), std::optional(colour)}; };
+    EXPECT_EQ(colours(), both(kButtonFace));
+    sheet.optYes.Press();
+    EXPECT_EQ(colours(), both(kWindowColour));
+    sheet.optNo.Press();
+    EXPECT_EQ(colours(), both(kButtonFace));
+}
+
+TEST_F(SieveCalculate, DryPressedAgainClearsMassesThatWereLoadedUnderIt)
+{
+    sheet.txtDwp.SetText("480");
+    sheet.txtWl.SetText("20");
+    sheet.optNo.Press();
+    EXPECT_EQ(sheet.txtDwp.Text() + sheet.txtWl.Text(), "");
+}
+
 // 100 g on No. 4, 80 g on No. 10, 20 g lost by washing: Total 200 g, 90 % retained.
 TEST_F(SieveCalculate, WithoutAPanTheWashingStandsInNoRow)
 {

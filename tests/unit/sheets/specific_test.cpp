@@ -179,6 +179,15 @@ TEST_F(Specific, AnotherModelNeedsAnotherPlot)
     EXPECT_EQ(PostedGravity(), "   ");
 }
 
+TEST_F(Specific, TheSameModelPressedAgainClearsTheEquationToo)
+{
+    Type(kFlask);
+    Fit(sheet.optLin);
+    ASSERT_NE(sheet.txtFormula.Text(), "");
+    sheet.optLin.Press();
+    EXPECT_EQ(sheet.txtFormula.Text() + sheet.txtR.Text(), "");
+}
+
 // Script: 658.6124, 658.6134, 658.7484 at 30 °C.
 TEST_F(Specific, CurveOfTheChosenModelIsUsed)
 {
