@@ -164,7 +164,7 @@ void frmCBR::ReadValues(const LoadScale& scale, int mould, const MouldTask& task
 /// The ratio at 0.1 in holds unless that at 0.2 in is higher.
 void frmCBR::PostSingleMould()
 {
-    const std::string &at01 = mshLPC(result::At01, 1), &at02 = mshLPC(result::At02, 1);
+    const std::string at01 = mshLPC(result::At01, 1).Text(), at02 = mshLPC(result::At02, 1).Text();
     const std::string CBRValue = Val(at01) >= Val(at02) ? at01 : at02;
     Post({{"CBR", CBRValue}});
 }

@@ -47,7 +47,7 @@ void frmSpecific::GravityOf(int trial)
 
 void frmSpecific::PostGravity()
 {
-    Post({{"Gs", MSHSpecific(gravity::Average, 1)}});
+    Post({{"Gs", MSHSpecific(gravity::Average, 1).Text()}});
 }
 
 }  // namespace terravane
