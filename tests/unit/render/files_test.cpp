@@ -1,6 +1,7 @@
 // Picture and PDF files as others read them: Qt's image reader, and poppler's pdfinfo, pdffonts and
 // pdftotext.
 #include <QImage>
+#include <QPdfWriter>
 #include <array>
 #include <cstdio>
 #include <filesystem>
@@ -162,6 +163,49 @@ TEST_F(WrittenPdf, KeepsTheOldFileOnAFullDisk)
 using WrittenPng = RenderedFile;
 
 // 1500 by 900 twips are 100 by 60 pixels at 96 dots an inch.
+/// A printer is a paged device of Qt's, and so is Qt's own writer of PDF files, whose pages can be looked at.
+class PrintedPages : public RenderedFile {
+  protected:
+    void Print(const std::vector<DisplayList>& pages)
+    {
+        EnsureGuiApplication();
+        QPdfWriter printer(QString::fromStdString(PathOf("printed.pdf")));
+        PrintPages(printer, pages);
+    }
+};
+
+TEST_F(PrintedPages, StandUprightAndLieOnTheirSideAsTheirListsDo)
+{
+    Print({Page(11906, 16838, "Compaction"), Page(16838, 11906, "Sieve"), Page(11906, 16838, "Again")});
+    const std::string info = Said("pdfinfo -f 1 -l 3 " + PathOf("printed.pdf"));
+    EXPECT_TRUE(Contains(info, "Pages:           3")) << info;
+    EXPECT_TRUE(Contains(info, "Page    1 size:  595 x 842 pts")) << info;
+    EXPECT_TRUE(Contains(info, "Page    2 size:  842 x 595 pts")) << info;
+    EXPECT_TRUE(Contains(info, "Page    3 size:  595 x 842 pts")) << info;
+}
+
+// 1000 twips are 50 points: the printer takes the whole paper, without margins of its own.
+TEST_F(PrintedPages, StartTextWhereThePositionIs)
+{
+    Print(Report());
+    for (const auto& [page, word] : {std::pair("1", ">Compaction<"), {"2", ">Sieve<"}}) {
+        const std::string boxes =
+            Said(std::string("pdftotext -bbox -f ") + page + " -l " + page + " " + PathOf("printed.pdf") + " -");
+        const std::string line = boxes.substr(0, boxes.find(word));
+        EXPECT_TRUE(Contains(line.substr(line.rfind("<word")), "xMin=\"50.0")) << boxes;
+    }
+}
+
+TEST_F(PrintedPages, NeedAPage)
+{
+    try {
+        Print({});
+        FAIL() << "a job without pages was printed";
+    } catch (const RuntimeError& error) {
+        EXPECT_EQ(error.Number(), error::kPrinter);
+    }
+}
+
 TEST_F(WrittenPng, IsAsLargeAsItsPercentage)
 {
     const DisplayList list{1500, 900, {FillItem{0, 0, 750, 900, kRed}}};
