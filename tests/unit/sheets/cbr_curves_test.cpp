@@ -261,17 +261,17 @@ TEST_F(CbrLoad, OnlyTheFirstLabelPullsTheCurveUpToTheAxis)
     EXPECT_GT(lowest(sheet.lblMold3), axis + 5);
 }
 
-// The last penetration is 0.2 in, so that the axis has three tenths of an inch. The step is a thousandth, and the first
+// The last penetration is 0.4921 in, a tenth of an inch before the axis's end. The step is a thousandth, and the first
 // segment is the one to the third.
 TEST_F(CbrLoad, TheCurveRunsFromTwoThousandthsToTheLastPenetration)
 {
     TypeThreeMoulds(sheet);
     Draw();
-    const double inch = sheet.picgraph1.ScaleWidth / 0.3;
+    const double inch = sheet.picgraph1.ScaleWidth / 0.5921;
     const auto curves = ItemsOf<PolylineItem>(sheet.picgraph1.Items());
     ASSERT_FALSE(curves.empty());
     EXPECT_NEAR(curves.front().points.front().x, 0.002 * inch, 1e-6);
-    EXPECT_NEAR(curves.back().points.back().x, 0.2 * inch, 1e-6);
+    EXPECT_NEAR(curves.back().points.back().x, 0.492 * inch, 1e-6);
 }
 
 TEST_F(CbrLoad, TwiceGivesTheSamePicture)
