@@ -138,7 +138,7 @@ inline constexpr Description kSpecificGravity{
               .english = "Specific Gravity Test",
               .banner = "การทดสอบหาความถ่วงจำเพาะของดิน",
               .cover = "ผลทดสอบหาความถ่วงจำเพาะของดิน",
-              .paper = "การทดสอบหาความความถ่วงจำเพาะของดิน"},
+              .preview = "การทดสอบหาความความถ่วงจำเพาะของดิน"},
     .sheet = kSpecificGravitySheet,
     .soil = {"SPCSOIL", 4},
     .crushedRock = {"SPCCRUSH", 12},

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "laboratory/all_tests.h"
 #include "reports/atterberg_report.h"
 #include "reports/cbr_report.h"
 #include "reports/compaction_report.h"
@@ -16,69 +17,43 @@ namespace terravane {
 namespace {
 
 /// Both compaction tests have one sheet and one page.
-constexpr Report CompactionReport(Test test, const ReportTitles& titles)
+constexpr Report CompactionReport(const laboratory::Description& test)
 {
     return {.test = test,
-            .sheet = "frmCompaction",
-            .titles = titles,
             .headFactor = 20.5,
             .signatures = {.anchor = 32.5, .second = 5, .third = 9, .fixedPreview = true},
             .first = {DrawCompaction}};
 }
 
 constexpr std::array kReports{
-    CompactionReport(Test::StdSoil, {.thai = {"การทดสอบการบดอัดแบบมาตรฐาน"},
-                                     .english = "Standard Compaction Test",
-                                     .cover = "ผลทดสอบการบดอัดดินแบบมาตรฐาน"}),
-    CompactionReport(Test::ModSoil, {.thai = {"การทดสอบการบดอัดแบบสูงกว่ามาตรฐาน"},
-                                     .english = "Modified Compaction Test",
-                                     .cover = "ผลทดสอบการบดอัดดินแบบสูงกว่ามาตรฐาน"}),
-    Report{.test = Test::DenSoil,
-           .sheet = "frmDensity",
-           .titles = {.thai = {"การทดสอบความหนาแน่นของดินในสนามด้วยวิธีกรวยทราย",
-                               "การทดสอบหาความหนาแน่นของดินในสนามด้วยวิธีกรวยทราย"},
-                      .english = "Field Density Test by Sand Cone Method",
-                      .cover = "ผลทดสอบการหาค่าความหนาแน่นของดินในสนามด้วยวิธีกรวยทราย",
-                      .crossed = true},
+    CompactionReport(laboratory::kStandardCompaction),
+    CompactionReport(laboratory::kModifiedCompaction),
+    Report{.test = laboratory::kFieldDensity,
            .headFactor = 20.5,
            .signatures = {.anchor = 39, .second = 3.5, .third = 6},
            .first = {DrawFieldDensity},
-           .hasPosition = true},
-    Report{.test = Test::SpcSoil,
-           .sheet = "frmSpecific",
-           .titles = {.thai = {"การทดสอบหาความถ่วงจำเพาะของดิน", "การทดสอบหาความความถ่วงจำเพาะของดิน"},
-                      .english = "Specific Gravity Test",
-                      .cover = "ผลทดสอบหาความถ่วงจำเพาะของดิน"},
+           .hasPosition = true,
+           .isTitleCrossed = true},
+    Report{.test = laboratory::kSpecificGravity,
            .headFactor = {20.5, 23.5},
            .signatures = {.anchor = {29.4, 29.5}, .second = 5, .third = 9},
            .first = {DrawSpecificGravity}},
-    Report{.test = Test::AttSoil,
-           .sheet = "frmAtterberg",
-           .titles = {.thai = {"การทดสอบหาขีดจำกัดอัตเทอร์เบิร์ก"},
-                      .english = "Atterberg Limits Test",
-                      .cover = "ผลทดสอบหาขีดจำกัดอัตเทอร์เบิร์ก"},
+    Report{.test = laboratory::kAtterberg,
            .headFactor = {20.5, 22},
            .signatures = {.anchor = {36, 37}, .second = 4, .third = 7},
            .first = {DrawAtterberg}},
-    Report{.test = Test::SieSoil,
-           .sheet = "frmSieve",
-           .titles = {.thai = {"การทดสอบหาขนาดเม็ดดินด้วยวิธีร่อนผ่านตะแกรงมาตรฐาน"},
-                      .english = "Sieve Analysis Test",
-                      .cover = "ผลทดสอบหาขนาดเม็ดดินด้วยวิธีร่อนผ่านตะแกรงมาตรฐาน"},
+    Report{.test = laboratory::kSieveAnalysis,
            .headFactor = {21.5, 22},
            .signatures = {.anchor = {31, 32}, .second = 5, .third = 9},
            .first = {DrawSieve},
            .second = PageOfReport{.drawBody = DrawSieveChart, .isOnItsSide = true}},
-    Report{.test = Test::CBRSoil,
-           .sheet = "frmCBR",
-           .titles = {.thai = {"การทดสอบหาค่า ซี.บี.อาร์."},
-                      .english = "California Bearing Ratio Test",
-                      .cover = "ผลทดสอบการหาค่าซี.บี.อาร์."},
+    Report{.test = laboratory::kBearingRatio,
            .headFactor = 20.5,
            .signatures = {.anchor = 34.5, .second = 4, .third = 7},
            .first = {DrawCbrPage1},
            .second = PageOfReport{DrawCbrPage2}},
 };
+static_assert(kReports.size() == laboratory::kTests.size());
 
 /// A compaction page is titled by the sheet's banner, whatever the current test says.
 Test TitledTest(const Program& program)
@@ -92,14 +67,14 @@ Test TitledTest(const Program& program)
 
 const Report& ReportOf(Test test)
 {
-    const auto report = std::ranges::find(kReports, test, &Report::test);
+    const auto report = std::ranges::find(kReports, test, [](const Report& of) { return of.test.test; });
     if (report == kReports.end()) throw RuntimeError(error::kInvalidProcedureCall, "This test has no report");
     return *report;
 }
 
 std::string_view SheetNameOf(Test test)
 {
-    return ReportOf(test).sheet;
+    return ReportOf(test).test.sheet.form;
 }
 
 TestSheet& OpenSheet(const Program& program)
@@ -107,15 +82,15 @@ TestSheet& OpenSheet(const Program& program)
     return program.Get<TestSheet>(SheetNameOf(program.CurrentTest));
 }
 
-const ReportTitles& TitlesOf(const Program& program)
+const laboratory::Names& TitlesOf(const Program& program)
 {
-    return ReportOf(TitledTest(program)).titles;
+    return ReportOf(TitledTest(program)).test.names;
 }
 
 Printing PrintingOf(const Program& program, DrawingSurface& page, Medium medium, int number)
 {
     return {.report = ReportOf(program.CurrentTest),
-            .titles = TitlesOf(program),
+            .titled = ReportOf(TitledTest(program)),
             .sheet = OpenSheet(program),
             .page = page,
             .medium = medium,

@@ -17,7 +17,7 @@ std::string_view SheetNameOf(Test test);
 TestSheet& OpenSheet(const Program& program);
 
 /// What the frames of the current test's report are headed with.
-const ReportTitles& TitlesOf(const Program& program);
+const laboratory::Names& TitlesOf(const Program& program);
 
 /// A page of the current test's report about its open sheet; errors 5 and 424 as above.
 Printing PrintingOf(const Program& program, DrawingSurface& page, Medium medium, int number = kFirstPage);

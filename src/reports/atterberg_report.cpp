@@ -3,6 +3,7 @@
 #include <array>
 #include <string>
 
+#include "laboratory/atterberg.h"
 #include "reports/report_table.h"
 #include "sheets/atterberg/frmAtterberg.h"
 
@@ -10,21 +11,8 @@ namespace terravane {
 
 namespace {
 
-using namespace std::string_view_literals;
-
 constexpr double kPlotTop = 20.25;  // lines
 constexpr double kSummaryTop = 19.3;
-
-constexpr std::array kLiquidLabels{
-    "Number of Blows"sv,    "Mass of Can + Wet Soil, (g)"sv, "Mass of Can + Dry Soil, (g)"sv, "Mass of Can, (g)"sv,
-    "Mass of Water, (g)"sv, "Mass of Dry Soil, (g)"sv,       "Water Content, (%)"sv,
-};
-
-constexpr std::array kPlasticLabels{
-    "Mass of Can + Wet Soil, (g)"sv, "Mass of Can + Dry Soil, (g)"sv, "Mass of Can, (g)"sv,
-    "Mass of Water, (g)"sv,          "Mass of Dry Soil, (g)"sv,       "Water Content, (%)"sv,
-    "Plastic Limit, (%)"sv,          "Average Plastic Limit, (%)"sv,
-};
 
 /// "Test No." stands where the compaction report's longer heading would be centred.
 constexpr std::string_view kHead = "Test No.", kHeadCentredAs = "Moisture Can No.";
@@ -35,9 +23,8 @@ constexpr std::array kTables{
                 .head = kHead,
                 .headCentredAs = kHeadCentredAs,
                 .columns = kLimitTrials,
-                .grid = "MSHLL",
+                .grid = laboratory::kLiquidLimit,
                 .firstRow = ll::Blows,
-                .labels = kLiquidLabels,
                 .rules = RowRules::Below,
                 .verticals = {kLimitTrials}},
     ReportTable{.caption = "Plastic Limit Determination",
@@ -45,9 +32,8 @@ constexpr std::array kTables{
                 .head = kHead,
                 .headCentredAs = kHeadCentredAs,
                 .columns = kLimitTrials,
-                .grid = "MSHPL",
+                .grid = laboratory::kPlasticLimit,
                 .firstRow = pl::WetAndCan,
-                .labels = kPlasticLabels,
                 .rules = RowRules::Above,
                 .verticals = {1, 2, kLimitTrials},
                 .lastRow = LastRow::AverageAcross},

@@ -3,43 +3,30 @@
 #include <array>
 #include <string>
 
+#include "laboratory/compaction.h"
 #include "reports/report_table.h"
 
 namespace terravane {
 
 namespace {
 
-using namespace std::string_view_literals;
-
 constexpr int kSamples = 6;
 constexpr double kSampleLabelWidth = 2500;
-
-constexpr std::array kWaterLabels{
-    "Moisture Can No."sv,   "Mass of Can + Wet Soil, (g)"sv, "Mass of Can + Dry Soil, (g)"sv, "Mass of Can, (g)"sv,
-    "Mass of Water, (g)"sv, "Mass of Dry Soil, (g)"sv,       "Water Content, (%)"sv,
-};
-
-constexpr std::array kDensityLabels{
-    "Assumed Water Content, (%)"sv, "Mass of Soil + Mold, (g)"sv, "Mass of Mold, (g)"sv,     "Water Content, (g)"sv,
-    "Mass of Soil in Mold, (g)"sv,  "Wet Density, (g/cm^3)"sv,    "Dry Density, (g/cm^3)"sv,
-};
 
 constexpr std::array kTables{
     ReportTable{.caption = "Water Content Determination",
                 .captionLine = 2,
                 .head = "Sample No.",
                 .columns = kSamples,
-                .grid = "MSHWt",
+                .grid = laboratory::kCompactionWater,
                 .firstRow = 1,
-                .labels = kWaterLabels,
                 .rules = RowRules::Below,
                 .verticals = {kSamples + 1}},
     ReportTable{.caption = "Density Determination",
                 .captionLine = 11,
                 .columns = kSamples,
-                .grid = "MSHDensity",
+                .grid = laboratory::kCompactionDensity,
                 .firstRow = 0,
-                .labels = kDensityLabels,
                 .rules = RowRules::Below,
                 .verticals = {kSamples + 1}},
 };

@@ -46,7 +46,7 @@ void PrintTitle(const Printing& of)
 {
     const TextSize size(of.page, kCoverTitleSize);
     of.page.CurrentY = kTitleTop;
-    PrintBoldLine(of.page, of.report.titles.cover);
+    PrintBoldLine(of.page, of.report.test.names.cover);
 }
 
 void PrintJob(DrawingSurface& page, const TestSheet& sheet)

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "laboratory/field_density.h"
 #include "reports/report_table.h"
 #include "sheets/density/frmDensity.h"
 
@@ -9,41 +10,7 @@ namespace terravane {
 
 namespace {
 
-using namespace std::string_view_literals;
 using namespace field;
-
-constexpr std::array kConeLabels{
-    "Initial Mass of Jar + Sand + Cone, (g)"sv,
-    "Final Mass of Jar + Sand + Cone, (g)"sv,
-    "Mass of Sand in Cone, (g)"sv,
-    "Average, (g)"sv,
-};
-constexpr std::array kSandLabels{
-    "Mass of Empty Mold + Baseplate, (g)"sv,
-    "Mass of Mold + Sand + Baseplate, (g)"sv,
-    "Mass of Sand, (g)"sv,
-    "Volume of Mold, (cm^3)"sv,
-    "Density of Sand, (g/cm^3)"sv,
-};
-constexpr std::array kSoilLabels{
-    "Mass of Wet Soil + Pan, (g)"sv,
-    "Mass of Pan, (g)"sv,
-    "Mass of Wet Soil, (g)"sv,
-};
-constexpr std::array kVolumeLabels{
-    "Initial of Soil + Jar + Cone, (g)"sv, "Final of Soil + Jar + Cone, (g)"sv, "Mass of Sand in Cone, (g)"sv,
-    "Mass of Sand in Hole, (g)"sv,         "Density of Sand, (g/cm^3)"sv,       "Volume of Hole, (cm^3)"sv,
-};
-constexpr std::array kWaterLabels{
-    "Mass of Wet Soil + Can, (g)"sv, "Mass of Dry Soil + Can, (g)"sv, "Mass of Can, (g)"sv,
-    "Mass of Wet Soil, (g)"sv,       "Mass of Dry Soil, (g)"sv,       "Water Content, (%)"sv,
-};
-constexpr std::array kSummaryLabels{
-    "Max. Dry Density in Lab,(g/cm^3)"sv,
-    "Wet Density in Field, (g/cm^3)"sv,
-    "Dry Density in Field, (g/cm^3)"sv,
-    "Percent Compaction, (%)"sv,
-};
 
 /// The left part of the page that leaves room for the signatures.
 Edges BesideSignatures(const DrawingSurface& page)
@@ -61,9 +28,8 @@ struct Block {
 struct Shown {
     std::string_view caption;
     double captionLine;
-    std::string_view grid;
+    const laboratory::Grid& grid;
     int firstRow;
-    std::span<const std::string_view> labels;
 };
 
 constexpr ReportTable BlockTable(const Shown& shown, std::string_view head, int columns, LastRow lastRow)
@@ -75,7 +41,6 @@ constexpr ReportTable BlockTable(const Shown& shown, std::string_view head, int 
             .columns = columns,
             .grid = shown.grid,
             .firstRow = shown.firstRow,
-            .labels = shown.labels,
             .rules = RowRules::Between,
             .verticals = {1, 2, columns},
             .lastRow = lastRow};
@@ -93,12 +58,12 @@ constexpr ReportTable Holes(const Shown& shown)
 
 /// The last one bears the caption of the summary's frame, which names the compaction test.
 constexpr std::array kBlocks{
-    Block{LeftHalf, Calibration({"Mass of Sand in Cone", 1, "MSHWsand", cone::Initial, kConeLabels})},
-    Block{RightHalf, Calibration({"Density of Sand used Mold", 0, "MSHDsand", sand::Mould, kSandLabels})},
-    Block{WholeWidth, Holes({"Mass of Wet Soil", 7, "MSHWsoil", soil::WetAndPan, kSoilLabels})},
-    Block{WholeWidth, Holes({"Volume from Sand Cone Method", 12, "MSHVolume", volume::Initial, kVolumeLabels})},
-    Block{WholeWidth, Holes({"Water Content of Soil", 20, "MSHWater", water::WetAndCan, kWaterLabels})},
-    Block{BesideSignatures, Holes({"", 28, "MSHSummary", summary::MaximumDensity, kSummaryLabels})},
+    Block{LeftHalf, Calibration({"Mass of Sand in Cone", 1, laboratory::kSandInCone, cone::Initial})},
+    Block{RightHalf, Calibration({"Density of Sand used Mold", 0, laboratory::kSandDensity, sand::Mould})},
+    Block{WholeWidth, Holes({"Mass of Wet Soil", 7, laboratory::kHoleSoil, soil::WetAndPan})},
+    Block{WholeWidth, Holes({"Volume from Sand Cone Method", 12, laboratory::kHoleVolume, volume::Initial})},
+    Block{WholeWidth, Holes({"Water Content of Soil", 20, laboratory::kHoleWater, water::WetAndCan})},
+    Block{BesideSignatures, Holes({"", 28, laboratory::kHoleSummary, summary::MaximumDensity})},
 };
 
 }  // namespace

@@ -105,12 +105,13 @@ void PrintNames(const Printing& of)
 
 void PrintTitles(const Printing& of)
 {
-    const ReportTitles& titles = of.titles;
-    const double measured = of.page.TextWidth(titles.thai.On(titles.crossed ? TheOther(of.medium) : of.medium));
+    const laboratory::Names& names = of.titled.test.names;
+    const PerMedium<std::string_view> thai{names.OnPaper(), names.OnPreview()};
+    const double measured = of.page.TextWidth(thai.On(of.titled.isTitleCrossed ? TheOther(of.medium) : of.medium));
     of.page.CurrentY = LineHeight(of.page) * 4.9;
-    PrintFrom(of.page, (of.page.ScaleWidth - measured) / 2, titles.thai.On(of.medium));
+    PrintFrom(of.page, (of.page.ScaleWidth - measured) / 2, thai.On(of.medium));
     of.page.CurrentY = LineHeight(of.page) * 5.7;
-    PrintCentred(of.page, 0, of.page.ScaleWidth, titles.english);
+    PrintCentred(of.page, 0, of.page.ScaleWidth, names.english);
 }
 
 void DrawLogos(const Printing& of, const TitleBox& box)

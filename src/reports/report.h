@@ -5,6 +5,7 @@
 #include <optional>
 #include <string_view>
 
+#include "laboratory/description.h"
 #include "program/program.h"
 #include "reports/medium.h"
 #include "sheets/pattern/test_sheet.h"
@@ -12,15 +13,6 @@
 namespace terravane {
 
 struct Printing;
-
-/// What a page and the cover are headed with.
-/// cover    in Thai
-/// crossed  the Thai title is centred by the other medium's wording
-struct ReportTitles {
-    PerMedium<std::string_view> thai;
-    std::string_view english, cover;
-    bool crossed = false;
-};
 
 /// Where the signatures stand, in lines of the body's size.
 /// anchor         from the page's top
@@ -40,30 +32,30 @@ struct PageOfReport {
     bool isOnItsSide = false;
 };
 
-/// sheet        the form that serves the test
+/// test         what it is called, and the form that serves it
 /// headFactor   height of the head block's first row, as a multiple of the width of "D"
 /// hasPosition  whether the head block tells the position, too
+/// isTitleCrossed  whether the Thai title is centred by the other medium's wording
 /// first        with head block and signatures
 /// second       without them, if any
 struct Report {
-    Test test;
-    std::string_view sheet;
-    ReportTitles titles;
+    const laboratory::Description& test;
     PerMedium<double> headFactor;
     SignaturePlace signatures;
     PageOfReport first;
     std::optional<PageOfReport> second = std::nullopt;
     bool hasPosition = false;
+    bool isTitleCrossed = false;
 };
 
 inline constexpr int kCover = 0, kFirstPage = 1, kSecondPage = 2;
 
 /// One page being drawn: all that its routines may ask.
-/// titles  of its frame: a compaction page bears the title of the sheet's banner, whatever the report's cover says
+/// titled  whose title its frame bears: on a compaction page the sheet's banner tells, whatever the report's cover says
 /// number  of the page; kCover is the cover
 struct Printing {
     const Report& report;
-    const ReportTitles& titles;
+    const Report& titled;
     const TestSheet& sheet;
     DrawingSurface& page;
     Medium medium;
@@ -73,7 +65,7 @@ struct Printing {
     template <class Sheet>
     const Sheet& SheetAs() const
     {
-        return sheet.program.Get<Sheet>(report.sheet);
+        return sheet.program.Get<Sheet>(report.test.sheet.form);
     }
 
     const PageOfReport& Kind() const { return number == kSecondPage ? report.second.value() : report.first; }

@@ -63,12 +63,13 @@ void DrawRules(const ReportPage& of, const TablePlace& place, const ReportTable&
 
 void PrintTable(const ReportPage& of, const TablePlace& place, const ReportTable& table)
 {
-    const auto& grid = of.sheet.Get<TextGrid>(table.grid);
+    const auto& grid = of.sheet.Get<TextGrid>(table.grid.control);
     const int lastRow = table.firstRow + table.Rows() - 1;
     const bool isAveraged = table.lastRow != LastRow::Cells;
     if (!table.head.empty()) PrintHeadLine(of, place, table);
     of.page.CurrentY = of.y(table.FirstRow());
-    for (const std::string_view label : table.labels) PrintLineFrom(of.page, place.edges.left + kLabelInset, label);
+    for (const laboratory::Line& line : table.grid.lines.subspan(static_cast<std::size_t>(table.firstRow)))
+        PrintLineFrom(of.page, place.edges.left + kLabelInset, line.Page());
     PrintCells(of.page, of.y, place.columns, table.FirstRow(), grid,
                {table.firstRow, isAveraged ? lastRow - 1 : lastRow, 1, table.columns});
     if (isAveraged) PrintAverage(of, place, table, Trim(grid(lastRow, 1)));

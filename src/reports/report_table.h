@@ -8,6 +8,7 @@
 #include "controls/cell_editor.h"
 #include "controls/text_grid.h"
 #include "drawing/scopes.h"
+#include "laboratory/description.h"
 #include "reports/report_page.h"
 
 namespace terravane {
@@ -33,20 +34,19 @@ struct TableVerticals {
 /// head           left of the columns' numbers; none, the table has no head line
 /// headCentredAs  the head begins where this text would be centred over the labels; none, it begins where they do
 /// columns        of cells; the grid's from 1 on, since its column 0 holds the titles
-/// firstRow       of the grid, beside the first label
+/// firstRow       of the grid; from it to the last one each stands beside its label
 struct ReportTable {
     std::string_view caption;
     double captionLine;
     std::string_view head, headCentredAs;
     int columns;
-    std::string_view grid;
+    const laboratory::Grid& grid;
     int firstRow;
-    std::span<const std::string_view> labels;
     RowRules rules;
     TableVerticals verticals;
     LastRow lastRow = LastRow::Cells;
 
-    constexpr int Rows() const { return static_cast<int>(labels.size()); }
+    constexpr int Rows() const { return grid.Lines() - firstRow; }
     constexpr double Top() const { return captionLine + 1; }
     constexpr double FirstRow() const { return head.empty() ? Top() : Top() + 1; }
     constexpr double Bottom() const { return FirstRow() + Rows(); }

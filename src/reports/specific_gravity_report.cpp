@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "laboratory/specific_gravity.h"
 #include "reports/report_table.h"
 #include "sheets/specific/frmSpecific.h"
 
@@ -18,27 +19,13 @@ constexpr std::array kCalibrationHeads{
     std::array{""sv, "(g)"sv, "(Degree Celsius)"sv},
 };
 
-constexpr std::array kTrialLabels{
-    "Temperature, (Degree Celsius)"sv,
-    "Mass of Flask + Water, (g)"sv,
-    "Mass of Flask + Water + Soil, (g)"sv,
-    "Container No."sv,
-    "Mass of Dry Soil + Container, (g)"sv,
-    "Mass of Container, (g)"sv,
-    "Dry Soil, (g)"sv,
-    "Correction Factor"sv,
-    "Specific Gravity at 20 Degree Celsius"sv,
-    "Average Specific Gravity"sv,
-};
-
 constexpr ReportTable kTrials{.caption = "Testing Data",
                               .captionLine = 15,
                               .head = "Trial No.",
                               .headCentredAs = "Trial No.",
                               .columns = kGravityTrials,
-                              .grid = "MSHSpecific",
+                              .grid = laboratory::kGravityTrialGrid,
                               .firstRow = gravity::Temperature,
-                              .labels = kTrialLabels,
                               .rules = RowRules::Above,
                               .verticals = {1, 1, kGravityTrials + 1},
                               .lastRow = LastRow::AverageInFirstColumn};

@@ -94,14 +94,16 @@ struct DrawnTable : ::testing::Test {
     TestSheet& sheet = bench.Open(terravane::Test::DenSoil, "frmDensity");
     TextGrid grid{sheet, "grid", 3, 3};
     DrawingSurface surface{kA4Short, kA4Long};
-    std::array<std::string_view, 2> labels{"Mass, (g)", "Mean, (g)"};
+    std::array<laboratory::Line, 3> lines{
+        {{0, "No. "}, {1, "Mass, (g)"}, {2, "Mean of all, (g)", {.page = "Mean, (g)"}}}};
+    laboratory::Grid described{
+        .control = "grid", .frame = "", .trials = laboratory::Trials::SideBySide, .count = 2, .lines = lines};
     ReportTable table{.caption = "Masses",
                       .captionLine = 0,
                       .head = "No.",
                       .columns = 2,
-                      .grid = "grid",
+                      .grid = described,
                       .firstRow = 1,
-                      .labels = labels,
                       .rules = RowRules::Between,
                       .verticals = {1, 2, 2}};
 
