@@ -53,8 +53,7 @@ void frmAtterberg::DrawEquations()
 /// The flow index goes to the summary's column of that name; no swelling is measured here.
 void frmAtterberg::PostLimits()
 {
-    PostSummary(program,
-                {{"LL", txtLL.Text()}, {"PL", txtPL.Text()}, {"PI", txtPI.Text()}, {"swelling", txtFI.Text()}});
+    Post({{"LL", txtLL.Text()}, {"PL", txtPL.Text()}, {"PI", txtPI.Text()}, {"swelling", txtFI.Text()}});
 }
 
 }  // namespace terravane
