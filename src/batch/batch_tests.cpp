@@ -14,7 +14,7 @@ using laboratory::Description;
 
 namespace {
 
-constexpr int kValueTab = 3;  // of frmCBR: open where the value comes from the curve of three moulds
+constexpr int kValueTab = 3;  // of frmCBR: open where the value comes from the curve of three molds
 
 bool IsBlank(const TestSheet& sheet, std::string_view box)
 {
@@ -104,7 +104,7 @@ void PressBearing(Presser& presser, const Choices& choices, const ProjectTexts& 
     constexpr std::array kTicks{"chkMold1", "chkMold2", "chkMold3"};
     ChooseProctor(presser, choices, saved);
     presser.Press("cmdCal");
-    for (std::size_t mould = 0; mould < kTicks.size(); ++mould) presser.Tick(kTicks[mould], choices.corrects[mould]);
+    for (std::size_t mold = 0; mold < kTicks.size(); ++mold) presser.Tick(kTicks[mold], choices.corrects[mold]);
     presser.Press("cmdLPen");
     if (!presser.Sheet().SSTData.TabEnabled(kValueTab)) return;
     presser.Set("cboCBR", choices.share);

@@ -10,7 +10,7 @@ namespace terravane {
 struct Choices {
     std::string_view curve = "optInt";        // compaction: optInt the spline, optFit the polynomial
     bool isSmooth = false;                    // sieve: the spline instead of the polygon
-    std::array<bool, 3> corrects{};           // bearing ratio: the origin of the moulds' curves
+    std::array<bool, 3> corrects{};           // bearing ratio: the origin of the molds' curves
     std::string_view calibration = "optAut";  // specific gravity: optAut, optExp, optLin, optPol
     std::string_view proctor = {};            // bearing ratio: optStd, optMod; the sheet chooses none: then the
                                               // likeliest that has a maximum density

@@ -92,7 +92,7 @@ void TakeChoices(BatchOptions& options, const Typed& typed)
     if (!typed.curve.empty()) options.given.curve = typed.curve == "fit" ? "optFit" : "optInt";
     if (typed.corrects.empty()) return;
     options.given.corrects.emplace();
-    for (const int mould : typed.corrects) options.given.corrects->at(static_cast<std::size_t>(mould - 1)) = true;
+    for (const int mold : typed.corrects) options.given.corrects->at(static_cast<std::size_t>(mold - 1)) = true;
 }
 
 void Check(const BatchOptions& options)

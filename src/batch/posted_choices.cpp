@@ -11,7 +11,7 @@ constexpr std::array<std::string_view, 2> kCurves{"optInt", "optFit"};
 constexpr std::array<std::string_view, 4> kCalibrations{"optAut", "optExp", "optLin", "optPol"};
 constexpr std::array<std::string_view, 2> kProctors{"optMod", "optStd"};
 constexpr std::array<std::string_view, 4> kShares{"95%", "98%", "90%", "100%"};
-constexpr int kMoulds = 3;
+constexpr int kMolds = 3;
 
 using Variants = std::vector<Choices>;
 
@@ -49,9 +49,9 @@ Variants Calibrations(const Variants& variants)
 Variants Corrections(Variants variants, const GivenChoices& given)
 {
     if (given.corrects) return variants;
-    for (std::size_t mould = 0; mould < kMoulds; ++mould) {
+    for (std::size_t mold = 0; mold < kMolds; ++mold) {
         variants = Crossed(variants, std::array{false, true},
-                           [mould](Choices& choices, bool corrects) { choices.corrects[mould] = corrects; });
+                           [mold](Choices& choices, bool corrects) { choices.corrects[mold] = corrects; });
     }
     return variants;
 }

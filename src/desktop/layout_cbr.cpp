@@ -1,4 +1,4 @@
-// The CBR sheet: moulds, swelling and penetration, the corrected curves, the value at a density.
+// The CBR sheet: molds, swelling and penetration, the corrected curves, the value at a density.
 #include "desktop/layouts.h"
 
 namespace terravane {
@@ -7,7 +7,7 @@ using namespace layout;
 
 namespace {
 
-Place MouldsTab()
+Place MoldsTab()
 {
     return Column({
         Row({One("optUnsoak"), One("optSoak"), One("optBoth"), Space(), One("optStd"), One("optMod"),
@@ -52,7 +52,7 @@ Place ValueTab()
 Place CbrLayout()
 {
     return Column({Banner("txtLabName"), GeneralData(),
-                   Tabs("SSTData", {MouldsTab(), PenetrationTab(), CurvesTab(), ValueTab()})});
+                   Tabs("SSTData", {MoldsTab(), PenetrationTab(), CurvesTab(), ValueTab()})});
 }
 
 }  // namespace terravane

@@ -1,5 +1,5 @@
-/// The bearing ratio test, as data: up to three moulds at their densities, soaked, unsoaked or one of each; water
-/// contents, densities, swelling while soaking, and the load on a piston pressed into each mould.
+/// The bearing ratio test, as data: up to three molds at their densities, soaked, unsoaked or one of each; water
+/// contents, densities, swelling while soaking, and the load on a piston pressed into each mold.
 #pragma once
 
 #include <array>
@@ -11,12 +11,12 @@ namespace terravane {
 
 namespace cbr {
 
-inline constexpr int kMoulds = 3;
-/// What heads and plots call the moulds and the curves of their ratios.
-inline constexpr std::array<std::string_view, kMoulds> kMouldNames{"Mold No.1", "Mold No.2", "Mold No.3"};
+inline constexpr int kMolds = 3;
+/// What heads and plots call the molds and the curves of their ratios.
+inline constexpr std::array<std::string_view, kMolds> kMoldNames{"Mold No.1", "Mold No.2", "Mold No.3"};
 inline constexpr std::string_view kRatioAt01 = "CBR at 0.1 in.", kRatioAt02 = "CBR at 0.2 in.";
 
-inline constexpr int kColumns = 6;  // cans and moulds: three before soaking, three after
+inline constexpr int kColumns = 6;  // cans and molds: three before soaking, three after
 inline constexpr int kMostPenetrations = 20;
 
 /// Rows of MSHWater; columns 1 to 6 are the cans.
@@ -24,18 +24,18 @@ namespace water {
 enum Row { Condition, CanNumber, WetAndCan, DryAndCan, Can, WaterContent, kRows };
 }
 
-/// Rows of MSHCompaction; column i is the mould of MSHWater's column i.
+/// Rows of MSHCompaction; column i is the mold of MSHWater's column i.
 namespace density {
-enum Row { Condition, Mould, Blows, Diameter, Height, MouldAndSoil, JustMould, WetDensity, DryDensity, kRows };
+enum Row { Condition, Mold, Blows, Diameter, Height, MoldAndSoil, JustMold, WetDensity, DryDensity, kRows };
 }
 
-/// MSHSwell: three rows of heads, the first reading, four later ones. A mould's dial has its percentage beside it.
+/// MSHSwell: three rows of heads, the first reading, four later ones. A mold's dial has its percentage beside it.
 namespace swell {
-enum Row { Moulds, Heads, Units, First, Second, Last = 7, kRows };
+enum Row { Molds, Heads, Units, First, Second, Last = 7, kRows };
 enum Column { Date, Time, Elapsed, FirstDial, kColumns = 9 };
-constexpr int Dial(int mould)
+constexpr int Dial(int mold)
 {
-    return FirstDial + 2 * (mould - 1);
+    return FirstDial + 2 * (mold - 1);
 }
 }  // namespace swell
 
@@ -43,23 +43,23 @@ constexpr int Dial(int mould)
 namespace penetration {
 enum Column { Depth, FirstDial, kColumns = 10 };
 inline constexpr int kHeadRows = 4;
-constexpr int Dial(int mould)
+constexpr int Dial(int mold)
 {
-    return FirstDial + 3 * (mould - 1);
+    return FirstDial + 3 * (mold - 1);
 }
-constexpr int Load(int mould)
+constexpr int Load(int mold)
 {
-    return Dial(mould) + 1;
+    return Dial(mold) + 1;
 }
-constexpr int Stress(int mould)
+constexpr int Stress(int mold)
 {
-    return Dial(mould) + 2;
+    return Dial(mold) + 2;
 }
 }  // namespace penetration
 
-/// Rows of mshLPC; column i is the mould.
+/// Rows of mshLPC; column i is the mold.
 namespace result {
-enum Row { Mould, DryDensity, At01, At02, kRows };
+enum Row { Mold, DryDensity, At01, At02, kRows };
 }
 
 }  // namespace cbr
@@ -79,14 +79,14 @@ inline constexpr Line kBearingWaterLines[]{
 
 inline constexpr Line kBearingDensityLines[]{
     {cbr::density::Condition, "Condition"},
-    {cbr::density::Mould, "Mold No."},
+    {cbr::density::Mold, "Mold No."},
     {cbr::density::Blows, "Number of Blows per Layer/Layers", {.kept = "nb", .length = 15, .unit = kCount}},
     {cbr::density::Diameter, "Diameter of Sample, (cm)", {.kept = "dm", .unit = kCentimetre, .like = {15.2, 15.3, 2}}},
     {cbr::density::Height, "Height of Sample, (cm)", {.kept = "hs", .unit = kCentimetre, .like = {11.6, 11.7, 2}}},
-    {cbr::density::MouldAndSoil,
+    {cbr::density::MoldAndSoil,
      "Mass of Mold + Compacted Soil, (g)",
      {.kept = "wms", .isReading = true, .unit = kGram, .like = {11100, 11200, 0, 250}}},
-    {cbr::density::JustMould, "Mass of Mold, (g)", {.kept = "wm", .unit = kGram, .like = {7000, 7010, 0}}},
+    {cbr::density::JustMold, "Mass of Mold, (g)", {.kept = "wm", .unit = kGram, .like = {7000, 7010, 0}}},
     {cbr::density::WetDensity,
      "Wet Density, (g/cm^3)",
      {.isWorkedOut = true, .unit = kGramPerCubicCentimetre, .mask = kTwoDecimals}},
@@ -95,16 +95,16 @@ inline constexpr Line kBearingDensityLines[]{
      {.isWorkedOut = true, .unit = kGramPerCubicCentimetre, .mask = kTwoDecimals}},
 };
 
-constexpr Line SwellDial(int mould, std::string_view title, std::string_view kept)
+constexpr Line SwellDial(int mold, std::string_view title, std::string_view kept)
 {
-    return {cbr::swell::Dial(mould), title, {.kept = kept, .unit = kMillimetre, .like = {1, 1.2, 2, .1}}};
+    return {cbr::swell::Dial(mold), title, {.kept = kept, .unit = kMillimetre, .like = {1, 1.2, 2, .1}}};
 }
-constexpr Line SwellPercent(int mould, std::string_view title)
+constexpr Line SwellPercent(int mold, std::string_view title)
 {
-    return {cbr::swell::Dial(mould) + 1, title, {.isWorkedOut = true, .unit = kPercent, .mask = kTwoDecimals}};
+    return {cbr::swell::Dial(mold) + 1, title, {.isWorkedOut = true, .unit = kPercent, .mask = kTwoDecimals}};
 }
 
-/// The titles are those of a list: the sheet spreads them over three rows of heads, a head over each mould's columns.
+/// The titles are those of a list: the sheet spreads them over three rows of heads, a head over each mold's columns.
 inline constexpr Line kSwellLines[]{
     {cbr::swell::Date, "Date", {.kept = "sd", .length = 20, .unit = kDate}},
     {cbr::swell::Time, "Time", {.kept = "st", .unit = kHour, .like = {8, 16, 0}}},
@@ -117,17 +117,17 @@ inline constexpr Line kSwellLines[]{
     SwellPercent(3, "Mold No.3, Swelling %"),
 };
 
-constexpr Line PenetrationDial(int mould, std::string_view title, std::string_view kept, const Plausible& like)
+constexpr Line PenetrationDial(int mold, std::string_view title, std::string_view kept, const Plausible& like)
 {
-    return {cbr::penetration::Dial(mould), title, {.kept = kept, .isReading = true, .unit = kDivision, .like = like}};
+    return {cbr::penetration::Dial(mold), title, {.kept = kept, .isReading = true, .unit = kDivision, .like = like}};
 }
-constexpr Line PenetrationLoad(int mould, std::string_view title)
+constexpr Line PenetrationLoad(int mold, std::string_view title)
 {
-    return {cbr::penetration::Load(mould), title, {.isWorkedOut = true, .unit = kPound, .mask = kOneDecimal}};
+    return {cbr::penetration::Load(mold), title, {.isWorkedOut = true, .unit = kPound, .mask = kOneDecimal}};
 }
-constexpr Line PenetrationStress(int mould, std::string_view title)
+constexpr Line PenetrationStress(int mold, std::string_view title)
 {
-    return {cbr::penetration::Stress(mould),
+    return {cbr::penetration::Stress(mold),
             title,
             {.isWorkedOut = true, .unit = kPoundPerSquareInch, .mask = kTwoDecimals}};
 }
@@ -146,7 +146,7 @@ inline constexpr Line kPenetrationLines[]{
 };
 
 inline constexpr Line kBearingResultLines[]{
-    {cbr::result::Mould, "Mold No. "},
+    {cbr::result::Mold, "Mold No. "},
     {cbr::result::DryDensity, "Dry Density (g/cm^3)  ", {.isWorkedOut = true, .unit = kGramPerCubicCentimetre}},
     {cbr::result::At01, "CBR at 0.1 in. (%) ", {.isWorkedOut = true, .unit = kPercent}},
     {cbr::result::At02, "CBR at 0.2 in. (%)", {.isWorkedOut = true, .unit = kPercent}},
@@ -188,7 +188,7 @@ inline constexpr Grid kBearingGrids[]{
     {.control = "mshLPC",
      .frame = "",
      .trials = Trials::SideBySide,
-     .count = cbr::kMoulds,
+     .count = cbr::kMolds,
      .lines = kBearingResultLines,
      .titleWidth = 2100},
 };

@@ -1,5 +1,5 @@
 /// The compaction tests, standard and modified, as data: one sheet for both. Trials of one sample at rising water
-/// contents in a mould.
+/// contents in a mold.
 #pragma once
 
 #include <array>
@@ -20,7 +20,7 @@ enum Row { Sample, CanNumber, WetAndCan, DryAndCan, Can, Water, DrySoil, WaterCo
 
 /// Rows of MSHDensity, which has no heads; column i is the trial of MSHWt's column i.
 namespace density {
-enum Row { AssumedWater, WetAndMould, Mould, WaterContent, WetSoil, WetDensity, DryDensity, kRows };
+enum Row { AssumedWater, WetAndMold, Mold, WaterContent, WetSoil, WetDensity, DryDensity, kRows };
 }
 
 }  // namespace compaction
@@ -67,14 +67,14 @@ inline constexpr Line kCompactionDensityLines[]{
     {compaction::density::AssumedWater,
      "Assumed Water Content, (%)",
      {.kept = "awc", .length = 5, .unit = kPercent, .like = {4, 20, 0}}},
-    {compaction::density::WetAndMould,
+    {compaction::density::WetAndMold,
      "Mass of Wet Soil + Mold, (g)",
      {.page = "Mass of Soil + Mold, (g)",
       .kept = "wsm",
       .isReading = true,
       .unit = kGram,
       .like = {3300, 3500, 1, 30}}},
-    {compaction::density::Mould,
+    {compaction::density::Mold,
      "Mass of Mold, (g)",
      {.kept = "wm", .isReading = true, .unit = kGram, .like = {1484, 1485, 1}}},
     {compaction::density::WaterContent,
@@ -119,8 +119,8 @@ inline constexpr Box kCompactionBoxes[]{
     {"cboLayer", "No.Layers", {.kept = "layer", .unit = kCount, .like = {3, 5, 0}}},
     {"cboWt", "Wt. Hammer", {.kept = "wt", .unit = kKilogram}},
 };
-inline constexpr const Box& kMouldHeight = kCompactionBoxes[0];
-inline constexpr const Box& kMouldDiameter = kCompactionBoxes[1];
+inline constexpr const Box& kMoldHeight = kCompactionBoxes[0];
+inline constexpr const Box& kMoldDiameter = kCompactionBoxes[1];
 inline constexpr const Box& kBlows = kCompactionBoxes[2];
 inline constexpr const Box& kLayers = kCompactionBoxes[3];
 inline constexpr const Box& kHammer = kCompactionBoxes[4];

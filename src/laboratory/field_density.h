@@ -18,9 +18,9 @@ namespace cone {
 enum Row { Determination, Initial, Final, SandInCone, Average, kRows };
 }
 
-/// Rows of MSHDsand: the density of the sand, from a mould.
+/// Rows of MSHDsand: the density of the sand, from a mold.
 namespace sand {
-enum Row { Determination, Diameter, Height, Mould, MouldAndSand, Sand, Volume, Density, kRows };
+enum Row { Determination, Diameter, Height, Mold, MoldAndSand, Sand, Volume, Density, kRows };
 }
 
 /// Rows of MSHWsoil: the wet soil from the hole.
@@ -78,10 +78,10 @@ inline constexpr Line kSandLines[]{
     {field::sand::Height,
      "Height of Mold, (cm)  ",
      {.kept = "height", .place = 6, .unit = kCentimetre, .like = {11.6, 11.7, 2}}},
-    {field::sand::Mould,
+    {field::sand::Mold,
      "Mass of Empty Mold + Baseplate, (g) ",
      {.page = "Mass of Empty Mold + Baseplate, (g)", .kept = "mem", .unit = kGram, .like = {4000, 4100, 0}}},
-    {field::sand::MouldAndSand,
+    {field::sand::MoldAndSand,
      "Mass of Mold + Sand + Baseplate, (g) ",
      {.page = "Mass of Mold + Sand + Baseplate, (g)", .kept = "mms", .unit = kGram, .like = {7000, 7200, 0}}},
     {field::sand::Sand, "Mass of Sand, (g) ", {.page = "Mass of Sand, (g)", .isWorkedOut = true, .unit = kGram}},

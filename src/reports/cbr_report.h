@@ -1,6 +1,6 @@
 /// The bearing ratio report, two pages: type of test, parameters, water contents, densities, result, swelling and
 /// signatures; then the penetration table, the curves and a summary. Values are printed as they stand on the sheet;
-/// only the result of a single mould is chosen here.
+/// only the result of a single mold is chosen here.
 #pragma once
 
 #include "reports/report.h"

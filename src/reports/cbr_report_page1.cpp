@@ -22,7 +22,7 @@ constexpr double kDateWidth = 1000;  // of date, time and elapsed time
 struct CbrPage : ReportPage {
     const frmCBR& cbr;
     Edges leftHalf, rightHalf;
-    PageColumns moulds;
+    PageColumns molds;
     PageColumns solution;  // the cells of the right half box
     PageColumns swelling;
 
@@ -31,9 +31,9 @@ struct CbrPage : ReportPage {
           cbr(printing.SheetAs<frmCBR>()),
           leftHalf(LeftHalf(page)),
           rightHalf(RightHalf(page)),
-          moulds(ColumnsBeside(kLabelWidth, WholeWidth(page), kColumns)),
-          solution(ColumnsBeside(kLabelWidth, rightHalf, kMoulds)),
-          swelling{moulds.left, moulds.width / 2}
+          molds(ColumnsBeside(kLabelWidth, WholeWidth(page), kColumns)),
+          solution(ColumnsBeside(kLabelWidth, rightHalf, kMolds)),
+          swelling{molds.left, molds.width / 2}
     {}
 
     Edges SwellingEdges() const { return {kLeft, swelling.Left(1 + kColumns)}; }
@@ -103,15 +103,15 @@ void DrawTypeOfTest(const CbrPage& of)
     PrintParameters(of, kParameters[1], halves.Left(2));
 }
 
-using SolutionCells = std::array<std::string, kMoulds>;
+using SolutionCells = std::array<std::string, kMolds>;
 
 /// A row of the right half box: its cells are a row of a grid.
 void PrintSolution(const CbrPage& of, double line, std::string_view label, const SolutionCells& cells)
 {
     PrintFrom(of.page, of.rightHalf.left + kLabelInset, of.y(line), label);
-    int mould = 1;
+    int mold = 1;
     for (const std::string& cell : cells)
-        PrintCentred(of.page, of.solution.Left(mould++), of.solution.width, Trim(cell));
+        PrintCentred(of.page, of.solution.Left(mold++), of.solution.width, Trim(cell));
 }
 
 void PrintSolutionHeads(const CbrPage& of)
@@ -125,11 +125,11 @@ SolutionCells ResultsOf(const frmCBR& sheet, result::Row row)
     return {sheet.mshLPC(row, 1), sheet.mshLPC(row, 2), sheet.mshLPC(row, 3)};
 }
 
-/// With both conditions the second column is the first soaked mould, as in the results below it.
+/// With both conditions the second column is the first soaked mold, as in the results below it.
 SolutionCells BlowsOf(const frmCBR& sheet)
 {
     const auto blows = [&](int column) { return sheet.MSHCompaction(density::Blows, column); };
-    if (sheet.optBoth.Value()) return {blows(1), blows(1 + kMoulds), ""};
+    if (sheet.optBoth.Value()) return {blows(1), blows(1 + kMolds), ""};
     return {blows(1), blows(2), blows(3)};
 }
 
@@ -139,7 +139,7 @@ void DrawSolution(const CbrPage& of)
     PrintCaption(of.page, of.rightHalf.left, of.y(0), "CBR Solution");
     const RuledBox box(of.page, of.y, of.rightHalf, 1, 5);
     box.Rows(2);
-    box.Verticals(of.solution, 1, kMoulds);
+    box.Verticals(of.solution, 1, kMolds);
     box.Thin();
     box.Rows(3, 2);
     PrintSolutionHeads(of);
@@ -149,7 +149,7 @@ void DrawSolution(const CbrPage& of)
 }
 
 /// What a table of six columns shows: the rows of a grid below its first, with their titles.
-struct MouldTable {
+struct MoldTable {
     std::string_view caption;
     double captionLine;
     const TextGrid& grid;
@@ -159,15 +159,15 @@ struct MouldTable {
     double Bottom() const { return Top() + grid.Rows(); }
 };
 
-/// Below the head line the moulds of a condition are parted by thin verticals.
-void DrawMouldRules(const CbrPage& of, const MouldTable& table)
+/// Below the head line the molds of a condition are parted by thin verticals.
+void DrawMoldRules(const CbrPage& of, const MoldTable& table)
 {
     const double top = table.Top(), bottom = table.Bottom();
     const RuledBox box(of.page, of.y, WholeWidth(of.page), top, bottom);
     box.Rows(top + 1);
-    for (const int column : {1, 1 + kMoulds}) box.Verticals(of.moulds, column, column);
+    for (const int column : {1, 1 + kMolds}) box.Verticals(of.molds, column, column);
     box.Thin();
-    box.Verticals(of.moulds, 2, kColumns, top + 1, bottom);
+    box.Verticals(of.molds, 2, kColumns, top + 1, bottom);
     box.Rows(top + 2, table.Rows());
 }
 
@@ -175,28 +175,28 @@ void PrintConditions(const CbrPage& of, double line)
 {
     const Bold bold(of.page);
     const bool isBoth = of.cbr.optBoth.Value();
-    const PageColumns conditions{of.moulds.left, of.moulds.width * kMoulds};
+    const PageColumns conditions{of.molds.left, of.molds.width * kMolds};
     PrintFrom(of.page, kLeft + kLabelInset, of.y(line), "Condition");
     PrintHeads(
         of.page, conditions,
         std::array<std::string_view, 2>{isBoth ? "Before Soaking" : "Unsoaked", isBoth ? "After Soaking" : "Soaked"});
 }
 
-void DrawMouldTable(const CbrPage& of, const MouldTable& table)
+void DrawMoldTable(const CbrPage& of, const MoldTable& table)
 {
     PrintCaption(of.page, kLeft, of.y(table.captionLine), table.caption);
-    DrawMouldRules(of, table);
+    DrawMoldRules(of, table);
     PrintConditions(of, table.Top());
     for (int row = 1; row <= table.Rows(); ++row)
         PrintFrom(of.page, kLeft + kLabelInset, of.y(table.Top() + row), table.grid(row, 0));
-    PrintCells(of.page, of.y, of.moulds, table.Top() + 1, table.grid, {1, table.Rows(), 1, kColumns});
+    PrintCells(of.page, of.y, of.molds, table.Top() + 1, table.grid, {1, table.Rows(), 1, kColumns});
 }
 
-/// The higher ratio of the mould that counts: the first, with both conditions the soaked one.
-std::string SingleMouldValue(const frmCBR& sheet)
+/// The higher ratio of the mold that counts: the first, with both conditions the soaked one.
+std::string SingleMoldValue(const frmCBR& sheet)
 {
-    const int mould = sheet.optBoth.Value() ? 2 : 1;
-    return NumberText(std::max(Val(sheet.mshLPC(result::At01, mould)), Val(sheet.mshLPC(result::At02, mould))));
+    const int mold = sheet.optBoth.Value() ? 2 : 1;
+    return NumberText(std::max(Val(sheet.mshLPC(result::At01, mold)), Val(sheet.mshLPC(result::At02, mold))));
 }
 
 std::string ResultLine(const frmCBR& sheet)
@@ -205,7 +205,7 @@ std::string ResultLine(const frmCBR& sheet)
         return "CBR Value at " + sheet.cboCBR.Text() + " of " + sheet.txtCompaction.Text() + " is " +
                sheet.txtCBR.Text() + " %";
     }
-    return "CBR Value of " + sheet.txtCompaction.Text() + " is " + SingleMouldValue(sheet) + " %";
+    return "CBR Value of " + sheet.txtCompaction.Text() + " is " + SingleMoldValue(sheet) + " %";
 }
 
 /// Line 22, in a box as wide as the swelling table.
@@ -219,7 +219,7 @@ void DrawResult(const CbrPage& of)
     PrintCentred(of.page, edges.left, edges.Width(), ResultLine(of.cbr));
 }
 
-/// Lines 24 to 32. A mould has two cells; the borders of the pairs go up to the top.
+/// Lines 24 to 32. A mold has two cells; the borders of the pairs go up to the top.
 void DrawSwellingRules(const CbrPage& of)
 {
     const PageColumns dates{kLeft, kDateWidth};
@@ -242,8 +242,8 @@ void PrintSwellingHeads(const CbrPage& of)
     const double pair = of.swelling.width * 2;
     of.page.CurrentY = of.y(24);
     PrintCentred(of.page, kLeft, kLabelWidth, "Mold No.");
-    for (int mould = 1; mould <= kMoulds; ++mould)
-        PrintCentred(of.page, of.swelling.Left(2 * mould - 1), pair, std::to_string(mould));
+    for (int mold = 1; mold <= kMolds; ++mold)
+        PrintCentred(of.page, of.swelling.Left(2 * mold - 1), pair, std::to_string(mold));
     of.page.CurrentY = of.y(25);
     constexpr std::array<std::string_view, 3> kDateHeads{"Date", "Time", "Elapsed"};
     for (int column = 1; column <= 3; ++column) {
@@ -274,8 +274,8 @@ void DrawCbrPage1(const Printing& printing)
     const CbrPage of(printing);
     DrawTypeOfTest(of);
     DrawSolution(of);
-    DrawMouldTable(of, {"Water Content Determination", 4, of.cbr.MSHWater});
-    DrawMouldTable(of, {"Dry Density Determination", 11, of.cbr.MSHCompaction});
+    DrawMoldTable(of, {"Water Content Determination", 4, of.cbr.MSHWater});
+    DrawMoldTable(of, {"Dry Density Determination", 11, of.cbr.MSHCompaction});
     DrawResult(of);
     DrawSwelling(of);
 }

@@ -1,4 +1,4 @@
-// Page 2: the penetrations, the curves as they stand on the sheet, the ratios of one mould or of both conditions.
+// Page 2: the penetrations, the curves as they stand on the sheet, the ratios of one mold or of both conditions.
 #include <array>
 #include <string>
 #include <string_view>
@@ -16,7 +16,7 @@ using namespace cbr;
 constexpr double kTableTop = 3000;
 constexpr int kHeadLines = 4;
 constexpr int kColumnsAcross = penetration::kColumns;
-constexpr int kGroup = 3;              // columns of a mould
+constexpr int kGroup = 3;              // columns of a mold
 constexpr double kCurvesBelow = 400;   // the table
 constexpr double kSummaryBelow = 500;  // the table
 constexpr double kSummarySize = 15;    // points
@@ -44,30 +44,30 @@ void DrawTableRules(const CbrTable& of)
     const auto onPage = [](int gridColumn) { return gridColumn + 1; };
     const RuledBox box(of.page, of.y, WholeWidth(of.page), 0, of.bottom);
     box.Rows(kHeadLines);
-    for (int mould = 1; mould <= kMoulds; ++mould) {
-        const int dial = onPage(penetration::Dial(mould));
+    for (int mold = 1; mold <= kMolds; ++mold) {
+        const int dial = onPage(penetration::Dial(mold));
         box.Verticals(of.columns, dial, dial);
     }
     box.Thin();
-    for (int mould = 1; mould <= kMoulds; ++mould) {
-        box.Verticals(of.columns, onPage(penetration::Load(mould)), onPage(penetration::Stress(mould)), 1, of.bottom);
+    for (int mold = 1; mold <= kMolds; ++mold) {
+        box.Verticals(of.columns, onPage(penetration::Load(mold)), onPage(penetration::Stress(mold)), 1, of.bottom);
     }
     box.Rows(1);
     box.Rows(kHeadLines + 1, of.bottom - kHeadLines - 1);
 }
 
-/// The moulds' numbers stand in the first line, since the heads fill the three below, each over the middle of its
+/// The molds' numbers stand in the first line, since the heads fill the three below, each over the middle of its
 /// group; of a test of both conditions the first two have the condition beside them.
-void PrintMouldHeads(const CbrTable& of)
+void PrintMoldHeads(const CbrTable& of)
 {
-    constexpr std::array<std::string_view, kMoulds> kConditions{"Unsoaked", "Soaked", ""};
+    constexpr std::array<std::string_view, kMolds> kConditions{"Unsoaked", "Soaked", ""};
     of.page.CurrentY = of.y(0);
     PrintCentred(of.page, kLeft, of.columns.width, "Mold No.");
-    for (int mould = 1; mould <= kMoulds; ++mould) {
-        const double left = of.Left(penetration::Dial(mould));
-        const auto condition = kConditions[static_cast<std::size_t>(mould - 1)];
+    for (int mold = 1; mold <= kMolds; ++mold) {
+        const double left = of.Left(penetration::Dial(mold));
+        const auto condition = kConditions[static_cast<std::size_t>(mold - 1)];
         if (of.cbr.optBoth.Value() && !condition.empty()) PrintCentred(of.page, left, of.columns.width, condition);
-        PrintCentred(of.page, left, of.columns.width * kGroup, of.cbr.MSHPenetrate(0, penetration::Load(mould)));
+        PrintCentred(of.page, left, of.columns.width * kGroup, of.cbr.MSHPenetrate(0, penetration::Load(mold)));
     }
 }
 
@@ -80,7 +80,7 @@ void PrintTableHeads(const CbrTable& of)
         {"(div)", "(lb)", "(lb/in^2)"},
     }};
     const Bold bold(of.page);
-    PrintMouldHeads(of);
+    PrintMoldHeads(of);
     double line = 1.5;  // two lines in the height of three
     for (const auto head : kDepthHeads) {
         of.page.CurrentY = of.y(line++);
@@ -110,7 +110,7 @@ void CopyCurves(const CbrTable& of)
     CopyPlot(of.page, sheet.picGraph2, sheet.picGraph3, of.Right() - sheet.picGraph2.Width, top);
 }
 
-void PrintValuesOf(const CbrTable& of, double x, int mould)
+void PrintValuesOf(const CbrTable& of, double x, int mold)
 {
     struct Line {
         std::string_view label;
@@ -124,15 +124,15 @@ void PrintValuesOf(const CbrTable& of, double x, int mould)
     };
     for (const Line& line : kLines) {
         PrintFrom(of.page, x, line.label);
-        of.page.PrintOn(of.cbr.mshLPC(line.row, mould));
+        of.page.PrintOn(of.cbr.mshLPC(line.row, mold));
         of.page.Print(line.unit);
     }
 }
 
-void PrintConditionOf(const CbrTable& of, double x, std::string_view caption, int mould)
+void PrintConditionOf(const CbrTable& of, double x, std::string_view caption, int mold)
 {
     PrintCaption(of.page, x, of.page.CurrentY, caption);
-    PrintValuesOf(of, x, mould);
+    PrintValuesOf(of, x, mold);
 }
 
 /// Between the two curves.

@@ -41,9 +41,9 @@ struct CompactionPage : ReportPage {
         : ReportPage(printing), samples(ColumnsBeside(kSampleLabelWidth, WholeWidth(page), kSamples))
     {}
 
-    /// The split between the first two fields of a mould row.
+    /// The split between the first two fields of a mold row.
     double Middle() const { return kLeft + (kSampleLabelWidth + samples.width) / 2; }
-    /// The left edge of the mould rows' third field.
+    /// The left edge of the mold rows' third field.
     double ThirdField() const { return samples.Left(2); }
 };
 

@@ -1,4 +1,4 @@
-/// The compaction page: mould and hammer, the two results, water contents, densities, the curve, signatures.
+/// The compaction page: mold and hammer, the two results, water contents, densities, the curve, signatures.
 /// Values are printed as they stand on the sheet; nothing is computed.
 #pragma once
 

@@ -59,7 +59,7 @@ constexpr ReportTable Holes(const Shown& shown)
 /// The last one bears the caption of the summary's frame, which names the compaction test.
 constexpr std::array kBlocks{
     Block{LeftHalf, Calibration({"Mass of Sand in Cone", 1, laboratory::kSandInCone, cone::Initial})},
-    Block{RightHalf, Calibration({"Density of Sand used Mold", 0, laboratory::kSandDensity, sand::Mould})},
+    Block{RightHalf, Calibration({"Density of Sand used Mold", 0, laboratory::kSandDensity, sand::Mold})},
     Block{WholeWidth, Holes({"Mass of Wet Soil", 7, laboratory::kHoleSoil, soil::WetAndPan})},
     Block{WholeWidth, Holes({"Volume from Sand Cone Method", 12, laboratory::kHoleVolume, volume::Initial})},
     Block{WholeWidth, Holes({"Water Content of Soil", 20, laboratory::kHoleWater, water::WetAndCan})},

@@ -6,13 +6,13 @@ namespace terravane {
 
 namespace {
 
-/// Can + wet, can + dry, can, mould + wet soil, mould, in g: a baseball infield mix, standard effort.
+/// Can + wet, can + dry, can, mold + wet soil, mold, in g: a baseball infield mix, standard effort.
 struct Trial {
     const char* wet;
     const char* dry;
     const char* can;
-    const char* soilAndMould;
-    const char* mould;
+    const char* soilAndMold;
+    const char* mold;
 };
 constexpr Trial kTrialReadings[] = {
     {"31.61", "29.71", "1.28", "3325", "1484.5"},   {"21.56", "20.04", "1.54", "3439.926", "1484.5"},
@@ -77,8 +77,8 @@ void DesktopFixture::FillCompaction()
         water(2, column) = trial.wet;
         water(3, column) = trial.dry;
         water(4, column) = trial.can;
-        density(1, column) = trial.soilAndMould;
-        density(2, column) = trial.mould;
+        density(1, column) = trial.soilAndMold;
+        density(2, column) = trial.mold;
     }
     QCoreApplication::processEvents();
 }

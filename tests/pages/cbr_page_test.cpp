@@ -101,7 +101,7 @@ TEST_F(CbrPage, BoxesHaveTheirPlaces)
     EXPECT_EQ(page.Down(9003 + 801, Y(1), Y(5), 2), 1);
     EXPECT_EQ(page.Down(3500, Y(24), Y(32), 2), 1);
     EXPECT_EQ(page.Down(3500 + kColumn / 2, Y(26), Y(32), 1), 1);
-    EXPECT_EQ(page.Down(3500 + kColumn, Y(24), Y(32), 1), 1) << "Between two moulds.";
+    EXPECT_EQ(page.Down(3500 + kColumn, Y(24), Y(32), 1), 1) << "Between two molds.";
     EXPECT_EQ(page.Down(1500, Y(25), Y(32), 1), 1);
 }
 
@@ -167,7 +167,7 @@ TEST_F(CbrPage, TheChoicesNameTheTest)
     ExpectAt(page, "Unsoaked and Soaked CBR", 500 + 3 * quarter, Y(1));
     EXPECT_EQ(page.Texts("Before Soaking").size(), 2U);
     EXPECT_EQ(page.Texts("After Soaking").size(), 2U);
-    EXPECT_EQ(page.Texts("d24").size(), 2U) << "The soaked mould's blows stand in the solution.";
+    EXPECT_EQ(page.Texts("d24").size(), 2U) << "The soaked mold's blows stand in the solution.";
 }
 
 TEST_F(CbrPage, WithoutAChoiceTheSwellingGridPrints)
@@ -179,7 +179,7 @@ TEST_F(CbrPage, WithoutAChoiceTheSwellingGridPrints)
     EXPECT_EQ(page.Across(500, 3500 + 3 * kColumn, Y(31), 1), 1);
 }
 
-TEST_F(CbrPage, ThreeMouldsPrintTheDesignValue)
+TEST_F(CbrPage, ThreeMoldsPrintTheDesignValue)
 {
     sheet.SSTData.SetTabEnabled(cbr::kValueTab, true);
     sheet.txtCBR.SetText("6.1");
@@ -190,7 +190,7 @@ TEST_F(CbrPage, ThreeMouldsPrintTheDesignValue)
 }
 
 // The number, not the text: "8.0" prints as 8.
-TEST_F(CbrPage, ASingleMouldPrintsTheHigherRatio)
+TEST_F(CbrPage, ASingleMoldPrintsTheHigherRatio)
 {
     sheet.mshLPC(cbr::result::At01, 1) = "6.8";
     sheet.mshLPC(cbr::result::At02, 1) = "8.0";
@@ -200,7 +200,7 @@ TEST_F(CbrPage, ASingleMouldPrintsTheHigherRatio)
     EXPECT_TRUE(Near(line.y, Y(22)));
     EXPECT_TRUE(line.font.bold);
     sheet.optBoth.Choose();
-    EXPECT_EQ(Printed(1).Texts("CBR Value of Stardard Compaction is 9.5 %").size(), 1U) << "The soaked mould.";
+    EXPECT_EQ(Printed(1).Texts("CBR Value of Stardard Compaction is 9.5 %").size(), 1U) << "The soaked mold.";
 }
 
 TEST_F(CbrPage, PreviewAndPrinterShareTheFirstPagesBody)
@@ -282,25 +282,25 @@ TEST_F(CbrPage, TheSummaryStandsBetweenTheCurves)
 }
 
 /// Below them "Load" stands in the middle of each group.
-void ExpectMouldNumbers(const PageMarks& page)
+void ExpectMoldNumbers(const PageMarks& page)
 {
-    for (int mould = 1; mould <= 3; ++mould) {
-        const double middle = 500 + (3 * mould - 0.5) * kTenth;
-        ExpectAt(page, std::to_string(mould), middle, 3000);
-        const TextItem load = page.Texts("Load").at(static_cast<std::size_t>(mould) - 1);
+    for (int mold = 1; mold <= 3; ++mold) {
+        const double middle = 500 + (3 * mold - 0.5) * kTenth;
+        ExpectAt(page, std::to_string(mold), middle, 3000);
+        const TextItem load = page.Texts("Load").at(static_cast<std::size_t>(mold) - 1);
         EXPECT_TRUE(Near(load.x + TextWidth(load.font, load.text) / 2, middle) && Near(load.y, TableY(1)));
     }
     ExpectAt(page, "Mold No.", 500 + 0.5 * kTenth, 3000);
 }
 
-TEST_F(CbrPage, MouldNumbersStandOverTheMiddlesOfTheirGroupsAlsoWithBothConditions)
+TEST_F(CbrPage, MoldNumbersStandOverTheMiddlesOfTheirGroupsAlsoWithBothConditions)
 {
     auto page = Printed(2);
-    ExpectMouldNumbers(page);
+    ExpectMoldNumbers(page);
     EXPECT_EQ(page.Texts("Unsoaked").size(), 0U);
     sheet.optBoth.Choose();
     page = Printed(2);
-    ExpectMouldNumbers(page);
+    ExpectMoldNumbers(page);
     ExpectAt(page, "Unsoaked", 500 + 1.5 * kTenth, 3000);
     ExpectAt(page, "Soaked", 500 + 4.5 * kTenth, 3000);
     std::vector<DrawnItem> table = page.items;
@@ -312,18 +312,18 @@ TEST_F(CbrPage, MouldNumbersStandOverTheMiddlesOfTheirGroupsAlsoWithBothConditio
 }
 
 // The verticals within a pair begin below the numbers' line and that of "Swell".
-TEST_F(CbrPage, NoLineRunsThroughAMouldNumberOfTheSwellingTable)
+TEST_F(CbrPage, NoLineRunsThroughAMoldNumberOfTheSwellingTable)
 {
     const auto page = Printed(1);
-    for (int mould = 1; mould <= 3; ++mould) {
-        const double middle = 3500 + kColumn * (mould - 0.5);
-        EXPECT_EQ(page.Down(middle, Y(26), Y(32), 1), 1) << mould;
+    for (int mold = 1; mold <= 3; ++mold) {
+        const double middle = 3500 + kColumn * (mold - 0.5);
+        EXPECT_EQ(page.Down(middle, Y(26), Y(32), 1), 1) << mold;
         for (const LineItem& line : ItemsOf<LineItem>(page.items))
-            EXPECT_FALSE(Near(line.x1, middle) && line.x1 == line.x2 && line.y1 < Y(26) && line.y2 > Y(24)) << mould;
+            EXPECT_FALSE(Near(line.x1, middle) && line.x1 == line.x2 && line.y1 < Y(26) && line.y2 > Y(24)) << mold;
         int numbers = 0;
-        for (const TextItem& text : page.Texts(std::to_string(mould)))
+        for (const TextItem& text : page.Texts(std::to_string(mold)))
             numbers += Near(text.y, Y(24)) && Near(text.x + TextWidth(text.font, text.text) / 2, middle) ? 1 : 0;
-        EXPECT_EQ(numbers, 1) << mould;
+        EXPECT_EQ(numbers, 1) << mold;
     }
 }
 
@@ -342,10 +342,10 @@ TEST_F(CbrPage, HeadsOfTheReadingsStandOverTheirColumns)
                              Head{"P/A", 3.5, 2}, Head{"(lb/in^2)", 3.5, 3}}) {
         const auto texts = page.Texts(head.text);
         ASSERT_EQ(texts.size(), 3U) << head.text;
-        for (std::size_t mould = 0; mould < 3; ++mould) {
-            const TextItem& text = texts[mould];
-            const double middle = 500 + (head.column + 3 * static_cast<double>(mould)) * kTenth;
-            EXPECT_NEAR(text.x + TextWidth(text.font, text.text) / 2, middle, kTwip) << head.text << " of " << mould;
+        for (std::size_t mold = 0; mold < 3; ++mold) {
+            const TextItem& text = texts[mold];
+            const double middle = 500 + (head.column + 3 * static_cast<double>(mold)) * kTenth;
+            EXPECT_NEAR(text.x + TextWidth(text.font, text.text) / 2, middle, kTwip) << head.text << " of " << mold;
             EXPECT_NEAR(text.y, TableY(head.line), kTwip) << head.text;
         }
     }

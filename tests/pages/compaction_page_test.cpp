@@ -53,10 +53,10 @@ struct CompactionPage : ::testing::Test {
     std::vector<DrawnItem> Shown() { return bench.Preview().picView.Items(); }
 };
 
-TEST_F(CompactionPage, BoxesFrameMouldResultsAndTables)
+TEST_F(CompactionPage, BoxesFrameMoldResultsAndTables)
 {
     const PageMarks page = Printed();
-    EXPECT_EQ(page.Boxes(500, 3800, 7203, Y(2), 2), 1) << "mould";
+    EXPECT_EQ(page.Boxes(500, 3800, 7203, Y(2), 2), 1) << "mold";
     EXPECT_EQ(page.Boxes(7303, 3800, 11406, Y(2), 2), 1) << "results";
     EXPECT_EQ(page.Boxes(500, Y(3), 11406, Y(11), 2), 1) << "water contents";
     EXPECT_EQ(page.Boxes(500, Y(12), 11406, Y(19), 2), 1) << "densities";
@@ -129,7 +129,7 @@ TEST_F(CompactionPage, CaptionsAndHeaderAreBold)
 }
 
 // "Diameter of Mold  " ends its label; the colon stands there, the value 300 and the unit 800 further.
-TEST_F(CompactionPage, MouldRowsStandAtTheirStops)
+TEST_F(CompactionPage, MoldRowsStandAtTheirStops)
 {
     const PageMarks page = Printed();
     const TextItem diameter = page.Text("Diameter of Mold");
@@ -151,7 +151,7 @@ TEST_F(CompactionPage, MouldRowsStandAtTheirStops)
 }
 
 // The unit stands 500 behind the value's beginning: five digits and a point (477) fit, two digits more don't.
-TEST_F(CompactionPage, AMouldMeasureThatIsLongerThanItsPlacePushesItsUnit)
+TEST_F(CompactionPage, AMoldMeasureThatIsLongerThanItsPlacePushesItsUnit)
 {
     const double place = Printed().Texts("cm").at(0).x;
     sheet.txtDia.SetText("10.160");
@@ -257,7 +257,7 @@ TEST_F(CompactionPage, UnsavedTextIsPrintedAsTyped)
     EXPECT_EQ(Printed().Texts("about 2").size(), 1u);
 }
 
-// But for the colon on the mould box's rule, which is no text.
+// But for the colon on the mold box's rule, which is no text.
 TEST_F(CompactionPage, NoTwoTextsOverlap)
 {
     ExpectNoTextOverText(Printed().items);

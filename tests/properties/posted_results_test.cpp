@@ -52,7 +52,7 @@ void ExpectMeanCompaction(const SheetBench& bench, Texts& expected)
     expected[PlaceOf(bench, "sum_compaction")] = SignedNumberText(mean);
 }
 
-/// With three moulds the value read at the share of the maximum density, with one the higher of its two ratios.
+/// With three molds the value read at the share of the maximum density, with one the higher of its two ratios.
 void ExpectBearingRatio(const SheetBench& bench, std::string_view command, Texts& expected)
 {
     const auto& ratios = bench.Sheet().Get<TextGrid>("mshLPC");

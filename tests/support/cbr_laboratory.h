@@ -26,9 +26,9 @@ inline std::string RatiosOf(const frmCBR& sheet, cbr::result::Row row)
 struct CbrCan {
     std::string_view number, wetAndCan, dryAndCan, can;
 };
-/// One mould: blows and layers, lengths in cm, masses in g.
-struct CbrMould {
-    std::string_view blows, diameter, height, whole, mould;
+/// One mold: blows and layers, lengths in cm, masses in g.
+struct CbrMold {
+    std::string_view blows, diameter, height, whole, mold;
 };
 /// One swelling reading: day, hour, dials in mm.
 struct CbrSwell {
@@ -41,10 +41,10 @@ inline void TypeCan(frmCBR& sheet, int column, const CbrCan& can)
     TypeColumn(sheet.txtData, cbr::water::CanNumber, column, {can.number, can.wetAndCan, can.dryAndCan, can.can});
 }
 
-inline void TypeMould(frmCBR& sheet, int column, const CbrMould& mould)
+inline void TypeMold(frmCBR& sheet, int column, const CbrMold& mold)
 {
     TypeColumn(sheet.txtData1, cbr::density::Blows, column,
-               {mould.blows, mould.diameter, mould.height, mould.whole, mould.mould});
+               {mold.blows, mold.diameter, mold.height, mold.whole, mold.mold});
 }
 
 inline void TypeSwell(frmCBR& sheet, int row, const CbrSwell& reading)
@@ -52,8 +52,8 @@ inline void TypeSwell(frmCBR& sheet, int row, const CbrSwell& reading)
     sheet.MSHSwell.PressMouse(MouseButton::Left, row, cbr::swell::Date);
     sheet.dtpSwell.Type(reading.date);
     TypeCell(sheet.txtData2, row, cbr::swell::Time, reading.hour);
-    for (int mould = 1; mould <= cbr::kMoulds; ++mould)
-        TypeCell(sheet.txtData2, row, cbr::swell::Dial(mould), reading.dials[static_cast<std::size_t>(mould - 1)]);
+    for (int mold = 1; mold <= cbr::kMolds; ++mold)
+        TypeCell(sheet.txtData2, row, cbr::swell::Dial(mold), reading.dials[static_cast<std::size_t>(mold - 1)]);
 }
 
 /// Penetrations as they are typed, one below the other.
@@ -62,12 +62,12 @@ inline void TypePenetrations(frmCBR& sheet, const std::vector<std::string_view>&
     TypeColumn(sheet.txtData3, 0, cbr::penetration::Depth, depths);
 }
 
-inline void TypeDials(frmCBR& sheet, int mould, const std::vector<std::string_view>& dials)
+inline void TypeDials(frmCBR& sheet, int mold, const std::vector<std::string_view>& dials)
 {
-    TypeColumn(sheet.txtData3, 0, cbr::penetration::Dial(mould), dials);
+    TypeColumn(sheet.txtData3, 0, cbr::penetration::Dial(mold), dials);
 }
 
-// Penetrations of 0 to 12.5 mm in inches and dials of a ring of 4.9958 lb/div from published single moulds; weighings,
+// Penetrations of 0 to 12.5 mm in inches and dials of a ring of 4.9958 lb/div from published single molds; weighings,
 // swelling and the maximum density are made to go with them.
 inline const std::vector<std::string_view> kDepths{"0.0",    "0.0197", "0.0394", "0.0591", "0.0787", "0.0984",
                                                    "0.1181", "0.1575", "0.1969", "0.2953", "0.3937", "0.4921"};
@@ -84,7 +84,7 @@ inline const std::vector<std::string_view> kConcaveDials{"0",    "5",    "12",  
 inline const std::vector<CbrCan> kCans{{"B1", "132.1", "120", "20"}, {"B2", "132.0", "120", "20"},
                                        {"B3", "131.9", "120", "20"}, {"A1", "138.4", "120", "20"},
                                        {"A2", "136.9", "120", "20"}, {"A3", "135.2", "120", "20"}};
-inline const std::vector<CbrMould> kMouldColumns{
+inline const std::vector<CbrMold> kMoldColumns{
     {"10/5", "15.24", "11.64", "11165", "7000"}, {"25/5", "15.24", "11.64", "11452", "7100"},
     {"56/5", "15.24", "11.64", "11762", "7200"}, {"10/5", "15.24", "11.64", "11399", "7000"},
     {"25/5", "15.24", "11.64", "11642", "7100"}, {"56/5", "15.24", "11.64", "11896", "7200"}};
@@ -93,15 +93,15 @@ inline const std::vector<CbrSwell> kSwellRows{{"02/03/2009", "9", {"1.0", "2.0",
                                               {"04/03/2009", "10", {"1.45", "2.31", "1.69"}},
                                               {"06/03/2009", "9", {"1.58", "2.4", "1.74"}}};
 
-/// The whole soaked sheet of three moulds.
-inline void TypeThreeMoulds(frmCBR& sheet)
+/// The whole soaked sheet of three molds.
+inline void TypeThreeMolds(frmCBR& sheet)
 {
     sheet.optSoak.Choose();
     sheet.txtK.Type("4.9958");
     sheet.txtWeight.Type("4.54");
     sheet.txtMDD.Type("1.95");
     for (std::size_t i = 0; i < kCans.size(); ++i) TypeCan(sheet, static_cast<int>(i) + 1, kCans[i]);
-    for (std::size_t i = 0; i < kMouldColumns.size(); ++i) TypeMould(sheet, static_cast<int>(i) + 1, kMouldColumns[i]);
+    for (std::size_t i = 0; i < kMoldColumns.size(); ++i) TypeMold(sheet, static_cast<int>(i) + 1, kMoldColumns[i]);
     for (std::size_t i = 0; i < kSwellRows.size(); ++i)
         TypeSwell(sheet, cbr::swell::First + static_cast<int>(i), kSwellRows[i]);
     TypePenetrations(sheet, kDepths);
@@ -110,8 +110,8 @@ inline void TypeThreeMoulds(frmCBR& sheet)
     TypeDials(sheet, 3, kDenseDials);
 }
 
-/// A sheet with the readings of one mould alone.
-inline void TypeSingleMould(frmCBR& sheet, const std::vector<std::string_view>& dials)
+/// A sheet with the readings of one mold alone.
+inline void TypeSingleMold(frmCBR& sheet, const std::vector<std::string_view>& dials)
 {
     sheet.optUnsoak.Choose();
     sheet.txtK.Type("4.9958");

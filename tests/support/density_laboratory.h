@@ -14,8 +14,8 @@ namespace terravane::support {
 struct ConeReading {
     std::string_view initial, final;
 };
-/// The mould that the sand is weighed in: cm, g.
-struct MouldReading {
+/// The mold that the sand is weighed in: cm, g.
+struct MoldReading {
     std::string_view diameter, height, empty, withSand;
 };
 /// One test hole: its soil, its sand, its can; g.
@@ -44,7 +44,7 @@ inline void TypeCone(frmDensity& sheet, int column, const ConeReading& typed)
     TypeColumn(sheet.txtData, field::cone::Initial, column, {typed.initial, typed.final});
 }
 
-inline void TypeSand(frmDensity& sheet, int column, const MouldReading& typed)
+inline void TypeSand(frmDensity& sheet, int column, const MoldReading& typed)
 {
     TypeColumn(sheet.txtData1, field::sand::Diameter, column,
                {typed.diameter, typed.height, typed.empty, typed.withSand});
@@ -62,16 +62,16 @@ inline void TypeMaximum(frmDensity& sheet, int hole, std::string_view density)
     TypeCell(sheet.txtData5, field::summary::MaximumDensity, hole, density);
 }
 
-// Round figures: 1600 g in the cone, 3000 g in a mould of 2123.31 cm³ are 1.41 g/cm³; 7000 - 3284 - 1600 = 2116 g of
+// Round figures: 1600 g in the cone, 3000 g in a mold of 2123.31 cm³ are 1.41 g/cm³; 7000 - 3284 - 1600 = 2116 g of
 // sand fill 1500.71 cm³; 3000 g of soil, 2.00 g/cm³ wet; 10 g of water in 100 g, 10.00 %, 1.82 g/cm³ dry.
 inline constexpr ConeReading kCone{"7000", "5400"};
-inline constexpr MouldReading kSandMould{"15.24", "11.64", "7000", "10000"};
+inline constexpr MoldReading kSandMold{"15.24", "11.64", "7000", "10000"};
 inline constexpr HoleReading kHole{"3250", "250", "7000", "3284", "130", "120", "20"};
 
 inline void TypeOneHole(frmDensity& sheet)
 {
     TypeCone(sheet, 1, kCone);
-    TypeSand(sheet, 1, kSandMould);
+    TypeSand(sheet, 1, kSandMold);
     TypeHole(sheet, 1, kHole);
 }
 

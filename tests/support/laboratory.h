@@ -121,7 +121,7 @@ inline std::string RowOf(const TextGrid& grid, int row)
 
 /// One trial as a technician types it: can number, masses in g; assumed water content in percent.
 struct Trial {
-    std::string_view can, wetAndCan, dryAndCan, justCan, assumedWater, wetAndMould, mould;
+    std::string_view can, wetAndCan, dryAndCan, justCan, assumedWater, wetAndMold, mold;
 };
 
 inline void TypeTrial(frmCompaction& sheet, int trial, const Trial& typed)
@@ -129,7 +129,7 @@ inline void TypeTrial(frmCompaction& sheet, int trial, const Trial& typed)
     TypeColumn(sheet.txtData, compaction::water::CanNumber, trial,
                {typed.can, typed.wetAndCan, typed.dryAndCan, typed.justCan});
     TypeColumn(sheet.txtData1, compaction::density::AssumedWater, trial,
-               {typed.assumedWater, typed.wetAndMould, typed.mould});
+               {typed.assumedWater, typed.wetAndMold, typed.mold});
 }
 
 inline void TypeTrials(frmCompaction& sheet, const std::vector<Trial>& trials)
@@ -137,21 +137,21 @@ inline void TypeTrials(frmCompaction& sheet, const std::vector<Trial>& trials)
     for (std::size_t i = 0; i < trials.size(); ++i) TypeTrial(sheet, static_cast<int>(i) + 1, trials[i]);
 }
 
-/// A mould of 4 in: 10.16 cm across and 11.64 cm high, 943.69 cm³.
-inline void SetMould(frmCompaction& sheet, std::string_view height = "11.64", std::string_view diameter = "10.16")
+/// A mold of 4 in: 10.16 cm across and 11.64 cm high, 943.69 cm³.
+inline void SetMold(frmCompaction& sheet, std::string_view height = "11.64", std::string_view diameter = "10.16")
 {
     sheet.txtHeight.Type(height);
     sheet.txtDia.Type(diameter);
 }
 
-/// A worked example of a sandy clay: five trials in a mould of 10.0 by 12.5 cm.
+/// A worked example of a sandy clay: five trials in a mold of 10.0 by 12.5 cm.
 inline const std::vector<Trial> kSandyClay{
     {"1", "36.3", "35.65", "30", "", "4020", "2315"},    {"2", "41.27", "40.17", "32.4", "", "4245", "2315"},
     {"3", "38.66", "37.58", "30.6", "", "4400", "2315"}, {"4", "37.22", "35.73", "26.71", "", "4370", "2315"},
     {"5", "37.5", "36.04", "29.8", "", "4290", "2315"},
 };
 
-/// Six trials of crushed rock in a mould of 15.24 by 11.64 cm.
+/// Six trials of crushed rock in a mold of 15.24 by 11.64 cm.
 inline const std::vector<Trial> kCrushedRock{
     {"C1", "653.6", "635", "35", "3", "10775", "6480"}, {"C2", "670.6", "645", "35", "4", "11000", "/"},
     {"C3", "687.9", "655", "35", "5", "11216", "/"},    {"C4", "705.3", "665", "35", "6", "11342", "/"},

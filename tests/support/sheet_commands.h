@@ -65,7 +65,7 @@ inline const std::array kSheetCommands{
     SheetCommand{"CBR", "Calculate", {"menu mnuCBR1"}, "click cmdCal"},
     SheetCommand{"CBR", "Load-Penetration Curve", {"menu mnuCBR1", "click cmdCal", "tab SSTData 2"}, "click cmdLPen"},
     SheetCommand{"CBR", "Load-Penetration Curve, corrected", {"menu mnuCBR1", "click cmdCal", "tab SSTData 2", "check chkMold1 on", "check chkMold2 on", "check chkMold3 on"}, "click cmdLPen"},
-    SheetCommand{"CBR", "one mould's curve", {"menu mnuCBR1", "click cmdCal", "tab SSTData 2", "click cmdLPen"}, "click lblMold1"},
+    SheetCommand{"CBR", "one mold's curve", {"menu mnuCBR1", "click cmdCal", "tab SSTData 2", "click cmdLPen"}, "click lblMold1"},
     SheetCommand{"CBR", "CBR Value from Graph", {"menu mnuCBR1", "click optStd", "click cmdCal", "click cmdLPen", "tab SSTData 3"}, "click cmdCBR"},
     SheetCommand{"CBR", "one ratio's curve", {"menu mnuCBR1", "click optStd", "click cmdCal", "click cmdLPen", "tab SSTData 3", "click cmdCBR"}, "click lbl01"},
     SheetCommand{"CBR", "Save", {"menu mnuCBR1", "click cmdCal"}, kSave},

@@ -29,7 +29,7 @@ CellRange BehindDates()
 constexpr std::array<std::string_view, 9> kWay{"txtClient", "txtID",   "txtProject", "txtLocation", "txtK",
                                                "txtWeight", "txtSoil", "cboTest",    "cboCheck"};
 
-/// The heads over a mould's three columns of the penetration grid, line by line.
+/// The heads over a mold's three columns of the penetration grid, line by line.
 struct PenetrationHead {
     std::string_view dial, load, stress;
 };
@@ -52,9 +52,9 @@ void BuildSwellHeads(TextGrid& grid)
     grid(swell::Heads, swell::Time) = "Time";
     grid(swell::Heads, swell::Elapsed) = "Elapsed";
     grid(swell::Units, swell::Elapsed) = "Time(hr)";
-    for (int mould = 1; mould <= kMoulds; ++mould) {
-        const int dial = swell::Dial(mould);
-        grid(swell::Moulds, dial) = kMouldNames[static_cast<std::size_t>(mould - 1)];
+    for (int mold = 1; mold <= kMolds; ++mold) {
+        const int dial = swell::Dial(mold);
+        grid(swell::Molds, dial) = kMoldNames[static_cast<std::size_t>(mold - 1)];
         grid(swell::Heads, dial) = "Swelling ";
         grid(swell::Units, dial) = "mm";
         grid(swell::Units, dial + 1) = "%";
@@ -68,13 +68,13 @@ void BuildPenetrationHeads(TextGrid& grid)
     grid(0, penetration::Depth) = "Mold No.";
     grid(1, penetration::Depth) = "Penetration";
     grid(2, penetration::Depth) = "(in)";
-    for (int mould = 1; mould <= kMoulds; ++mould) {
-        grid(0, penetration::Load(mould)) = std::to_string(mould);
+    for (int mold = 1; mold <= kMolds; ++mold) {
+        grid(0, penetration::Load(mold)) = std::to_string(mold);
         for (int line = 0; line < static_cast<int>(kPenetrationHeads.size()); ++line) {
             const PenetrationHead& head = kPenetrationHeads[static_cast<std::size_t>(line)];
-            grid(line + 1, penetration::Dial(mould)) = head.dial;
-            grid(line + 1, penetration::Load(mould)) = head.load;
-            grid(line + 1, penetration::Stress(mould)) = head.stress;
+            grid(line + 1, penetration::Dial(mold)) = head.dial;
+            grid(line + 1, penetration::Load(mold)) = head.load;
+            grid(line + 1, penetration::Stress(mold)) = head.stress;
         }
     }
 }
@@ -106,7 +106,7 @@ frmCBR::frmCBR(Program& owner)
       txtData3(
           *this, "txtData3", MSHPenetrate1,
           [this] {
-              return CellRange{0, MSHPenetrate1.Rows() - 1, penetration::Depth, penetration::Dial(kMoulds)};
+              return CellRange{0, MSHPenetrate1.Rows() - 1, penetration::Depth, penetration::Dial(kMolds)};
           },
           [this](int row, int column, std::string text) { return CommitPenetration(row, column, std::move(text)); })
 {
@@ -133,7 +133,7 @@ void frmCBR::BuildGrids()
     BuildGrid(MSHWater, laboratory::kBearingWater);
     BuildGrid(MSHCompaction, laboratory::kBearingDensity);
     for (int column = 1; column <= kColumns; ++column)
-        MSHCompaction(density::Mould, column) = std::to_string((column - 1) % kMoulds + 1);
+        MSHCompaction(density::Mold, column) = std::to_string((column - 1) % kMolds + 1);
     SetHeads(MSHSwell, laboratory::kSwelling);
     MarkWorkedOut(MSHSwell, laboratory::kSwelling);
     BuildSwellHeads(MSHSwell);
@@ -147,14 +147,14 @@ void frmCBR::BuildGrids()
 }
 
 void frmCBR::WriteConditions(std::string_view first, std::string_view second,
-                             const std::array<std::string_view, 3>& moulds)
+                             const std::array<std::string_view, 3>& molds)
 {
-    for (int mould = 1; mould <= kMoulds; ++mould) {
+    for (int mold = 1; mold <= kMolds; ++mold) {
         for (TextGrid* grid : {&MSHWater, &MSHCompaction}) {
-            (*grid)(0, mould) = first;
-            (*grid)(0, mould + kMoulds) = second;
+            (*grid)(0, mold) = first;
+            (*grid)(0, mold + kMolds) = second;
         }
-        mshLPC(result::Mould, mould) = moulds[static_cast<std::size_t>(mould - 1)];
+        mshLPC(result::Mold, mold) = molds[static_cast<std::size_t>(mold - 1)];
     }
 }
 

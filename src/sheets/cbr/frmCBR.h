@@ -1,6 +1,6 @@
-/// The bearing ratio sheet: up to three moulds at their densities, soaked, unsoaked or one of each; water contents,
-/// densities, swelling while soaking, and the load on a piston pressed into each mould. The curves of stress against
-/// penetration give each mould's bearing ratio, the curve of ratio against density the one of the design. Masses in
+/// The bearing ratio sheet: up to three molds at their densities, soaked, unsoaked or one of each; water contents,
+/// densities, swelling while soaking, and the load on a piston pressed into each mold. The curves of stress against
+/// penetration give each mold's bearing ratio, the curve of ratio against density the one of the design. Masses in
 /// g, lengths in cm, swelling in mm, penetration in inches, loads in lb.
 #pragma once
 
@@ -22,7 +22,7 @@ namespace cbr {
 inline constexpr int kValueTab = 3;         // of SSTData
 inline constexpr double kScanStep = 0.001;  // in, from point to point of a curve
 
-/// The readings of one mould: penetrations in inches, stresses in lb/in².
+/// The readings of one mold: penetrations in inches, stresses in lb/in².
 struct Curve {
     std::vector<double> penetration, stress;
 };
@@ -44,8 +44,8 @@ constexpr StressPair PulledUp(double a, double b)
     return a < 0 ? StressPair{0, b < 0 ? 0 : b} : StressPair{a, b};
 }
 
-/// What the command for all moulds and the label of each do differently.
-struct MouldTask {
+/// What the command for all molds and the label of each do differently.
+struct MoldTask {
     bool pullsCurveUp;  // the curve is drawn along the axis where it goes below
     bool alwaysShifts;  // zero shift and tangent also without the tick
     bool writesZero;    // a bearing ratio of zero is written too
@@ -118,9 +118,9 @@ struct frmCBR : TestSheet {
     CheckBox chkMold1{*this, "chkMold1", ""};  // beside the labels
     CheckBox chkMold2{*this, "chkMold2", ""};
     CheckBox chkMold3{*this, "chkMold3", ""};
-    Label lblMold1{*this, "lblMold1", std::string(cbr::kMouldNames[0]), {.Click = [this] { lblMold1_Click(); }}};
-    Label lblMold2{*this, "lblMold2", std::string(cbr::kMouldNames[1]), {.Click = [this] { lblMold2_Click(); }}};
-    Label lblMold3{*this, "lblMold3", std::string(cbr::kMouldNames[2]), {.Click = [this] { lblMold3_Click(); }}};
+    Label lblMold1{*this, "lblMold1", std::string(cbr::kMoldNames[0]), {.Click = [this] { lblMold1_Click(); }}};
+    Label lblMold2{*this, "lblMold2", std::string(cbr::kMoldNames[1]), {.Click = [this] { lblMold2_Click(); }}};
+    Label lblMold3{*this, "lblMold3", std::string(cbr::kMoldNames[2]), {.Click = [this] { lblMold3_Click(); }}};
     PictureBox picGraph{*this, "picGraph", 0, 0, 3600, 4400};        // tick labels, axis titles and key
     PictureBox picgraph1{*this, "picgraph1", 800, 550, 2600, 3100};  // stress against penetration, standing on it
 
@@ -132,11 +132,11 @@ struct frmCBR : TestSheet {
     PictureBox picGraph2{*this, "picGraph2", 0, 0, 3600, 4400};
     PictureBox picGraph3{*this, "picGraph3", 800, 550, 2600, 3100};  // bearing ratio against density, standing on it
 
-    int FitMold = 1;                               // which mould the next fit reads
-    std::array<double, 6> FitCoef{};               // c0 to c5 of the last fit; c0 stays 0
-    double FitR2 = 0;                              // its coefficient of determination
-    std::array<double, cbr::kMoulds> ZeroShift{};  // the corrected origin of each mould, in
-    std::array<double, 3> DensityCoef{};           // c0 to c2 of the last density fit
+    int FitMold = 1;                              // which mold the next fit reads
+    std::array<double, 6> FitCoef{};              // c0 to c5 of the last fit; c0 stays 0
+    double FitR2 = 0;                             // its coefficient of determination
+    std::array<double, cbr::kMolds> ZeroShift{};  // the corrected origin of each mold, in
+    std::array<double, 3> DensityCoef{};          // c0 to c2 of the last density fit
     double DensityR2 = 0;
 
     void Form_Load() override;
@@ -151,7 +151,7 @@ struct frmCBR : TestSheet {
     /// Calculate: water contents, densities, swelling, loads and stresses. What fails is told in a box of its own and
     /// leaves the cells worked out before it.
     void cmdCal_Click() override;
-    /// Load-Penetration Curve: the three moulds' curves, zero shifts and bearing ratios. Error 6 where fewer than five
+    /// Load-Penetration Curve: the three molds' curves, zero shifts and bearing ratios. Error 6 where fewer than five
     /// different penetrations were typed.
     void cmdLPen_Click();
     void lblMold1_Click();
@@ -180,8 +180,7 @@ struct frmCBR : TestSheet {
 
   private:
     void BuildGrids();
-    void WriteConditions(std::string_view first, std::string_view second,
-                         const std::array<std::string_view, 3>& moulds);
+    void WriteConditions(std::string_view first, std::string_view second, const std::array<std::string_view, 3>& molds);
     void FetchCompaction(Test test, std::string_view name);
 
     void ShapePenetrations(int rows);
@@ -201,24 +200,24 @@ struct frmCBR : TestSheet {
     void SwellingOf(int row);
     void LoadsAndStresses();
 
-    cbr::Curve CurveOf(int mould) const;
+    cbr::Curve CurveOf(int mold) const;
     double LastPenetration() const;
     double Stress(double penetration) const;
-    bool IsTicked(int mould) const;
+    bool IsTicked(int mold) const;
     cbr::LoadScale ScaleOfLoads() const;
     void DrawEmptyLoadPlot();
     void DrawLoadAxes(const cbr::LoadScale& scale);
     void DrawPenetrationTicks(const cbr::LoadScale& scale);
     void MarkReadings(const cbr::LoadScale& scale);
-    void DoMould(int mould, const cbr::MouldTask& task);
+    void DoMold(int mold, const cbr::MoldTask& task);
     cbr::TangentPoint ScanCurve() const;
-    void DrawCurve(const cbr::LoadScale& scale, const cbr::MouldTask& task);
-    void ShiftZero(int mould, const cbr::TangentPoint& tangent);
-    void DrawTangent(const cbr::LoadScale& scale, int mould, const cbr::TangentPoint& tangent);
-    void ReadValues(const cbr::LoadScale& scale, int mould, const cbr::MouldTask& task);
+    void DrawCurve(const cbr::LoadScale& scale, const cbr::MoldTask& task);
+    void ShiftZero(int mold, const cbr::TangentPoint& tangent);
+    void DrawTangent(const cbr::LoadScale& scale, int mold, const cbr::TangentPoint& tangent);
+    void ReadValues(const cbr::LoadScale& scale, int mold, const cbr::MoldTask& task);
     void MarkStress(const cbr::LoadScale& scale, double penetration, double stress);
-    void DrawLabelled(int mould, bool pullsCurveUp);
-    void PostSingleMould();
+    void DrawLabelled(int mold, bool pullsCurveUp);
+    void PostSingleMold();
 
     void FitDensityCurve(cbr::result::Row row);
     double RatioAt(double density) const;

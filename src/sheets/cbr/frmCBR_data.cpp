@@ -53,8 +53,8 @@ void frmCBR::cmdCal_Click()
 
 void frmCBR::Calculate()
 {
-    for (const int first : {1, 1 + kMoulds}) WaterContents(first);
-    for (const int first : {1, 1 + kMoulds}) Densities(first);
+    for (const int first : {1, 1 + kMolds}) WaterContents(first);
+    for (const int first : {1, 1 + kMolds}) Densities(first);
     if (optBoth.Value()) TakeBothConditions();
     if (optSoak.Value() || optBoth.Value()) Swelling();
     LoadsAndStresses();
@@ -64,7 +64,7 @@ void frmCBR::Calculate()
 /// The three cans of one condition, up to the first without a number.
 void frmCBR::WaterContents(int firstColumn)
 {
-    for (int column = firstColumn; column < firstColumn + kMoulds; ++column) {
+    for (int column = firstColumn; column < firstColumn + kMolds; ++column) {
         const auto value = [&](water::Row row) { return Val(MSHWater(row, column)); };
         if (IsEmpty(MSHWater(water::CanNumber, column))) return;
         const double wetLoss = value(water::WetAndCan) - value(water::DryAndCan);
@@ -73,15 +73,15 @@ void frmCBR::WaterContents(int firstColumn)
     }
 }
 
-/// The three moulds of one condition, up to the first without blows. The later condition overwrites the earlier one's
+/// The three molds of one condition, up to the first without blows. The later condition overwrites the earlier one's
 /// densities in mshLPC.
 void frmCBR::Densities(int firstColumn)
 {
-    for (int mould = 1; mould <= kMoulds; ++mould) {
-        const int column = firstColumn + mould - 1;
+    for (int mold = 1; mold <= kMolds; ++mold) {
+        const int column = firstColumn + mold - 1;
         if (IsEmpty(MSHCompaction(density::Blows, column))) return;
         DensityOf(column);
-        mshLPC(result::DryDensity, mould) = MSHCompaction(density::DryDensity, column);
+        mshLPC(result::DryDensity, mold) = MSHCompaction(density::DryDensity, column);
     }
 }
 
@@ -91,17 +91,17 @@ void frmCBR::DensityOf(int column)
     const auto value = [&](density::Row row) { return Val(cell(row)); };
     const double diameter = value(density::Diameter);
     const double volume = 4 * std::atan(1.0) * diameter * diameter / 4 * value(density::Height);
-    const double soil = value(density::MouldAndSoil) - value(density::JustMould);
+    const double soil = value(density::MoldAndSoil) - value(density::JustMold);
     cell(density::WetDensity) = Format(Divide(soil, volume), kTwoDecimals);
     const double water = Val(MSHWater(water::WaterContent, column));
     cell(density::DryDensity) = Format(Divide(value(density::WetDensity), 1 + water / 100), kTwoDecimals);
 }
 
-/// Of a test of both conditions only the first mould of each goes on.
+/// Of a test of both conditions only the first mold of each goes on.
 void frmCBR::TakeBothConditions()
 {
     mshLPC(result::DryDensity, 1) = MSHCompaction(density::DryDensity, 1);
-    mshLPC(result::DryDensity, 2) = MSHCompaction(density::DryDensity, 1 + kMoulds);
+    mshLPC(result::DryDensity, 2) = MSHCompaction(density::DryDensity, 1 + kMolds);
 }
 
 void frmCBR::Swelling()
@@ -112,7 +112,7 @@ void frmCBR::Swelling()
     }
 }
 
-/// Hours by the calendar and the typed hours of the day; swelling in percent of the mould's height.
+/// Hours by the calendar and the typed hours of the day; swelling in percent of the mold's height.
 void frmCBR::SwellingOf(int row)
 {
     const auto date = [&](int at) { return ParseDate(MSHSwell(at, swell::Date)); };
@@ -120,10 +120,10 @@ void frmCBR::SwellingOf(int row)
     const double days = static_cast<double>(HoursBetween(date(swell::First), date(row)));
     const double hours = Int(value(row, swell::Time) - value(swell::First, swell::Time));
     MSHSwell(row, swell::Elapsed) = NumberText(days + hours);
-    for (int mould = 1; mould <= kMoulds; ++mould) {
-        const double height = Val(MSHCompaction(density::Height, mould));
+    for (int mold = 1; mold <= kMolds; ++mold) {
+        const double height = Val(MSHCompaction(density::Height, mold));
         if (height == 0) continue;
-        const int dial = swell::Dial(mould);
+        const int dial = swell::Dial(mold);
         const double rise = value(row, dial) - value(swell::First, dial);
         MSHSwell(row, dial + 1) = Format(rise / height * kMillimetres, kTwoDecimals);
         MSHSwell(swell::First, dial + 1) = "0.00";
@@ -135,12 +135,12 @@ void frmCBR::LoadsAndStresses()
 {
     const double constant = Val(txtK.Text());
     for (int row = 0; row < MSHPenetrate1.Rows(); ++row) {
-        for (int mould = 1; mould <= kMoulds; ++mould) {
-            const auto dial = MSHPenetrate1(row, penetration::Dial(mould));
-            const auto load = MSHPenetrate1(row, penetration::Load(mould));
+        for (int mold = 1; mold <= kMolds; ++mold) {
+            const auto dial = MSHPenetrate1(row, penetration::Dial(mold));
+            const auto load = MSHPenetrate1(row, penetration::Load(mold));
             if (IsEmpty(dial)) continue;
-            MSHPenetrate1(row, penetration::Load(mould)) = Format(constant * Val(dial), kOneDecimal);
-            MSHPenetrate1(row, penetration::Stress(mould)) = Format(Val(load) / kPistonArea, kTwoDecimals);
+            MSHPenetrate1(row, penetration::Load(mold)) = Format(constant * Val(dial), kOneDecimal);
+            MSHPenetrate1(row, penetration::Stress(mold)) = Format(Val(load) / kPistonArea, kTwoDecimals);
         }
     }
 }

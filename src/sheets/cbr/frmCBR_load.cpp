@@ -1,4 +1,4 @@
-// Load-Penetration Curve: the polynomial of each mould through the origin, the correction of a curve that starts
+// Load-Penetration Curve: the polynomial of each mold through the origin, the correction of a curve that starts
 // concave upward, the bearing ratios at 0.1 in and 0.2 in.
 #include <algorithm>
 
@@ -30,7 +30,7 @@ constexpr std::array kStandards{
     Standard{result::At02, 0.2, 1500},
 };
 
-constexpr MouldTask kAllMoulds{.pullsCurveUp = true, .alwaysShifts = false, .writesZero = false};
+constexpr MoldTask kAllMolds{.pullsCurveUp = true, .alwaysShifts = false, .writesZero = false};
 
 double At(double steps)
 {
@@ -46,10 +46,10 @@ void frmCBR::cmdLPen_Click()
     const LoadScale scale = ScaleOfLoads();
     DrawLoadAxes(scale);
     MarkReadings(scale);
-    for (int mould = 1; mould <= kMoulds; ++mould) DoMould(mould, kAllMoulds);
-    const auto hasDensity = [this](int mould) { return !Trim(mshLPC(result::DryDensity, mould)).empty(); };
+    for (int mold = 1; mold <= kMolds; ++mold) DoMold(mold, kAllMolds);
+    const auto hasDensity = [this](int mold) { return !Trim(mshLPC(result::DryDensity, mold)).empty(); };
     if (hasDensity(2) && hasDensity(3)) SSTData.SetTabEnabled(kValueTab, true);
-    if (!SSTData.TabEnabled(kValueTab)) PostSingleMould();
+    if (!SSTData.TabEnabled(kValueTab)) PostSingleMold();
     cmdView.SetEnabled(true);
     cmdCBR.SetEnabled(true);
 }
@@ -59,7 +59,7 @@ void frmCBR::lblMold1_Click()
     DrawLabelled(1, true);
 }
 
-/// The second and third mould's curve may go below the axis where it is drawn by itself.
+/// The second and third mold's curve may go below the axis where it is drawn by itself.
 void frmCBR::lblMold2_Click()
 {
     DrawLabelled(2, false);
@@ -70,34 +70,34 @@ void frmCBR::lblMold3_Click()
     DrawLabelled(3, false);
 }
 
-/// One mould on top of what stands on the plot.
-void frmCBR::DrawLabelled(int mould, bool pullsCurveUp)
+/// One mold on top of what stands on the plot.
+void frmCBR::DrawLabelled(int mold, bool pullsCurveUp)
 {
     const ShownAtEnd frameShown{picGraph}, plotShown{picgraph1};
     DropSpareRow();
-    DoMould(mould, {.pullsCurveUp = pullsCurveUp, .alwaysShifts = true, .writesZero = true});
+    DoMold(mold, {.pullsCurveUp = pullsCurveUp, .alwaysShifts = true, .writesZero = true});
 }
 
-void frmCBR::DoMould(int mould, const MouldTask& task)
+void frmCBR::DoMold(int mold, const MoldTask& task)
 {
-    FitMold = mould;
+    FitMold = mold;
     FitPenetrationCurve();
     const LoadScale scale = ScaleOfLoads();
     DrawCurve(scale, task);
     const TangentPoint tangent = ScanCurve();
-    if (task.alwaysShifts || IsTicked(mould)) {
-        ShiftZero(mould, tangent);
-        DrawTangent(scale, mould, tangent);
+    if (task.alwaysShifts || IsTicked(mold)) {
+        ShiftZero(mold, tangent);
+        DrawTangent(scale, mold, tangent);
     }
-    ReadValues(scale, mould, task);
+    ReadValues(scale, mold, task);
 }
 
-Curve frmCBR::CurveOf(int mould) const
+Curve frmCBR::CurveOf(int mold) const
 {
     Curve curve;
     for (int row = 0; row < MSHPenetrate1.Rows(); ++row) {
         curve.penetration.push_back(Val(MSHPenetrate1(row, penetration::Depth)));
-        curve.stress.push_back(Val(MSHPenetrate1(row, penetration::Stress(mould))));
+        curve.stress.push_back(Val(MSHPenetrate1(row, penetration::Stress(mold))));
     }
     return curve;
 }
@@ -107,9 +107,9 @@ double frmCBR::LastPenetration() const
     return Val(MSHPenetrate1(MSHPenetrate1.Rows() - 1, penetration::Depth));
 }
 
-bool frmCBR::IsTicked(int mould) const
+bool frmCBR::IsTicked(int mold) const
 {
-    return (mould == 1 ? chkMold1 : mould == 2 ? chkMold2 : chkMold3).Value();
+    return (mold == 1 ? chkMold1 : mold == 2 ? chkMold2 : chkMold3).Value();
 }
 
 void frmCBR::FitPenetrationCurve()
@@ -142,27 +142,27 @@ TangentPoint frmCBR::ScanCurve() const
 }
 
 /// Where the tangent meets the axis. A slope that never rises leaves no tangent, and the quotient fails.
-void frmCBR::ShiftZero(int mould, const TangentPoint& tangent)
+void frmCBR::ShiftZero(int mold, const TangentPoint& tangent)
 {
     const double origin = tangent.x - Divide(tangent.y, tangent.slope);
-    ZeroShift[static_cast<std::size_t>(mould - 1)] = std::max(origin, 0.0);
+    ZeroShift[static_cast<std::size_t>(mold - 1)] = std::max(origin, 0.0);
 }
 
 /// The tick alone decides whether the readings start at the shifted zero.
-void frmCBR::ReadValues(const LoadScale& scale, int mould, const MouldTask& task)
+void frmCBR::ReadValues(const LoadScale& scale, int mold, const MoldTask& task)
 {
-    const double origin = IsTicked(mould) ? ZeroShift[static_cast<std::size_t>(mould - 1)] : 0;
+    const double origin = IsTicked(mold) ? ZeroShift[static_cast<std::size_t>(mold - 1)] : 0;
     for (const Standard& standard : kStandards) {
         const double x = origin + standard.penetration;
         const double stress = Stress(x);
         if (stress == 0 && !task.writesZero) continue;
         MarkStress(scale, x, stress);
-        mshLPC(standard.row, mould) = Format(stress / standard.stress * 100, kOneDecimal);
+        mshLPC(standard.row, mold) = Format(stress / standard.stress * 100, kOneDecimal);
     }
 }
 
 /// The ratio at 0.1 in holds unless that at 0.2 in is higher.
-void frmCBR::PostSingleMould()
+void frmCBR::PostSingleMold()
 {
     const std::string at01 = mshLPC(result::At01, 1).Text(), at02 = mshLPC(result::At02, 1).Text();
     const std::string CBRValue = Val(at01) >= Val(at02) ? at01 : at02;

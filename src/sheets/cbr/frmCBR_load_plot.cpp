@@ -33,9 +33,9 @@ constexpr std::array kStressSteps{
 constexpr AxisTitles kAxes{"Penetration, in", "Resistance of Penetration, lb/in^2", kSmallAxisSize, kTitleLeft};
 
 constexpr std::array kKey{
-    KeyEntry{Mark::OpenCircle, kMouldNames[0]},
-    KeyEntry{Mark::FilledCircle, kMouldNames[1]},
-    KeyEntry{Mark::Square, kMouldNames[2]},
+    KeyEntry{Mark::OpenCircle, kMoldNames[0]},
+    KeyEntry{Mark::FilledCircle, kMoldNames[1]},
+    KeyEntry{Mark::Square, kMoldNames[2]},
 };
 
 }  // namespace
@@ -43,8 +43,8 @@ constexpr std::array kKey{
 LoadScale frmCBR::ScaleOfLoads() const
 {
     double greatest = 0;
-    for (int mould = 1; mould <= kMoulds; ++mould) {
-        for (const double stress : CurveOf(mould).stress) greatest = std::max(greatest, stress);
+    for (int mold = 1; mold <= kMolds; ++mold) {
+        for (const double stress : CurveOf(mold).stress) greatest = std::max(greatest, stress);
     }
     LoadScale scale{};
     scale.divisions = LastPenetration() / kTickDistance + 1;
@@ -84,17 +84,17 @@ void frmCBR::MarkReadings(const LoadScale& scale)
 {
     for (int row = 0; row < MSHPenetrate1.Rows(); ++row) {
         const double x = scale.X(Val(MSHPenetrate1(row, penetration::Depth)));
-        for (int mould = 1; mould <= kMoulds; ++mould) {
-            const auto stress = MSHPenetrate1(row, penetration::Stress(mould));
+        for (int mold = 1; mold <= kMolds; ++mold) {
+            const auto stress = MSHPenetrate1(row, penetration::Stress(mold));
             if (Trim(stress).empty()) continue;
-            DrawMark(picgraph1, kKey[static_cast<std::size_t>(mould - 1)].mark, x, scale.Y(Val(stress)));
+            DrawMark(picgraph1, kKey[static_cast<std::size_t>(mold - 1)].mark, x, scale.Y(Val(stress)));
         }
     }
 }
 
-/// From the third thousandth of an inch on, joined wherever an end is the next beginning. A mould without readings has
+/// From the third thousandth of an inch on, joined wherever an end is the next beginning. A mold without readings has
 /// no curve; its zero coefficients would draw along the axis.
-void frmCBR::DrawCurve(const LoadScale& scale, const MouldTask& task)
+void frmCBR::DrawCurve(const LoadScale& scale, const MoldTask& task)
 {
     const double steps = Int(LastPenetration() / kScanStep);
     RefuseEndless(steps);
@@ -115,14 +115,14 @@ void frmCBR::DrawCurve(const LoadScale& scale, const MouldTask& task)
     picgraph1.Polyline(run, kRed);
 }
 
-void frmCBR::DrawTangent(const LoadScale& scale, int mould, const TangentPoint& tangent)
+void frmCBR::DrawTangent(const LoadScale& scale, int mold, const TangentPoint& tangent)
 {
-    const double origin = ZeroShift[static_cast<std::size_t>(mould - 1)];
+    const double origin = ZeroShift[static_cast<std::size_t>(mold - 1)];
     const double rise = Divide(kTangentLength * tangent.y, tangent.x - origin);
     picgraph1.Line(scale.X(origin), scale.Y(0), scale.X(origin + kTangentLength), scale.Y(rise), kTangentColour);
 }
 
-/// Guides, a small square on the curve and the stress beside it: below the point for the first mould, level with it for
+/// Guides, a small square on the curve and the stress beside it: below the point for the first mold, level with it for
 /// the second, above it for the third, since their curves run close together.
 void frmCBR::MarkStress(const LoadScale& scale, double penetration, double stress)
 {

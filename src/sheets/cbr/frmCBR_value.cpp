@@ -108,9 +108,9 @@ void frmCBR::FitDensityCurve02()
 void frmCBR::FitDensityCurve(result::Row row)
 {
     std::vector<double> density, ratio;
-    for (int mould = 1; mould <= kMoulds; ++mould) {
-        density.push_back(Val(mshLPC(result::DryDensity, mould)));
-        ratio.push_back(Val(mshLPC(row, mould)));
+    for (int mold = 1; mold <= kMolds; ++mold) {
+        density.push_back(Val(mshLPC(result::DryDensity, mold)));
+        ratio.push_back(Val(mshLPC(row, mold)));
     }
     std::ranges::copy(FitPowers(density, ratio, 0, 2), DensityCoef.begin());
     DensityR2 = Determination(density, ratio, DensityCoef);
@@ -125,11 +125,11 @@ double frmCBR::RatioAt(double density) const
 DensityScale frmCBR::ScaleOfDensities() const
 {
     double greatest = 0, lowest = Val(mshLPC(result::DryDensity, 1)), highest = lowest;
-    for (int mould = 1; mould <= kMoulds; ++mould) {
-        const double density = Val(mshLPC(result::DryDensity, mould));
+    for (int mold = 1; mold <= kMolds; ++mold) {
+        const double density = Val(mshLPC(result::DryDensity, mold));
         lowest = std::min(lowest, density);
         highest = std::max(highest, density);
-        for (const RatioCurve& curve : kCurves) greatest = std::max(greatest, Val(mshLPC(curve.row, mould)));
+        for (const RatioCurve& curve : kCurves) greatest = std::max(greatest, Val(mshLPC(curve.row, mold)));
     }
     const RisingAxis ratio = AxisFor(greatest, kRatioSteps, picGraph3.ScaleHeight - kBoxMargin);
     return {picGraph3.ScaleWidth - kBoxMargin, Cut(lowest), Cut(highest) + kDensityTick, ratio};
@@ -164,18 +164,18 @@ void frmCBR::DrawDensityTicks(const DensityScale& scale)
     }
 }
 
-/// The points of a row, none for a mould without a ratio, and the parabola through all three, from the first mould's
+/// The points of a row, none for a mold without a ratio, and the parabola through all three, from the first mold's
 /// density to the third's.
 void frmCBR::DrawRatios(const DensityScale& scale, result::Row row)
 {
     const auto curve = std::ranges::find(kCurves, row, &RatioCurve::row);
-    const auto density = [this](int mould) { return Val(mshLPC(result::DryDensity, mould)); };
-    for (int mould = 1; mould <= kMoulds; ++mould) {
-        const auto ratio = mshLPC(row, mould);
-        if (!Trim(ratio).empty()) DrawMark(picGraph3, curve->mark, scale.X(density(mould)), scale.Y(Val(ratio)));
+    const auto density = [this](int mold) { return Val(mshLPC(result::DryDensity, mold)); };
+    for (int mold = 1; mold <= kMolds; ++mold) {
+        const auto ratio = mshLPC(row, mold);
+        if (!Trim(ratio).empty()) DrawMark(picGraph3, curve->mark, scale.X(density(mold)), scale.Y(Val(ratio)));
     }
     row == result::At01 ? FitDensityCurve01() : FitDensityCurve02();
-    const double steps = (density(kMoulds) - density(1)) / kDensityStep;
+    const double steps = (density(kMolds) - density(1)) / kDensityStep;
     RefuseEndless(steps);
     std::vector<DrawnPoint> points;
     for (int k = 0; k <= steps; ++k) {

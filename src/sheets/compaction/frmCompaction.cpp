@@ -21,11 +21,11 @@ constexpr std::array<std::string_view, 9> kWay{"txtClient", "txtID",   "txtProje
                                                "txtHeight", "txtSoil", "cboTest",    "cboCheck"};
 constexpr std::array<std::string_view, 4> kHammerWay{"cboWt", "cboBlow", "cboLayer", "txtProject"};
 
-/// The same mould serves trial after trial: a ditto mark takes the mass from the trial before.
-CommitRule CommitMould(TextGrid& grid)
+/// The same mold serves trial after trial: a ditto mark takes the mass from the trial before.
+CommitRule CommitMold(TextGrid& grid)
 {
     return [&grid](int row, int column, const std::string& text) {
-        const bool isDitto = row == density::Mould && column > 1 && text == kDitto;
+        const bool isDitto = row == density::Mold && column > 1 && text == kDitto;
         return isDitto ? grid(row, column - 1).Text() : text;
     };
 }
@@ -36,7 +36,7 @@ frmCompaction::frmCompaction(Program& owner)
     : TestSheet(owner, laboratory::kCompactionSheet),
       txtData(*this, "txtData", MSHWt, TypedCellsOf(laboratory::kCompactionWater),
               CommitThroughMasks(laboratory::kCompactionWater)),
-      txtData1(*this, "txtData1", MSHDensity, TypedCellsOf(laboratory::kCompactionDensity), CommitMould(MSHDensity))
+      txtData1(*this, "txtData1", MSHDensity, TypedCellsOf(laboratory::kCompactionDensity), CommitMold(MSHDensity))
 {
     MSH2.SetVisible(false);
     MSH3.SetVisible(false);

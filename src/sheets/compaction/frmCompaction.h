@@ -1,6 +1,6 @@
-/// The compaction sheet: trials of one sample at rising water contents, in a mould, and the curve through
+/// The compaction sheet: trials of one sample at rising water contents, in a mold, and the curve through
 /// them, whose top is the optimum moisture content and the maximum dry density. Standard and modified test,
-/// soil and crushed rock differ in the table that is loaded, in nothing else: mould, hammer, layers and blows
+/// soil and crushed rock differ in the table that is loaded, in nothing else: mold, hammer, layers and blows
 /// are whatever was used.
 #pragma once
 
@@ -51,8 +51,8 @@ struct CompactionScale {
 struct frmCompaction : TestSheet {
     explicit frmCompaction(Program& program);
 
-    TextBox txtDia{*this, laboratory::kMouldDiameter};
-    TextBox txtHeight{*this, laboratory::kMouldHeight};
+    TextBox txtDia{*this, laboratory::kMoldDiameter};
+    TextBox txtHeight{*this, laboratory::kMoldHeight};
     ComboBox cboWt{*this, laboratory::kHammer, {"2.5 kg", "4.5 kg"}};
     ComboBox cboBlow{*this, laboratory::kBlows, {"25", "56"}};
     ComboBox cboLayer{*this, laboratory::kLayers, {"3", "5"}};
@@ -100,7 +100,7 @@ struct frmCompaction : TestSheet {
     void Form_Load() override;
 
     /// Calculate: water contents and densities, each stage from the rounded text of the one before. Masses in
-    /// g, mould in cm, densities in g/cm³. Error 11 or 6 where the mould has no volume; the cells before it
+    /// g, mold in cm, densities in g/cm³. Error 11 or 6 where the mold has no volume; the cells before it
     /// stand.
     void cmdCal_Click() override;
     /// Compaction Curve: points, curve, peak, plot and posting. Fails where it stands, with the picture half
@@ -122,7 +122,7 @@ struct frmCompaction : TestSheet {
     void BlankCalculatedRows();
     void WaterContentOf(int trial);
     void DensityOf(int trial);
-    double MouldVolume() const;
+    double MoldVolume() const;
     void EraseTrial(int trial);
 
     void FillPoints();

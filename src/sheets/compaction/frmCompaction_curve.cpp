@@ -20,12 +20,12 @@ constexpr int kQuarticFrom = 5;  // points; fewer take a cubic
 
 }  // namespace
 
-/// The first trial without a mould ends the data. The trials keep their order: the technician types them in
+/// The first trial without a mold ends the data. The trials keep their order: the technician types them in
 /// the order of rising water content.
 void frmCompaction::FillPoints()
 {
     int end = 1;
-    while (end < MSHDensity.Columns() && Val(MSHDensity(density::Mould, end)) != 0) ++end;
+    while (end < MSHDensity.Columns() && Val(MSHDensity(density::Mold, end)) != 0) ++end;
     MSHData.SetRows(end);
     for (int trial = 1; trial < end; ++trial) {
         MSHData(trial, 0) = MSHDensity(density::WaterContent, trial);

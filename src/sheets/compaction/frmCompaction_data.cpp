@@ -53,17 +53,17 @@ void frmCompaction::DensityOf(int trial)
 {
     const auto cell = [&](density::Row row) { return MSHDensity(row, trial); };
     const auto value = [&](density::Row row) { return Val(cell(row)); };
-    if (value(density::Mould) == 0) return;  // no mould weighed, no trial in this column
+    if (value(density::Mold) == 0) return;  // no mold weighed, no trial in this column
 
     cell(density::WaterContent) = Format(Val(MSHWt(water::WaterContent, trial)), kTwoDecimals);
-    cell(density::WetSoil) = Format(value(density::WetAndMould) - value(density::Mould), kTwoDecimals);
-    cell(density::WetDensity) = Format(Divide(value(density::WetSoil), MouldVolume()), kTwoDecimals);
+    cell(density::WetSoil) = Format(value(density::WetAndMold) - value(density::Mold), kTwoDecimals);
+    cell(density::WetDensity) = Format(Divide(value(density::WetSoil), MoldVolume()), kTwoDecimals);
     cell(density::DryDensity) =
         Format(Divide(value(density::WetDensity), 1 + value(density::WaterContent) / 100), kTwoDecimals);
 }
 
-/// cm³, of a mould in cm; pi from the arctangent.
-double frmCompaction::MouldVolume() const
+/// cm³, of a mold in cm; pi from the arctangent.
+double frmCompaction::MoldVolume() const
 {
     const double height = Val(txtHeight.Text()), diameter = Val(txtDia.Text());
     return height * 4 * std::atan(1.0) * (diameter * diameter) / 4;

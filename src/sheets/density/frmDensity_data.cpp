@@ -63,7 +63,7 @@ void frmDensity::SandDensity()
         const auto value = [&](sand::Row row) { return Val(MSHDsand(row, column)); };
         const double diameter = value(sand::Diameter);
         if (diameter == 0) continue;
-        MSHDsand(sand::Sand, column) = NumberText(value(sand::MouldAndSand) - value(sand::Mould));
+        MSHDsand(sand::Sand, column) = NumberText(value(sand::MoldAndSand) - value(sand::Mold));
         MSHDsand(sand::Volume, column) = Format(kPi * (diameter * diameter) / 4 * value(sand::Height), kTwoDecimals);
         average.Add(column, Divide(value(sand::Sand), value(sand::Volume)));
     }

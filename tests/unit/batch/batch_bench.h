@@ -69,12 +69,12 @@ struct BatchBench {
     }
 };
 
-/// One trial of a compaction: water content in percent from 100 g of dry soil, wet soil in g in a mould of 1000 cm³.
+/// One trial of a compaction: water content in percent from 100 g of dry soil, wet soil in g in a mold of 1000 cm³.
 struct PlainTrial {
     int water, wetSoil;
 };
 
-/// A mould of 10 cm by 12.7324 cm holds 1000.0 cm³, so that grams are thousandths of the density. Dry densities under
+/// A mold of 10 cm by 12.7324 cm holds 1000.0 cm³, so that grams are thousandths of the density. Dry densities under
 /// the sheet's two decimals: 2050 g at 8 % is 2.05 / 1.08 = 1.90, 2200 g at 10 % 2.00, 2130 g at 12 % 1.90. The spline
 /// through three points that mirror each other has its top at the middle one: 2.00 at 10.0 %.
 inline const std::vector<PlainTrial> kTopAt200{{8, 2050}, {10, 2200}, {12, 2130}};
@@ -105,7 +105,7 @@ inline void PutPeak(BatchBench& bench, const std::string& omc, const std::string
     bench.Put("SUMMARY", "sum_mddS", 1, mdd);
 }
 
-/// One hole of 2.00 g/cm³: 1500 g of sand in the cone; 1400 g of sand fill the calibration mould of 1000 cm³, so 1.40
+/// One hole of 2.00 g/cm³: 1500 g of sand in the cone; 1400 g of sand fill the calibration mold of 1000 cm³, so 1.40
 /// g/cm³; 6000 - 3100 - 1500 = 1400 g fill the hole, so 1000 cm³; 2200 g of wet soil came out of it, 2.20 g/cm³; 20 g
 /// of water in 200 g of dry soil are 10 %, so 2.00 g/cm³ dry. Against an MDD of 2.00 that is 100 %, against 2.50 it is
 /// 80 %.

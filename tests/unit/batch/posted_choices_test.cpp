@@ -24,7 +24,7 @@ TEST(PossibleChoices, BeginWithTheSheetsOwn)
     }
 }
 
-// Two curves; the polygon or the spline; four models; and the ratio's own choice besides three moulds corrected or not,
+// Two curves; the polygon or the spline; four models; and the ratio's own choice besides three molds corrected or not,
 // four shares and two compaction tests: 1 + 8 * 4 * 2.
 TEST(PossibleChoices, AreAllThatATechnicianCouldHaveMadeUnderACheck)
 {

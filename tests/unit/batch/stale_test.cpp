@@ -71,7 +71,7 @@ TEST(Stale, APostedResultWithoutReadingsIsTold)
                                        "result now: it has no saved readings"});
 }
 
-// A mould without a height has no volume.
+// A mold without a height has no volume.
 TEST(Stale, APostedResultWhoseReadingsFailIsToldWithTheFailure)
 {
     StaleJob job;

@@ -122,10 +122,10 @@ TEST(Grids, KnowWhichLinesAreTyped)
     EXPECT_EQ(trials.LastTyped(), 6);
     EXPECT_FALSE(trials.IsTyped(2));
     EXPECT_FALSE(trials.IsTyped(0)) << "a head";
-    const Grid& moulds = Describe(terravane::Test::CBRSoil).sheet.TheGrid("MSHCompaction");
-    EXPECT_EQ(moulds.FirstTyped(), 2) << "behind the two heads";
-    EXPECT_EQ(moulds.Rows(), 9);
-    EXPECT_EQ(moulds.Columns(), 7);
+    const Grid& molds = Describe(terravane::Test::CBRSoil).sheet.TheGrid("MSHCompaction");
+    EXPECT_EQ(molds.FirstTyped(), 2) << "behind the two heads";
+    EXPECT_EQ(molds.Rows(), 9);
+    EXPECT_EQ(molds.Columns(), 7);
 }
 
 }  // namespace

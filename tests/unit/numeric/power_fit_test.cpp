@@ -129,7 +129,7 @@ TEST(FitPowers, AgreesWithAnOrthogonalMethodOnTheUsualIntervals)
     }
 }
 
-// The sums over densities are nearly dependent: 8e-11 percent between the methods for three moulds as they are usually
+// The sums over densities are nearly dependent: 8e-11 percent between the methods for three molds as they are usually
 // compacted.
 TEST(FitPowers, ParabolaOfThreeDensitiesGoesThroughThem)
 {

@@ -23,11 +23,11 @@ struct CbrCalculate : testing::Test {
     std::string WetRow() const { return CellsOf(sheet.MSHCompaction, cbr::density::WetDensity, 1, 6); }
 };
 
-// 12.1 g of water in 100 g of soil is 12.10 %. The mould holds π/4·15.24²·11.64 = 2123.30 cm³: 4165/2123.30 = 1.9616,
+// 12.1 g of water in 100 g of soil is 12.10 %. The mold holds π/4·15.24²·11.64 = 2123.30 cm³: 4165/2123.30 = 1.9616,
 // shown 1.96; 1.96/1.121 = 1.7484, shown 1.75. From the unrounded wet density it would be 1.7498.
-TEST_F(CbrCalculate, ReducesThreeMouldsBeforeAndAfterSoaking)
+TEST_F(CbrCalculate, ReducesThreeMoldsBeforeAndAfterSoaking)
 {
-    TypeThreeMoulds(sheet);
+    TypeThreeMolds(sheet);
     sheet.cmdCal.Press();
     EXPECT_EQ(WaterRow(), "12.10|12.00|11.90|18.40|16.90|15.20");
     EXPECT_EQ(WetRow(), "1.96|2.05|2.15|2.07|2.14|2.21");
@@ -37,11 +37,11 @@ TEST_F(CbrCalculate, ReducesThreeMouldsBeforeAndAfterSoaking)
     EXPECT_TRUE(lab.ask.errors.empty());
 }
 
-// A published mould: 2.51 g of water in 22.63 g of soil, 4937 g in 2244.28 cm³; published 11.09 %, 1.98 g/cm³.
-TEST_F(CbrCalculate, AgreesWithAPublishedMould)
+// A published mold: 2.51 g of water in 22.63 g of soil, 4937 g in 2244.28 cm³; published 11.09 %, 1.98 g/cm³.
+TEST_F(CbrCalculate, AgreesWithAPublishedMold)
 {
     TypeCan(sheet, 1, {"223", "33.57", "31.06", "8.43"});
-    TypeMould(sheet, 1, {"56/5", "15", "12.7", "18610", "13673"});
+    TypeMold(sheet, 1, {"56/5", "15", "12.7", "18610", "13673"});
     sheet.cmdCal.Press();
     EXPECT_EQ(WaterRow(), "11.09|||||");
     EXPECT_EQ(WetRow(), "2.20|||||");
@@ -53,7 +53,7 @@ TEST_F(CbrCalculate, AgreesWithAPublishedMould)
 TEST_F(CbrCalculate, DryDensityComesFromTheWetDensityAsShown)
 {
     TypeCan(sheet, 1, {"1", "131", "120", "20"});
-    TypeMould(sheet, 1, {"56/5", "20", "3.183098862", "9204.9", "7000"});
+    TypeMold(sheet, 1, {"56/5", "20", "3.183098862", "9204.9", "7000"});
     sheet.cmdCal.Press();
     EXPECT_EQ(WetRow(), "2.20|||||");
     EXPECT_EQ(DryRow(), "1.98|||||");
@@ -77,9 +77,9 @@ TEST_F(CbrCalculate, ABlankInColumnTwoDoesNotStopColumnFour)
     TypeCan(sheet, 1, kCans[0]);
     TypeCan(sheet, 3, kCans[2]);
     TypeCan(sheet, 4, kCans[3]);
-    TypeMould(sheet, 1, kMouldColumns[0]);
-    TypeMould(sheet, 3, kMouldColumns[2]);
-    TypeMould(sheet, 4, kMouldColumns[3]);
+    TypeMold(sheet, 1, kMoldColumns[0]);
+    TypeMold(sheet, 3, kMoldColumns[2]);
+    TypeMold(sheet, 4, kMoldColumns[3]);
     sheet.cmdCal.Press();
     EXPECT_EQ(WaterRow(), "12.10|||18.40||");
     EXPECT_EQ(DryRow(), "1.75|||1.75||");
@@ -88,18 +88,18 @@ TEST_F(CbrCalculate, ABlankInColumnTwoDoesNotStopColumnFour)
 // Without water contents the dry density is the wet one: 1.96, 2.05; soaked 2.07.
 TEST_F(CbrCalculate, SoakedDensitiesOverwriteTheUnsoakedOnes)
 {
-    TypeMould(sheet, 1, kMouldColumns[0]);
-    TypeMould(sheet, 2, kMouldColumns[1]);
-    TypeMould(sheet, 4, kMouldColumns[3]);
+    TypeMold(sheet, 1, kMoldColumns[0]);
+    TypeMold(sheet, 2, kMoldColumns[1]);
+    TypeMold(sheet, 4, kMoldColumns[3]);
     sheet.cmdCal.Press();
     EXPECT_EQ(RatiosOf(sheet, DryDensity), "2.07|2.05|");
 }
 
-TEST_F(CbrCalculate, BothConditionsTakeTheFirstMouldOfEach)
+TEST_F(CbrCalculate, BothConditionsTakeTheFirstMoldOfEach)
 {
     sheet.optBoth.Choose();
     for (int column = 1; column <= 6; ++column)
-        TypeMould(sheet, column, kMouldColumns[static_cast<std::size_t>(column - 1)]);
+        TypeMold(sheet, column, kMoldColumns[static_cast<std::size_t>(column - 1)]);
     sheet.cmdCal.Press();
     EXPECT_EQ(RatiosOf(sheet, DryDensity), "1.96|2.07|2.21") << "The third is whatever the densities left there.";
 }
@@ -107,7 +107,7 @@ TEST_F(CbrCalculate, BothConditionsTakeTheFirstMouldOfEach)
 // 0.32 mm of 116.4 mm is 0.2749 %; 0.58 mm 0.4983 %. 02/03 to 06/03 is 96 hours.
 TEST_F(CbrCalculate, SwellingIsInPercentOfTheHeight)
 {
-    TypeThreeMoulds(sheet);
+    TypeThreeMolds(sheet);
     sheet.cmdCal.Press();
     EXPECT_EQ(CellsOf(sheet.MSHSwell, 3, 0, 8), "02/03/2009|9|0|1.0|0.00|2.0|0.00|1.5|0.00");
     EXPECT_EQ(CellsOf(sheet.MSHSwell, 4, 0, 8), "03/03/2009|9|24|1.32|0.27|2.22|0.19|1.63|0.11");
@@ -128,10 +128,10 @@ TEST_F(CbrCalculate, SwellingAcrossMidnightCountsDaysAndHours)
     EXPECT_EQ(sheet.MSHSwell(5, cbr::swell::Elapsed), "9") << "24 hours and the whole hours of -14.5, that is -15.";
 }
 
-TEST_F(CbrCalculate, AMouldWithoutHeightHasNoSwelling)
+TEST_F(CbrCalculate, AMoldWithoutHeightHasNoSwelling)
 {
     sheet.optSoak.Choose();
-    TypeMould(sheet, 2, {"", "", "11.64", "", ""});
+    TypeMold(sheet, 2, {"", "", "11.64", "", ""});
     TypeSwell(sheet, 3, kSwellRows[0]);
     TypeSwell(sheet, 4, kSwellRows[1]);
     sheet.cmdCal.Press();
@@ -142,7 +142,7 @@ TEST_F(CbrCalculate, AMouldWithoutHeightHasNoSwelling)
 TEST_F(CbrCalculate, OneSwellingReadingLeavesTheRecordAsItIs)
 {
     sheet.optSoak.Choose();
-    TypeMould(sheet, 1, kMouldColumns[0]);
+    TypeMold(sheet, 1, kMoldColumns[0]);
     TypeSwell(sheet, 3, kSwellRows[0]);
     sheet.cmdCal.Press();
     EXPECT_EQ(CellsOf(sheet.MSHSwell, 3, 2, 4), "   |1.0|") << "Only a later reading gives the first its zeros.";
@@ -150,7 +150,7 @@ TEST_F(CbrCalculate, OneSwellingReadingLeavesTheRecordAsItIs)
 
 TEST_F(CbrCalculate, SwellingStopsAtTheFirstRowWithoutADate)
 {
-    TypeThreeMoulds(sheet);
+    TypeThreeMolds(sheet);
     sheet.MSHSwell(5, cbr::swell::Date) = " ";
     sheet.cmdCal.Press();
     EXPECT_EQ(sheet.MSHSwell(4, cbr::swell::Elapsed), "24");
@@ -159,7 +159,7 @@ TEST_F(CbrCalculate, SwellingStopsAtTheFirstRowWithoutADate)
 
 TEST_F(CbrCalculate, UnsoakedComputesNoSwelling)
 {
-    TypeThreeMoulds(sheet);
+    TypeThreeMolds(sheet);
     sheet.optUnsoak.Choose();
     EXPECT_FALSE(sheet.MSHSwell.Enabled());
     sheet.cmdCal.Press();
@@ -170,7 +170,7 @@ TEST_F(CbrCalculate, UnsoakedComputesNoSwelling)
 // 15 div of 4.9958 lb are 74.937 lb, shown 74.9; on 3 in² 24.9667, shown 24.97. From the unrounded load it is 24.98.
 TEST_F(CbrCalculate, StressComesFromTheLoadAsShown)
 {
-    TypeThreeMoulds(sheet);
+    TypeThreeMolds(sheet);
     sheet.cmdCal.Press();
     EXPECT_EQ(CellsOf(sheet.MSHPenetrate1, 1, 0, 9), "0.0197|15|74.9|24.97|20|99.9|33.30|18|89.9|29.97");
     EXPECT_EQ(CellsOf(sheet.MSHPenetrate1, 11, 0, 9), "0.4921|67|334.7|111.57|70.2|350.7|116.90|79.4|396.7|132.23");
@@ -181,7 +181,7 @@ TEST_F(CbrCalculate, AnEmptyDialKeepsItsLoadAndStress)
     sheet.cmdPen.Press();
     TypeDials(sheet, 1, {"0", "10"});
     sheet.cmdCal.Press();
-    EXPECT_EQ(CellsOf(sheet.MSHPenetrate1, 1, 1, 6), "10|50.0|16.67|||") << "The second mould's cells stay empty.";
+    EXPECT_EQ(CellsOf(sheet.MSHPenetrate1, 1, 1, 6), "10|50.0|16.67|||") << "The second mold's cells stay empty.";
     sheet.MSHPenetrate1(1, pen::Dial(1)) = "  ";
     sheet.cmdCal.Press();
     EXPECT_EQ(CellsOf(sheet.MSHPenetrate1, 1, 1, 3), "  |50.0|16.67") << "What stood there stays.";
@@ -189,7 +189,7 @@ TEST_F(CbrCalculate, AnEmptyDialKeepsItsLoadAndStress)
 
 TEST_F(CbrCalculate, TwiceGivesTheSame)
 {
-    TypeThreeMoulds(sheet);
+    TypeThreeMolds(sheet);
     sheet.cmdCal.Press();
     const std::string dry = DryRow(), swelling = CellsOf(sheet.MSHSwell, 6, 0, 8);
     const std::string loads = CellsOf(sheet.MSHPenetrate1, 5, 0, 9);
@@ -201,7 +201,7 @@ TEST_F(CbrCalculate, TwiceGivesTheSame)
 
 TEST_F(CbrCalculate, WithoutARingConstantOnlyWarns)
 {
-    TypeThreeMoulds(sheet);
+    TypeThreeMolds(sheet);
     sheet.txtK.SetText("  ");
     sheet.cmdCal.Press();
     ASSERT_EQ(lab.ask.messages.size(), 1U);
@@ -214,7 +214,7 @@ TEST_F(CbrCalculate, WithoutARingConstantOnlyWarns)
 
 TEST_F(CbrCalculate, ARingConstantOfZeroMakesEveryLoadZero)
 {
-    TypeThreeMoulds(sheet);
+    TypeThreeMolds(sheet);
     sheet.txtK.Type("0");
     sheet.cmdCal.Press();
     EXPECT_TRUE(lab.ask.messages.empty());
@@ -242,20 +242,20 @@ TEST_F(CbrCalculate, ADryMassOfZeroEndsInTheSheetsOwnBox)
     EXPECT_TRUE(lab.ask.errors.empty()) << "The command traps its errors.";
 }
 
-TEST_F(CbrCalculate, AMouldWithoutADiameterEndsInTheSheetsOwnBox)
+TEST_F(CbrCalculate, AMoldWithoutADiameterEndsInTheSheetsOwnBox)
 {
-    TypeMould(sheet, 1, {"56/5", "", "11.64", "11165", "7000"});
+    TypeMold(sheet, 1, {"56/5", "", "11.64", "11165", "7000"});
     sheet.cmdCal.Press();
     EXPECT_EQ(WarnedOf(lab.ask), "Division by zero");
     lab.ask.messages.clear();
-    TypeMould(sheet, 1, {"56/5", "", "", "", ""});
+    TypeMold(sheet, 1, {"56/5", "", "", "", ""});
     sheet.cmdCal.Press();
     EXPECT_EQ(WarnedOf(lab.ask), "Overflow") << "0/0: neither soil nor volume.";
 }
 
 TEST_F(CbrCalculate, AWrongDateEndsInTheSheetsOwnBox)
 {
-    TypeThreeMoulds(sheet);
+    TypeThreeMolds(sheet);
     sheet.MSHSwell(5, cbr::swell::Date) = "31/02/2009";
     sheet.cmdCal.Press();
     EXPECT_EQ(WarnedOf(lab.ask), "Type mismatch");
@@ -265,7 +265,7 @@ TEST_F(CbrCalculate, AWrongDateEndsInTheSheetsOwnBox)
 
 TEST_F(CbrCalculate, AFirstReadingWithoutADateIsAWrongDate)
 {
-    TypeThreeMoulds(sheet);
+    TypeThreeMolds(sheet);
     sheet.MSHSwell(3, cbr::swell::Date) = "";
     sheet.cmdCal.Press();
     EXPECT_EQ(WarnedOf(lab.ask), "Type mismatch");

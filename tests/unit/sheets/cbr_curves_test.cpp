@@ -32,11 +32,11 @@ struct CbrCurves : testing::Test {
     void PutResults(const std::array<std::string_view, 3>& densities, const std::array<std::string_view, 3>& at01,
                     const std::array<std::string_view, 3>& at02)
     {
-        for (int mould = 1; mould <= 3; ++mould) {
-            const auto i = static_cast<std::size_t>(mould - 1);
-            sheet.mshLPC(cbr::result::DryDensity, mould) = densities[i];
-            sheet.mshLPC(At01, mould) = at01[i];
-            sheet.mshLPC(At02, mould) = at02[i];
+        for (int mold = 1; mold <= 3; ++mold) {
+            const auto i = static_cast<std::size_t>(mold - 1);
+            sheet.mshLPC(cbr::result::DryDensity, mold) = densities[i];
+            sheet.mshLPC(At01, mold) = at01[i];
+            sheet.mshLPC(At02, mold) = at02[i];
         }
         sheet.SSTData.SetTabEnabled(cbr::kValueTab, true);
         sheet.cmdCBR.SetEnabled(true);
@@ -46,23 +46,23 @@ struct CbrCurves : testing::Test {
 using CbrLoad = CbrCurves;
 using CbrValue = CbrCurves;
 
-TEST_F(CbrLoad, ThreeMouldsGiveTheirRatiosAndOpenTheLastTab)
+TEST_F(CbrLoad, ThreeMoldsGiveTheirRatiosAndOpenTheLastTab)
 {
-    TypeThreeMoulds(sheet);
+    TypeThreeMolds(sheet);
     EXPECT_FALSE(sheet.SSTData.TabEnabled(3));
     Draw();
     EXPECT_EQ(Ratios(), "6.1|7.3|8.0 5.4|5.9|7.0");
     EXPECT_TRUE(sheet.SSTData.TabEnabled(3));
     EXPECT_TRUE(sheet.cmdView.Enabled());
     EXPECT_TRUE(sheet.cmdCBR.Enabled());
-    EXPECT_EQ(lab.PostedRatios(), (std::vector<std::string>{"   ", "   "})) << "Three moulds post with the value.";
+    EXPECT_EQ(lab.PostedRatios(), (std::vector<std::string>{"   ", "   "})) << "Three molds post with the value.";
     EXPECT_TRUE(lab.ask.errors.empty());
 }
 
 // Published: 7.04 and 6.05 % from a curve drawn by hand; the piston and the standard stresses differ by 1 %.
-TEST_F(CbrLoad, ASingleMouldAgreesWithItsPublication)
+TEST_F(CbrLoad, ASingleMoldAgreesWithItsPublication)
 {
-    TypeSingleMould(sheet, kSandyDials);
+    TypeSingleMold(sheet, kSandyDials);
     Draw();
     EXPECT_EQ(Ratios(), "7.3|| 5.9||");
     EXPECT_NEAR(Val(sheet.mshLPC(At01, 1)), 7.04, 0.4);
@@ -74,7 +74,7 @@ TEST_F(CbrLoad, ASingleMouldAgreesWithItsPublication)
 // Published after the shift: 8.6 and 7.14 %. The tangent meets the axis at 0.00934 in.
 TEST_F(CbrLoad, TheTickShiftsTheZeroOfAConcaveCurve)
 {
-    TypeSingleMould(sheet, kConcaveDials);
+    TypeSingleMold(sheet, kConcaveDials);
     Draw();
     EXPECT_EQ(Ratios(), "6.8|| 7.2||");
     EXPECT_EQ(lab.PostedRatios().at(0), "7.2");
@@ -110,7 +110,7 @@ TEST_F(CbrLoad, TheTangentTouchesWhereTheSlopeStopsRising)
 
 TEST_F(CbrLoad, AZeroBelowTheOriginIsHeldThere)
 {
-    TypeSingleMould(sheet, kSandyDials);
+    TypeSingleMold(sheet, kSandyDials);
     sheet.chkMold1.SetValue(true);
     Draw();
     EXPECT_EQ(sheet.ZeroShift[0], 0) << "The steepest place is the beginning; its tangent would meet the axis below 0.";
@@ -120,7 +120,7 @@ TEST_F(CbrLoad, AZeroBelowTheOriginIsHeldThere)
 
 TEST_F(CbrLoad, AFirstReadingAboveZeroLeavesTheCurveAtTheOrigin)
 {
-    TypeSingleMould(sheet, kSandyDials);
+    TypeSingleMold(sheet, kSandyDials);
     TypeCell(sheet.txtData3, 0, pen::Dial(1), "25");
     Draw();
     EXPECT_EQ(Ratios(), "7.3|| 5.9||");
@@ -132,7 +132,7 @@ TEST_F(CbrLoad, AFirstReadingAboveZeroLeavesTheCurveAtTheOrigin)
 }
 
 // A straight line to 100 lb/in² at 0.2 in: 5.0 % at 0.1 in and 100/1500 = 6.7 % at 0.2 in.
-TEST_F(CbrLoad, TheHigherRatioOfASingleMouldIsPosted)
+TEST_F(CbrLoad, TheHigherRatioOfASingleMoldIsPosted)
 {
     sheet.cmdPen.Press();
     sheet.txtK.Type("10");
@@ -154,22 +154,22 @@ TEST_F(CbrLoad, EqualRatiosPostTheOneAtATenthOfAnInch)
     EXPECT_EQ(lab.PostedRatios().at(0), "10.0");
 }
 
-TEST_F(CbrLoad, AnEmptyMouldIsLeftOut)
+TEST_F(CbrLoad, AnEmptyMoldIsLeftOut)
 {
-    TypeThreeMoulds(sheet);
+    TypeThreeMolds(sheet);
     for (int row = 0; row < 12; ++row) sheet.MSHPenetrate1(row, pen::Dial(2)) = "";
     Draw();
     EXPECT_EQ(Ratios(), "6.1||8.0 5.4||7.0");
     EXPECT_TRUE(lab.ask.errors.empty());
     sheet.chkMold2.SetValue(true);
     sheet.cmdLPen.Press();
-    ASSERT_EQ(lab.ask.errors.size(), 1U) << "A mould without a curve has no tangent.";
+    ASSERT_EQ(lab.ask.errors.size(), 1U) << "A mold without a curve has no tangent.";
     EXPECT_EQ(lab.ask.errors[0].number, error::kOverflow);
 }
 
-TEST_F(CbrLoad, TheLabelOfAnEmptyMouldHasNoTangent)
+TEST_F(CbrLoad, TheLabelOfAnEmptyMoldHasNoTangent)
 {
-    TypeSingleMould(sheet, kSandyDials);
+    TypeSingleMold(sheet, kSandyDials);
     Draw();
     sheet.lblMold2.Press();
     ASSERT_EQ(lab.ask.errors.size(), 1U);
@@ -188,7 +188,7 @@ TEST_F(CbrLoad, AnEmptySheetIsZeroByZero)
 
 TEST_F(CbrLoad, ALastPenetrationOfZeroDrawsNoCurve)
 {
-    TypeSingleMould(sheet, kSandyDials);
+    TypeSingleMold(sheet, kSandyDials);
     Draw();
     TypeCell(sheet.txtData3, 11, 0, "0");
     sheet.cmdCal.Press();
@@ -203,16 +203,16 @@ TEST_F(CbrLoad, ALastPenetrationOfZeroDrawsNoCurve)
 
 TEST_F(CbrLoad, APenetrationThatIsASlipOfThePenIsRefused)
 {
-    TypeSingleMould(sheet, kSandyDials);
+    TypeSingleMold(sheet, kSandyDials);
     sheet.MSHPenetrate1(11, 0) = "49210000";
     Draw();
     ASSERT_EQ(lab.ask.errors.size(), 1U);
     EXPECT_EQ(lab.ask.errors[0].number, error::kOutOfMemory);
 }
 
-TEST_F(CbrLoad, LabelsDoTheirMouldOnTopOfWhatIsThere)
+TEST_F(CbrLoad, LabelsDoTheirMoldOnTopOfWhatIsThere)
 {
-    TypeThreeMoulds(sheet);
+    TypeThreeMolds(sheet);
     Draw();
     const auto before = sheet.picgraph1.Items();
     sheet.mshLPC(At01, 3) = "";
@@ -228,7 +228,7 @@ TEST_F(CbrLoad, LabelsDoTheirMouldOnTopOfWhatIsThere)
 
 TEST_F(CbrLoad, ALabelReadsFromTheShiftedZeroOnlyWithTheTick)
 {
-    TypeSingleMould(sheet, kConcaveDials);
+    TypeSingleMold(sheet, kConcaveDials);
     Draw();
     sheet.lblMold1.Press();
     EXPECT_EQ(Ratios(), "6.8|| 7.2||");
@@ -245,7 +245,7 @@ TEST_F(CbrLoad, OnlyTheFirstLabelPullsTheCurveUpToTheAxis)
 {
     sheet.cmdPen.Press();
     sheet.txtK.Type("10");
-    for (const int mould : {1, 2, 3}) TypeDials(sheet, mould, kLateDials);
+    for (const int mold : {1, 2, 3}) TypeDials(sheet, mold, kLateDials);
     Draw();
     const double axis = sheet.picgraph1.Height - 50;
     const auto lowest = [&](Label& label) {
@@ -265,7 +265,7 @@ TEST_F(CbrLoad, OnlyTheFirstLabelPullsTheCurveUpToTheAxis)
 // segment is the one to the third.
 TEST_F(CbrLoad, TheCurveRunsFromTwoThousandthsToTheLastPenetration)
 {
-    TypeThreeMoulds(sheet);
+    TypeThreeMolds(sheet);
     Draw();
     const double inch = sheet.picgraph1.ScaleWidth / 0.5921;
     const auto curves = ItemsOf<PolylineItem>(sheet.picgraph1.Items());
@@ -276,7 +276,7 @@ TEST_F(CbrLoad, TheCurveRunsFromTwoThousandthsToTheLastPenetration)
 
 TEST_F(CbrLoad, TwiceGivesTheSamePicture)
 {
-    TypeThreeMoulds(sheet);
+    TypeThreeMolds(sheet);
     Draw();
     const auto frame = sheet.picGraph.Items(), plot = sheet.picgraph1.Items();
     sheet.cmdLPen.Press();
@@ -284,9 +284,9 @@ TEST_F(CbrLoad, TwiceGivesTheSamePicture)
     EXPECT_EQ(sheet.picgraph1.Items(), plot);
 }
 
-TEST_F(CbrLoad, MarksTellTheMouldsApart)
+TEST_F(CbrLoad, MarksTellTheMoldsApart)
 {
-    TypeThreeMoulds(sheet);
+    TypeThreeMolds(sheet);
     Draw();
     const auto circles = ItemsOf<CircleItem>(sheet.picgraph1.Items());
     ASSERT_EQ(circles.size(), 24U);
@@ -304,7 +304,7 @@ TEST_F(CbrLoad, MarksTellTheMouldsApart)
 // + 35.1307 · 0.1025 · 0.0225 = 6.1216 there.
 TEST_F(CbrValue, ComesFromTheCurveAtAFifthOfAnInch)
 {
-    TypeThreeMoulds(sheet);
+    TypeThreeMolds(sheet);
     Draw();
     sheet.cmdCBR.Press();
     EXPECT_EQ(sheet.txtCBR.Text(), "6.1");
@@ -373,7 +373,7 @@ TEST_F(CbrValue, TheSentenceNamesTheValueOfTheOpenMaterial)
     sheet.cmdCBR.Press();
     EXPECT_EQ(sheet.stbDes.Panel(kNoticePanel), "") << "The crushed rock's value stands.";
     frmCBR& rock = lab.OpenCbr(Material::Crush);
-    TypeThreeMoulds(rock);
+    TypeThreeMolds(rock);
     rock.txtMDD.Type("");
     rock.cmdCal.Press();
     rock.cmdLPen.Press();
@@ -397,7 +397,7 @@ TEST_F(CbrValue, FewerThanThreeDensitiesAreNoParabola)
 TEST_F(CbrValue, CrushedRockPostsIntoItsOwnRow)
 {
     frmCBR& rock = lab.OpenCbr(Material::Crush);
-    TypeThreeMoulds(rock);
+    TypeThreeMolds(rock);
     rock.cmdCal.Press();
     rock.cmdLPen.Press();
     rock.cmdCBR.Press();
@@ -440,16 +440,16 @@ TEST_F(CbrValue, FallingDensitiesDrawNoCurve)
     EXPECT_TRUE(ItemsOf<PolylineItem>(sheet.picGraph3.Items()).empty());
 }
 
-// The sheet posts the unsoaked mould, the first column: the higher of its two ratios.
+// The sheet posts the unsoaked mold, the first column: the higher of its two ratios.
 TEST_F(CbrCurves, BothConditionsEndToEnd)
 {
-    TypeThreeMoulds(sheet);
+    TypeThreeMolds(sheet);
     sheet.optBoth.Choose();
     for (int column : {2, 3, 5, 6}) sheet.MSHCompaction(cbr::density::Blows, column) = "";
     for (int row = 0; row < 12; ++row) sheet.MSHPenetrate1(row, pen::Dial(3)) = "";
     Draw();
     EXPECT_TRUE(lab.ask.messages.empty());
-    EXPECT_EQ(RatiosOf(sheet, cbr::result::Mould), "Unsoak|Soak|");
+    EXPECT_EQ(RatiosOf(sheet, cbr::result::Mold), "Unsoak|Soak|");
     EXPECT_EQ(RatiosOf(sheet, cbr::result::DryDensity), "1.75|1.75|");
     EXPECT_EQ(Ratios(), "6.1|7.3| 5.4|5.9|");
     EXPECT_FALSE(sheet.SSTData.TabEnabled(3));

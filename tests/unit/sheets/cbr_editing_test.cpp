@@ -146,7 +146,7 @@ TEST_F(CbrEditing, EditorsStepOverCalculatedCells)
     EXPECT_FALSE(sheet.txtData3.Visible()) << "A load is worked out, not typed.";
 }
 
-TEST_F(CbrEditing, EnterInTheLastSwellingDialGoesToTheNextMould)
+TEST_F(CbrEditing, EnterInTheLastSwellingDialGoesToTheNextMold)
 {
     sheet.optSoak.Choose();
     TypeCell(sheet.txtData2, cbr::swell::Last, cbr::swell::Dial(1), "1.5");

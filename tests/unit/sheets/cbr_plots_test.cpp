@@ -23,20 +23,20 @@ struct CbrPlots : testing::Test {
     frmCBR& sheet = lab.OpenCbr();
 
     /// Dials of a ring of 3 lb/div, so that a dial is the stress itself.
-    void Load(int mould, std::string_view greatest)
+    void Load(int mold, std::string_view greatest)
     {
         sheet.txtK.Type("3");
-        TypeDials(sheet, mould, {"0", "1", "1.5", "2", "2.5", "3", "3.5", "4", greatest});
+        TypeDials(sheet, mold, {"0", "1", "1.5", "2", "2.5", "3", "3.5", "4", greatest});
     }
     void Draw()
     {
         sheet.cmdCal.Press();
         sheet.cmdLPen.Press();
     }
-    void PutRatio(int mould, std::string_view density, std::string_view ratio)
+    void PutRatio(int mold, std::string_view density, std::string_view ratio)
     {
-        sheet.mshLPC(cbr::result::DryDensity, mould) = density;
-        for (const auto row : {At01, At02}) sheet.mshLPC(row, mould) = ratio;
+        sheet.mshLPC(cbr::result::DryDensity, mold) = density;
+        for (const auto row : {At01, At02}) sheet.mshLPC(row, mold) = ratio;
     }
 };
 
@@ -97,44 +97,44 @@ TEST_F(CbrPlots, TheRatioAxisHasTheStepOfItsGreatestRatio)
     }
 }
 
-// Curves of three moulds run close together: the captions of the second stand half a line (97.35) higher beside their
+// Curves of three molds run close together: the captions of the second stand half a line (97.35) higher beside their
 // points, those of the third a whole one (194.7).
-TEST_F(CbrPlots, StressCaptionsRiseFromMouldToMould)
+TEST_F(CbrPlots, StressCaptionsRiseFromMoldToMold)
 {
     sheet.cmdPen.Press();
-    for (const int mould : {1, 2, 3}) Load(mould, "5");
+    for (const int mold : {1, 2, 3}) Load(mold, "5");
     Draw();
     const std::array labels{&sheet.lblMold1, &sheet.lblMold2, &sheet.lblMold3};
-    for (int mould = 1; mould <= 3; ++mould) {
+    for (int mold = 1; mold <= 3; ++mold) {
         sheet.picgraph1.Cls();
-        labels[static_cast<std::size_t>(mould) - 1]->Press();
+        labels[static_cast<std::size_t>(mold) - 1]->Press();
         const auto captions = ItemsOf<TextItem>(sheet.picgraph1.Items());
         auto guides = ItemsOf<LineItem>(sheet.picgraph1.Items());
         std::erase_if(guides, [](const LineItem& line) { return line.y1 != line.y2; });  // those across stay
         ASSERT_EQ(captions.size(), 2U);
         ASSERT_EQ(guides.size(), 2U);
         for (std::size_t i = 0; i < 2; ++i)
-            EXPECT_NEAR(captions[i].y, guides[i].y1 - 97.35 * (mould - 1), 0.01) << "Mould " << mould;
+            EXPECT_NEAR(captions[i].y, guides[i].y1 - 97.35 * (mold - 1), 0.01) << "Mold " << mold;
     }
 }
 
-TEST_F(CbrPlots, AMouldWithoutReadingsHasNoMarksNoCurveAndNoGuides)
+TEST_F(CbrPlots, AMoldWithoutReadingsHasNoMarksNoCurveAndNoGuides)
 {
-    TypeSingleMould(sheet, kSandyDials);
+    TypeSingleMold(sheet, kSandyDials);
     sheet.mshLPC(At01, 2) = "9.9";
     Draw();
     const auto lines = ItemsOf<LineItem>(sheet.picgraph1.Items());
-    EXPECT_EQ(ItemsOf<CircleItem>(sheet.picgraph1.Items()).size(), 12U) << "The first mould's twelve readings.";
-    EXPECT_EQ(ItemsOf<BoxItem>(sheet.picgraph1.Items()).size(), 1U) << "The plot's own; the third mould has squares.";
+    EXPECT_EQ(ItemsOf<CircleItem>(sheet.picgraph1.Items()).size(), 12U) << "The first mold's twelve readings.";
+    EXPECT_EQ(ItemsOf<BoxItem>(sheet.picgraph1.Items()).size(), 1U) << "The plot's own; the third mold has squares.";
     EXPECT_EQ(ItemsOf<PolylineItem>(sheet.picgraph1.Items()).size(), 1U);
     EXPECT_EQ(std::ranges::count(lines, 1, [](const LineItem& line) { return line.pen.style; }), 4)
         << "Up and across at both depths.";
     EXPECT_EQ(RatiosOf(sheet, At01), "7.3|9.9|") << "Its cells stay as they are.";
 }
 
-TEST_F(CbrPlots, TheLabelOfAMouldWithoutReadingsDrawsAndWritesNothing)
+TEST_F(CbrPlots, TheLabelOfAMoldWithoutReadingsDrawsAndWritesNothing)
 {
-    TypeSingleMould(sheet, kSandyDials);
+    TypeSingleMold(sheet, kSandyDials);
     sheet.mshLPC(At01, 3) = "9.9";
     Draw();
     const auto plot = sheet.picgraph1.Items();
@@ -144,7 +144,7 @@ TEST_F(CbrPlots, TheLabelOfAMouldWithoutReadingsDrawsAndWritesNothing)
 }
 
 // The parabola takes a ratio that is not there for zero, as the method does; only a mark would claim a reading.
-TEST_F(CbrPlots, AMouldWithoutARatioHasNoMarkAmongTheDensities)
+TEST_F(CbrPlots, AMoldWithoutARatioHasNoMarkAmongTheDensities)
 {
     PutRatio(1, "1.90", "80");
     PutRatio(2, "2.00", "");

@@ -24,7 +24,7 @@ struct CbrStore : testing::Test {
 
 TEST_F(CbrStore, EverythingTypedComesBack)
 {
-    TypeThreeMoulds(sheet);
+    TypeThreeMolds(sheet);
     sheet.txtSoil.Type("ดินลูกรัง 3");
     sheet.cmdCal.Press();
     sheet.tblMenu.Press(1);
@@ -49,9 +49,9 @@ TEST_F(CbrStore, EverythingTypedComesBack)
     EXPECT_EQ(RatiosOf(again, cbr::result::DryDensity), "1.75|1.83|1.92");
 }
 
-TEST_F(CbrStore, RowsOfTheTableAreColumnsOfTheMouldGrids)
+TEST_F(CbrStore, RowsOfTheTableAreColumnsOfTheMoldGrids)
 {
-    TypeThreeMoulds(sheet);
+    TypeThreeMolds(sheet);
     sheet.tblMenu.Press(1);
     EXPECT_EQ(Stored("cbr_mcan", 7), "B1|B2|B3|A1|A2|A3|   ");
     EXPECT_EQ(Stored("cbr_nb", 7), "10/5|25/5|56/5|10/5|25/5|56/5|   ");
@@ -166,7 +166,7 @@ TEST_F(CbrStore, ABlankSheetWarnsAtCalculateAfterItsSave)
 TEST_F(CbrStore, CrushedRockHasATableOfItsOwn)
 {
     frmCBR& rock = lab.OpenCbr(Material::Crush);
-    TypeThreeMoulds(rock);
+    TypeThreeMolds(rock);
     rock.tblMenu.Press(1);
     EXPECT_EQ(Stored("cbr_mcan", 2, "CBRCRUSH"), "B1|B2");
     EXPECT_EQ(Stored("cbr_mcan", 1), "   ");
@@ -174,7 +174,7 @@ TEST_F(CbrStore, CrushedRockHasATableOfItsOwn)
 
 TEST_F(CbrStore, AnApostropheStopsTheSaveAtItsRow)
 {
-    TypeThreeMoulds(sheet);
+    TypeThreeMolds(sheet);
     TypeCell(sheet.txtData1, cbr::density::Blows, 2, "25'5");
     sheet.txtProject.Type("Bypass");
     sheet.tblMenu.Press(1);

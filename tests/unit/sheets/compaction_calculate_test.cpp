@@ -1,4 +1,4 @@
-// Calculate: masses in g, a mould in cm, densities in g/cm³. The figures are worked by hand stage by stage, or come
+// Calculate: masses in g, a mold in cm, densities in g/cm³. The figures are worked by hand stage by stage, or come
 // from tools/check_compaction.py where a comment says so.
 #include <gtest/gtest.h>
 
@@ -9,7 +9,7 @@ namespace {
 
 using support::Laboratory;
 using support::RowOf;
-using support::SetMould;
+using support::SetMold;
 using support::Trial;
 using support::TypeTrial;
 using support::TypeTrials;
@@ -27,7 +27,7 @@ struct CompactionCalculate : testing::Test {
 // 1.78 / 1.0870 = 1.6375; without the rounding between the stages it would be 1.6339, shown 1.63.
 TEST_F(CompactionCalculate, DryDensityComesFromTheFiguresAsShown)
 {
-    SetMould(sheet);
+    SetMold(sheet);
     TypeTrial(sheet, 1, kTrial);
     sheet.cmdCal.Press();
     EXPECT_EQ(sheet.MSHWt(water::Water, 1), "10.00");
@@ -55,13 +55,13 @@ TEST_F(CompactionCalculate, OpensTheCurvesTab)
 
 TEST_F(CompactionCalculate, ShowsTheWetMassWhereNothingElseWasWeighed)
 {
-    SetMould(sheet);
+    SetMold(sheet);
     TypeTrial(sheet, 1, {"A1", "140", "", "", "", "", ""});
     sheet.cmdCal.Press();
     EXPECT_EQ(sheet.MSHWt(water::Water, 1), "140.00") << "140 less nothing.";
     EXPECT_EQ(sheet.MSHWt(water::DrySoil, 1), kBlank);
     EXPECT_EQ(sheet.MSHWt(water::WaterContent, 1), kBlank);
-    EXPECT_EQ(sheet.MSHDensity(density::WetSoil, 1), kBlank) << "No mould, no density.";
+    EXPECT_EQ(sheet.MSHDensity(density::WetSoil, 1), kBlank) << "No mold, no density.";
 }
 
 TEST_F(CompactionCalculate, ShowsDrySoilAndNoWaterWhereOnlyTheDryMassWasTyped)
@@ -86,7 +86,7 @@ TEST_F(CompactionCalculate, LeavesTheWaterContentBlankWithoutDrySoil)
 // 1676 g / 943.69 cm³ = 1.7760, and 1.78 / (1 + 0/100) = 1.78.
 TEST_F(CompactionCalculate, TakesNoWaterContentAsZero)
 {
-    SetMould(sheet);
+    SetMold(sheet);
     TypeTrial(sheet, 1, {"", "", "", "", "", "3552", "1876"});
     sheet.cmdCal.Press();
     EXPECT_EQ(sheet.MSHDensity(density::WaterContent, 1), "0.00");
@@ -97,7 +97,7 @@ TEST_F(CompactionCalculate, TakesNoWaterContentAsZero)
 // 0 - 1876 g; -1876 / 943.69 = -1.98794 cm³, -1.99 / 1.087 = -1.8307.
 TEST_F(CompactionCalculate, ShowsANegativeMassWhereTheWetOneIsMissing)
 {
-    SetMould(sheet);
+    SetMold(sheet);
     TypeTrial(sheet, 1, {"A1", "140", "130", "15", "", "", "1876"});
     sheet.cmdCal.Press();
     EXPECT_EQ(sheet.MSHDensity(density::WetSoil, 1), "-1876.00");
@@ -105,9 +105,9 @@ TEST_F(CompactionCalculate, ShowsANegativeMassWhereTheWetOneIsMissing)
     EXPECT_EQ(sheet.MSHDensity(density::DryDensity, 1), "-1.83");
 }
 
-TEST_F(CompactionCalculate, FailsAtTheVolumeOfAMouldWithoutHeight)
+TEST_F(CompactionCalculate, FailsAtTheVolumeOfAMoldWithoutHeight)
 {
-    SetMould(sheet, "0", "10.16");
+    SetMold(sheet, "0", "10.16");
     TypeTrial(sheet, 1, kTrial);
     sheet.cmdCal.Press();
     EXPECT_EQ(lab.ask.errors, (std::vector<Untrapped>{{"frmCompaction.cmdCal_Click", 11, "Division by zero"}}));
@@ -116,9 +116,9 @@ TEST_F(CompactionCalculate, FailsAtTheVolumeOfAMouldWithoutHeight)
     EXPECT_FALSE(sheet.SSTData.TabEnabled(1)) << "The command has not reached its end.";
 }
 
-TEST_F(CompactionCalculate, FailsWithAnOverflowWhereNoSoilStandsInNoMould)
+TEST_F(CompactionCalculate, FailsWithAnOverflowWhereNoSoilStandsInNoMold)
 {
-    SetMould(sheet, "", "");
+    SetMold(sheet, "", "");
     TypeTrial(sheet, 1, {"", "", "", "", "", "1876", "1876"});
     sheet.cmdCal.Press();
     ASSERT_EQ(lab.ask.errors.size(), 1U);
@@ -127,7 +127,7 @@ TEST_F(CompactionCalculate, FailsWithAnOverflowWhereNoSoilStandsInNoMould)
 
 TEST_F(CompactionCalculate, ReadsTheNumberAtTheHeadOfAText)
 {
-    SetMould(sheet, "11.64 cm", "10.16cm");
+    SetMold(sheet, "11.64 cm", "10.16cm");
     TypeTrial(sheet, 1, {"A1", "140g", "130 g", "15", "", "3552g", "1876 g"});
     sheet.cmdCal.Press();
     EXPECT_EQ(sheet.MSHWt(water::WetAndCan, 1), "140g") << "What is no number stays as typed.";
@@ -137,17 +137,17 @@ TEST_F(CompactionCalculate, ReadsTheNumberAtTheHeadOfAText)
 
 TEST_F(CompactionCalculate, ReadsLettersAsNothing)
 {
-    SetMould(sheet);
+    SetMold(sheet);
     TypeTrial(sheet, 1, {"A1", "abc", "130", "15", "", "3552", "x"});
     sheet.cmdCal.Press();
     EXPECT_EQ(sheet.MSHWt(water::Water, 1), kBlank);
     EXPECT_EQ(sheet.MSHWt(water::WaterContent, 1), "0.00");
-    EXPECT_EQ(sheet.MSHDensity(density::WetSoil, 1), kBlank) << "A mould of no number is no mould.";
+    EXPECT_EQ(sheet.MSHDensity(density::WetSoil, 1), kBlank) << "A mold of no number is no mold.";
 }
 
-TEST_F(CompactionCalculate, GoesOnBehindAColumnWithoutAMould)
+TEST_F(CompactionCalculate, GoesOnBehindAColumnWithoutAMold)
 {
-    SetMould(sheet);
+    SetMold(sheet);
     TypeTrials(sheet, {kTrial, {"A2", "140", "130", "15", "", "3552", ""}, kTrial});
     sheet.cmdCal.Press();
     EXPECT_EQ(RowOf(sheet.MSHDensity, density::DryDensity), "1.64|     |1.64|     |     |     ");
@@ -155,10 +155,10 @@ TEST_F(CompactionCalculate, GoesOnBehindAColumnWithoutAMould)
 
 TEST_F(CompactionCalculate, BlanksWhatTheLastOneWrote)
 {
-    SetMould(sheet);
+    SetMold(sheet);
     TypeTrial(sheet, 1, kTrial);
     sheet.cmdCal.Press();
-    support::TypeCell(sheet.txtData1, density::Mould, 1, "");
+    support::TypeCell(sheet.txtData1, density::Mold, 1, "");
     support::TypeCell(sheet.txtData, water::WetAndCan, 1, "");
     support::TypeCell(sheet.txtData, water::DryAndCan, 1, "");
     sheet.cmdCal.Press();
@@ -170,7 +170,7 @@ TEST_F(CompactionCalculate, BlanksWhatTheLastOneWrote)
 // 14.157, 15.4728, 16.5188, 23.3974 % and 1.56, 1.72, 1.84, 1.8, 1.63 g/cm³.
 TEST_F(CompactionCalculate, ReducesASandyClay)
 {
-    SetMould(sheet, "12.5", "10.0");
+    SetMold(sheet, "12.5", "10.0");
     TypeTrials(sheet, support::kSandyClay);
     sheet.cmdCal.Press();
     EXPECT_EQ(RowOf(sheet.MSHWt, water::Water), "0.65|1.10|1.08|1.49|1.46|     ");
@@ -184,10 +184,10 @@ TEST_F(CompactionCalculate, ReducesASandyClay)
 // 6.4, 7.5, 8.6 %.
 TEST_F(CompactionCalculate, ReducesCrushedRockInAllSixColumns)
 {
-    SetMould(sheet, "11.64", "15.24");
+    SetMold(sheet, "11.64", "15.24");
     TypeTrials(sheet, support::kCrushedRock);
     sheet.cmdCal.Press();
-    EXPECT_EQ(RowOf(sheet.MSHDensity, density::Mould), "6480|6480|6480|6480|6480|6480");
+    EXPECT_EQ(RowOf(sheet.MSHDensity, density::Mold), "6480|6480|6480|6480|6480|6480");
     EXPECT_EQ(RowOf(sheet.MSHWt, water::WaterContent), "3.10|4.20|5.31|6.40|7.50|8.60");
     EXPECT_EQ(RowOf(sheet.MSHDensity, density::DryDensity), "1.96|2.04|2.12|2.15|2.13|2.07");
 }

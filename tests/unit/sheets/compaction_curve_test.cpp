@@ -23,13 +23,13 @@ struct CompactionCurve : testing::Test {
     Laboratory lab;
     frmCompaction& sheet = lab.OpenSheet();
 
-    /// As Calculate leaves the grid, with a mould in each column.
+    /// As Calculate leaves the grid, with a mold in each column.
     void SetPoints(const Points& points)
     {
         for (int trial = 1; trial <= kTrials; ++trial) {
             const auto i = static_cast<std::size_t>(trial - 1);
             const Point point = i < points.size() ? points[i] : Point{};
-            sheet.MSHDensity(density::Mould, trial) = i < points.size() ? "1876" : "";
+            sheet.MSHDensity(density::Mold, trial) = i < points.size() ? "1876" : "";
             sheet.MSHDensity(density::WaterContent, trial) = point.water;
             sheet.MSHDensity(density::DryDensity, trial) = point.dryDensity;
         }
@@ -59,10 +59,10 @@ TEST_F(CompactionCurve, InterpolatesUnlessToldOtherwise)
     EXPECT_FALSE(sheet.chkSatLine.Value());
 }
 
-TEST_F(CompactionCurve, TakesTheColumnsUpToTheFirstWithoutAMould)
+TEST_F(CompactionCurve, TakesTheColumnsUpToTheFirstWithoutAMold)
 {
     SetPoints(kHill);
-    sheet.MSHDensity(density::Mould, 5) = "1876";
+    sheet.MSHDensity(density::Mold, 5) = "1876";
     sheet.MSHDensity(density::WaterContent, 5) = "99.00";
     Spline();
     EXPECT_EQ(sheet.MSHData.Rows(), 4);
@@ -264,7 +264,7 @@ TEST_F(CompactionCurve, FitsAQuarticToFivePointsAndMore)
 {
     SetPoints({{"10", "1.80"}, {"11", "1.80"}, {"12", "1.90"}, {"13", "1.80"}, {"14", "1.80"}});
     EXPECT_EQ(Fit(), "12.0 1.90");
-    EXPECT_EQ(sheet.MSHData.Rows(), 6) << "A sixth column without a mould does not count.";
+    EXPECT_EQ(sheet.MSHData.Rows(), 6) << "A sixth column without a mold does not count.";
 }
 
 // The sweep ends one to two steps of 0.001 past the last point; there the parabola through 0, 1, 4 and 9 hundredths
@@ -299,7 +299,7 @@ TEST_F(CompactionCurve, FailsToFitACubicToThreePoints)
 // 1.84, its highest point.
 TEST_F(CompactionCurve, FindsTheTopOfASandyClay)
 {
-    support::SetMould(sheet, "12.5", "10.0");
+    support::SetMold(sheet, "12.5", "10.0");
     support::TypeTrials(sheet, support::kSandyClay);
     sheet.cmdCal.Press();
     EXPECT_EQ(Spline(), "15.5 1.84");
@@ -309,7 +309,7 @@ TEST_F(CompactionCurve, FindsTheTopOfASandyClay)
 // By tools/check_compaction.py: tops at (6.49, 2.1502) and (6.496, 2.1516).
 TEST_F(CompactionCurve, FindsTheTopOfCrushedRock)
 {
-    support::SetMould(sheet, "11.64", "15.24");
+    support::SetMold(sheet, "11.64", "15.24");
     support::TypeTrials(sheet, support::kCrushedRock);
     sheet.cmdCal.Press();
     EXPECT_EQ(Spline(), "6.5 2.15");

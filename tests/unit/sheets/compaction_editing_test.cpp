@@ -46,30 +46,30 @@ TEST_F(CompactionEditing, LeavesATextThatIsNoNumber)
                                 {water::CanNumber, 2, "กระป๋อง", "กระป๋อง"}});
 }
 
-TEST_F(CompactionEditing, KeepsMouldMassesAsTyped)
+TEST_F(CompactionEditing, KeepsMoldMassesAsTyped)
 {
     ExpectShown(sheet.txtData1, {{density::AssumedWater, 1, " 8 ", "8"},
-                                 {density::WetAndMould, 1, "12", "12"},
-                                 {density::Mould, 1, "1876.0", "1876.0"}});
+                                 {density::WetAndMold, 1, "12", "12"},
+                                 {density::Mold, 1, "1876.0", "1876.0"}});
 }
 
-TEST_F(CompactionEditing, TakesTheMouldOfTheTrialBeforeForADittoMark)
+TEST_F(CompactionEditing, TakesTheMoldOfTheTrialBeforeForADittoMark)
 {
-    ExpectShown(sheet.txtData1, {{density::Mould, 1, "1876", "1876"},
-                                 {density::Mould, 2, " / ", "1876"},
-                                 {density::Mould, 3, "/", "1876"},
-                                 {density::Mould, 4, "//", "//"}});
+    ExpectShown(sheet.txtData1, {{density::Mold, 1, "1876", "1876"},
+                                 {density::Mold, 2, " / ", "1876"},
+                                 {density::Mold, 3, "/", "1876"},
+                                 {density::Mold, 4, "//", "//"}});
 }
 
-TEST_F(CompactionEditing, KnowsADittoOnlyForMouldsBehindTheFirst)
+TEST_F(CompactionEditing, KnowsADittoOnlyForMoldsBehindTheFirst)
 {
     ExpectShown(
         sheet.txtData1,
-        {{density::Mould, 1, "/", "/"}, {density::WetAndMould, 2, "/", "/"}, {density::AssumedWater, 2, "/", "/"}});
+        {{density::Mold, 1, "/", "/"}, {density::WetAndMold, 2, "/", "/"}, {density::AssumedWater, 2, "/", "/"}});
     ExpectShown(sheet.txtData, {{water::Can, 2, "/", "/"}, {water::CanNumber, 2, "/", "/"}});
-    support::SetMould(sheet);
+    support::SetMold(sheet);
     sheet.cmdCal.Press();
-    EXPECT_EQ(sheet.MSHDensity(density::DryDensity, 1), "     ") << "The mark reads 0: no mould.";
+    EXPECT_EQ(sheet.MSHDensity(density::DryDensity, 1), "     ") << "The mark reads 0: no mold.";
 }
 
 TEST_F(CompactionEditing, TitlesItsGrids)
@@ -77,7 +77,7 @@ TEST_F(CompactionEditing, TitlesItsGrids)
     const std::vector<std::string> weighings{
         "Sample No. ",       "Moisture Can No. ",   "Mass of Can + Wet Soil, (g) ", "Mass of Can + Dry Soil, (g) ",
         "Mass of Can, (g) ", "Mass of Water, (g) ", "Mass of Dry Soil, (g) ",       "Water Content, (%)"};
-    const std::vector<std::string> moulds{
+    const std::vector<std::string> molds{
         "Assumed Water Content, (%)",     "Mass of Wet Soil + Mold, (g)", "Mass of Mold, (g)",     "Water Content, (%)",
         "Mass of Wet Soil in Mold, (g) ", "Wet Density, (g/cm^3)",        "Dry  Density, (g/cm^3)"};
     ASSERT_EQ(sheet.MSHWt.Rows(), 8);
@@ -85,7 +85,7 @@ TEST_F(CompactionEditing, TitlesItsGrids)
     EXPECT_EQ(sheet.MSHWt.Columns(), 7);
     EXPECT_EQ(sheet.MSHDensity.Columns(), 7);
     for (int row = 0; row < 8; ++row) EXPECT_EQ(sheet.MSHWt(row, 0), weighings[static_cast<std::size_t>(row)]);
-    for (int row = 0; row < 7; ++row) EXPECT_EQ(sheet.MSHDensity(row, 0), moulds[static_cast<std::size_t>(row)]);
+    for (int row = 0; row < 7; ++row) EXPECT_EQ(sheet.MSHDensity(row, 0), molds[static_cast<std::size_t>(row)]);
     EXPECT_EQ(sheet.MSHWt(0, 1), "1 ");
     EXPECT_EQ(sheet.MSHWt(0, 6), "6 ");
 }
@@ -120,7 +120,7 @@ TEST_F(CompactionEditing, TakesAPressOnTheTitlesAsTheFirstTrial)
 
 TEST_F(CompactionEditing, ErasesATrialAfterAsking)
 {
-    support::SetMould(sheet);
+    support::SetMold(sheet);
     support::TypeTrial(sheet, 2, {"A2", "140", "130", "15", "8", "3552", "1876"});
     support::TypeTrial(sheet, 3, {"A3", "140", "130", "15", "8", "3552", "1876"});
     sheet.cmdCal.Press();
@@ -137,14 +137,14 @@ TEST_F(CompactionEditing, ErasesATrialAfterAsking)
 
 TEST_F(CompactionEditing, ErasesTheFirstTrialAtAPressOnTheTitles)
 {
-    support::SetMould(sheet);
+    support::SetMold(sheet);
     support::TypeTrial(sheet, 1, {"A1", "140", "130", "15", "8", "3552", "1876"});
     sheet.MSHWt.PressMouse(MouseButton::Right, 2, 0);
     ASSERT_EQ(lab.ask.messages.size(), 1U);
     EXPECT_EQ(sheet.MSHWt(water::CanNumber, 1), "");
-    EXPECT_EQ(sheet.MSHDensity(density::Mould, 1), "");
+    EXPECT_EQ(sheet.MSHDensity(density::Mold, 1), "");
     EXPECT_EQ(sheet.MSHWt(water::CanNumber, 0), "Moisture Can No. ") << "The titles stay.";
-    EXPECT_EQ(sheet.MSHDensity(density::Mould, 0), "Mass of Mold, (g)");
+    EXPECT_EQ(sheet.MSHDensity(density::Mold, 0), "Mass of Mold, (g)");
 }
 
 TEST_F(CompactionEditing, KeepsATrialWhenTheQuestionIsCancelled)
@@ -158,10 +158,10 @@ TEST_F(CompactionEditing, KeepsATrialWhenTheQuestionIsCancelled)
 
 TEST_F(CompactionEditing, AsksNothingOnTheDensityGrid)
 {
-    TypeCell(sheet.txtData1, density::Mould, 1, "1876");
+    TypeCell(sheet.txtData1, density::Mold, 1, "1876");
     sheet.MSHDensity.PressMouse(MouseButton::Right, 2, 1);
     EXPECT_TRUE(lab.ask.messages.empty());
-    EXPECT_EQ(sheet.MSHDensity(density::Mould, 1), "1876");
+    EXPECT_EQ(sheet.MSHDensity(density::Mold, 1), "1876");
 }
 
 TEST_F(CompactionEditing, HidesItsEditorsWhenTheTabChanges)
@@ -176,7 +176,7 @@ TEST_F(CompactionEditing, HidesItsEditorsWhenTheTabChanges)
 
 TEST_F(CompactionEditing, FillsThePointsWhenTheDataTabIsLeft)
 {
-    support::SetMould(sheet);
+    support::SetMold(sheet);
     support::TypeTrial(sheet, 1, {"A1", "140", "130", "15", "8", "3552", "1876"});
     sheet.cmdCal.Press();
     EXPECT_EQ(sheet.MSHData.Rows(), 1);
@@ -186,7 +186,7 @@ TEST_F(CompactionEditing, FillsThePointsWhenTheDataTabIsLeft)
     EXPECT_EQ(sheet.MSHData(1, 1), "1.64");
     EXPECT_EQ(sheet.MSHData(0, 0), "wc\n  \n(%)");
     EXPECT_EQ(sheet.MSHData(0, 1), "Dry Density\n  \n(g/cm^3)");
-    sheet.MSHDensity(density::Mould, 1) = "";
+    sheet.MSHDensity(density::Mold, 1) = "";
     sheet.SSTData.SetTab(0);
     EXPECT_EQ(sheet.MSHData.Rows(), 2) << "The way back fills nothing.";
 }

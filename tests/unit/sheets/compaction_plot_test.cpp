@@ -55,7 +55,7 @@ struct CompactionPlot : testing::Test {
     void Open(TestKind test, Material material)
     {
         sheet = &lab.OpenSheet(test, material);
-        support::SetMould(*sheet, "12.5", "10.0");
+        support::SetMold(*sheet, "12.5", "10.0");
         support::TypeTrials(*sheet, support::kSandyClay);
         sheet->cmdCal.Press();
         sheet->SSTData.SetTab(1);
@@ -101,7 +101,7 @@ TEST_F(CompactionPlot, LabelsEverySecondPercentPastTen)
 TEST_F(CompactionPlot, LabelsEachPercentUpToTenAndEveryFourthPastTwenty)
 {
     const auto spread = [&](const char* last) {
-        for (int trial = 1; trial <= kTrials; ++trial) sheet->MSHDensity(density::Mould, trial) = trial < 4 ? "1" : "";
+        for (int trial = 1; trial <= kTrials; ++trial) sheet->MSHDensity(density::Mold, trial) = trial < 4 ? "1" : "";
         sheet->MSHDensity(density::WaterContent, 1) = "10.9";
         sheet->MSHDensity(density::WaterContent, 2) = "13";
         sheet->MSHDensity(density::WaterContent, 3) = last;
@@ -119,7 +119,7 @@ TEST_F(CompactionPlot, LabelsEachPercentUpToTenAndEveryFourthPastTwenty)
     EXPECT_FALSE(Shows(sheet->picgraph1, "13"));
 }
 
-// A mould that was typed after Calculate has blank cells below it.
+// A mold that was typed after Calculate has blank cells below it.
 TEST_F(CompactionPlot, TrialThatWasNotCalculatedMovesNoAxis)
 {
     sheet->MSHDensity(density::DryDensity, 2) = "";

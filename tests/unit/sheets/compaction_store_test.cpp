@@ -149,8 +149,8 @@ TEST_F(CompactionStore, BringsBackTheReadingsAndNotTheResults)
         EXPECT_EQ(sheet.MSHWt(water::DryAndCan, 2), "52.22");
         EXPECT_EQ(sheet.MSHWt(water::Can, 3), "13.33");
         EXPECT_EQ(sheet.MSHDensity(density::AssumedWater, 4), "4.5");
-        EXPECT_EQ(sheet.MSHDensity(density::WetAndMould, 5), "3500.4");
-        EXPECT_EQ(sheet.MSHDensity(density::Mould, 6), "1460.5");
+        EXPECT_EQ(sheet.MSHDensity(density::WetAndMold, 5), "3500.4");
+        EXPECT_EQ(sheet.MSHDensity(density::Mold, 6), "1460.5");
         EXPECT_EQ(sheet.txtOMC.Text(), "") << "Results wait for the next plot.";
         EXPECT_EQ(sheet.txtDmax.Text(), "");
         EXPECT_EQ(sheet.MSHWt(water::WaterContent, 1), "") << "Calculated cells wait for Calculate.";
@@ -167,7 +167,7 @@ TEST_F(CompactionStore, TrimsListsButNotTheHead)
     EXPECT_EQ(sheet.txtClient.Text(), "  A client ");
     EXPECT_EQ(sheet.txtSoil.Text(), " S-1 ");
     EXPECT_EQ(sheet.MSHWt(water::CanNumber, 1), "A1");
-    EXPECT_EQ(sheet.MSHDensity(density::Mould, 1), "1876");
+    EXPECT_EQ(sheet.MSHDensity(density::Mold, 1), "1876");
 }
 
 TEST_F(CompactionStore, ReadsTheHeadFromTheFirstRow)

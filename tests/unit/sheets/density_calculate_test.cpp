@@ -76,7 +76,7 @@ TEST_F(DensityCalculate, AGapBetweenDeterminationsLowersTheAverage)
 {
     TypeCone(sheet, 2, {"7000", "5400"});
     TypeCone(sheet, 4, {"7000", "5390"});
-    TypeSand(sheet, 1, kSandMould);
+    TypeSand(sheet, 1, kSandMold);
     TypeSand(sheet, 3, {"15.24", "11.64", "7000", "10060"});
     sheet.cmdCal.Press();
     EXPECT_EQ(RowOf(sheet.MSHWsand, cone::Average), "802.50|802.50|802.50|802.50|802.50|802.50");
@@ -107,7 +107,7 @@ TEST_F(DensityCalculate, VolumesComeFromTheFiguresAsShown)
 TEST_F(DensityCalculate, PlainDifferencesShowAllTheirDigits)
 {
     TypeCone(sheet, 1, {"6595.3", "6314.9"});
-    TypeSand(sheet, 1, kSandMould);
+    TypeSand(sheet, 1, kSandMold);
     TypeHole(sheet, 1, {"3250.5", "250.25", "7000", "3284", "100.4", "100.3", "99.9"});
     sheet.cmdCal.Press();
     EXPECT_EQ(sheet.MSHWsand(cone::SandInCone, 1), "280.400000000001");
@@ -156,7 +156,7 @@ TEST_F(DensityCalculate, ASandWithoutDensityFailsAtItsFirstHole)
     EXPECT_EQ(lab.Posted(), "   ");
 }
 
-TEST_F(DensityCalculate, AMouldWithoutHeightFails)
+TEST_F(DensityCalculate, AMoldWithoutHeightFails)
 {
     TypeSand(sheet, 1, {"15.24", "", "7000", "10000"});
     sheet.cmdCal.Press();
@@ -220,7 +220,7 @@ TEST_F(DensityCalculate, LettersCountAsNothingAndUnitsAreReadOver)
 TEST_F(DensityCalculate, NegativeMassesAreWorkedAsTheyStand)
 {
     TypeCone(sheet, 1, {"5400", "7000"});
-    TypeSand(sheet, 1, kSandMould);
+    TypeSand(sheet, 1, kSandMold);
     TypeHole(sheet, 1, {"250", "3250", "3284", "7000", "130", "120", "20"});
     TypeMaximum(sheet, 1, "-2");
     sheet.cmdCal.Press();
@@ -258,7 +258,7 @@ TEST_F(DensityCalculate, AHoleTakenAwayKeepsWhatWasWorkedOut)
     sheet.cmdCal.Press();
     TypeCell(sheet.txtData4, volume::Initial, 1, "");
     TypeCell(sheet.txtData3, water::WetAndCan, 1, "");
-    TypeCell(sheet.txtData1, sand::MouldAndSand, 1, "10600");
+    TypeCell(sheet.txtData1, sand::MoldAndSand, 1, "10600");
     sheet.cmdCal.Press();
     EXPECT_EQ(sheet.MSHDsand(sand::Density, 1), "1.70");
     EXPECT_EQ(sheet.MSHVolume(volume::Volume, 1), "1500.71");

@@ -58,7 +58,7 @@ TEST_F(DensityEditing, EnterGoesDownAColumnAndOnToTheNext)
         sheet.txtData1.PressKey(Key::Enter);
     }
     EXPECT_EQ(sheet.MSHDsand(sand::Diameter, 1), "15.24");
-    EXPECT_EQ(sheet.MSHDsand(sand::MouldAndSand, 1), "10012.50") << "No mask.";
+    EXPECT_EQ(sheet.MSHDsand(sand::MoldAndSand, 1), "10012.50") << "No mask.";
     EXPECT_EQ(sheet.MSHDsand(sand::Diameter, 2), "15.2");
 }
 

@@ -88,7 +88,7 @@ TEST_F(TypedCells, OfFieldDensityAreTheFirstRowsOfEachGrid)
     ExpectTyped(sheet.txtData5, {1}, holes);
 }
 
-TEST_F(TypedCells, OfTheBearingRatioAreCansMouldsTimesAndDials)
+TEST_F(TypedCells, OfTheBearingRatioAreCansMoldsTimesAndDials)
 {
     auto& sheet = Open<frmCBR>("frmCBR", terravane::Test::CBRSoil);
     sheet.optSoak.Choose();

@@ -61,7 +61,7 @@ TEST_F(LabelsApart, WherePenetrationsWereTypedInMillimetres)
 TEST_F(LabelsApart, WhereEachTenthOfAnInchHasRoom)
 {
     frmCBR& sheet = lab.OpenCbr();
-    TypeSingleMould(sheet, kSandyDials);
+    TypeSingleMold(sheet, kSandyDials);
     sheet.cmdCal.Press();
     sheet.cmdLPen.Press();
     ExpectApart(sheet.picGraph, "Penetration, in", 6);
@@ -71,9 +71,9 @@ TEST_F(LabelsApart, WhereEachTenthOfAnInchHasRoom)
 TEST_F(LabelsApart, WhereDensitiesWereTypedInPoundsPerCubicFoot)
 {
     frmCBR& sheet = lab.OpenCbr();
-    for (int mould = 1; mould <= 3; ++mould) {
-        sheet.mshLPC(cbr::result::DryDensity, mould) = "123." + std::to_string(2 * mould);
-        for (const auto row : {cbr::result::At01, cbr::result::At02}) sheet.mshLPC(row, mould) = std::to_string(mould);
+    for (int mold = 1; mold <= 3; ++mold) {
+        sheet.mshLPC(cbr::result::DryDensity, mold) = "123." + std::to_string(2 * mold);
+        for (const auto row : {cbr::result::At01, cbr::result::At02}) sheet.mshLPC(row, mold) = std::to_string(mold);
     }
     for (const char* highest : {"123.9", "124.9", "125.9", "133.9"}) {
         sheet.mshLPC(cbr::result::DryDensity, 3) = highest;
@@ -89,7 +89,7 @@ TEST_F(LabelsApart, WhereASoilIsWetterThanItIsHeavy)
         const std::vector<std::string_view> water{"10", "14", wettest}, density{"1.60", "1.75", "1.70"};
         for (int trial = 1; trial <= 3; ++trial) {
             const auto i = static_cast<std::size_t>(trial) - 1;
-            sheet.MSHDensity(compaction::density::Mould, trial) = "1";
+            sheet.MSHDensity(compaction::density::Mold, trial) = "1";
             sheet.MSHDensity(compaction::density::WaterContent, trial) = water[i];
             sheet.MSHDensity(compaction::density::DryDensity, trial) = density[i];
         }
