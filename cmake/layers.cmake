@@ -18,12 +18,19 @@ function(terravane_compile_together target)
   endforeach()
 endfunction()
 
+# What differs from system to system stands in pairs of sources, NAME_posix.cpp and NAME_windows.cpp, of which a build
+# takes one; no other source asks which system it is for.
+set(TERRAVANE_OTHER_SYSTEM windows)
+if(WIN32)
+  set(TERRAVANE_OTHER_SYSTEM posix)
+endif()
+
 # A layer is a folder of src/ and a library of the same name; every .cpp below the folder belongs to it, but main.cpp.
 # APART: files that the release build compiles by themselves.
 function(terravane_layer name)
   cmake_parse_arguments(layer "" "" "USES;LINKS;APART" ${ARGN})
   file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/${name}/*.cpp)
-  list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
+  list(FILTER sources EXCLUDE REGEX "/main\\.cpp$|_${TERRAVANE_OTHER_SYSTEM}\\.cpp$")
   list(TRANSFORM layer_USES PREPEND terravane_)
   add_library(terravane_${name} STATIC ${sources})
   target_include_directories(terravane_${name} PUBLIC ${CMAKE_SOURCE_DIR}/src)
