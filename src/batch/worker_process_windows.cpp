@@ -2,8 +2,8 @@
 #include <chrono>
 #include <condition_variable>
 #include <deque>
-#include <limits>
 #include <mutex>
+#include <sstream>
 #include <thread>
 
 #include <windows.h>
@@ -125,6 +125,16 @@ class Inheritance {
     std::vector<char> room_;
 };
 
+/// An unexpected end has the system's own status (an access violation, a stack's end) or that of the library's abort.
+std::string HowItEnded(DWORD status)
+{
+    constexpr DWORD kException = 0xC0000000, kAbort = 3;
+    if (status != kAbort && (status & kException) != kException) return kEndedByItself;
+    std::ostringstream number;
+    number << std::hex << status;
+    return "the program crashed (status " + number.str() + "); please report the project";
+}
+
 /// Rung by every worker's reader when there is something to take.
 std::mutex bell;
 std::condition_variable rung;
@@ -167,11 +177,7 @@ class StartedProgram : public WorkerProcess {
         reader_.join();
         DWORD status = 0;
         GetExitCodeProcess(process_.Get(), &status);
-        constexpr DWORD kException = 0xC0000000;  // the system's own statuses: an access violation, a stack's end
-        if ((status & kException) != kException) return kEndedByItself;
-        char number[16];
-        std::snprintf(number, sizeof number, "%08lX", status);
-        return "the program crashed (exception " + std::string(number) + "); please report the project";
+        return HowItEnded(status);
     }
 
   private:

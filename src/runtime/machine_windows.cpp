@@ -6,7 +6,6 @@
 
 #include <fcntl.h>
 #include <io.h>
-#include <shellapi.h>
 #include <shlobj.h>
 #include <windows.h>
 
