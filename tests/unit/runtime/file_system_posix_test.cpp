@@ -176,5 +176,16 @@ TEST_F(Disk, LockTakesAwayWhatAKilledSaveOfTheSameFileLeft)
     EXPECT_EQ(Names(), (std::vector<std::string>{other, name}));
 }
 
+TEST_F(Disk, FindsANameInAnotherCase)
+{
+    files_.ReplaceWhole(Path("Logo.MDB"), BytesOf("x"));
+    EXPECT_EQ(FindWithoutCase(files_, folder_, "logo.mdb"), Path("Logo.MDB"));
+    EXPECT_EQ(FindWithoutCase(files_, Path("").substr(0, folder_.size() - 1), "logo.mdb"), Path("Logo.MDB"));
+    EXPECT_EQ(FindWithoutCase(files_, folder_, "none.mdb"), Path("none.mdb"));
+    EXPECT_EQ(FindWithoutCase(files_, Path("none/"), "logo.mdb"), Path("none/logo.mdb"));
+    files_.ReplaceWhole(Path("logo.mdb"), BytesOf("y"));
+    EXPECT_EQ(FindWithoutCase(files_, folder_, "logo.mdb"), Path("logo.mdb")) << "the exact name first";
+}
+
 }  // namespace
 }  // namespace terravane

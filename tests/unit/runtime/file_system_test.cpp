@@ -193,16 +193,5 @@ TEST_F(Disk, ReadsNoMoreThanAsked)
     EXPECT_EQ(ErrorOf([&] { files_.ReadAtMost(Path("none"), 1); }), error::kFileNotFound);
 }
 
-TEST_F(Disk, FindsANameInAnotherCase)
-{
-    files_.ReplaceWhole(Path("Logo.MDB"), BytesOf("x"));
-    EXPECT_EQ(FindWithoutCase(files_, folder_, "logo.mdb"), Path("Logo.MDB"));
-    EXPECT_EQ(FindWithoutCase(files_, Path("").substr(0, folder_.size() - 1), "logo.mdb"), Path("Logo.MDB"));
-    EXPECT_EQ(FindWithoutCase(files_, folder_, "none.mdb"), Path("none.mdb"));
-    EXPECT_EQ(FindWithoutCase(files_, Path("none/"), "logo.mdb"), Path("none/logo.mdb"));
-    files_.ReplaceWhole(Path("logo.mdb"), BytesOf("y"));
-    EXPECT_EQ(FindWithoutCase(files_, folder_, "logo.mdb"), Path("logo.mdb")) << "the exact name first";
-}
-
 }  // namespace
 }  // namespace terravane

@@ -160,5 +160,13 @@ TEST_F(WindowsDisk, KeepsAHiddenFileHidden)
     EXPECT_TRUE(GetFileAttributesW(ToNative(Path("a.mdb")).c_str()) & FILE_ATTRIBUTE_HIDDEN);
 }
 
+// Every spelling is the file, so that none is looked for.
+TEST_F(WindowsDisk, FindsANameInAnotherCase)
+{
+    files_.ReplaceWhole(Path("Logo.MDB"), BytesOf("x"));
+    EXPECT_EQ(TextOf(files_.Read(FindWithoutCase(files_, folder_, "logo.mdb"))), "x");
+    EXPECT_FALSE(files_.Exists(FindWithoutCase(files_, folder_, "none.mdb")));
+}
+
 }  // namespace
 }  // namespace terravane
