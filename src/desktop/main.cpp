@@ -40,6 +40,7 @@ int main(int argc, char** argv)
     QApplication::setApplicationName("terravane");
     QApplication::setWindowIcon(looks::ProgramIcon());
     QApplication::setQuitOnLastWindowClosed(false);
+    if (TakeFontsBeside() > 0) QApplication::setFont(looks::WithThaiLetters(QApplication::font()));
 
     DiskFileSystem files;
     QtSurroundings surroundings(files);
