@@ -89,7 +89,7 @@ std::string WithoutExtension(const std::string& path)
 
 std::string Moved(const std::string& path, const std::string& folder, const std::string& other)
 {
-    return ToText(ToNative(other) / ToNative(path).lexically_relative(ToNative(folder)));
+    return ToText((ToNative(other) / ToNative(path).lexically_relative(ToNative(folder))).make_preferred());
 }
 
 std::vector<std::string> FilesBelow(const std::string& folder)

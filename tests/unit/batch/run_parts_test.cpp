@@ -13,6 +13,7 @@
 #include "batch/sha256.h"
 #include "batch/worker_pool.h"
 #include "runtime/machine.h"
+#include "runtime/native_path.h"
 #include "runtime/runtime_error.h"
 #include "unit/batch/test_worker.h"
 
@@ -21,17 +22,23 @@ namespace {
 
 namespace fs = std::filesystem;
 
+/// A path with the marks of the system that the test runs on.
+std::string Marked(std::string_view path)
+{
+    return ToText(ToNative(path).make_preferred());
+}
+
 /// A folder of the test's own, gone after it.
 struct Folder {
-    fs::path path;
-    Folder() { path = MakePrivateFolder("terravane-batch"); }
-    ~Folder() { fs::remove_all(path); }
+    fs::path path = ToNative(MakePrivateFolder("terravane-batch"));
+    ~Folder() { RemoveAll(ToText(path)); }
 
-    std::string operator/(std::string_view name) const { return (path / name).string(); }
+    std::string operator/(std::string_view name) const { return Marked(ToText(path / ToNative(name))); }
     void Touch(std::string_view name) const
     {
-        fs::create_directories((path / name).parent_path());
-        std::ofstream(path / name) << "x";
+        const fs::path file = path / ToNative(name);
+        fs::create_directories(file.parent_path());
+        std::ofstream(file) << "x";
     }
 };
 
@@ -48,15 +55,15 @@ TEST(ListProjects, TakesAFoldersProjectsSortedWithThoseOfItsSubfolders)
     const auto projects = ListProjects({folder.path.string()}, "/out");
     ASSERT_EQ(projects.size(), 2U);
     EXPECT_EQ(projects[0].path, folder / "a/ถนน.MDB");
-    EXPECT_EQ(projects[0].stem, "/out/a/ถนน");
-    EXPECT_EQ(projects[1].stem, "/out/b");
+    EXPECT_EQ(projects[0].stem, Marked("/out/a/ถนน"));
+    EXPECT_EQ(projects[1].stem, Marked("/out/b"));
 }
 
 TEST(ListProjects, PutsOutputsBesideTheProjectUnlessAFolderIsNamed)
 {
     EXPECT_EQ(ListProjects({"jobs/TRVN_a.mdb"}, "").at(0).stem, "jobs/TRVN_a");
-    EXPECT_EQ(ListProjects({"jobs/TRVN_a.mdb"}, "out").at(0).stem, "out/TRVN_a");
-    EXPECT_EQ(ListProjects({"TRVN_a.mdb"}, "out").at(0).stem, "out/TRVN_a");
+    EXPECT_EQ(ListProjects({"jobs/TRVN_a.mdb"}, "out").at(0).stem, Marked("out/TRVN_a"));
+    EXPECT_EQ(ListProjects({"TRVN_a.mdb"}, "out").at(0).stem, Marked("out/TRVN_a"));
 }
 
 TEST(ListProjects, TakesAFileOnceHoweverItIsNamed)

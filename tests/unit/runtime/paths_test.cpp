@@ -33,7 +33,7 @@ TEST(Paths, ThaiLettersOutliveTheWayToTheSystemAndBack)
 TEST(Paths, AFileMovesWithItsSubfolders)
 {
     EXPECT_EQ(Moved("/jobs/a/road.mdb", "/jobs", "/out"),
-              FolderMarkOf("") == '/' ? "/out/a/road.mdb" : "/out\\a\\road.mdb");
+              FolderMarkOf("") == '/' ? "/out/a/road.mdb" : "\\out\\a\\road.mdb");
 }
 
 }  // namespace
