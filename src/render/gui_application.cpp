@@ -27,6 +27,7 @@ void RequirePlatform()
 QGuiApplication* MakeApplication()
 {
     RequirePlatform();
+    qputenv("QT_FORCE_STDERR_LOGGING", "1");  // what ends the program is told where its caller reads it
     static char name[] = "terravane";
     static char option[] = "-platform";
     static char platform[] = "offscreen";
