@@ -19,7 +19,8 @@ function(terravane_compile_together target)
 endfunction()
 
 # What differs from system to system stands in pairs of sources, NAME_posix.cpp and NAME_windows.cpp, of which a build
-# takes one; no other source asks which system it is for.
+# takes one; no other source asks which system it is for. A system's own headers have names for everything, so that these
+# are no part of a folder's unit.
 set(TERRAVANE_OTHER_SYSTEM windows)
 if(WIN32)
   set(TERRAVANE_OTHER_SYSTEM posix)
@@ -38,7 +39,7 @@ function(terravane_layer name)
   if(name IN_LIST TERRAVANE_CHECKED_LAYERS)
     target_compile_definitions(terravane_${name} PRIVATE $<$<CONFIG:Release>:_GLIBCXX_ASSERTIONS>)
   endif()
-  terravane_compile_together(terravane_${name} FILES ${sources} APART ${layer_APART})
+  terravane_compile_together(terravane_${name} FILES ${sources} APART _posix\\.cpp$ _windows\\.cpp$ ${layer_APART})
 endfunction()
 
 # A program: one main.cpp over layers. The target `programs` builds them all, without the tests.
