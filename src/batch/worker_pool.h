@@ -19,7 +19,7 @@ namespace terravane {
 /// least some times a second
 struct PoolTask {
     std::function<std::string(std::size_t task)> request;
-    Work work;
+    Service work;
     std::vector<std::string> worker;
     std::function<void(std::size_t task, const std::optional<std::string>& answer, const std::string& crash)> done;
     std::function<bool()> stop;

@@ -12,7 +12,7 @@
 
 namespace terravane {
 
-using Work = std::function<std::string(const std::string& request)>;
+using Service = std::function<std::string(const std::string& request)>;
 
 class WorkerProcess {
   public:
@@ -33,13 +33,13 @@ class WorkerProcess {
 
 /// Started as a double of this process that does `work`, or as this program with `arguments`, whose main then calls
 /// ServeRequests. RuntimeError 7 where none can be started. It ends with this process at the latest.
-std::unique_ptr<WorkerProcess> StartWorker(const Work& work, const std::vector<std::string>& arguments);
+std::unique_ptr<WorkerProcess> StartWorker(const Service& work, const std::vector<std::string>& arguments);
 
 /// Which of the workers have answered or ended, as soon as one has or the time is up.
 std::vector<std::size_t> WaitForAnswers(std::span<const std::unique_ptr<WorkerProcess>> workers, int milliseconds);
 
 /// The main of a program that was started as a worker: until no more requests come.
-void ServeRequests(const Work& work);
+void ServeRequests(const Service& work);
 
 /// What is told of a worker that did not crash and still went away.
 inline constexpr const char* kEndedByItself = "the program ended by itself; please report the project";

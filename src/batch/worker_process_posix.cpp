@@ -59,7 +59,7 @@ struct Socket {
 };
 
 /// Ctrl-C reaches every process of the terminal: a worker ends its task and is told by the end of the socket.
-[[noreturn]] void Serve(const Socket& socket, const Work& work)
+[[noreturn]] void Serve(const Socket& socket, const Service& work)
 {
     signal(SIGINT, SIG_IGN);
     signal(SIGTERM, SIG_IGN);
@@ -77,7 +77,7 @@ std::string HowItEnded(int status)
 
 class Fork : public WorkerProcess {
   public:
-    explicit Fork(const Work& work)
+    explicit Fork(const Service& work)
     {
         std::array<int, 2> ends{};
         if (socketpair(AF_UNIX, SOCK_STREAM, 0, ends.data()) != 0) throw RuntimeError(error::kOutOfMemory);
@@ -125,7 +125,7 @@ class Fork : public WorkerProcess {
 
 }  // namespace
 
-std::unique_ptr<WorkerProcess> StartWorker(const Work& work, const std::vector<std::string>&)
+std::unique_ptr<WorkerProcess> StartWorker(const Service& work, const std::vector<std::string>&)
 {
     return std::make_unique<Fork>(work);
 }
@@ -143,6 +143,6 @@ std::vector<std::size_t> WaitForAnswers(std::span<const std::unique_ptr<WorkerPr
 }
 
 /// Forks serve where they were made; a program that is started as a worker by hand serves nobody.
-void ServeRequests(const Work&) {}
+void ServeRequests(const Service&) {}
 
 }  // namespace terravane

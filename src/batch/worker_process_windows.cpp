@@ -223,7 +223,7 @@ class StartedProgram : public WorkerProcess {
 
 }  // namespace
 
-std::unique_ptr<WorkerProcess> StartWorker(const Work&, const std::vector<std::string>& arguments)
+std::unique_ptr<WorkerProcess> StartWorker(const Service&, const std::vector<std::string>& arguments)
 {
     return std::make_unique<StartedProgram>(arguments);
 }
@@ -242,7 +242,7 @@ std::vector<std::size_t> WaitForAnswers(std::span<const std::unique_ptr<WorkerPr
     return answered;
 }
 
-void ServeRequests(const Work& work)
+void ServeRequests(const Service& work)
 {
     const HANDLE requests = GetStdHandle(STD_INPUT_HANDLE), answers = GetStdHandle(STD_OUTPUT_HANDLE);
     while (const auto request = ReceiveWhole(requests)) {

@@ -16,8 +16,9 @@ namespace {
 /// data folder.
 std::string ApplicationPath(const terravane::FileSystem& files)
 {
-    const std::string own = FolderOf(ProgramFile());
-    return !IsInstalled() && files.IsWritableFolder(own) ? WithoutMark(own) : DataFolder();
+    const std::string own = terravane::FolderOf(terravane::ProgramFile());
+    return !terravane::IsInstalled() && files.IsWritableFolder(own) ? terravane::WithoutMark(own)
+                                                                    : terravane::DataFolder();
 }
 
 /// The splash; a project that the desktop or the command line names goes straight to the frame.
@@ -28,7 +29,7 @@ void ShowFirstForm(terravane::Program& program, const QStringList& arguments)
         return;
     }
     program.Show(terravane::kFrameName);
-    program.Get<terravane::mdiBack>(terravane::kFrameName).OpenFile(FullPath(arguments.at(1).toStdString()));
+    program.Get<terravane::mdiBack>(terravane::kFrameName).OpenFile(terravane::FullPath(arguments.at(1).toStdString()));
 }
 
 }  // namespace

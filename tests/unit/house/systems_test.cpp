@@ -14,7 +14,7 @@ namespace terravane::house {
 
 namespace {
 
-const std::filesystem::path kSources = std::filesystem::path(kSourceFolder) / "src";
+const std::filesystem::path kProgram = std::filesystem::path(kSourceFolder) / "src";
 
 /// The first line that asks the compiler which system it works for; empty where none does.
 std::string AskingLine(const std::string& text)
@@ -55,8 +55,8 @@ TEST(Systems, ThePartnerOfASourceIsTheOtherSystems)
 
 TEST(House, NoSourceAsksWhichSystemItIsFor)
 {
-    for (const std::string& file : SourcesBelow(kSources)) {
-        EXPECT_EQ(AskingLine(ReadText(kSources / file)), "")
+    for (const std::string& file : SourcesBelow(kProgram)) {
+        EXPECT_EQ(AskingLine(ReadText(kProgram / file)), "")
             << "src/" << file
             << ": what differs between systems stands in a pair, NAME_posix.cpp and NAME_windows.cpp.";
     }
@@ -64,7 +64,7 @@ TEST(House, NoSourceAsksWhichSystemItIsFor)
 
 TEST(House, SourcesOfOneSystemStandInPairs)
 {
-    const Words files = SourcesBelow(kSources);
+    const Words files = SourcesBelow(kProgram);
     int pairs = 0;
     for (const std::string& file : files) {
         const std::string partner = PartnerOf(file);
