@@ -14,9 +14,16 @@ endif()
 # What is installed opens files that others made. Should one of them find a fault, it shall end the program and not
 # take it over: checked copies, a guarded stack, addresses that no file can know, no table of functions left writable.
 # tools/check-hardening looks at the programs as they were built.
-add_compile_options("$<$<CONFIG:Release>:-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=3>"
-                    "$<$<CONFIG:Release>:-fstack-protector-strong;-fstack-clash-protection;-fPIE>")
-add_link_options("$<$<CONFIG:Release>:-pie;-Wl,-z,relro,-z,now,-z,noexecstack>")
+add_compile_options("$<$<CONFIG:Release>:-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=3;-fstack-protector-strong>")
+if(WIN32)
+  # The guard of the stack is in a library of its own there; addresses change and data is no code by default.
+  add_link_options(-fstack-protector-strong -Wl,--dynamicbase,--high-entropy-va,--nxcompat)
+  # The system's header: the functions for texts of all languages, and no macros named min and max.
+  add_compile_definitions(UNICODE _UNICODE NOMINMAX _WIN32_WINNT=0x0A00)
+else()
+  add_compile_options("$<$<CONFIG:Release>:-fstack-clash-protection;-fPIE>")
+  add_link_options("$<$<CONFIG:Release>:-pie;-Wl,-z,relro,-z,now,-z,noexecstack>")
+endif()
 
 # The layers that take others' files apart have the standard library's indexes checked as well; in the numerics that
 # would cost a sixth of the time.
@@ -34,6 +41,6 @@ if(CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
   set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros ${CCACHE})
 endif()
 find_program(MOLD mold)
-if(MOLD)
+if(MOLD AND NOT WIN32)
   add_link_options(-fuse-ld=mold)
 endif()

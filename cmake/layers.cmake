@@ -18,12 +18,20 @@ function(terravane_compile_together target)
   endforeach()
 endfunction()
 
+# What differs from system to system stands in pairs of sources, NAME_posix.cpp and NAME_windows.cpp, of which a build
+# takes one; no other source asks which system it is for. A system's own headers have names for everything, so that these
+# are no part of a folder's unit.
+set(TERRAVANE_OTHER_SYSTEM windows)
+if(WIN32)
+  set(TERRAVANE_OTHER_SYSTEM posix)
+endif()
+
 # A layer is a folder of src/ and a library of the same name; every .cpp below the folder belongs to it, but main.cpp.
 # APART: files that the release build compiles by themselves.
 function(terravane_layer name)
   cmake_parse_arguments(layer "" "" "USES;LINKS;APART" ${ARGN})
   file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/${name}/*.cpp)
-  list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
+  list(FILTER sources EXCLUDE REGEX "/main\\.cpp$|_${TERRAVANE_OTHER_SYSTEM}\\.cpp$")
   list(TRANSFORM layer_USES PREPEND terravane_)
   add_library(terravane_${name} STATIC ${sources})
   target_include_directories(terravane_${name} PUBLIC ${CMAKE_SOURCE_DIR}/src)
@@ -31,7 +39,7 @@ function(terravane_layer name)
   if(name IN_LIST TERRAVANE_CHECKED_LAYERS)
     target_compile_definitions(terravane_${name} PRIVATE $<$<CONFIG:Release>:_GLIBCXX_ASSERTIONS>)
   endif()
-  terravane_compile_together(terravane_${name} FILES ${sources} APART ${layer_APART})
+  terravane_compile_together(terravane_${name} FILES ${sources} APART _posix\\.cpp$ _windows\\.cpp$ ${layer_APART})
 endfunction()
 
 # A program: one main.cpp over layers. The target `programs` builds them all, without the tests.
@@ -43,6 +51,9 @@ function(terravane_program name)
   # A main reads arguments: not worth the time that optimising the library for them takes.
   set_source_files_properties(${program_MAIN} PROPERTIES COMPILE_OPTIONS $<$<CONFIG:Release>:-O1>)
   target_link_libraries(${name} PRIVATE ${program_USES} ${program_LINKS})
+  if(WIN32)
+    terravane_resources(${name})
+  endif()
   add_dependencies(programs ${name})
   set_property(GLOBAL APPEND PROPERTY terravane_programs $<TARGET_FILE:${name}>)
 endfunction()

@@ -58,9 +58,7 @@ std::string FirstLine(const Bytes& content)
 
 std::string ProjectPathFor(std::string_view fileName, std::string_view fileTitle)
 {
-    const auto mark = fileName.rfind(kFolderMark);
-    const auto folder = mark == std::string_view::npos ? std::string_view() : fileName.substr(0, mark + 1);
-    return std::string(folder).append(kPrefix).append(fileTitle);
+    return FolderOf(fileName).append(kPrefix).append(fileTitle);
 }
 
 mdiBack::mdiBack(Program& owner)
@@ -85,7 +83,7 @@ void mdiBack::Form_Load()
 void mdiBack::ReadRecentLine()
 {
     const std::string& path = program.ApplicationPath();
-    if (!path.ends_with(kFolderMark)) program.AppFolder = path + kFolderMark;
+    if (path.empty() || !IsFolderMark(path.back())) program.AppFolder = WithMark(path);
     recentLine_ = FirstLine(program.Files().ReadAtMost(program.AppFolder + std::string(kRecentFile), kMostOfRecent));
     SetRecentCaption(recentLine_);
 }
@@ -221,7 +219,8 @@ void mdiBack::ShowPreferences(int tab) const
 
 void mdiBack::mnuManual_Click() const
 {
-    const std::string folder = WithMark(program.ApplicationPath()) + kFolderMark;  // two marks: the path as shown
+    std::string folder = WithMark(program.ApplicationPath());
+    folder += folder.back();  // two marks: the path as shown
     program.Ask().OpenDocument(BrandFolderIn(folder).append(kGuideFile));
 }
 

@@ -37,6 +37,7 @@ struct BatchOptions {
     Moment today{};             // noon of the day that the forms see
     bool isTodayGiven = false;  // by option
     GivenChoices given;
+    std::vector<std::string> workerArguments;  // those that start this program as a worker of the same run
 
     bool Wants(std::string_view test) const;
     bool WantsMaterial(std::string_view material) const;

@@ -5,6 +5,7 @@
 #include <map>
 #include <utility>
 
+#include "batch/batch_worker.h"
 #include "batch/growing_file.h"
 #include "batch/progress.h"
 #include "batch/project_work.h"
@@ -19,13 +20,6 @@ namespace {
 using Clock = std::chrono::steady_clock;
 
 constexpr std::string_view kClearLine = "\r\x1b[K";
-
-/// The disk as outputs need it: each is synced before it appears, so that it is whole; that it has appeared need not
-/// survive a power cut, since it can be made again. That halves the waiting for the disk.
-class OutputDisk : public DiskFileSystem {
-  protected:
-    void SyncFolder(const std::string&) override {}
-};
 
 /// CSV, JSON and manifest, written in the order of the projects, whichever ends first.
 class ResultFiles {
@@ -77,18 +71,19 @@ class BatchRun {
         : options_(options),
           listeners_(listeners),
           projects_(ListProjects(options.arguments, options.outputFolder)),
-          brand_(options.brand.empty() ? FirstBrand() : ReadBrand(disk_, options.brand)),
+          worker_(options),
           files_(options),
           progress_(projects_.size())
     {
-        if (options.resumes) journal_ = ReadJournals(disk_, projects_);
+        if (options.resumes) journal_ = ReadJournals(DiskFileSystem(), projects_);
         FindClashes();
     }
 
     int Run()
     {
         RunInWorkers(projects_.size(), static_cast<std::size_t>(std::max(1, options_.jobs)),
-                     {[this](std::size_t project) { return Work(project); },
+                     {[this](std::size_t project) { return RequestOf(project); },
+                      [this](const std::string& request) { return worker_.Answer(request); }, options_.workerArguments,
                       [this](std::size_t project, const auto& answer, const std::string& crash) {
                           Take(project, answer ? ReadAnswer(*answer) : Crashed(project, crash));
                       },
@@ -100,14 +95,14 @@ class BatchRun {
     }
 
   private:
-    /// In a worker.
-    std::string Work(std::size_t number)
+    std::string RequestOf(std::size_t number) const
     {
-        const ProjectFile& project = projects_[number];
-        if (const auto clash = clashes_.find(number); clash != clashes_.end()) return ToText(Clashed(clash->second));
-        const auto earlier = journal_.find(project.stem);
-        return ToText(WorkProject({disk_, outputs_}, project, options_, brand_,
-                                  earlier == journal_.end() ? std::nullopt : std::optional(earlier->second)));
+        ProjectRequest request{projects_[number], {}, {}};
+        if (const auto clash = clashes_.find(number); clash != clashes_.end())
+            request.clash = projects_[clash->second].path;
+        if (const auto earlier = journal_.find(request.project.stem); earlier != journal_.end())
+            request.earlier = earlier->second;
+        return ToText(request);
     }
 
     /// Projects whose outputs would overwrite those of an earlier one.
@@ -118,13 +113,6 @@ class BatchRun {
             const auto [owner, isNew] = owners.emplace(projects_[i].stem, i);
             if (!isNew) clashes_.emplace(i, owner->second);
         }
-    }
-
-    ProjectAnswer Clashed(std::size_t owner) const
-    {
-        ProjectAnswer answer;
-        answer.failure = "its outputs would have the names of those of " + projects_[owner].path;
-        return answer;
     }
 
     ProjectAnswer Crashed(std::size_t number, const std::string& crash) const
@@ -193,10 +181,8 @@ class BatchRun {
 
     const BatchOptions& options_;
     const Listeners& listeners_;
-    DiskFileSystem disk_;
-    OutputDisk outputs_;
     std::vector<ProjectFile> projects_;
-    Brand brand_;
+    BatchWorker worker_;
     ResultFiles files_;
     Progress progress_;
     std::map<std::string, JournalEntry> journal_;
@@ -208,6 +194,12 @@ class BatchRun {
 };
 
 }  // namespace
+
+void WorkForRun(const BatchOptions& options)
+{
+    BatchWorker worker(options);
+    ServeRequests([&worker](const std::string& request) { return worker.Answer(request); });
+}
 
 int RunBatch(const BatchOptions& options, const Listeners& listeners)
 {

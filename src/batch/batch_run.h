@@ -26,4 +26,7 @@ struct Listeners {
 /// can't be had.
 int RunBatch(const BatchOptions& options, const Listeners& listeners);
 
+/// The same program's part in a run where it was started as one of its workers.
+void WorkForRun(const BatchOptions& options);
+
 }  // namespace terravane

@@ -1,7 +1,6 @@
 #include "batch/growing_file.h"
 
-#include <filesystem>
-
+#include "runtime/paths.h"
 #include "runtime/runtime_error.h"
 
 namespace terravane {
@@ -10,14 +9,14 @@ GrowingFile::GrowingFile(std::string path) : path_(std::move(path))
 {
     if (!IsWanted()) return;
     part_ = path_ + ".part";
-    file_.open(part_, std::ios::binary | std::ios::trunc);
+    file_ = OpenNew(part_);
     if (!file_) throw RuntimeError(error::kPathFileAccess, "Could not write '" + path_ + "'.");
 }
 
 GrowingFile::~GrowingFile()
 {
-    std::error_code ignored;
-    if (!part_.empty()) std::filesystem::remove(part_, ignored);
+    file_.close();  // an open file can't be taken away everywhere
+    if (!part_.empty()) RemoveAll(part_);
 }
 
 void GrowingFile::Add(std::string_view text)
@@ -31,9 +30,7 @@ void GrowingFile::Finish()
 {
     if (!IsWanted()) return;
     file_.close();
-    std::error_code failure;
-    if (file_) std::filesystem::rename(part_, path_, failure);
-    if (!file_ || failure) throw RuntimeError(error::kDeviceError, "Could not write '" + path_ + "'.");
+    if (!file_ || !MoveOver(part_, path_)) throw RuntimeError(error::kDeviceError, "Could not write '" + path_ + "'.");
     part_.clear();
 }
 

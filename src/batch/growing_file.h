@@ -1,9 +1,10 @@
 /// A file that grows over a long run and appears whole at its end, or not at all.
 #pragma once
 
-#include <fstream>
 #include <string>
 #include <string_view>
+
+#include "runtime/streams.h"
 
 namespace terravane {
 

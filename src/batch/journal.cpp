@@ -1,11 +1,11 @@
 #include "batch/journal.h"
 
-#include <fstream>
 #include <set>
 
 #include <nlohmann/json.hpp>
 
 #include "batch/entry_json.h"
+#include "runtime/streams.h"
 
 namespace terravane {
 
@@ -66,10 +66,7 @@ void AddToJournal(const ProjectFile& project, const JournalEntry& entry)
     Json line = kept;
     line["project"] = NameOf(project.stem);
     const std::string text = line.dump(-1, ' ', false, Json::error_handler_t::replace) + '\n';
-    std::ofstream journal;
-    journal.rdbuf()->pubsetbuf(nullptr, 0);  // one write a line, also where several runs add to one journal
-    journal.open(JournalPath(project), std::ios::binary | std::ios::app);
-    journal.write(text.data(), static_cast<std::streamsize>(text.size()));
+    OpenToAdd(JournalPath(project)).write(text.data(), static_cast<std::streamsize>(text.size()));
 }
 
 }  // namespace terravane

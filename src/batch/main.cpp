@@ -1,9 +1,7 @@
 // terravane-report: reports and results of many project files. See docs/batch.md.
 #include <QString>
 #include <QtGlobal>
-#include <cstdlib>
-#include <ctime>
-#include <filesystem>
+#include <algorithm>
 #include <iostream>
 #include <thread>
 
@@ -12,6 +10,7 @@
 #include "batch/batch_run.h"
 #include "batch/batch_tests.h"
 #include "batch/terminal.h"
+#include "runtime/machine.h"
 #include "runtime/runtime_error.h"
 
 namespace {
@@ -28,32 +27,22 @@ constexpr auto kFooter =
 
 constexpr std::string_view kProgram = "terravane-report: ";
 
+constexpr std::string_view kDay = "yyyy-mm-dd";
+
 /// What the command line says, before it means something.
+/// worker  the date of the run that this is a worker of; empty where it is the run itself
 struct Typed {
-    std::string curve, today, brand;
+    std::string curve, today, brand, worker;
     std::vector<int> corrects;
 };
-
-std::filesystem::path OwnFolder()
-{
-    std::error_code failure;
-    return std::filesystem::read_symlink("/proc/self/exe", failure).parent_path();
-}
-
-/// The user's data folder of the desktop program.
-std::filesystem::path DataFolder()
-{
-    const char* const named = std::getenv("XDG_DATA_HOME");
-    if (named && *named) return std::filesystem::path(named) / "terravane";
-    const char* const home = std::getenv("HOME");
-    return std::filesystem::path(home ? home : "/") / ".local/share/terravane";
-}
 
 /// The brand folder that the desktop program of this installation uses; empty where it never ran.
 std::string InstalledBrand()
 {
-    for (const auto& folder : {OwnFolder(), DataFolder()}) {
-        if (std::filesystem::exists(folder / "BrandList" / "logo.mdb")) return (folder / "BrandList").string();
+    const DiskFileSystem disk;
+    for (const std::string& folder : {FolderOf(ProgramFile()), DataFolder()}) {
+        const std::string brand = BrandFolderIn(folder);
+        if (disk.Exists(brand + "logo.mdb")) return brand;
     }
     return {};
 }
@@ -63,18 +52,11 @@ Moment Noon(Moment day)
     return std::chrono::floor<std::chrono::days>(day) + std::chrono::hours(12);
 }
 
-Moment MachineToday()
-{
-    const std::time_t now = std::time(nullptr);
-    std::tm local{};
-    localtime_r(&now, &local);
-    return Noon(MakeMoment(local.tm_year + 1900, local.tm_mon + 1, local.tm_mday));
-}
-
-void TakeDate(BatchOptions& options, const std::string& today)
+void TakeDate(BatchOptions& options, const std::string& today, const std::string& run)
 try {
     options.isTodayGiven = !today.empty();
-    options.today = today.empty() ? MachineToday() : Noon(ParseDate(today));
+    const std::string& given = run.empty() ? today : run;
+    options.today = Noon(given.empty() ? LocalNow() : ParseDate(given));
 } catch (const RuntimeError&) {
     throw CLI::ValidationError("--today", "\"" + today + "\" is no date; write it as 2026-11-21.");
 }
@@ -82,7 +64,7 @@ try {
 void TakeBrand(BatchOptions& options, const std::string& brand)
 {
     options.brand = brand.empty() ? InstalledBrand() : brand;
-    if (!brand.empty() && !std::filesystem::is_directory(brand)) {
+    if (!brand.empty() && !DiskFileSystem().IsFolder(brand)) {
         throw CLI::ValidationError("--brand", "There is no folder \"" + brand + "\".");
     }
 }
@@ -156,6 +138,7 @@ void AddOptions(CLI::App& app, BatchOptions& options, Typed& typed)
         ->option_text("DIR");
     app.add_option("--today", typed.today, "The date that the sheets and the PDFs see; else the machine's")
         ->option_text("YYYY-MM-DD");
+    app.add_option("--worker", typed.worker)->group("");  // of this program's own; nobody is told of it
 }
 
 /// Qt's warnings are about a desktop session, a missing run-time folder for one, which a printing program does without;
@@ -167,9 +150,13 @@ void DropQtWarnings()
     });
 }
 
-int Run(const BatchOptions& options)
+int Run(const BatchOptions& options, bool isWorker)
 try {
     DropQtWarnings();
+    if (isWorker) {
+        WorkForRun(options);
+        return exit_status::kDone;
+    }
     CatchInterruption();
     const bool hasBar = IsErrorTerminal();
     const Listeners listeners{std::cout, std::cerr, hasBar ? &std::cerr : nullptr, !hasBar || !IsOutputTerminal()};
@@ -183,22 +170,28 @@ try {
 
 int main(int argc, char** argv)
 {
+    BecomeTool();
     BatchOptions options;
     Typed typed;
     options.jobs = static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
     CLI::App app(kAbout, "terravane-report");
     app.footer(kFooter);
+    app.allow_windows_style_options(false);  // "/projects" is a folder everywhere
     AddOptions(app, options, typed);
     app.final_callback([&] {
-        TakeDate(options, typed.today);
+        TakeDate(options, typed.today, typed.worker);
         TakeBrand(options, typed.brand);
         TakeChoices(options, typed);
         Check(options);
     });
+    std::vector<std::string> arguments = Arguments(argc, argv);
+    options.workerArguments = arguments;
+    std::ranges::reverse(arguments);  // the parser takes them from the back
     try {
-        app.parse(argc, argv);
+        app.parse(std::move(arguments));
+        options.workerArguments.insert(options.workerArguments.end(), {"--worker", Format(options.today, kDay)});
     } catch (const CLI::ParseError& error) {
         return app.exit(error) == 0 ? exit_status::kDone : exit_status::kUsage;
     }
-    return Run(options);
+    return Run(options, !typed.worker.empty());
 }

@@ -1,7 +1,6 @@
 #include "batch/project_work.h"
 
 #include <algorithm>
-#include <filesystem>
 #include <future>
 
 #include "batch/pressing.h"
@@ -17,14 +16,6 @@ namespace terravane {
 namespace {
 
 constexpr std::string_view kDate = "yyyy-mm-dd";
-
-/// As the program holds a path and the pages show it: from the root, without "." and "..".
-std::string FullPath(const std::string& path)
-{
-    std::error_code failure;
-    const auto full = std::filesystem::absolute(path, failure);
-    return failure ? path : full.lexically_normal().string();
-}
 
 /// A part of the printed whole: one test's report, or the overall results.
 /// name   behind the project's in the file's name: "att_soil", "results"

@@ -1,6 +1,7 @@
 #include "desktop/looks.h"
 
 #include <QApplication>
+#include <QFontDatabase>
 #include <QPainter>
 #include <QPalette>
 #include <QPixmap>
@@ -84,6 +85,13 @@ QColor InkOn(const QColor& ground)
     const double light = 0.2126 * std::pow(ground.redF(), 2.2) + 0.7152 * std::pow(ground.greenF(), 2.2) +
                          0.0722 * std::pow(ground.blueF(), 2.2);
     return light > 0.18 ? Qt::black : Qt::white;
+}
+
+QFont WithThaiLetters(QFont font)
+{
+    if (!QFontDatabase::writingSystems(font.family()).contains(QFontDatabase::Thai))
+        font.setFamilies({font.family(), "Loma"});
+    return font;
 }
 
 QFont Scaled(QFont font, double factor, bool bold)

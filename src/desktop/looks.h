@@ -28,6 +28,9 @@ inline constexpr double kCaptionSize = 0.9;
 QColor ToQt(Colour colour);
 /// Black or white, whichever reads better on the colour.
 QColor InkOn(const QColor& ground);
+/// The platform's font, with Thai letters from the fonts that came with the program where it has none of its own: what
+/// another font in their place shows is tone marks without their letters.
+QFont WithThaiLetters(QFont font);
 /// The platform's font at a multiple of its size.
 QFont Scaled(QFont font, double factor, bool bold = false);
 /// Gives a widget its own ground, with readable ink; an invalid colour restores the platform's.

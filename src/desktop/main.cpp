@@ -1,7 +1,5 @@
 // The desktop program.
 #include <QApplication>
-#include <QFileInfo>
-#include <QStandardPaths>
 
 #include "app/form_makers.h"
 #include "app/mdiBack.h"
@@ -9,29 +7,18 @@
 #include "desktop/looks.h"
 #include "desktop/qt_surroundings.h"
 #include "render/fonts.h"
+#include "runtime/machine.h"
 #include "store/new_stores.h"
 
 namespace {
-
-/// A program that a package brought stands beside its entry in the desktop's menu.
-bool IsInstalled(const QString& folder)
-{
-    return QFileInfo::exists(folder + "/../share/applications/terravane.desktop");
-}
 
 /// The program's own folder where it may be written, else, and for an installed program whoever starts it, the user's
 /// data folder.
 std::string ApplicationPath(const terravane::FileSystem& files)
 {
-    const QString own = QCoreApplication::applicationDirPath();
-    if (!IsInstalled(own) && files.IsWritableFolder(own.toStdString())) return own.toStdString();
-    return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation).toStdString();
-}
-
-/// Beside the program's folder, in a build as in an installation.
-std::string GuidePath()
-{
-    return (QCoreApplication::applicationDirPath() + "/../share/terravane/UserGuide.pdf").toStdString();
+    const std::string own = terravane::FolderOf(terravane::ProgramFile());
+    return !terravane::IsInstalled() && files.IsWritableFolder(own) ? terravane::WithoutMark(own)
+                                                                    : terravane::DataFolder();
 }
 
 /// The splash; a project that the desktop or the command line names goes straight to the frame.
@@ -42,8 +29,7 @@ void ShowFirstForm(terravane::Program& program, const QStringList& arguments)
         return;
     }
     program.Show(terravane::kFrameName);
-    const QString path = QFileInfo(arguments.at(1)).absoluteFilePath();
-    program.Get<terravane::mdiBack>(terravane::kFrameName).OpenFile(path.toStdString());
+    program.Get<terravane::mdiBack>(terravane::kFrameName).OpenFile(terravane::FullPath(arguments.at(1).toStdString()));
 }
 
 }  // namespace
@@ -55,6 +41,7 @@ int main(int argc, char** argv)
     QApplication::setApplicationName("terravane");
     QApplication::setWindowIcon(looks::ProgramIcon());
     QApplication::setQuitOnLastWindowClosed(false);
+    if (TakeFontsBeside() > 0) QApplication::setFont(looks::WithThaiLetters(QApplication::font()));
 
     DiskFileSystem files;
     QtSurroundings surroundings(files);
@@ -63,7 +50,7 @@ int main(int argc, char** argv)
     program.Run("Start", [&] {
         RequireFonts();
         WriteFirstContent(files, program.BrandFolderNow());
-        WriteGuide(files, GuidePath(), program.BrandFolderNow());
+        WriteGuide(files, ShareFolder().append(kGuideFile), program.BrandFolderNow());
     });
     Desktop desktop(program, surroundings);
     program.Run("Start", [&] { ShowFirstForm(program, QCoreApplication::arguments()); });

@@ -91,7 +91,7 @@ std::optional<std::string> QtSurroundings::AskFile(const FileQuestion& question)
     if (path.isEmpty()) return std::nullopt;
     QString full = QFileInfo(path).absoluteFilePath();
     if (save && QFileInfo(full).suffix().isEmpty() && filter.contains(".mdb")) full += ".mdb";
-    return full.toStdString();
+    return FullPath(full.toStdString());
 }
 
 std::optional<PrintTarget> QtSurroundings::AskPdfFile()
@@ -99,8 +99,7 @@ std::optional<PrintTarget> QtSurroundings::AskPdfFile()
     QString path = QFileDialog::getSaveFileName(Above(), QObject::tr("Save as PDF"), {}, "PDF (*.pdf)");
     if (path.isEmpty()) return std::nullopt;
     if (QFileInfo(path).suffix().isEmpty()) path += ".pdf";
-    return [this, path = QFileInfo(path).absoluteFilePath().toStdString()](std::span<const DisplayList> pages,
-                                                                           const std::string& title) {
+    return [this, path = FullPath(path.toStdString())](std::span<const DisplayList> pages, const std::string& title) {
         WritePdf(files_, path, pages, PdfDocument{title, Now(), {}});
     };
 }

@@ -1,5 +1,6 @@
 #include "render/fonts.h"
 
+#include <QFontDatabase>
 #include <QFontInfo>
 #include <QString>
 #include <algorithm>
@@ -9,6 +10,8 @@
 #include <string>
 
 #include "drawing/font_metrics.h"
+#include "runtime/file_system.h"
+#include "runtime/machine.h"
 #include "runtime/runtime_error.h"
 
 namespace terravane {
@@ -55,10 +58,24 @@ FaceAtSize FaceFor(const Font& font, std::string_view family)
     return {face, exact / pixels};
 }
 
+std::size_t TakeFontsBeside()
+{
+    const DiskFileSystem disk;
+    const std::string folder = ShareFolder() + "fonts";
+    if (!disk.IsFolder(folder)) return 0;
+    std::size_t taken = 0;
+    for (const std::string& name : disk.Names(folder)) {
+        const int number = QFontDatabase::addApplicationFont(QString::fromStdString(WithMark(folder) + name));
+        if (number >= 0) ++taken;
+    }
+    return taken;
+}
+
 void RequireFonts()
 {
     static std::atomic<bool> found = false;
     if (found) return;
+    TakeFontsBeside();
     std::for_each(kFamilies.begin(), kFamilies.end(), RequireFamily);
     found = true;
 }

@@ -4,23 +4,15 @@
 #include <atomic>
 #include <functional>
 
-#include <unistd.h>
-
+#include "runtime/machine.h"
 #include "runtime/runtime_error.h"
 #include "runtime/text.h"
 
 namespace terravane {
 namespace {
 
-constexpr char kMark = '/';
 constexpr std::uint64_t kMebibyte = 1 << 20;
 constexpr std::size_t kNameCharactersKept = 40;  // a temporary name must not outgrow what a folder takes
-
-std::size_t NameStart(std::string_view path)
-{
-    const std::size_t mark = path.rfind(kMark);
-    return mark == std::string_view::npos ? 0 : mark + 1;
-}
 
 /// A long name cut, with a number that tells it from others of the same beginning.
 std::string Shortened(const std::string& name)
@@ -39,7 +31,8 @@ std::string TemporaryStart(const std::string& name)
 std::string TemporaryBeside(const std::string& path)
 {
     static std::atomic<unsigned> count = 0;
-    return FolderOf(path) + TemporaryStart(NameOf(path)) + std::to_string(getpid()) + "-" + std::to_string(++count);
+    return FolderOf(path) + TemporaryStart(NameOf(path)) + std::to_string(ProcessNumber()) + "-" +
+           std::to_string(++count);
 }
 
 /// The same failure, told of the file that the user knows.
@@ -54,8 +47,7 @@ RuntimeError Renamed(const RuntimeError& failure, const std::string& temporary, 
 
 std::string Join(const std::string& folder, std::string_view name)
 {
-    const bool needsMark = !folder.empty() && folder.back() != kMark;
-    return folder + (needsMark ? std::string(1, kMark) : "") + std::string(name);
+    return (folder.empty() ? folder : WithMark(folder)) + std::string(name);
 }
 
 }  // namespace
@@ -128,16 +120,6 @@ void FileSystem::Copy(const std::string& source, const std::string& target)
 {
     const auto lock = Exists(target) ? Lock(target) : nullptr;
     ReplaceWhole(target, Read(source));
-}
-
-std::string FolderOf(std::string_view path)
-{
-    return std::string(path.substr(0, NameStart(path)));
-}
-
-std::string NameOf(std::string_view path)
-{
-    return std::string(path.substr(NameStart(path)));
 }
 
 std::string FindWithoutCase(const FileSystem& files, const std::string& folder, std::string_view name)

@@ -9,6 +9,8 @@
 #include <string_view>
 #include <vector>
 
+#include "runtime/paths.h"
+
 namespace terravane {
 
 using Bytes = std::vector<std::uint8_t>;
@@ -107,10 +109,6 @@ class DiskFileSystem : public FileSystem {
     void Remove(const std::string& path) noexcept override;
     std::string Target(const std::string& path) const override;
 };
-
-/// The folder of a path with its mark at the end ("" for a bare name), and the name behind it.
-std::string FolderOf(std::string_view path);
-std::string NameOf(std::string_view path);
 
 /// The path of a folder's entry whose name equals `name` without regard to case; the plain join where there is none.
 /// For stores that were made where "Logo.mdb" and "logo.mdb" are one file.

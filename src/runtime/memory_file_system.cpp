@@ -9,12 +9,10 @@ namespace terravane {
 
 namespace {
 
-constexpr char kSlash = '/';
-
 /// The folder's path as its files' paths begin.
 std::string Beginning(const std::string& folder)
 {
-    return folder.empty() || folder.back() == kSlash ? folder : folder + kSlash;
+    return folder.empty() ? folder : WithMark(folder);
 }
 
 std::shared_ptr<const Bytes> Kept(std::span<const std::uint8_t> content)
@@ -77,8 +75,8 @@ std::vector<std::string> MemoryFileSystem::Names(const std::string& folder) cons
 void MemoryFileSystem::MakeFolders(const std::string& path)
 {
     const std::string whole = Beginning(path);
-    for (std::size_t mark = whole.find(kSlash); mark != std::string::npos; mark = whole.find(kSlash, mark + 1))
-        folders_.insert(whole.substr(0, mark + 1));
+    for (std::size_t end = 1; end <= whole.size(); ++end)
+        if (IsFolderMark(whole[end - 1])) folders_.insert(whole.substr(0, end));
 }
 
 Bytes MemoryFileSystem::Read(const std::string& path) const

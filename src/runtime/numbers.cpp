@@ -6,6 +6,7 @@
 #include <cmath>
 #include <limits>
 
+#include "runtime/elementary.h"
 #include "runtime/runtime_error.h"
 
 namespace terravane {
@@ -66,7 +67,7 @@ double Divide(double dividend, double divisor)
 double Log(double value)
 {
     if (!(value > 0)) throw RuntimeError(error::kInvalidProcedureCall);
-    return std::log(value);
+    return NaturalLogarithm(value);
 }
 
 double Int(double value) noexcept

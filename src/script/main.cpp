@@ -1,8 +1,10 @@
 // terravane-script: the program's forms driven by a script. See docs/script-runner.md.
+#include <algorithm>
 #include <iostream>
 
 #include <CLI/CLI.hpp>
 
+#include "runtime/machine.h"
 #include "runtime/runtime_error.h"
 #include "script/script_program.h"
 
@@ -63,10 +65,12 @@ try {
 
 int main(int argc, char** argv)
 {
+    terravane::BecomeTool();
     terravane::ScriptOptions options;
     std::string today;
     CLI::App app(kAbout, "terravane-script");
     app.footer(kLines);
+    app.allow_windows_style_options(false);  // "/tmp/x" is a path everywhere
     app.add_option("FILE", options.files, "Scripts, run in their order; standard input where none is named");
     app.add_option("--home", options.home,
                    "The program's folder for this run (FileRecent.txt, BrandList); else a fresh private one")
@@ -80,8 +84,10 @@ int main(int argc, char** argv)
             throw CLI::ValidationError("--today", complaint);
         }
     });
+    std::vector<std::string> arguments = terravane::Arguments(argc, argv);
+    std::ranges::reverse(arguments);  // the parser takes them from the back
     try {
-        app.parse(argc, argv);
+        app.parse(std::move(arguments));
     } catch (const CLI::ParseError& error) {
         return app.exit(error) == 0 ? 0 : 1;
     }

@@ -1,6 +1,6 @@
 #include "script/script_run.h"
 
-#include <fstream>
+#include "runtime/streams.h"
 
 namespace terravane {
 
@@ -30,7 +30,7 @@ void ScriptRun::Run(std::istream& script, const std::string& name)
 
 void ScriptRun::RunFile(const std::string& path)
 {
-    std::ifstream script(path);
+    std::ifstream script = OpenToRead(path);
     script.peek();  // a folder opens, and fails at the first byte
     if (script.bad() || !script.is_open()) return Complain(path, "The script can't be read.");
     script.clear();

@@ -1,10 +1,10 @@
 #include "script/script_surroundings.h"
 
 #include <array>
-#include <ctime>
-#include <filesystem>
 
 #include "render/pdf.h"
+#include "runtime/machine.h"
+#include "runtime/paths.h"
 
 namespace terravane {
 
@@ -35,21 +35,7 @@ MessageAnswer AnswerOf(MessageButtons buttons, std::string_view queued)
     return box->unanswered;
 }
 
-Moment LocalNow()
-{
-    const std::time_t now = std::time(nullptr);
-    std::tm local{};
-    localtime_r(&now, &local);
-    return MakeMoment(local.tm_year + 1900, local.tm_mon + 1, local.tm_mday, local.tm_hour, local.tm_min,
-                      std::min(local.tm_sec, 59));
-}
-
 }  // namespace
-
-std::string FullPath(const std::string& path)
-{
-    return std::filesystem::absolute(path).lexically_normal().string();
-}
 
 ScriptSurroundings::ScriptSurroundings(FileSystem& files, AnswerWriter& answers, std::optional<Moment> now)
     : files_(files), answers_(answers), now_(now)

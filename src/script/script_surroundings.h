@@ -49,7 +49,4 @@ class ScriptSurroundings : public Surroundings {
     bool hasFailed_ = false, hasEnded_ = false;
 };
 
-/// A path as the program holds it: from the root, without "." and "..".
-std::string FullPath(const std::string& path);
-
 }  // namespace terravane

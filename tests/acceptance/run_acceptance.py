@@ -5,7 +5,8 @@
 
 A folder stands for its scripts; without either it runs all below its own folder. Each runs in a fresh folder of its own, on 21 November 2026, and is
 compared with SCRIPT.expected, in which the fresh folder is written <work>. --update writes what came instead.
---sample compares nothing: the script must end well and no answer may be an error or a refusal.
+--windows reads the answers of a program that runs under wine: a path that begins with the fresh folder has its marks as
+here. --sample compares nothing: the script must end well and no answer may be an error or a refusal.
 
 Comment lines of a script may say more:
 
@@ -72,7 +73,16 @@ def shell(command, folder, env):
     return lines + ([f"status {ran.returncode}"] if ran.returncode else [])
 
 
-def run_script(program, script):
+def as_here(line, folder):
+    """A line of a program under wine with the paths of the fresh folder as they are here: JSON doubles their marks."""
+    for mark in ("\\\\", "\\"):
+        there = re.escape(("Z:" + folder).replace("/", mark))
+        behind = "(?:" + re.escape(mark) + r"[^\\\"']*)*"
+        line = re.sub(there + "(" + behind + ")", lambda found: folder + found[1].replace(mark, "/"), line)
+    return line
+
+
+def run_script(program, script, windows=False):
     """The answers and checks as lines, and what is wrong with the run itself, if anything."""
     asked = Directives(script)
     env = environment(program)
@@ -90,6 +100,8 @@ def run_script(program, script):
         lines = ran.stdout.decode("utf-8", "backslashreplace").splitlines()
         for command in asked.check:
             lines += [f"$ {command}", *shell(command, folder, env)]
+        if windows:
+            lines = [as_here(line, str(folder)) for line in lines]
         lines = [line.replace(str(folder), "<work>") for line in lines]
     wrong = []
     if ran.returncode != asked.exit:
@@ -114,7 +126,7 @@ def refusals(lines):
 def judge(program, script, mode):
     """What is wrong, as lines; nothing where all is well."""
     try:
-        lines, wrong = run_script(program, script)
+        lines, wrong = run_script(program, script, mode.windows)
     except subprocess.TimeoutExpired as late:
         return [str(late)]
     if mode.sample:
@@ -134,6 +146,7 @@ def main(arguments):
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
     parser.add_argument("--program", type=pathlib.Path, default=ROOT / "build/bin/terravane-script")
     parser.add_argument("--update", action="store_true", help="write what came into the .expected files")
+    parser.add_argument("--windows", action="store_true", help="the program runs under wine")
     parser.add_argument("--sample", action="store_true", help="compare nothing, accept no error")
     parser.add_argument("scripts", nargs="*", type=pathlib.Path, metavar="SCRIPT | FOLDER")
     mode = parser.parse_args(arguments)

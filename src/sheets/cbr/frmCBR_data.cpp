@@ -1,7 +1,7 @@
 // Penetration Intervals and Calculate: from weighings and dials to water contents, densities, swelling, loads and
 // stresses. A stage reads back the text that the stage before it wrote: the figures of the sheet are those of the
 // printed report.
-#include <cmath>
+#include <numbers>
 
 #include "laboratory/masks.h"
 #include "runtime/dates.h"
@@ -90,7 +90,7 @@ void frmCBR::DensityOf(int column)
     const auto cell = [&](density::Row row) { return MSHCompaction(row, column); };
     const auto value = [&](density::Row row) { return Val(cell(row)); };
     const double diameter = value(density::Diameter);
-    const double volume = 4 * std::atan(1.0) * diameter * diameter / 4 * value(density::Height);
+    const double volume = std::numbers::pi * diameter * diameter / 4 * value(density::Height);
     const double soil = value(density::MoldAndSoil) - value(density::JustMold);
     cell(density::WetDensity) = Format(Divide(soil, volume), kTwoDecimals);
     const double water = Val(MSHWater(water::WaterContent, column));

@@ -1,5 +1,5 @@
 // Calculate: from weighings to water contents and densities.
-#include <cmath>
+#include <numbers>
 
 #include "laboratory/masks.h"
 #include "runtime/numbers.h"
@@ -62,11 +62,11 @@ void frmCompaction::DensityOf(int trial)
         Format(Divide(value(density::WetDensity), 1 + value(density::WaterContent) / 100), kTwoDecimals);
 }
 
-/// cm³, of a mold in cm; pi from the arctangent.
+/// cm³, of a mold in cm.
 double frmCompaction::MoldVolume() const
 {
     const double height = Val(txtHeight.Text()), diameter = Val(txtDia.Text());
-    return height * 4 * std::atan(1.0) * (diameter * diameter) / 4;
+    return height * std::numbers::pi * (diameter * diameter) / 4;
 }
 
 void frmCompaction::EraseTrial(int trial)

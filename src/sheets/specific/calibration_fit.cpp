@@ -5,6 +5,7 @@
 
 #include "laboratory/masks.h"
 #include "numeric/straight_line.h"
+#include "runtime/elementary.h"
 #include "runtime/numbers.h"
 #include "runtime/runtime_error.h"
 
@@ -16,7 +17,7 @@ constexpr std::string_view kSixDecimals = "#0.000000";
 
 double Exp(double exponent)
 {
-    const double value = std::exp(exponent);
+    const double value = Exponential(exponent);
     if (!std::isfinite(value)) throw RuntimeError(error::kOverflow);
     return value;
 }

@@ -29,7 +29,8 @@ constexpr std::array kModels{CalibrationModel::Exponential, CalibrationModel::Li
 double RoundStep(double wanted)
 {
     if (wanted <= kFinestStep) return kFinestStep;
-    const double power = std::pow(10, std::floor(std::log10(wanted)));
+    double power = kFinestStep;
+    while (power * 10 <= wanted && std::isfinite(power)) power *= 10;
     for (const double digit : {1, 2, 5}) {
         if (digit * power >= wanted) return digit * power;
     }

@@ -1,6 +1,4 @@
 // The parts of a run that know no project: the list of files, the journal, the workers, the bar, the growing files.
-#include <csignal>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <set>
@@ -14,28 +12,33 @@
 #include "batch/project_list.h"
 #include "batch/sha256.h"
 #include "batch/worker_pool.h"
+#include "runtime/machine.h"
+#include "runtime/native_path.h"
 #include "runtime/runtime_error.h"
+#include "unit/batch/test_worker.h"
 
 namespace terravane {
 namespace {
 
 namespace fs = std::filesystem;
 
+/// A path with the marks of the system that the test runs on.
+std::string Marked(std::string_view path)
+{
+    return ToText(ToNative(path).make_preferred());
+}
+
 /// A folder of the test's own, gone after it.
 struct Folder {
-    fs::path path;
-    Folder()
-    {
-        std::string made = (fs::temp_directory_path() / "terravane-batch-XXXXXX").string();
-        path = mkdtemp(made.data());
-    }
-    ~Folder() { fs::remove_all(path); }
+    fs::path path = ToNative(MakePrivateFolder("terravane-batch"));
+    ~Folder() { RemoveAll(ToText(path)); }
 
-    std::string operator/(std::string_view name) const { return (path / name).string(); }
+    std::string operator/(std::string_view name) const { return Marked(ToText(path / ToNative(name))); }
     void Touch(std::string_view name) const
     {
-        fs::create_directories((path / name).parent_path());
-        std::ofstream(path / name) << "x";
+        const fs::path file = path / ToNative(name);
+        fs::create_directories(file.parent_path());
+        std::ofstream(file) << "x";
     }
 };
 
@@ -52,15 +55,15 @@ TEST(ListProjects, TakesAFoldersProjectsSortedWithThoseOfItsSubfolders)
     const auto projects = ListProjects({folder.path.string()}, "/out");
     ASSERT_EQ(projects.size(), 2U);
     EXPECT_EQ(projects[0].path, folder / "a/ถนน.MDB");
-    EXPECT_EQ(projects[0].stem, "/out/a/ถนน");
-    EXPECT_EQ(projects[1].stem, "/out/b");
+    EXPECT_EQ(projects[0].stem, Marked("/out/a/ถนน"));
+    EXPECT_EQ(projects[1].stem, Marked("/out/b"));
 }
 
 TEST(ListProjects, PutsOutputsBesideTheProjectUnlessAFolderIsNamed)
 {
     EXPECT_EQ(ListProjects({"jobs/TRVN_a.mdb"}, "").at(0).stem, "jobs/TRVN_a");
-    EXPECT_EQ(ListProjects({"jobs/TRVN_a.mdb"}, "out").at(0).stem, "out/TRVN_a");
-    EXPECT_EQ(ListProjects({"TRVN_a.mdb"}, "out").at(0).stem, "out/TRVN_a");
+    EXPECT_EQ(ListProjects({"jobs/TRVN_a.mdb"}, "out").at(0).stem, Marked("out/TRVN_a"));
+    EXPECT_EQ(ListProjects({"TRVN_a.mdb"}, "out").at(0).stem, Marked("out/TRVN_a"));
 }
 
 TEST(ListProjects, TakesAFileOnceHoweverItIsNamed)
@@ -157,9 +160,12 @@ struct Answers {
     std::set<std::string> texts;
     std::vector<std::string> crashes;
 
-    PoolTask Task(std::function<std::string(std::size_t)> work)
+    /// Tasks that are all asked the same, with their number behind it.
+    PoolTask Task(const std::string& request)
     {
-        return {std::move(work),
+        return {[request](std::size_t task) { return request + " " + std::to_string(task); },
+                TestWork,
+                {std::string(kWorkerArgument)},
                 [this](std::size_t task, const std::optional<std::string>& answer, const std::string& crash) {
                     if (answer) texts.insert(*answer);
                     if (!answer) crashes.push_back(std::to_string(task) + ": " + crash);
@@ -172,7 +178,7 @@ struct Answers {
 TEST(Workers, DoEveryTaskOnce)
 {
     Answers answers;
-    RunInWorkers(50, 3, answers.Task([](std::size_t task) { return std::to_string(task * task); }));
+    RunInWorkers(50, 3, answers.Task("square"));
     EXPECT_EQ(answers.texts.size(), 50U);
     EXPECT_TRUE(answers.texts.contains("2401"));
 }
@@ -180,7 +186,7 @@ TEST(Workers, DoEveryTaskOnce)
 TEST(Workers, TakeAnswersOfAnyLength)
 {
     Answers answers;
-    RunInWorkers(2, 2, answers.Task([](std::size_t task) { return std::string(5'000'000, task == 0 ? 'a' : 'b'); }));
+    RunInWorkers(2, 2, answers.Task("letters"));
     EXPECT_EQ(answers.texts.size(), 2U);
     EXPECT_EQ(answers.texts.begin()->size(), 5'000'000U);
 }
@@ -188,18 +194,17 @@ TEST(Workers, TakeAnswersOfAnyLength)
 TEST(Workers, ACrashCostsItsOwnTaskOnly)
 {
     Answers answers;
-    RunInWorkers(10, 2, answers.Task([](std::size_t task) {
-        if (task == 3) std::raise(SIGKILL);
-        return std::to_string(task);
-    }));
+    RunInWorkers(10, 2, answers.Task("crash-at-three"));
     EXPECT_EQ(answers.texts.size(), 9U);
-    EXPECT_EQ(answers.crashes, std::vector<std::string>{"3: the program crashed (Killed); please report the project"});
+    ASSERT_EQ(answers.crashes.size(), 1U);
+    EXPECT_TRUE(answers.crashes.front().starts_with("3: the program crashed (")) << answers.crashes.front();
+    EXPECT_TRUE(answers.crashes.front().ends_with("); please report the project")) << answers.crashes.front();
 }
 
 TEST(Workers, HandOutNothingMoreOnceStopped)
 {
     Answers answers;
-    auto task = answers.Task([](std::size_t number) { return std::to_string(number); });
+    auto task = answers.Task("square");
     task.stop = [&] { return answers.texts.size() >= 4; };
     RunInWorkers(1000, 2, task);
     EXPECT_GE(answers.texts.size(), 4U);
@@ -209,7 +214,7 @@ TEST(Workers, HandOutNothingMoreOnceStopped)
 TEST(Workers, NoTaskNeedsNoWorker)
 {
     Answers answers;
-    RunInWorkers(0, 4, answers.Task([](std::size_t) { return std::string(); }));
+    RunInWorkers(0, 4, answers.Task("square"));
     EXPECT_TRUE(answers.texts.empty());
 }
 

@@ -300,16 +300,17 @@ std::optional<std::string> ComplaintOfOwn(const IncludeRules& rules, const Inclu
 
 std::optional<std::string> ComplaintOfForeign(const IncludeRules& rules, const IncludeLine& line)
 {
-    if (std::ranges::find(kStandardHeaders, line.header) != std::end(kStandardHeaders)) return std::nullopt;
     for (const ForeignHeader& row : rules.foreign) {
         if (!line.header.starts_with(row.header)) continue;
         const auto holds = [&](const std::string& place) {
+            if (place.starts_with('*')) return line.file.ends_with(place.substr(1));
             return place.ends_with('/') ? line.file.starts_with(place) : line.file == place;
         };
         if (std::ranges::any_of(row.places, holds)) return std::nullopt;
         const std::set<std::string> places(row.places.begin(), row.places.end());
         return Sentence(line, "the row \"" + row.header + "\" (" + row.of + ") names only: " + Joined(places) + ".");
     }
+    if (std::ranges::find(kStandardHeaders, line.header) != std::end(kStandardHeaders)) return std::nullopt;
     return Sentence(line, "it is no header of the standard library and no row of the headers of others names it.");
 }
 

@@ -31,6 +31,8 @@ constexpr auto kPage = R"(
 | header | of | stands in |
 |---|---|---|
 | `Q` | Qt | `render/`, `sheets/main.cpp` |
+| `fstream` | streams by path | `runtime/` |
+| `windows.h` | Windows | `*_windows.cpp` |
 
 | header | of | stands in |
 | `other/` | a table that is not read | `jet/` |
@@ -167,6 +169,20 @@ TEST(IncludeRules, InAFolderWithAnOrderNoArrowRunsUp)
     EXPECT_EQ(complaints({page, row, data, file, Including("jet/lexer.h", {})}),
               (Words{"The order of \"jet\" has no place for lexer."}));
     EXPECT_EQ(complaints({page, data, file}), (Words{"The order of \"jet\" names row, which is not there."}));
+}
+
+TEST(IncludeRules, AHeaderOfASystemStandsInTheSourcesOfThatSystem)
+{
+    EXPECT_EQ(ComplaintOf("runtime/disk_windows.cpp", "#include <windows.h>"), "");
+    EXPECT_NE(ComplaintOf("runtime/disk.cpp", "#include <windows.h>"), "");
+}
+
+TEST(IncludeRules, ARowTakesAHeaderOfTheStandardLibraryFromAllOthers)
+{
+    EXPECT_EQ(ComplaintOf("runtime/streams.h", "#include <fstream>"), "");
+    EXPECT_EQ(ComplaintOf("jet/page.cpp", "#include <fstream>"),
+              "src/jet/page.cpp, line 2, includes <fstream>, but the row \"fstream\" (streams by path) names only: "
+              "runtime/.");
 }
 
 TEST(IncludeRules, ABuildLayerIsReadWithWhatItUses)

@@ -25,7 +25,8 @@ struct Power {
 const std::vector<Power> kPowers{
     {R"(\b(system|popen|posix_spawnp?|exec[lv]p?e?)\()", {}},
     {R"(\bQProcess\b)", {}},
-    {R"(\b(dlopen\s*\(|QLibrary\b|QPluginLoader\b))", {}},
+    {R"(\b(CreateProcess\w*|ShellExecute\w*|WinExec)\s*\()", {"batch/worker_process_windows.cpp"}},  // itself anew
+    {R"(\b(dlopen\s*\(|LoadLibrary\w*\s*\(|QLibrary\b|QPluginLoader\b))", {}},
     {R"(\bQDesktopServices::)", {"desktop/qt_surroundings.cpp"}},
     {R"(\bAsk\(\)\.OpenDocument\()", {"app/mdiBack.cpp"}},
 };

@@ -8,8 +8,8 @@
 #include <vector>
 
 #include <gtest/gtest.h>
-#include <stdlib.h>
 
+#include "runtime/machine.h"
 #include "script/script_program.h"
 
 namespace terravane::testing {
@@ -35,13 +35,11 @@ class ScriptBench : public ::testing::Test {
   public:
     ScriptBench()
     {
-        std::string path = (std::filesystem::temp_directory_path() / "terravane-test-XXXXXX").string();
-        if (!mkdtemp(path.data())) ADD_FAILURE() << "No folder can be made at " << path;
-        folder_ = path + "/";
+        folder_ = WithMark(MakePrivateFolder("terravane-test"));
         options.home = folder_ + "home";
         options.now = MakeMoment(2026, 11, 21, 12);
     }
-    ~ScriptBench() override { std::filesystem::remove_all(folder_); }
+    ~ScriptBench() override { RemoveAll(folder_); }
 
     ScriptOptions options;
     const std::string& Folder() const { return folder_; }

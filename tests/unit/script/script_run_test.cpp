@@ -94,16 +94,6 @@ TEST_F(ScriptRuns, BrandStoreMayComeFromAnotherFolder)
     EXPECT_NE(run.Text().find("Institute"), std::string::npos) << run.Text();
 }
 
-TEST_F(ScriptRuns, PrivateHomeIsFreshAndGoneAfterwards)
-{
-    options.home.clear();
-    setenv("TMPDIR", Folder().c_str(), 1);
-    EXPECT_EQ(Run("brandsql \"UPDATE LOGO Set logo_ins ='Institute'\"\n").Last(), R"({"rows_affected":1})");
-    EXPECT_EQ(Run("brandsql \"SELECT * from LOGO'\"\n").Text().find("Institute"), std::string::npos);
-    EXPECT_TRUE(std::filesystem::is_empty(Folder()));
-    unsetenv("TMPDIR");
-}
-
 TEST_F(ScriptRuns, FixedDateIsWhatTheFormsSee)
 {
     EXPECT_EQ(RunOnSheet("get DTPDate\n").Last(), R"({"get":"DTPDate","text":"21/11/2026"})");

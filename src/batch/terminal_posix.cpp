@@ -1,9 +1,9 @@
-#include "batch/terminal.h"
-
 #include <initializer_list>
 
 #include <signal.h>
 #include <unistd.h>
+
+#include "batch/terminal.h"
 
 namespace terravane {
 

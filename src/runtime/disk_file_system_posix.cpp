@@ -14,6 +14,7 @@
 #include <unistd.h>
 
 #include "runtime/file_system.h"
+#include "runtime/native_path.h"
 #include "runtime/runtime_error.h"
 
 namespace terravane {
@@ -212,9 +213,9 @@ std::vector<std::string> DiskFileSystem::Names(const std::string& folder) const
     namespace fs = std::filesystem;
     std::error_code failure;
     std::vector<std::string> names;
-    for (fs::directory_iterator at(OrCurrentFolder(folder), failure), end; !failure && at != end;
+    for (fs::directory_iterator at(ToNative(OrCurrentFolder(folder)), failure), end; !failure && at != end;
          at.increment(failure)) {
-        names.push_back(at->path().filename().string());
+        names.push_back(ToText(at->path().filename()));
     }
     if (failure) ThrowMaking(failure.value(), folder);
     return names;
@@ -223,7 +224,7 @@ std::vector<std::string> DiskFileSystem::Names(const std::string& folder) const
 void DiskFileSystem::MakeFolders(const std::string& path)
 {
     std::error_code failure;
-    std::filesystem::create_directories(OrCurrentFolder(path), failure);
+    std::filesystem::create_directories(ToNative(OrCurrentFolder(path)), failure);
     if (failure) ThrowMaking(failure.value(), path);
 }
 
@@ -321,10 +322,10 @@ std::string DiskFileSystem::Target(const std::string& path) const
     std::string target = path;
     for (int links = 0;; ++links) {
         std::error_code failure;
-        const fs::path next = fs::read_symlink(target, failure);
+        const fs::path next = fs::read_symlink(ToNative(target), failure);
         if (failure) return target;  // no link: this is it
         if (links == kMostLinks) ThrowSystem(ELOOP, path);
-        target = next.is_absolute() ? next.string() : FolderOf(target) + next.string();
+        target = next.is_absolute() ? ToText(next) : FolderOf(target) + ToText(next);
     }
 }
 
