@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "runtime/machine.h"
+#include "runtime/folder_marks.h"
 #include "runtime/native_path.h"
 
 namespace terravane {

@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include "runtime/machine.h"
+#include "runtime/paths.h"
 #include "script/script_program.h"
 
 namespace terravane::testing {
