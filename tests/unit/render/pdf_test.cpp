@@ -310,6 +310,34 @@ TEST_F(MadePdf, ShowsThroughWhereAPictureIsClear)
     EXPECT_EQ(image.pixelColor(110, 72), QColor(255, 255, 0));
 }
 
+TEST_F(MadePdf, ShowsTheGroundInAnOpenCircle)
+{
+    DrawingSurface page(2880, 2880);
+    page.FilledBox(0, 0, 2880, 2880, Colour{255, 255, 0});
+    page.FilledBox(0, 0, 200, 200, Colour{0, 128, 64});
+    page.Circle(1440, 1440, 700);
+    EXPECT_EQ(Printed(*page.Image(), 72).pixelColor(72, 72), QColor(255, 255, 0));
+}
+
+// Marks over letters have their places in a word of Thai letters, whatever stands before it in the same text.
+TEST_F(MadePdf, SetsThaiWordsBehindLatinOnesAsByThemselves)
+{
+    const auto printed = [this](const std::vector<const char*>& texts) {
+        DrawingSurface page(5760, 1440);
+        page.FontName = "DilleniaUPC";
+        page.FontSize = 40;
+        page.CurrentX = page.CurrentY = 100;
+        for (const char* text : texts) page.PrintOn(text);
+        return Printed(*page.Image(), 96);
+    };
+    const QImage whole = printed({"A ที่ป้ำ"}), parts = printed({"A ", "ที่ป้ำ"});
+    int worst = 0;
+    for (int y = 0; y < whole.height(); ++y)
+        for (int x = 0; x < whole.width(); ++x)
+            worst = std::max(worst, std::abs(qGray(whole.pixel(x, y)) - qGray(parts.pixel(x, y))));
+    EXPECT_LT(worst, 40);
+}
+
 TEST_F(MadePdf, HasACrossedBoxForADamagedPicture)
 {
     const auto whole = PictureOf(TwoColours(), "png");

@@ -108,6 +108,18 @@ TEST_F(CbrLoad, TheTangentTouchesWhereTheSlopeStopsRising)
     EXPECT_NEAR(sheet.ZeroShift[0], 0.0093, 0.001);
 }
 
+// Stresses of 10000 d² rise in slope all the way. The search ends at 0.2 in, where the stress is 400 and rises by 4000
+// an inch: the tangent meets the axis at 0.2 - 400 / 4000 = 0.1 in.
+TEST_F(CbrLoad, TheTangentIsLookedForUpToAFifthOfAnInch)
+{
+    sheet.txtK.Type("3");
+    TypePenetrations(sheet, {"0", "0.05", "0.1", "0.15", "0.2", "0.25", "0.3", "0.35", "0.4"});
+    TypeDials(sheet, 1, {"0", "25", "100", "225", "400", "625", "900", "1225", "1600"});
+    sheet.chkMold1.SetValue(true);
+    Draw();
+    EXPECT_NEAR(sheet.ZeroShift[0], 0.1, 1e-4);
+}
+
 TEST_F(CbrLoad, AZeroBelowTheOriginIsHeldThere)
 {
     TypeSingleMold(sheet, kSandyDials);
