@@ -6,7 +6,6 @@
 #include <string>
 #include <vector>
 
-#include "controls/choice_controls.h"
 #include "drawing/scopes.h"
 #include "laboratory/masks.h"
 #include "reports/report_page.h"
