@@ -2,15 +2,11 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "runtime/dates.h"
 
 namespace terravane {
-
-/// The characters that separate folders in a path, the system's own first.
-extern const std::string_view kFolderMarks;
 
 /// A number that no other process has at the same time.
 unsigned long ProcessNumber();

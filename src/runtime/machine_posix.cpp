@@ -13,8 +13,6 @@
 
 namespace terravane {
 
-const std::string_view kFolderMarks = "/";
-
 unsigned long ProcessNumber()
 {
     return static_cast<unsigned long>(getpid());

@@ -16,8 +16,6 @@
 
 namespace terravane {
 
-const std::string_view kFolderMarks = "\\/";
-
 unsigned long ProcessNumber()
 {
     return GetCurrentProcessId();

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "runtime/machine.h"
 #include "runtime/native_path.h"
 
 namespace terravane {
@@ -10,6 +9,9 @@ namespace terravane {
 namespace fs = std::filesystem;
 
 namespace {
+
+/// The characters that separate folders, the system's own first.
+constexpr std::string_view kFolderMarks = fs::path::preferred_separator == '/' ? "/" : "\\/";
 
 std::size_t NameStart(std::string_view path)
 {
