@@ -1,5 +1,6 @@
 #include "desktop/layouts.h"
 
+#include <map>
 #include <string>
 
 #include "runtime/runtime_error.h"
@@ -23,25 +24,13 @@ Place AboutLayout()
                    Row({Space(), One("cmdClose")})});
 }
 
-std::map<std::string_view, Place> AllLayouts()
-{
-    return {
-        {"frmProject", GeneralDataLayout()},
-        {"frmAbout", AboutLayout()},
-        {"frmPreferences", PreferencesLayout()},
-        {"frmCompaction", CompactionLayout()},
-        {"frmAtterberg", AtterbergLayout()},
-        {"frmSpecific", SpecificLayout()},
-        {"frmSieve", SieveLayout()},
-        {"frmCBR", CbrLayout()},
-        {"frmSummary", SummaryLayout()},
-        {"frmDensity", DensityLayout()},
-    };
-}
-
 const Place& LayoutOf(std::string_view form)
 {
-    static const std::map<std::string_view, Place> layouts = AllLayouts();
+    static const auto layouts = [] {
+        std::map<std::string_view, Place> made;
+        for (const WindowLayout& window : kLayouts) made.emplace(window.form, window.make());
+        return made;
+    }();
     const auto found = layouts.find(form);
     if (found != layouts.end()) return found->second;
     throw RuntimeError(error::kObjectRequired, "The form " + std::string(form) + " has no window.");

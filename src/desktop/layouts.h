@@ -1,7 +1,7 @@
-/// Every window's layout. A new window is one more function here, in a file of its own.
+/// Every window's layout as one table. A new window is its function, in a file of its own, and its row here.
 #pragma once
 
-#include <map>
+#include <array>
 #include <string_view>
 
 #include "desktop/layout.h"
@@ -19,8 +19,23 @@ Place GeneralDataLayout();
 Place AboutLayout();
 Place PreferencesLayout();
 
-/// By the name of the form.
-std::map<std::string_view, Place> AllLayouts();
+struct WindowLayout {
+    std::string_view form;
+    Place (*make)();
+};
+
+inline constexpr std::array kLayouts{
+    WindowLayout{"frmProject", GeneralDataLayout},
+    WindowLayout{"frmAbout", AboutLayout},
+    WindowLayout{"frmPreferences", PreferencesLayout},
+    WindowLayout{"frmCompaction", CompactionLayout},
+    WindowLayout{"frmAtterberg", AtterbergLayout},
+    WindowLayout{"frmSpecific", SpecificLayout},
+    WindowLayout{"frmSieve", SieveLayout},
+    WindowLayout{"frmCBR", CbrLayout},
+    WindowLayout{"frmSummary", SummaryLayout},
+    WindowLayout{"frmDensity", DensityLayout},
+};
 
 /// The layout of a form's window; error 424 for a form that has none.
 const Place& LayoutOf(std::string_view form);

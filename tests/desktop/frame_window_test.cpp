@@ -16,6 +16,7 @@
 #include "controls/furniture.h"
 #include "desktop/desktop_fixture.h"
 #include "desktop/layouts.h"
+#include "laboratory/tests.h"
 
 namespace terravane {
 namespace {
@@ -146,8 +147,8 @@ TEST(Layouts, EveryVisibleControlHasAPlace)
     DesktopFixture running;
     running.MakeProject();
     // Bars stand around the layout, editors over their grids; timers and hidden pictures are not seen.
-    for (const char* key : {"mnuStd1", "mnuAtt1", "mnuSpe1", "mnuSie1", "mnuCBR1"}) {
-        running.OpenSheet(key);
+    for (const laboratory::Description* test : laboratory::Tests()) {
+        running.OpenSheet(std::string(test->menu).append("1"));
         const Form& form = *running.program.ShownForms().back().form;
         const std::string& name = form.Name();
         const auto places = SetOf(PlacedControls(LayoutOf(name)));
@@ -176,8 +177,8 @@ TEST(Layouts, WhatStandsOnADisabledTabIsOutOfReach)
 {
     DesktopFixture running;
     running.MakeProject();
-    for (const char* key : {"mnuStd1", "mnuAtt1", "mnuSpe1", "mnuSie1", "mnuCBR1", "mnuDen1"}) {
-        running.OpenSheet(key);
+    for (const laboratory::Description* test : laboratory::Tests()) {
+        running.OpenSheet(std::string(test->menu).append("1"));
         const Form& form = *running.program.ShownForms().back().form;
         const auto& tabs = form.Get<TabControl>("SSTData");
         const auto pages = PagesOf(LayoutOf(form.Name()));

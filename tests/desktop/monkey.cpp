@@ -17,6 +17,7 @@
 #include <utility>
 
 #include "app/mdiBack.h"
+#include "laboratory/tests.h"
 #include "runtime/runtime_error.h"
 
 namespace terravane {
@@ -26,7 +27,6 @@ namespace {
 constexpr int kDeepest = 5;  // boxes and menus that wait for each other, before all are closed
 constexpr std::array kMenuEntries{"mnuNew",   "mnuOpen",  "mnuAs",  "mnuTo",     "mnuSum",   "mnuRecent",
                                   "mnuLogoT", "mnuLogoC", "mnuOpr", "mnuManual", "mnuAbout", "mnuExit"};
-constexpr std::array kSheetKeys{"mnuAtt", "mnuSie", "mnuSpe", "mnuStd", "mnuMod", "mnuCBR", "mnuDen"};
 
 constexpr std::array kKeys{
     Qt::Key_Return,    Qt::Key_Enter,  Qt::Key_Escape,   Qt::Key_Tab,    Qt::Key_Backtab,
@@ -345,7 +345,8 @@ void Monkey::ChooseMenu()
 void Monkey::OpenSheet()
 {
     if (QApplication::activeModalWidget() || QApplication::activePopupWidget() || !desk_->HasForm(kFrameName)) return;
-    const std::string stem = kSheetKeys[static_cast<std::size_t>(Pick(static_cast<int>(kSheetKeys.size())))];
+    const auto tests = laboratory::Tests();
+    const std::string stem(tests[static_cast<std::size_t>(Pick(static_cast<int>(tests.size())))]->menu);
     desk_->program.Get<mdiBack>(kFrameName).tbrLab.PressItem(stem + (Pick(2) ? "1" : "2"));
 }
 

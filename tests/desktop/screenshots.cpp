@@ -3,8 +3,10 @@
 #include <QScreen>
 #include <QTimer>
 #include <cstdio>
+#include <utility>
 
 #include "desktop/desktop_fixture.h"
+#include "laboratory/tests.h"
 
 namespace {
 
@@ -103,6 +105,23 @@ void PreferencesPictures(DesktopFixture& running, const QString& folder)
     form.Get<CommandButton>("cmdClose").Press();
 }
 
+/// The sheets that are not filled, each tab of them, of soil and of crushed rock by turns.
+void EmptySheetPictures(DesktopFixture& running, const QString& folder)
+{
+    const char* material = "1";
+    for (const laboratory::Description* test : laboratory::Tests()) {
+        if (test->sheet.form == "frmCompaction") continue;
+        running.OpenSheet(std::string(test->menu).append(std::exchange(material, *material == '1' ? "2" : "1")));
+        Form& sheet = *running.program.ShownForms().back().form;
+        auto& tabs = sheet.Get<TabControl>("SSTData");
+        for (int tab = 0; tab < tabs.Count(); ++tab) {
+            tabs.SetTabEnabled(tab, true);
+            tabs.SetTab(tab);
+            Keep(folder, (sheet.Name() + "_" + std::to_string(tab)).c_str());
+        }
+    }
+}
+
 /// The box that a failing command shows, over the sheet that keeps what was typed.
 void ErrorPicture(DesktopFixture& running, const QString& folder)
 {
@@ -137,16 +156,7 @@ int main(int argc, char** argv)
     Keep(folder, "preview_50");
     running.FormNamed("frmPreview").Get<Toolbar>("Toolbar1").Press(2);
     CompactionPictures(running, folder, "mnuMod2", "crush");
-    for (const char* key : {"mnuAtt1", "mnuSpe2", "mnuSie1", "mnuCBR2", "mnuDen1"}) {
-        running.OpenSheet(key);
-        Form& sheet = *running.program.ShownForms().back().form;
-        auto& tabs = sheet.Get<TabControl>("SSTData");
-        for (int tab = 0; tab < tabs.Count(); ++tab) {
-            tabs.SetTabEnabled(tab, true);
-            tabs.SetTab(tab);
-            Keep(folder, (sheet.Name() + "_" + std::to_string(tab)).c_str());
-        }
-    }
+    EmptySheetPictures(running, folder);
     ResultsPictures(running, folder);
     PreferencesPictures(running, folder);
     running.PressMenu("mnuAbout");

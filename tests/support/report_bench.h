@@ -1,5 +1,5 @@
 /// A program without windows for tests of reports: brand store and pictures on a disk in memory, a printer that keeps
-/// its jobs, and sheets by any of the six names.
+/// its jobs, and every sheet by its name.
 #pragma once
 
 #include <memory>
@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "jet/connection.h"
+#include "laboratory/tests.h"
 #include "program/program.h"
 #include "reports/frmPreview.h"
 #include "runtime/memory_file_system.h"
@@ -20,7 +21,7 @@
 
 namespace terravane::support {
 
-/// The furniture of a sheet without a method, under the name of any of the six.
+/// The furniture of a sheet without a method, under the name of any form.
 struct BareSheet : TestSheet {
     BareSheet(Program& owner, const std::string& name) : TestSheet(owner, BareDescription(name)) {}
 
@@ -51,10 +52,11 @@ struct ReportBench {
             "UPDATE LOGO Set logo_ins ='Institute of Roads',  logo_dep ='Materials Laboratory',  "
             "logo_cov1 ='First Reporter',  logo_cov2 ='Second Reporter',  logo_cov3 ='   '");
         program.AddForm("frmPreview", [](Program& owner) { return std::make_unique<frmPreview>(owner); });
-        program.AddForm("frmCompaction", [](Program& owner) { return std::make_unique<frmCompaction>(owner); });
-        for (const char* name : {"frmDensity", "frmSpecific", "frmAtterberg", "frmSieve", "frmCBR"}) {
+        for (const laboratory::Sheet* sheet : laboratory::SheetsClosedBeforeFile()) {
+            const std::string name(sheet->form);
             program.AddForm(name, [name](Program& owner) { return std::make_unique<BareSheet>(owner, name); });
         }
+        program.AddForm("frmCompaction", [](Program& owner) { return std::make_unique<frmCompaction>(owner); });
     }
 
     /// A statement on the brand store, in the file at once.

@@ -5,6 +5,7 @@
 #include <deque>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -14,6 +15,7 @@
 #include "app/frmProject.h"
 #include "app/mdiBack.h"
 #include "jet/connection.h"
+#include "laboratory/tests.h"
 #include "runtime/memory_file_system.h"
 #include "sheets/pattern/test_sheet.h"
 #include "store/new_stores.h"
@@ -83,22 +85,21 @@ struct AppBench {
         AddForms(program);
     }
 
-    /// In place of all six sheets, such as only note their loading and unloading.
+    /// In place of all sheets, such as only note their loading and unloading.
     void NoteSheets()
     {
-        for (const char* name : {"frmAtterberg", "frmCBR", "frmCompaction", "frmDensity", "frmSieve", "frmSpecific"}) {
+        for (const laboratory::Sheet* sheet : laboratory::SheetsClosedBeforeFile()) {
+            const std::string name(sheet->form);
             program.AddForm(name,
                             [this, name](Program& owner) { return std::make_unique<NotedSheet>(owner, name, log); });
         }
     }
 
-    /// All six loaded, the log empty.
+    /// All of them loaded, the log empty.
     void LoadNotedSheets()
     {
         NoteSheets();
-        for (const char* name : {"frmAtterberg", "frmCBR", "frmCompaction", "frmDensity", "frmSieve", "frmSpecific"}) {
-            program.Load(name);
-        }
+        for (const laboratory::Sheet* sheet : laboratory::SheetsClosedBeforeFile()) program.Load(sheet->form);
         log.clear();
     }
 
@@ -130,6 +131,14 @@ struct AppBench {
         return connection.Execute("SELECT * from " + table + "'").Fields(column);
     }
 };
+
+/// What the log of noted sheets holds when these were closed, one after the other.
+inline std::vector<std::string> Closed(std::span<const laboratory::Sheet* const> sheets)
+{
+    std::vector<std::string> log;
+    for (const laboratory::Sheet* sheet : sheets) log.push_back(std::string("-").append(sheet->form));
+    return log;
+}
 
 /// No message and no reported failure so far.
 inline void ExpectSilence(const AppBench& bench)

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "sheets/compaction/frmCompaction.h"
+#include "support/every_report.h"
 #include "unit/app/app_bench.h"
 
 namespace terravane::testing {
@@ -16,38 +17,22 @@ mdiBack& OpenRoad(AppBench& bench)
     return frame;
 }
 
-struct Opening {
-    std::string stem, form;
-    Test test;
-    std::string banner;
-};
-
-const std::vector<Opening> kOpenings{
-    {"mnuStd", "frmCompaction", Test::StdSoil, "การทดสอบการบดอัดแบบมาตรฐาน\r\nStandard Compaction Test"},
-    {"mnuMod", "frmCompaction", Test::ModSoil, "การทดสอบการบดอัดแบบสูงกว่ามาตรฐาน\r\nModified Compaction Test"},
-    {"mnuDen", "frmDensity", Test::DenSoil,
-     "การทดสอบหาความหนาแน่นของดินในสนามด้วยวิธีกรวยทราย\r\nField Density Test by Sand Cone Method"},
-    {"mnuSpe", "frmSpecific", Test::SpcSoil, "การทดสอบหาความถ่วงจำเพาะของดิน\r\nSpecific Gravity Test"},
-    {"mnuAtt", "frmAtterberg", Test::AttSoil, "การทดสอบหาขีดจำกัดอัตเทอร์เบิร์ก\r\nAtterberg Limits Test"},
-    {"mnuSie", "frmSieve", Test::SieSoil, "การทดสอบหาขนาดเม็ดดินด้วยวิธีร่อนผ่านตะแกรงมาตรฐาน\r\nSieve Analysis Test"},
-    {"mnuCBR", "frmCBR", Test::CBRSoil, "การทดสอบหาค่า ซี.บี.อาร์.\r\nCalifornia Bearing Ratio Test"},
-};
-
 TEST(OpeningASheet, EachItemShowsItsFormItsBannerAndItsColour)
 {
-    for (const Opening& opening : kOpenings) {
+    for (const support::ReportUnderTest& report : support::kReportsUnderTest) {
+        const laboratory::Description& test = laboratory::Describe(report.test);
         for (const bool isRock : {false, true}) {
             AppBench bench;
             bench.NoteSheets();
             mdiBack& frame = OpenRoad(bench);
-            ASSERT_TRUE(frame.tbrLab.PressItem(opening.stem + (isRock ? "2" : "1")));
-            auto* sheet = dynamic_cast<NotedSheet*>(bench.program.Loaded(opening.form));
-            ASSERT_NE(sheet, nullptr) << opening.stem;
-            EXPECT_EQ(bench.program.CurrentTest, opening.test);
+            ASSERT_TRUE(frame.tbrLab.PressItem(std::string(test.menu) + (isRock ? "2" : "1")));
+            auto* sheet = dynamic_cast<NotedSheet*>(bench.program.Loaded(test.sheet.form));
+            ASSERT_NE(sheet, nullptr) << test.menu;
+            EXPECT_EQ(bench.program.CurrentTest, report.test);
             EXPECT_EQ(bench.program.CurrentMaterial, isRock ? Material::Crush : Material::Soil);
             EXPECT_EQ(sheet->testAtLoad, terravane::Test::None)
                 << "The load runs while the test is still the last sheet's.";
-            EXPECT_EQ(sheet->txtLabName.Text(), opening.banner);
+            EXPECT_EQ(sheet->txtLabName.Text(), report.Banner());
             EXPECT_EQ(sheet->txtLabName.BackColor(), (isRock ? Colour{128, 0, 128} : Colour{0, 0, 192}));
             EXPECT_EQ(sheet->stbDes.Panel(1), "Database File is /jobs/TRVN_road.mdb");
             EXPECT_TRUE(sheet->tblMenu.Button(1).enabled);
@@ -73,8 +58,9 @@ TEST(OpeningASheet, ClosesAllSheetsInItsOrder)
     OpenRoad(bench);
     bench.LoadNotedSheets();
     bench.Frame().tbrLab.PressItem("mnuCBR1");
-    EXPECT_EQ(bench.log, (std::vector<std::string>{"-frmDensity", "-frmCompaction", "-frmCBR", "-frmSieve",
-                                                   "-frmSpecific", "-frmAtterberg", "+frmCBR"}));
+    std::vector<std::string> expected = Closed(laboratory::SheetsClosedBeforeSheet());
+    expected.emplace_back("+frmCBR");
+    EXPECT_EQ(bench.log, expected);
 }
 
 TEST(OpeningASheet, UnknownKeyOnlyClosesTheSheets)
@@ -84,7 +70,7 @@ TEST(OpeningASheet, UnknownKeyOnlyClosesTheSheets)
         OpenRoad(bench);
         bench.LoadNotedSheets();
         bench.Frame().tbrLab_ButtonMenuClick(key);
-        EXPECT_EQ(bench.log.size(), 6U) << key;
+        EXPECT_EQ(bench.log, Closed(laboratory::SheetsClosedBeforeSheet())) << key;
         EXPECT_EQ(bench.program.CurrentTest, terravane::Test::None);
     }
 }

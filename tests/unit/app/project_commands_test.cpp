@@ -8,9 +8,8 @@ namespace {
 
 using Names = std::vector<std::string>;
 
-const Names kClosedByFileCommands{"-frmAtterberg", "-frmCBR",   "-frmCompaction",
-                                  "-frmDensity",   "-frmSieve", "-frmSpecific"};
-const Names kClosedBySaveAs{"-frmDensity", "-frmCompaction", "-frmCBR", "-frmSieve", "-frmSpecific", "-frmAtterberg"};
+const Names kClosedByFileCommands = Closed(laboratory::SheetsClosedBeforeFile());
+const Names kClosedBySaveAs = Closed(laboratory::SheetsClosedBeforeSheet());
 
 void ExpectQuestion(const AppBench& bench, const std::string& title, FileDialogKind kind)
 {

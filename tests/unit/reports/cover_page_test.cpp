@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "reports/all_reports.h"
+#include "support/every_report.h"
 #include "support/page_marks.h"
 #include "support/report_bench.h"
 #include "unit/runtime/raises.h"
@@ -21,33 +22,18 @@ std::vector<DrawnItem> CoverOf(ReportBench& bench)
     return printer.Items();
 }
 
-struct CoverCase {
-    Test test;
-    std::string sheet, title;
-};
-
-class CoverTitle : public ::testing::TestWithParam<CoverCase> {};
-
-TEST_P(CoverTitle, GoesByTheCurrentTestAlone)
+// The banner of another test does not change it.
+TEST(CoverTitle, GoesByTheCurrentTestAlone)
 {
-    ReportBench bench;
-    bench.Open(GetParam().test, GetParam().sheet, "Modified Compaction Test");
-    const TextItem title = TextOn(CoverOf(bench), GetParam().title);
-    EXPECT_NEAR(title.y, 4000, kTwip);
-    EXPECT_EQ(title.font, (Font{"DilleniaUPC", 28, true, false}));
-    EXPECT_NEAR(title.x + TextWidth(title.font, title.text) / 2, 5953, kTwip);
+    for (const ReportUnderTest& wanted : kReportsUnderTest) {
+        ReportBench bench;
+        bench.Open(wanted.test, wanted.Form(), "Modified Compaction Test");
+        const TextItem title = TextOn(CoverOf(bench), std::string(wanted.cover));
+        EXPECT_NEAR(title.y, 4000, kTwip) << wanted.cover;
+        EXPECT_EQ(title.font, (Font{"DilleniaUPC", 28, true, false})) << wanted.cover;
+        EXPECT_NEAR(title.x + TextWidth(title.font, title.text) / 2, 5953, kTwip) << wanted.cover;
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Tests, CoverTitle,
-    ::testing::Values(CoverCase{terravane::Test::StdSoil, "frmCompaction", "ผลทดสอบการบดอัดดินแบบมาตรฐาน"},
-                      CoverCase{terravane::Test::ModSoil, "frmCompaction", "ผลทดสอบการบดอัดดินแบบสูงกว่ามาตรฐาน"},
-                      CoverCase{terravane::Test::CBRSoil, "frmCBR", "ผลทดสอบการหาค่าซี.บี.อาร์."},
-                      CoverCase{terravane::Test::DenSoil, "frmDensity",
-                                "ผลทดสอบการหาค่าความหนาแน่นของดินในสนามด้วยวิธีกรวยทราย"},
-                      CoverCase{terravane::Test::SieSoil, "frmSieve", "ผลทดสอบหาขนาดเม็ดดินด้วยวิธีร่อนผ่านตะแกรงมาตรฐาน"},
-                      CoverCase{terravane::Test::AttSoil, "frmAtterberg", "ผลทดสอบหาขีดจำกัดอัตเทอร์เบิร์ก"},
-                      CoverCase{terravane::Test::SpcSoil, "frmSpecific", "ผลทดสอบหาความถ่วงจำเพาะของดิน"}));
 
 // The title's line is 26.1 × 28 = 730.8; all below are lines of 574.2: one blank, two texts, four blanks, "เสนอ", the
 // client, four blanks, "โดย", three names.

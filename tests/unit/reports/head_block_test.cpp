@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "reports/all_reports.h"
+#include "support/every_report.h"
 #include "support/page_marks.h"
 #include "support/report_bench.h"
 
@@ -52,30 +53,16 @@ TEST(HeadBlock, ValuesFollowTheirColons)
         EXPECT_EQ(TextsOf(items, value).size(), 1u) << value;
 }
 
-struct HeadCase {
-    Test test;
-    std::string sheet;
-    double printer, preview;  // top of the first row
-};
-
-class HeadTop : public ::testing::TestWithParam<HeadCase> {};
-
-TEST_P(HeadTop, IsTheSheetsOwn)
+TEST(HeadTop, IsTheSheetsOwn)
 {
-    ReportBench bench;
-    const TestSheet& sheet = bench.Open(GetParam().test, GetParam().sheet);
-    EXPECT_NEAR(TextOn(HeadOf(sheet, Medium::Printer), "Client Name ").y, GetParam().printer, kTwip);
-    EXPECT_NEAR(TextOn(HeadOf(sheet, Medium::Preview), "Client Name ").y, GetParam().preview, kTwip);
+    for (const ReportUnderTest& wanted : kReportsUnderTest) {
+        ReportBench bench;
+        const TestSheet& sheet = bench.Open(wanted.test, wanted.Form());
+        const auto top = [&](Medium medium) { return TextOn(HeadOf(sheet, medium), "Client Name ").y; };
+        EXPECT_NEAR(top(Medium::Printer), wanted.headTop.printer, kTwip) << wanted.english;
+        EXPECT_NEAR(top(Medium::Preview), wanted.headTop.preview, kTwip) << wanted.english;
+    }
 }
-
-// 1479 / 2048 × 168 = 121.324 for "D", times 20.5, 21.5, 22 or 23.5, and 200.
-INSTANTIATE_TEST_SUITE_P(Sheets, HeadTop,
-                         ::testing::Values(HeadCase{terravane::Test::StdSoil, "frmCompaction", 2687.1, 2687.1},
-                                           HeadCase{terravane::Test::DenSoil, "frmDensity", 2687.1, 2687.1},
-                                           HeadCase{terravane::Test::SpcSoil, "frmSpecific", 2687.1, 3051.1},
-                                           HeadCase{terravane::Test::AttSoil, "frmAtterberg", 2687.1, 2869.1},
-                                           HeadCase{terravane::Test::SieSoil, "frmSieve", 2808.5, 2869.1},
-                                           HeadCase{terravane::Test::CBRSoil, "frmCBR", 2687.1, 2687.1}));
 
 TEST(HeadBlock, OnlyFieldDensityHasAPosition)
 {

@@ -1,8 +1,11 @@
 #include "reports/page_frame.h"
 
+#include <algorithm>
+
 #include <gtest/gtest.h>
 
 #include "reports/all_reports.h"
+#include "support/every_report.h"
 #include "support/page_marks.h"
 #include "support/report_bench.h"
 #include "unit/runtime/raises.h"
@@ -125,50 +128,37 @@ TEST(PageFrame, PrintedBannerIsCentredByATextOneBlankShorter)
     EXPECT_EQ(preview.font.size, 16);
 }
 
-struct TitleCase {
-    Test test;
-    std::string sheet, labName, printedThai, previewThai, english;
-};
-
-class PageTitle : public ::testing::TestWithParam<TitleCase> {};
-
-TEST_P(PageTitle, StandsInThaiAndEnglish)
+/// The titles of a test stand on the open sheet's page.
+void ExpectTitles(ReportBench& bench, Test test)
 {
-    const TitleCase& wanted = GetParam();
-    ReportBench bench;
-    bench.Open(wanted.test, wanted.sheet, wanted.labName);
-    EXPECT_EQ(TextsOf(PreviewFrame(bench), wanted.previewThai).size(), 1u);
-    EXPECT_EQ(TextsOf(PreviewFrame(bench), wanted.english).size(), 1u);
-    EXPECT_EQ(TextsOf(PrintedFrame(bench), wanted.printedThai).size(), 1u);
-    EXPECT_EQ(TextsOf(PrintedFrame(bench), wanted.english).size(), 1u);
+    const ReportUnderTest& wanted = *std::ranges::find(kReportsUnderTest, test, &ReportUnderTest::test);
+    EXPECT_EQ(TextsOf(PreviewFrame(bench), std::string(wanted.preview)).size(), 1u) << wanted.english;
+    EXPECT_EQ(TextsOf(PreviewFrame(bench), std::string(wanted.english)).size(), 1u) << wanted.english;
+    EXPECT_EQ(TextsOf(PrintedFrame(bench), std::string(wanted.printed)).size(), 1u) << wanted.english;
+    EXPECT_EQ(TextsOf(PrintedFrame(bench), std::string(wanted.english)).size(), 1u) << wanted.english;
     EXPECT_EQ(TitlesOf(bench.program).english, wanted.english);
 }
 
-const std::string kStandardThai = "การทดสอบการบดอัดแบบมาตรฐาน";
-const std::string kModifiedThai = "การทดสอบการบดอัดแบบสูงกว่ามาตรฐาน";
+TEST(PageTitle, StandsInThaiAndEnglish)
+{
+    for (const ReportUnderTest& report : kReportsUnderTest) {
+        ReportBench bench;
+        bench.Open(report.test, report.Form(), std::string("x\r\n").append(report.english));
+        ExpectTitles(bench, report.test);
+    }
+}
+
+TEST(PageTitle, OfACompactionPageGoesByTheSheetsBanner)
+{
+    ReportBench bench;
+    bench.Open(terravane::Test::StdSoil, "frmCompaction", "");
+    ExpectTitles(bench, terravane::Test::ModSoil);
+    bench.Open(terravane::Test::ModSoil, "frmCompaction", "Standard");
+    ExpectTitles(bench, terravane::Test::StdSoil);
+}
+
 const std::string kPrintedDensity = "การทดสอบความหนาแน่นของดินในสนามด้วยวิธีกรวยทราย";
 const std::string kPreviewDensity = "การทดสอบหาความหนาแน่นของดินในสนามด้วยวิธีกรวยทราย";
-
-INSTANTIATE_TEST_SUITE_P(
-    Tests, PageTitle,
-    ::testing::Values(TitleCase{terravane::Test::StdSoil, "frmCompaction", "x\r\nStandard Compaction Test",
-                                kStandardThai, kStandardThai, "Standard Compaction Test"},
-                      TitleCase{terravane::Test::ModSoil, "frmCompaction", "Modified Compaction Test", kModifiedThai,
-                                kModifiedThai, "Modified Compaction Test"},
-                      TitleCase{terravane::Test::StdSoil, "frmCompaction", "", kModifiedThai, kModifiedThai,
-                                "Modified Compaction Test"},
-                      TitleCase{terravane::Test::ModSoil, "frmCompaction", "Standard", kStandardThai, kStandardThai,
-                                "Standard Compaction Test"},
-                      TitleCase{terravane::Test::DenSoil, "frmDensity", "", kPrintedDensity, kPreviewDensity,
-                                "Field Density Test by Sand Cone Method"},
-                      TitleCase{terravane::Test::SpcSoil, "frmSpecific", "", "การทดสอบหาความถ่วงจำเพาะของดิน",
-                                "การทดสอบหาความความถ่วงจำเพาะของดิน", "Specific Gravity Test"},
-                      TitleCase{terravane::Test::AttSoil, "frmAtterberg", "", "การทดสอบหาขีดจำกัดอัตเทอร์เบิร์ก",
-                                "การทดสอบหาขีดจำกัดอัตเทอร์เบิร์ก", "Atterberg Limits Test"},
-                      TitleCase{terravane::Test::SieSoil, "frmSieve", "", "การทดสอบหาขนาดเม็ดดินด้วยวิธีร่อนผ่านตะแกรงมาตรฐาน",
-                                "การทดสอบหาขนาดเม็ดดินด้วยวิธีร่อนผ่านตะแกรงมาตรฐาน", "Sieve Analysis Test"},
-                      TitleCase{terravane::Test::CBRSoil, "frmCBR", "", "การทดสอบหาค่า ซี.บี.อาร์.",
-                                "การทดสอบหาค่า ซี.บี.อาร์.", "California Bearing Ratio Test"}));
 
 // The preview's wording is longer by "หา". So the printed title starts half of that left of its own centre, the
 // previewed one as much right of it.

@@ -4,6 +4,7 @@
 
 #include "reports/all_reports.h"
 #include "reports/brand.h"
+#include "support/every_report.h"
 #include "support/page_marks.h"
 #include "support/report_bench.h"
 
@@ -24,35 +25,24 @@ std::vector<DrawnItem> SignaturesOn(ReportBench& bench, Medium medium)
     return page.Items();
 }
 
-struct SignatureCase {
-    Test test;
-    std::string sheet;
-    double printer, preview, second, third;  // the anchor and the rows, in lines of 339.3
-};
-
-class SignatureRows : public ::testing::TestWithParam<SignatureCase> {};
-
-TEST_P(SignatureRows, StandAtTheReportsAnchor)
+void ExpectSignatures(const std::vector<DrawnItem>& items, double anchor, const SignatureLines& wanted)
 {
-    const SignatureCase& wanted = GetParam();
-    ReportBench bench;
-    bench.Open(wanted.test, wanted.sheet);
-    for (const Medium medium : {Medium::Printer, Medium::Preview}) {
-        const double anchor = medium == Medium::Printer ? wanted.printer : wanted.preview;
-        const auto items = SignaturesOn(bench, medium);
-        EXPECT_NEAR(TextOn(items, "Tested by ").y, (anchor + 1) * 339.3, kTwip);
-        EXPECT_NEAR(TextOn(items, "Checked by ").y, (anchor + wanted.second) * 339.3, kTwip);
-        EXPECT_NEAR(TextOn(items, "Approved by " + kDots).y, (anchor + wanted.third) * 339.3, kTwip);
-    }
+    EXPECT_NEAR(TextOn(items, "Tested by ").y, (anchor + 1) * 339.3, kTwip);
+    EXPECT_NEAR(TextOn(items, "Checked by ").y, (anchor + wanted.second) * 339.3, kTwip);
+    EXPECT_NEAR(TextOn(items, "Approved by " + kDots).y, (anchor + wanted.third) * 339.3, kTwip);
 }
 
-INSTANTIATE_TEST_SUITE_P(Reports, SignatureRows,
-                         ::testing::Values(SignatureCase{terravane::Test::StdSoil, "frmCompaction", 32.5, 32.5, 5, 9},
-                                           SignatureCase{terravane::Test::DenSoil, "frmDensity", 39, 39, 3.5, 6},
-                                           SignatureCase{terravane::Test::SpcSoil, "frmSpecific", 29.4, 29.5, 5, 9},
-                                           SignatureCase{terravane::Test::AttSoil, "frmAtterberg", 36, 37, 4, 7},
-                                           SignatureCase{terravane::Test::SieSoil, "frmSieve", 31, 32, 5, 9},
-                                           SignatureCase{terravane::Test::CBRSoil, "frmCBR", 34.5, 34.5, 4, 7}));
+TEST(SignatureRows, StandAtTheReportsAnchor)
+{
+    for (const ReportUnderTest& report : kReportsUnderTest) {
+        SCOPED_TRACE(report.english);
+        ReportBench bench;
+        bench.Open(report.test, report.Form());
+        const SignatureLines& lines = report.signatures;
+        ExpectSignatures(SignaturesOn(bench, Medium::Printer), lines.anchor.printer, lines);
+        ExpectSignatures(SignaturesOn(bench, Medium::Preview), lines.anchor.preview, lines);
+    }
+}
 
 // The dots are 28450 units, 180 / 2048 twips each in size 15: 2500.5 wide, ending at 11406.
 TEST(SignatureBlock, NamesAreCentredUnderTheDots)
