@@ -38,7 +38,7 @@ set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
 set(CPACK_PACKAGE_CONTACT "The Terravane developers <developers@terravane.invalid>")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "road-materials laboratory: test sheets, project files, reports")
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
-    "Terravane reduces the readings of seven laboratory tests of soil and
+    "Terravane reduces the readings of laboratory tests of soil and
 crushed rock, draws their curves, classifies the soil, keeps one project
 file a job and prints reports ready for signature, in Thai and English.
 .

@@ -59,7 +59,7 @@ struct mdiBack : Form {
 
     Frame CoolBar1{*this, "CoolBar1"};  // StatusBar1 in its first band, tbrLab in its second
     StatusBar StatusBar1{*this, "StatusBar1", 0};
-    Toolbar tbrLab;  // seven drop-down buttons of two items each; disabled until a project is chosen
+    Toolbar tbrLab;  // a drop-down button a test, of an item a material; disabled until a project is chosen
 
     void Form_Load() override;
     /// The frame closed in any way: the project is remembered and the program ends.

@@ -94,12 +94,20 @@ std::vector<std::string> TestKeys()
     return keys;
 }
 
+std::string TestsHelp()
+{
+    std::string keys;
+    for (const laboratory::Description* test : laboratory::Tests())
+        keys.append(keys.empty() ? "" : ",").append(test->key);
+    return keys + "; else every test that has saved readings";
+}
+
 void AddOptions(CLI::App& app, BatchOptions& options, Typed& typed)
 {
     app.add_option("PROJECT.mdb|FOLDER", options.arguments, "Project files, and folders of them")->required();
     app.add_option("-o", options.outputFolder, "Where the PDFs go, in a folder's subfolders; else beside each project")
         ->option_text("DIR");
-    app.add_option("--tests", options.tests, "att,sie,spc,std,mod,cbr,den; else every test that has saved readings")
+    app.add_option("--tests", options.tests, TestsHelp())
         ->delimiter(',')
         ->allow_extra_args(false)
         ->check(CLI::IsMember(TestKeys()))

@@ -13,7 +13,7 @@ namespace terravane {
 
 class ProjectTexts {
   public:
-    /// Reads one table, or all sixteen where none is named. The engine's error for bytes that are no project file, or a
+    /// Reads one table, or all where none is named. The engine's error for bytes that are no project file, or a
     /// damaged one.
     explicit ProjectTexts(const Bytes& content, std::string_view only = {});
 

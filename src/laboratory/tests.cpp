@@ -1,5 +1,9 @@
 #include "laboratory/tests.h"
 
+#include <algorithm>
+#include <array>
+#include <utility>
+
 #include "laboratory/all_tests.h"
 #include "runtime/runtime_error.h"
 
@@ -7,7 +11,7 @@ namespace terravane::laboratory {
 
 namespace {
 
-/// A sheet with the columns that are worked out from it.
+/// The sheet of a test with the columns that are worked out from it.
 struct SheetColumns {
     const Sheet* sheet;
     std::span<const KeptColumn> table, statement;
@@ -17,10 +21,12 @@ constexpr SheetColumns ColumnsOf()
 {
     return {&kSheet, kTableColumns<kSheet>, kStatementColumns<kSheet>};
 }
-constexpr std::array kSheetColumns{
-    ColumnsOf<kAtterbergSheet>(),  ColumnsOf<kSieveSheet>(),   ColumnsOf<kSpecificGravitySheet>(),
-    ColumnsOf<kCompactionSheet>(), ColumnsOf<kBearingSheet>(), ColumnsOf<kFieldSheet>(),
-};
+template <std::size_t... kTest>
+constexpr std::array<SheetColumns, kTests.size()> ColumnsOfTests(std::index_sequence<kTest...>)
+{
+    return {ColumnsOf<kTests[kTest]->sheet>()...};
+}
+constexpr auto kSheetColumns = ColumnsOfTests(std::make_index_sequence<kTests.size()>());
 
 /// The pointers sorted by a number that each knows.
 template <class Pointers, class Number>
@@ -30,11 +36,21 @@ constexpr Pointers SortedBy(Pointers pointers, Number number)
     return pointers;
 }
 
-constexpr auto SheetsBy(int ClosingOrder::*place)
+/// Each sheet once, where it serves several tests, too.
+struct SheetList {
+    std::array<const Sheet*, kTests.size()> sheets{};
+    std::size_t count = 0;
+
+    constexpr std::span<const Sheet* const> Sheets() const { return std::span(sheets).first(count); }
+};
+
+constexpr SheetList SheetsBy(int ClosingOrder::*place)
 {
-    std::array<const Sheet*, kSheetColumns.size()> sheets{};
-    std::ranges::transform(kSheetColumns, sheets.begin(), &SheetColumns::sheet);
-    return SortedBy(sheets, [place](const Sheet& sheet) { return sheet.closing.*place; });
+    SheetList list;
+    std::ranges::transform(kTests, list.sheets.begin(), [](const Description* test) { return &test->sheet; });
+    list.sheets = SortedBy(list.sheets, [place](const Sheet& sheet) { return sheet.closing.*place; });
+    list.count = kTests.size() - std::ranges::unique(list.sheets).size();
+    return list;
 }
 
 constexpr auto kInWorkOrder = SortedBy(kTests, [](const Description& test) { return test.workOrder; });
@@ -49,8 +65,8 @@ constexpr bool Counts(const Pointers& sorted, Number number)
     return std::ranges::all_of(sorted, [&](const auto* of) { return number(*of) == next++; });
 }
 static_assert(Counts(kInWorkOrder, [](const Description& test) { return test.workOrder; }));
-static_assert(Counts(kBeforeFile, [](const Sheet& sheet) { return sheet.closing.beforeFile; }));
-static_assert(Counts(kBeforeSheet, [](const Sheet& sheet) { return sheet.closing.beforeSheet; }));
+static_assert(Counts(kBeforeFile.Sheets(), [](const Sheet& sheet) { return sheet.closing.beforeFile; }));
+static_assert(Counts(kBeforeSheet.Sheets(), [](const Sheet& sheet) { return sheet.closing.beforeSheet; }));
 
 /// A test whose results another one needs is worked before it.
 constexpr bool IsWorkedBeforeNeeded(const Description& test)
@@ -108,12 +124,12 @@ const Description* FindTest(std::string_view key)
 
 std::span<const Sheet* const> SheetsClosedBeforeFile()
 {
-    return kBeforeFile;
+    return kBeforeFile.Sheets();
 }
 
 std::span<const Sheet* const> SheetsClosedBeforeSheet()
 {
-    return kBeforeSheet;
+    return kBeforeSheet.Sheets();
 }
 
 std::span<const KeptColumn> TableColumns(const Sheet& sheet)

@@ -39,12 +39,12 @@ constexpr std::array kTables{
                 .lastRow = LastRow::AverageAcross},
 };
 
-/// The lines of the summary box. The last label says PI, as the laboratory's form does.
+/// The lines of the summary box.
 constexpr std::array kSummaryLines{
-    ReportField{"Liquid Limit (LL) ", "txtLL", " %"},
-    ReportField{"Plastic Limit (PL) ", "txtPL", " %"},
-    ReportField{"Plasticity Index (PI) ", "txtPI", " %"},
-    ReportField{"Flow Index (PI) ", "txtFI"},
+    FieldOf(laboratory::kAtterbergSheet, "txtLL", " %"),
+    FieldOf(laboratory::kAtterbergSheet, "txtPL", " %"),
+    FieldOf(laboratory::kAtterbergSheet, "txtPI", " %"),
+    FieldOf(laboratory::kAtterbergSheet, "txtFI"),
 };
 
 /// The page being drawn, with its five trial columns.

@@ -1,11 +1,13 @@
 /// The measures that all report pages share, and the body of a page. Lengths are twips.
 #pragma once
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 
 #include "controls/picture_box.h"
 #include "drawing/placed_text.h"
+#include "laboratory/description.h"
 #include "reports/report.h"
 
 namespace terravane {
@@ -61,6 +63,14 @@ PageLines BodyLines(DrawingSurface& page, double top);
 struct ReportField {
     std::string_view label, control, unit = {};
 };
+
+/// A box that the sheet is described with, under its label on the page.
+constexpr ReportField FieldOf(const laboratory::Sheet& sheet, std::string_view control, std::string_view unit = {})
+{
+    const bool isResult = std::ranges::find(sheet.boxes, control, &laboratory::Box::control) == sheet.boxes.end();
+    return {std::ranges::find(isResult ? sheet.results : sheet.boxes, control, &laboratory::Box::control)->is.page,
+            control, unit};
+}
 
 /// What a text control of the sheet shows, as it stands.
 std::string TextOf(const TestSheet& sheet, std::string_view control);

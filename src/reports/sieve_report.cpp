@@ -5,6 +5,7 @@
 
 #include "controls/choice_controls.h"
 #include "laboratory/masks.h"
+#include "laboratory/sieve_analysis.h"
 #include "reports/report_table.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
@@ -33,13 +34,14 @@ constexpr std::array kHeads{
 
 constexpr std::string_view kMassColon = " :     ";
 constexpr std::array kMasses{
-    ReportField{"Dry Mass of Original Sample", "txtGsoil"},
-    ReportField{"Dry Mass after Washing", "txtDwp"},
-    ReportField{"Mass Loss through Washing", "txtWl"},
+    FieldOf(laboratory::kSieveSheet, "txtGsoil"),
+    FieldOf(laboratory::kSieveSheet, "txtDwp"),
+    FieldOf(laboratory::kSieveSheet, "txtWl"),
 };
 constexpr std::array kGrainSizes{
-    ReportField{"D10 (mm)", "txtD10"}, ReportField{"D30 (mm)", "txtD30"}, ReportField{"D60 (mm)", "txtD60"},
-    ReportField{"Cu", "txtCu"},        ReportField{"Cc", "txtCc"},
+    FieldOf(laboratory::kSieveSheet, "txtD10"), FieldOf(laboratory::kSieveSheet, "txtD30"),
+    FieldOf(laboratory::kSieveSheet, "txtD60"), FieldOf(laboratory::kSieveSheet, "txtCu"),
+    FieldOf(laboratory::kSieveSheet, "txtCc"),
 };
 
 /// One classification system: a heading and two rows.
@@ -50,9 +52,9 @@ struct System {
 constexpr int kSystemLines = 3;
 constexpr std::array kSystems{
     System{"Unified Soil Classification System (USCS)",
-           {ReportField{"Group Symbol", "txtSuscs"}, ReportField{"Group Name", "txtNuscs"}}},
+           {FieldOf(laboratory::kSieveSheet, "txtSuscs"), FieldOf(laboratory::kSieveSheet, "txtNuscs")}},
     System{"AASHTO Classification System",
-           {ReportField{"Group Symbol", "txtSaash"}, ReportField{"Typical Names", "txtMtype"}}},
+           {FieldOf(laboratory::kSieveSheet, "txtSaash"), FieldOf(laboratory::kSieveSheet, "txtMtype")}},
 };
 
 /// The page being drawn, with the eight columns of its tables.

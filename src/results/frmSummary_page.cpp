@@ -38,7 +38,7 @@ constexpr double kTitleTop = 3800;
 constexpr double kTableTop = 4500;
 constexpr double kTestInset = 200;
 constexpr double kCaptionInset = 90;  // the longest caption leaves as much at its other end
-constexpr double kRemarkTop = 12100;
+constexpr double kRemarkTop = kTableTop + 418 * summary::kRows + 76;  // a line of the table is a little less than 418
 
 /// Where the grid's columns begin on the page, in thirds of the table, and where the last one ends.
 constexpr std::array kEdges{0.0, 1.0, 2.0, 2.5, 3.0};

@@ -8,7 +8,7 @@
 
 namespace terravane {
 
-/// A project file with its sixteen tables, seeded. The engine's error 3204 where the file exists; it stays as
+/// A project file with its tables, seeded. The engine's error 3204 where the file exists; it stays as
 /// it is.
 void CreateProjectFile(FileSystem& files, const std::string& path);
 

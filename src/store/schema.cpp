@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "laboratory/all_tests.h"
 #include "laboratory/general_data.h"
@@ -75,16 +76,12 @@ struct TestColumns {
     const Description* test;
     std::span<const ColumnSchema> columns;
 };
-constexpr std::array kTestColumns{
-    TestColumns{&kAtterberg, kColumns<kAtterbergSheet>},
-    TestColumns{&kSieveAnalysis, kColumns<kSieveSheet>},
-    TestColumns{&kSpecificGravity, kColumns<kSpecificGravitySheet>},
-    TestColumns{&kStandardCompaction, kColumns<kCompactionSheet>},
-    TestColumns{&kModifiedCompaction, kColumns<kCompactionSheet>},
-    TestColumns{&kBearingRatio, kColumns<kBearingSheet>},
-    TestColumns{&kFieldDensity, kColumns<kFieldSheet>},
-};
-static_assert(kTestColumns.size() == kTests.size());
+template <std::size_t... kTest>
+constexpr std::array<TestColumns, kTests.size()> ColumnsOfTests(std::index_sequence<kTest...>)
+{
+    return {TestColumns{kTests[kTest], kColumns<kTests[kTest]->sheet>}...};
+}
+constexpr auto kTestColumns = ColumnsOfTests(std::make_index_sequence<kTests.size()>());
 
 /// HEAD first, SUMMARY last, between them the tests' tables at their places.
 constexpr auto AllTables()

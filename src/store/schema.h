@@ -31,7 +31,7 @@ struct TableSchema {
     std::string KeyName() const { return ColumnName(columns.front().suffix); }
 };
 
-/// The sixteen tables of a project file in the order of their creation.
+/// The tables of a project file in the order of their creation.
 std::span<const TableSchema> ProjectTables();
 
 /// LOGO and PERSON.

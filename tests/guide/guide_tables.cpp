@@ -1,9 +1,9 @@
 // The tables of the user guide that say what each sheet holds, as Markdown, from the descriptions of the tests:
 //
-//   === table_att
+//   === table_general
 //   | | | unit | ...
 //
-// tools/build-guide puts each where a chapter says {{table_att}}.
+// tools/build-guide puts each where a chapter says {{table_general}}.
 #include <algorithm>
 #include <cctype>
 #include <iostream>
@@ -55,9 +55,9 @@ void PrintRow(std::string_view group, std::string_view caption, const Value& val
               << (value.isWorkedOut ? "worked out" : "typed") << " | " << Kept(value) << " |\n";
 }
 
-void PrintHead(std::string_view name)
+void PrintHead()
 {
-    std::cout << "=== table_" << name << "\n| | | unit | | characters kept |\n|---|---|---|---|---|\n";
+    std::cout << "| | | unit | | characters kept |\n|---|---|---|---|---|\n";
 }
 
 /// A box that has no caption of its own is called as the report calls it.
@@ -83,12 +83,37 @@ void PrintGrid(const Grid& grid)
     }
 }
 
-void PrintSheet(const Description& test)
+void PrintGeneral()
 {
-    PrintHead(test.key);
-    PrintBoxes("Boxes", test.sheet.boxes);
-    for (const Grid& grid : test.sheet.grids) PrintGrid(grid);
-    PrintBoxes("Results", test.sheet.results);
+    std::cout << "=== table_general\n";
+    PrintHead();
+    PrintBoxes("Job", kJobBoxes);
+    PrintBoxes("Test", kGeneralBoxes);
+}
+
+void PrintSheet(const Sheet& sheet)
+{
+    PrintHead();
+    PrintBoxes("Boxes", sheet.boxes);
+    for (const Grid& grid : sheet.grids) PrintGrid(grid);
+    PrintBoxes("Results", sheet.results);
+}
+
+/// A section a sheet, headed with the tests that it serves.
+void PrintSheets()
+{
+    std::cout << "=== table_sheets\n";
+    const Sheet* before = nullptr;
+    for (const Description* test : Tests()) {
+        if (&test->sheet == before) continue;
+        before = &test->sheet;
+        std::string titles;
+        for (const Description* other : Tests())
+            if (&other->sheet == before) titles.append(titles.empty() ? "" : ", ").append(other->names.title);
+        std::cout << "## " << titles << "\n\n";
+        PrintSheet(test->sheet);
+        std::cout << "\n";
+    }
 }
 
 /// Texts that may be longer or must be shorter than a reading, by their length.
@@ -113,6 +138,16 @@ void PrintLengths()
     std::cout << "| all other texts and readings | " << kReadingLength << " |\n";
 }
 
+void PrintMenuKeys()
+{
+    std::cout << "=== menu_keys\n";
+    for (const Description* test : Tests()) {
+        const bool isLast = test == Tests().back();
+        std::cout << (test == Tests().front() ? "" : isLast ? " and " : ", ") << "`" << test->menu << "`";
+    }
+    std::cout << "\n";
+}
+
 void PrintKeys()
 {
     std::cout << "=== test_keys\n";
@@ -124,11 +159,10 @@ void PrintKeys()
 
 int main()
 {
-    PrintHead("general");
-    PrintBoxes("Job", kJobBoxes);
-    PrintBoxes("Test", kGeneralBoxes);
-    for (const Description* test : Tests()) PrintSheet(*test);
+    PrintGeneral();
+    PrintSheets();
     PrintLengths();
+    PrintMenuKeys();
     PrintKeys();
     return 0;
 }

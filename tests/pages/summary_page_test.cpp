@@ -21,6 +21,7 @@ double Row(double row)
 {
     return 4500 + 417.6 * row;
 }
+const double kBottom = Row(summary::kRows);
 
 /// The form with a text of its own in every value: "s9" is row 9 of the soil, "c9" of the crushed rock.
 struct SummaryPage : ::testing::Test {
@@ -31,7 +32,7 @@ struct SummaryPage : ::testing::Test {
     {
         form.txtProject.SetText("Bypass Road");
         form.txtLocation.SetText("Km 12+400");
-        for (int row = 2; row <= 17; ++row) {
+        for (int row = 2; row < summary::kRows; ++row) {
             form.mshSum(row, 2) = "s" + std::to_string(row);
             form.mshSum(row, 3) = "c" + std::to_string(row);
         }
@@ -91,11 +92,11 @@ TEST_F(SummaryPage, JobStandsAboveTheTitle)
 TEST_F(SummaryPage, TableIsBoxedAndCutIntoColumns)
 {
     const PageMarks page = Page();
-    EXPECT_EQ(page.Boxes(kLeftEdge, 4500, kRightEdge, 12016.8, 2), 1);
-    EXPECT_EQ(page.Down(kSecond, 4500, 12016.8, 1), 1);
-    EXPECT_EQ(page.Down(kThird, 4500, 12016.8, 1), 1);
-    EXPECT_EQ(page.Down(kCut, Row(1), 12016.8, 1), 1) << "the values part below their common head";
-    EXPECT_EQ(page.Down(kCut, 4500, 12016.8, 1), 0);
+    EXPECT_EQ(page.Boxes(kLeftEdge, 4500, kRightEdge, kBottom, 2), 1);
+    EXPECT_EQ(page.Down(kSecond, 4500, kBottom, 1), 1);
+    EXPECT_EQ(page.Down(kThird, 4500, kBottom, 1), 1);
+    EXPECT_EQ(page.Down(kCut, Row(1), kBottom, 1), 1) << "the values part below their common head";
+    EXPECT_EQ(page.Down(kCut, 4500, kBottom, 1), 0);
 }
 
 TEST_F(SummaryPage, RulesStandBetweenTheTests)
@@ -170,7 +171,7 @@ TEST_F(SummaryPage, CaptionsStandInTheSecondColumn)
 TEST_F(SummaryPage, ValuesStandInTheirHalvesWithTheirUnits)
 {
     const PageMarks page = Page();
-    for (int row = 2; row <= 17; ++row) {
+    for (int row = 2; row < summary::kRows; ++row) {
         const bool isDensity = row == 13 || row == 15;
         const bool isBare = row == 9 || row == 10 || row == 11;
         const std::string unit = isBare ? "" : isDensity ? " g/cm^3" : " %";
@@ -194,10 +195,10 @@ TEST_F(SummaryPage, MarkStandsBeforeTheUnit)
 
 TEST_F(SummaryPage, BlankValuesHaveNoUnit)
 {
-    for (int row = 2; row <= 17; ++row) form.mshSum(row, 3) = "   ";
+    for (int row = 2; row < summary::kRows; ++row) form.mshSum(row, 3) = "   ";
     form.mshSum(2, 2) = "";
     const PageMarks page = Page();
-    EXPECT_EQ(page.Texts("   ").size(), 16u);
+    EXPECT_EQ(page.Texts("   ").size(), kSummaryLines.size());
     EXPECT_TRUE(page.Texts(" %").empty());
     EXPECT_TRUE(page.Texts("    %").empty());
 }
@@ -208,7 +209,7 @@ TEST_F(SummaryPage, RemarkStandsSlantedBelowTheTable)
     const TextItem remark =
         page.Text("Remark: * indicates that the test was performed using a wet sieve or an unsoaked CBR.");
     EXPECT_EQ(remark.x, 1250);
-    EXPECT_EQ(remark.y, 12100);
+    EXPECT_EQ(remark.y, 4576 + 418 * summary::kRows);
     EXPECT_TRUE(remark.font.italic);
     const auto texts = ItemsOf<TextItem>(page.items);
     EXPECT_EQ(std::ranges::count_if(texts, [](const TextItem& item) { return item.font.italic; }), 1);
@@ -219,7 +220,7 @@ TEST_F(SummaryPage, RemarkStandsSlantedBelowTheTable)
 TEST_F(SummaryPage, NoTwoTextsOverlap)
 {
     for (const int column : {2, 3}) {
-        for (int row = 2; row <= 17; ++row) form.mshSum(row, column) = "100.0*";
+        for (int row = 2; row < summary::kRows; ++row) form.mshSum(row, column) = "100.0*";
         for (const int row : {12, 13, 14, 15}) form.mshSum(row, column) = "12.34";
         form.mshSum(9, column) = "SW-SC";
         form.mshSum(10, column) = "A-7-5(20)";

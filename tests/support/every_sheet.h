@@ -1,4 +1,4 @@
-/// The seven test sheets as one table: what is chosen on them, their commands in the order of the method, and what
+/// The test sheets as one table: what is chosen on them, their commands in the order of the method, and what
 /// these post. Written from what a technician sees; boxes, grids and what is typed into them come from the
 /// descriptions.
 #pragma once

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "laboratory/general_data.h"
 #include "laboratory/masks.h"
 #include "laboratory/tests.h"
 #include "runtime/text.h"
@@ -48,11 +49,10 @@ auto CellOf(Sheet& sheet, const KeptColumn& column, int record)
 void LoadHeadings(TestSheet& sheet)
 {
     Program& program = sheet.program;
-    const jet::Recordset head = Query(program, program.ProjectConnection, SelectAll("HEAD"));
-    sheet.txtClient.SetText(head.Fields("project_Client"));
-    sheet.txtProject.SetText(head.Fields("project_Name"));
-    sheet.txtLocation.SetText(head.Fields("project_Location"));
-    sheet.txtID.SetText(head.Fields("project_number"));
+    const TableSchema& table = ProjectTables().front();  // HEAD
+    const jet::Recordset head = Query(program, program.ProjectConnection, SelectAll(table.name));
+    for (const laboratory::Box& box : laboratory::kJobBoxes)
+        sheet.Get<TextControl>(box.control).SetText(head.Fields(table.ColumnName(box.is.kept)));
 }
 
 /// A date that was never saved is today's.

@@ -28,16 +28,12 @@ TEST_F(NewStores, HoldTheTablesInTheOrderOfCreationWithTheirRows)
 {
     CreateProjectFile(files, kNewFile);
     const auto project = Opened(kNewFile);
-    const std::vector<std::pair<std::string, std::size_t>> listed{
-        {"HEAD", 1},     {"STDSOIL", 6},  {"MODSOIL", 6},   {"DENSOIL", 6},  {"SPCSOIL", 7},  {"ATTSOIL", 5},
-        {"SIESOIL", 10}, {"CBRSOIL", 20}, {"STDCRUSH", 6},  {"MODCRUSH", 6}, {"DENCRUSH", 6}, {"CBRCRUSH", 20},
-        {"SPCCRUSH", 7}, {"ATTCRUSH", 5}, {"SIECRUSH", 10}, {"SUMMARY", 2},
-    };
+    const auto listed = ProjectTables();
     const auto names = project.TableNames();
     ASSERT_EQ(names.size(), listed.size());
     for (std::size_t i = 0; i < listed.size(); ++i) {
-        EXPECT_EQ(names[i], listed[i].first);
-        EXPECT_EQ(project.ReadRows(listed[i].first).rows.size(), listed[i].second) << listed[i].first;
+        EXPECT_EQ(names[i], listed[i].name);
+        EXPECT_EQ(project.ReadRows(listed[i].name).rows.size(), static_cast<std::size_t>(listed[i].rows)) << names[i];
     }
 }
 
