@@ -7,6 +7,7 @@ screen, openbox the window manager, xdotool the hand at keyboard and mouse.
 import os
 import pathlib
 import re
+import select
 import shutil
 import subprocess
 import sys
@@ -15,7 +16,7 @@ import time
 
 FRAME = "Terravane Program : Version 1.0 -  [Materials for Road Construction]"
 KEY_TO_FRAME = 0.3  # seconds, from the key to the frame; the splash alone would stand for three
-STARTS = 3  # a busy machine may be late once or twice
+STARTS = 5  # a busy machine may be late a few times
 SECONDS = 30  # until a window that does not come is given up
 
 
@@ -29,6 +30,8 @@ class Screen:
             pass_fds=[writing], stderr=subprocess.DEVNULL)]
         os.close(writing)
         with os.fdopen(reading) as number:
+            if not select.select([number], [], [], SECONDS)[0]:
+                sys.exit(f"the screen did not come within {SECONDS} s")
             self.environment = {**os.environ, "DISPLAY": ":" + number.readline().strip(), "QT_QPA_PLATFORM": "xcb"}
         self.start("openbox")
         self.wait("a window manager", lambda: "_NET_SUPPORTING_WM_CHECK(WINDOW)" in self.run(
@@ -40,7 +43,8 @@ class Screen:
         return process
 
     def run(self, *command):
-        return subprocess.run(command, env=self.environment, capture_output=True, text=True, check=False).stdout
+        return subprocess.run(command, env=self.environment, capture_output=True, text=True, check=False,
+                              timeout=SECONDS).stdout
 
     def do(self, *words):
         return self.run("xdotool", *words)
