@@ -34,7 +34,7 @@ class Failed(Exception):
 def wine_environment():
     compiler = [pathlib.Path(subprocess.run(["x86_64-w64-mingw32-g++-posix", f"-print-file-name={name}"],
                                             capture_output=True, text=True, check=True).stdout.strip()).parent
-                for name in ("libstdc++-6.dll", "libwinpthread-1.dll")]
+                for name in ("libstdc++-6.dll", "libssp-0.dll", "libwinpthread-1.dll")]
     libraries = [settings.prefix / "bin", *compiler]
     return {
         **os.environ,
