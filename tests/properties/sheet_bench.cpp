@@ -268,9 +268,11 @@ void SheetBench::Fill(RandomReadings& hand)
     DropWhatNoColumnTakes();
 }
 
+/// A box that is closed takes nothing from a hand.
 void SheetBench::TypeBox(std::string_view box, const std::string& text)
 {
-    sheet_->Get<TextControl>(box).Type(text);
+    auto& typed = sheet_->Get<TextControl>(box);
+    if (typed.Enabled()) typed.Type(text);
 }
 
 void SheetBench::ForEachBox(const std::function<void(std::string_view box)>& act) const

@@ -4,6 +4,7 @@
 Only here is seen what a window manager decides: who gets the keyboard, and what stands in a title bar. Xvfb is the
 screen, openbox the window manager, xdotool the hand at keyboard and mouse.
 """
+import faulthandler
 import os
 import pathlib
 import re
@@ -18,6 +19,8 @@ FRAME = "Terravane Program : Version 1.0 -  [Materials for Road Construction]"
 KEY_TO_FRAME = 0.3  # seconds, from the key to the frame; the splash alone would stand for three
 STARTS = 5  # a busy machine may be late a few times
 SECONDS = 30  # until a window that does not come is given up
+END = 5  # seconds, until what does not end when it is told to is killed
+WHOLE = 150  # seconds, until the check tells where it stands and gives up
 
 
 class Screen:
@@ -32,13 +35,16 @@ class Screen:
         with os.fdopen(reading) as number:
             if not select.select([number], [], [], SECONDS)[0]:
                 sys.exit(f"the screen did not come within {SECONDS} s")
-            self.environment = {**os.environ, "DISPLAY": ":" + number.readline().strip(), "QT_QPA_PLATFORM": "xcb"}
+            # The keyboard's library copies names with a limit out of answers without a closing zero, as it may.
+            sanitizer = os.environ.get("ASAN_OPTIONS", "") + ":strict_string_checks=0"
+            self.environment = {**os.environ, "DISPLAY": ":" + number.readline().strip(), "QT_QPA_PLATFORM": "xcb",
+                                "ASAN_OPTIONS": sanitizer}
         self.start("openbox")
         self.wait("a window manager", lambda: "_NET_SUPPORTING_WM_CHECK(WINDOW)" in self.run(
             "xprop", "-root", "_NET_SUPPORTING_WM_CHECK"))
 
     def start(self, *command):
-        process = subprocess.Popen(command, env=self.environment, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        process = subprocess.Popen(command, env=self.environment, stdout=subprocess.DEVNULL)
         self.processes.append(process)
         return process
 
@@ -54,6 +60,9 @@ class Screen:
         while time.monotonic() < end:
             if result := found():
                 return result
+            for process in self.processes:
+                if process.poll():
+                    sys.exit(f"{process.args[0]} ended with {process.returncode} before {what} came")
             time.sleep(0.005)
         sys.exit(f"{what} did not come within {SECONDS} s; there are {self.titles()}")
 
@@ -67,8 +76,17 @@ class Screen:
 
     def close(self):
         for process in reversed(self.processes):
-            process.terminate()
+            self.end(process)
+
+    def end(self, process):
+        process.terminate()
+        try:
+            process.wait(END)
+        except subprocess.TimeoutExpired:
+            process.kill()
             process.wait()
+        if process in self.processes:
+            self.processes.remove(process)
 
 
 def frame_by_key(screen, program):
@@ -90,8 +108,7 @@ def check_splash(screen, program):
         times.append(seconds)
         if seconds <= KEY_TO_FRAME:
             break
-        process.terminate()
-        process.wait()
+        screen.end(process)
         screen.wait("the frame's end", lambda: not screen.window(FRAME))
     print("from the key to the frame:", " ".join(f"{seconds:.2f} s" for seconds in times))
     if min(times) > KEY_TO_FRAME:
@@ -110,6 +127,7 @@ def check_titles(screen):
 
 
 def main():
+    faulthandler.dump_traceback_later(WHOLE, exit=True)
     with tempfile.TemporaryDirectory(prefix="terravane-screen-") as folder:
         program = pathlib.Path(shutil.copy(sys.argv[1], folder))  # its folder is where it writes
         screen = Screen()
