@@ -295,6 +295,7 @@ Subscription Bind(StatusBar& bar, QStatusBar& view)
     std::vector<QLabel*> panels;
     for (std::size_t number = 1; number <= bar.PanelCount(); ++number) {
         panels.push_back(new QLabel(&view));
+        panels.back()->setTextFormat(Qt::PlainText);
         view.addWidget(panels.back(), number == 1 ? 1 : 0);
     }
     return bar.Show([&bar, panels] {
