@@ -415,7 +415,7 @@ class Strangers(Batch):
         texts = ["=1+1", "+A1", "-2+3", "@x", "'quoted", "-2.5", "plain"]
         columns = ["sum_LL", "sum_PL", "sum_PI", "sum_Gs", "sum_omcS", "sum_mddS", "sum_omcM"]
         sets = ",".join(f"{column} ='{text.replace(chr(39), chr(39) * 2)}'" for column, text in zip(columns, texts))
-        self.script(f'answer TRVN_job.mdb\nmenu mnuOpen\nsql "UPDATE SUMMARY Set {sets} Where sum_id =\'1\'"\n')
+        self.script(f'answer TRVN_job.mdb\nmenu mnuOpen\nsql "UPDATE SUMMARY Set {sets}"\n')
         report("--as-saved", "-o", self.out, "--csv", "all.csv", "TRVN_job.mdb", folder=self.folder)
         row = rows(self.folder / "all.csv")[0]
         told = [row[column] for column in columns]
