@@ -32,6 +32,7 @@ struct BatchOptions {
     bool posts = false;
     bool checks = false;
     bool resumes = false;
+    bool followsLinks = false;  // of folders below outputFolder
     int jobs = 1;
     std::string brand;          // folder; empty: what a new installation starts with
     Moment today{};             // noon of the day that the forms see

@@ -12,6 +12,7 @@
 #include "batch/result_rows.h"
 #include "batch/terminal.h"
 #include "batch/worker_pool.h"
+#include "runtime/text.h"
 
 namespace terravane {
 
@@ -57,11 +58,12 @@ std::string Counted(std::size_t count, const std::string& one, const std::string
 
 std::string Told(const ProjectFile& project, const ProjectAnswer& answer, bool checks)
 {
-    if (!answer.failure.empty()) return project.path + ": failed: " + answer.failure;
-    if (checks) return project.path + (answer.stale.empty() ? ": all results follow from their readings" : ": stale");
+    const std::string path = Printable(project.path);
+    if (!answer.failure.empty()) return path + ": failed: " + Printable(answer.failure);
+    if (checks) return path + (answer.stale.empty() ? ": all results follow from their readings" : ": stale");
     std::size_t pages = 0;
     for (const Output& output : answer.entry.outputs) pages += output.pages;
-    return project.path + ": " + Counted(answer.entry.outputs.size(), "file", "files") + ", " +
+    return path + ": " + Counted(answer.entry.outputs.size(), "file", "files") + ", " +
            Counted(pages, "page", "pages") + (answer.wasThere ? ", there already" : "");
 }
 
@@ -127,7 +129,8 @@ class BatchRun {
     {
         const ProjectFile& project = projects_[number];
         progress_.Done(answer.wasThere);
-        if (!options_.checks && answer.failure.empty() && !answer.wasThere) AddToJournal(project, answer.entry);
+        if (!options_.checks && answer.failure.empty() && !answer.wasThere)
+            AddToJournal(DiskFileSystem(), project, answer.entry);
         if (!answer.failure.empty()) failures_.emplace(number, answer.failure);
         if (!answer.stale.empty()) ++stale_;
         waiting_.emplace(number, std::move(answer));
@@ -144,7 +147,7 @@ class BatchRun {
         if (!listeners_.tellsProjects && answer.stale.empty()) return;
         ClearBar();
         if (listeners_.tellsProjects) listeners_.says << Told(project, answer, options_.checks) << '\n';
-        for (const std::string& stale : answer.stale) listeners_.says << project.path << ": " << stale << '\n';
+        for (const std::string& stale : answer.stale) listeners_.says << Printable(project.path + ": " + stale) << '\n';
         listeners_.says.flush();
     }
 
@@ -164,7 +167,7 @@ class BatchRun {
         std::ostream& out = listeners_.complains;
         if (!failures_.empty()) out << Counted(failures_.size(), "project", "projects") << " failed:\n";
         for (const auto& [number, failure] : failures_)
-            out << "  " << projects_[number].path << ": " << failure << '\n';
+            out << "  " << Printable(projects_[number].path + ": " + failure) << '\n';
         if (progress_.Count() < projects_.size()) {
             out << "Broken off after " << progress_.Count() << " of " << projects_.size()
                 << " projects; what is finished stands. The same command with --resume goes on from here.\n";

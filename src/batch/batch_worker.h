@@ -7,6 +7,7 @@
 #include "batch/batch_options.h"
 #include "batch/brand_folder.h"
 #include "batch/journal_entry.h"
+#include "batch/output_disk.h"
 #include "batch/project_list.h"
 #include "runtime/file_system.h"
 
@@ -35,13 +36,6 @@ class BatchWorker {
     std::string Answer(const std::string& request);
 
   private:
-    /// The disk as outputs need it: each is synced before it appears, so that it is whole; that it has appeared need
-    /// not survive a power cut, since it can be made again. That halves the waiting for the disk.
-    class OutputDisk : public DiskFileSystem {
-      protected:
-        void SyncFolder(const std::string&) override {}
-    };
-
     const BatchOptions& options_;
     DiskFileSystem disk_;
     OutputDisk outputs_;

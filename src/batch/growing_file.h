@@ -4,12 +4,14 @@
 #include <string>
 #include <string_view>
 
+#include "runtime/runtime_error.h"
 #include "runtime/streams.h"
 
 namespace terravane {
 
 /// Stands beside its target under another name until Finish; without it, it goes away with this object. An empty path
-/// is no file: everything does nothing. Errors 75 and 57 name the path.
+/// is no file: everything does nothing. A link that the user named is followed; devices and pipes are refused. Errors
+/// 75 and 57 name the path.
 class GrowingFile {
   public:
     explicit GrowingFile(std::string path);
@@ -22,7 +24,9 @@ class GrowingFile {
     void Finish();
 
   private:
-    std::string path_, part_;
+    RuntimeError Failure(int number) const;
+
+    std::string path_, target_, part_;
     std::ofstream file_;
 };
 

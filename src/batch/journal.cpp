@@ -37,6 +37,12 @@ void TakeJournal(Entries& entries, const std::string& folder, const Bytes& conte
     }
 }
 
+/// A stranger may have put a link or a pipe under the journal's name.
+bool IsOurs(const FileSystem& disk, const std::string& path)
+{
+    return IsFile(path) && !disk.IsLink(path);
+}
+
 }  // namespace
 
 std::string JournalPath(const ProjectFile& project)
@@ -50,7 +56,7 @@ std::map<std::string, JournalEntry> ReadJournals(const FileSystem& disk, const s
     std::set<std::string> read;
     for (const ProjectFile& project : projects) {
         const std::string path = JournalPath(project);
-        if (read.insert(path).second && disk.Exists(path)) TakeJournal(all, FolderOf(path), disk.Read(path));
+        if (read.insert(path).second && IsOurs(disk, path)) TakeJournal(all, FolderOf(path), disk.Read(path));
     }
     Entries listed;
     for (const ProjectFile& project : projects) {
@@ -59,14 +65,17 @@ std::map<std::string, JournalEntry> ReadJournals(const FileSystem& disk, const s
     return listed;
 }
 
-void AddToJournal(const ProjectFile& project, const JournalEntry& entry)
+void AddToJournal(const FileSystem& disk, const ProjectFile& project, const JournalEntry& entry)
 {
     JournalEntry kept = entry;
     for (Output& output : kept.outputs) output.path = NameOf(output.path);
     Json line = kept;
     line["project"] = NameOf(project.stem);
     const std::string text = line.dump(-1, ' ', false, Json::error_handler_t::replace) + '\n';
-    OpenToAdd(JournalPath(project)).write(text.data(), static_cast<std::streamsize>(text.size()));
+    const std::string path = JournalPath(project);
+    if (disk.IsLink(path)) RemoveAll(path);
+    if (!disk.Exists(path) || IsOurs(disk, path))
+        OpenToAdd(path).write(text.data(), static_cast<std::streamsize>(text.size()));
 }
 
 }  // namespace terravane

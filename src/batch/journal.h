@@ -20,11 +20,12 @@ namespace terravane {
 /// Where a project's line stands.
 std::string JournalPath(const ProjectFile& project);
 
-/// The last line of each project of the list, by its stem; a journal that is not there is empty.
+/// The last line of each project of the list, by its stem; a journal that is not there, or is no
+/// file of its own, is empty.
 std::map<std::string, JournalEntry> ReadJournals(const FileSystem& disk, const std::vector<ProjectFile>& projects);
 
-/// Adds a project's line at the end of its journal, in one piece. A journal that can't be written is no failure: the
-/// project is then done again.
-void AddToJournal(const ProjectFile& project, const JournalEntry& entry);
+/// Adds a project's line at the end of its journal, in one piece. A link under the journal's name gives way. A journal
+/// that can't be written is no failure: the project is then done again.
+void AddToJournal(const FileSystem& disk, const ProjectFile& project, const JournalEntry& entry);
 
 }  // namespace terravane

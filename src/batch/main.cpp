@@ -12,6 +12,7 @@
 #include "batch/terminal.h"
 #include "runtime/machine.h"
 #include "runtime/runtime_error.h"
+#include "runtime/text.h"
 
 namespace {
 
@@ -142,6 +143,7 @@ void AddOptions(CLI::App& app, BatchOptions& options, Typed& typed)
         ->check(CLI::Range(1, 1024))
         ->option_text("N");
     app.add_flag("--resume", options.resumes, "Leave out what an earlier run finished of unchanged projects");
+    app.add_flag("--follow-links", options.followsLinks, "Let outputs go through folders below -o that are links");
     app.add_option("--brand", typed.brand, "The laboratory's names and logos; else those of the desktop program")
         ->option_text("DIR");
     app.add_option("--today", typed.today, "The date that the sheets and the PDFs see; else the machine's")
@@ -186,6 +188,9 @@ int main(int argc, char** argv)
     app.footer(kFooter);
     app.allow_windows_style_options(false);  // "/projects" is a folder everywhere
     AddOptions(app, options, typed);
+    app.failure_message([](const CLI::App*, const CLI::Error& failure) {
+        return Printable(failure.what()) + "\nRun with --help for more information.\n";
+    });
     app.final_callback([&] {
         TakeDate(options, typed.today, typed.worker);
         TakeBrand(options, typed.brand);

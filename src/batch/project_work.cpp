@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <future>
 
+#include "batch/output_disk.h"
 #include "batch/pressing.h"
 #include "batch/result_rows.h"
 #include "batch/sha256.h"
@@ -121,7 +122,9 @@ class ProjectWork {
     void WriteOutputs()
     {
         if (parts_.empty()) return;
-        outputs_.MakeFolders(FolderOf(project_.stem));
+        const std::string folder = FolderOf(project_.stem);
+        if (!options_.followsLinks) RefuseLinksBelow(outputs_, options_.outputFolder, folder);
+        outputs_.MakeFolders(folder);
         if (options_.isOneFile) {
             WriteOneFile();
         } else {

@@ -10,6 +10,22 @@ namespace terravane {
 
 namespace {
 
+bool IsNumber(std::string_view text)
+{
+    constexpr std::string_view kDigits = "0123456789.";
+    if (!text.empty() && (text[0] == '-' || text[0] == '+')) text.remove_prefix(1);
+    return !text.empty() && text.find_first_not_of(kDigits) == std::string_view::npos;
+}
+
+/// With an apostrophe before a text that a spreadsheet would take for a formula, and before one that begins with an
+/// apostrophe, so that the first one of a cell can always be taken away again.
+std::string Harmless(const std::string& field)
+{
+    constexpr std::string_view kRisky = "=+-@\t\r\n'";
+    const bool isRisky = !field.empty() && kRisky.find(field[0]) != std::string_view::npos && !IsNumber(field);
+    return isRisky ? "'" + field : field;
+}
+
 std::string Quoted(const std::string& field)
 {
     if (field.find_first_of("\",\r\n") == std::string::npos) return field;
@@ -24,7 +40,7 @@ std::string Quoted(const std::string& field)
 std::string Line(const std::vector<std::string>& fields)
 {
     std::string line;
-    for (const std::string& field : fields) line += (line.empty() ? "" : ",") + Quoted(field);
+    for (const std::string& field : fields) line += (line.empty() ? "" : ",") + Quoted(Harmless(field));
     return line + '\n';
 }
 

@@ -22,6 +22,7 @@
 #include "controls/form.h"
 #include "desktop/looks.h"
 #include "desktop/qt_text.h"
+#include "runtime/text.h"
 
 namespace terravane {
 
@@ -295,10 +296,11 @@ Subscription Bind(StatusBar& bar, QStatusBar& view)
     std::vector<QLabel*> panels;
     for (std::size_t number = 1; number <= bar.PanelCount(); ++number) {
         panels.push_back(new QLabel(&view));
+        panels.back()->setTextFormat(Qt::PlainText);
         view.addWidget(panels.back(), number == 1 ? 1 : 0);
     }
     return bar.Show([&bar, panels] {
-        for (std::size_t i = 0; i < panels.size(); ++i) panels[i]->setText(ToQt(bar.Panel(i + 1)));
+        for (std::size_t i = 0; i < panels.size(); ++i) panels[i]->setText(ToQt(Printable(bar.Panel(i + 1))));
     });
 }
 

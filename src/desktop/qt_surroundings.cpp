@@ -76,6 +76,7 @@ MessageAnswer QtSurroundings::Show(const Message& message)
 {
     QMessageBox box(IconOf(message.style), ToQt(message.title), ToQt(message.text), ButtonsOf(message.buttons),
                     Above());
+    box.setTextFormat(Qt::PlainText);  // a file may have a name that looks like marked-up text
     if (message.buttons == MessageButtons::OkCancel) box.setDefaultButton(QMessageBox::Cancel);
     return AnswerOf(box.exec());
 }
@@ -137,6 +138,7 @@ void QtSurroundings::Fail(const std::string& event, const RuntimeError& error)
 {
     QMessageBox box(QMessageBox::Critical, QObject::tr("Run-time error %1").arg(error.Number()),
                     ToQt(error.Description()), QMessageBox::Ok, Above());
+    box.setTextFormat(Qt::PlainText);
     box.setInformativeText(QObject::tr("The command %1 stopped here. What you typed stays as it is, and so does what "
                                        "was saved before.")
                                .arg(ToQt(event)));

@@ -23,6 +23,7 @@
 #include "desktop/looks.h"
 #include "desktop/qt_text.h"
 #include "render/painter.h"
+#include "runtime/text.h"
 
 namespace terravane {
 
@@ -99,7 +100,7 @@ void FrameWindow::BuildMenu()
         action->setObjectName(ToQt(entry->Name()));
         connect(action, &QAction::triggered, this, [entry] { entry->Press(); });
         bindings_.push_back(entry->Show([entry, action] {
-            action->setText(entry->IsSeparator() ? QString() : ToQt(entry->Caption()));
+            action->setText(entry->IsSeparator() ? QString() : ToQt(Printable(entry->Caption())));
             action->setVisible(entry->Visible() && !entry->Caption().empty());
             action->setEnabled(entry->Enabled());
         }));

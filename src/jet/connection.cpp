@@ -6,6 +6,7 @@
 #include <variant>
 
 #include "jet/header_page.h"
+#include "runtime/text.h"
 
 namespace terravane::jet {
 
@@ -16,7 +17,7 @@ constexpr std::uint64_t kLargestFile = 256 << 20;  // bytes; it is read whole, a
 
 std::string Quoted(const std::string& path)
 {
-    return "'" + path + "'";
+    return "'" + Printable(path) + "'";
 }
 
 /// What a statement does to a database.
@@ -43,7 +44,7 @@ try {
     if (!HasSignature(bytes)) throw RuntimeError(engine::kFile, "Unrecognized database format " + Quoted(path) + ".");
     return Database(std::move(bytes));
 } catch (const RuntimeError& error) {
-    if (error.Description().find(path) != std::string::npos) throw;
+    if (error.Description().find(Quoted(path)) != std::string::npos) throw;
     throw RuntimeError(error.Number(), error.Description() + " The file is " + Quoted(path) + ".");
 }
 

@@ -16,6 +16,7 @@
 #include "runtime/file_system.h"
 #include "runtime/native_path.h"
 #include "runtime/runtime_error.h"
+#include "runtime/text.h"
 
 namespace terravane {
 namespace {
@@ -58,7 +59,8 @@ constexpr Failure kDevice{EIO, error::kDeviceError, "Could not read or write", "
 
 [[noreturn]] void Throw(const Failure& failure, const std::string& path)
 {
-    throw RuntimeError(failure.number, std::string(failure.before) + " '" + path + "'" + failure.behind + ".");
+    throw RuntimeError(failure.number,
+                       std::string(failure.before) + " '" + Printable(path) + "'" + failure.behind + ".");
 }
 
 [[noreturn]] void ThrowSystem(int system, const std::string& path)
@@ -201,6 +203,12 @@ bool DiskFileSystem::IsFolder(const std::string& path) const
 {
     const auto status = StatusOf(OrCurrentFolder(path));
     return status && S_ISDIR(status->st_mode);
+}
+
+bool DiskFileSystem::IsLink(const std::string& path) const
+{
+    Status status{};
+    return lstat(path.c_str(), &status) == 0 && S_ISLNK(status.st_mode);
 }
 
 bool DiskFileSystem::IsWritableFolder(const std::string& path) const

@@ -68,7 +68,8 @@ constexpr Failure kDevice{0, error::kDeviceError, "Could not read or write", ": 
 
 [[noreturn]] void Throw(const Failure& failure, const std::string& path)
 {
-    throw RuntimeError(failure.number, std::string(failure.before) + " '" + path + "'" + failure.behind + ".");
+    throw RuntimeError(failure.number,
+                       std::string(failure.before) + " '" + Printable(path) + "'" + failure.behind + ".");
 }
 
 [[noreturn]] void ThrowSystem(DWORD system, const std::string& path)
@@ -247,6 +248,12 @@ try {
 }
 
 /// Access lists and shares have too many ways of refusing: it is tried.
+bool DiskFileSystem::IsLink(const std::string& path) const
+{
+    const auto attributes = AttributesOf(path);
+    return attributes && (*attributes & FILE_ATTRIBUTE_REPARSE_POINT);
+}
+
 bool DiskFileSystem::IsWritableFolder(const std::string& path) const
 {
     if (!IsFolder(path)) return false;
@@ -370,8 +377,7 @@ try {
 
 std::string DiskFileSystem::Target(const std::string& path) const
 {
-    const auto attributes = AttributesOf(path);
-    if (!attributes || !(*attributes & FILE_ATTRIBUTE_REPARSE_POINT)) return path;
+    if (!IsLink(path)) return path;
     const Handle file(path, 0, kShareAll, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS);
     if (!file.IsOpen()) ThrowSystem(file.Failure(), path);
     std::wstring target(GetFinalPathNameByHandleW(file.Get(), nullptr, 0, FILE_NAME_NORMALIZED), L'\0');

@@ -39,9 +39,9 @@ std::string TemporaryBeside(const std::string& path)
 RuntimeError Renamed(const RuntimeError& failure, const std::string& temporary, const std::string& target)
 {
     std::string description = failure.Description();
-    if (const std::size_t at = description.find(temporary); at != std::string::npos) {
-        description.replace(at, temporary.size(), target);
-    }
+    const std::string told = Printable(temporary);
+    if (const std::size_t at = description.find(told); at != std::string::npos)
+        description.replace(at, told.size(), Printable(target));
     return {failure.Number(), description};
 }
 
@@ -55,7 +55,7 @@ std::string Join(const std::string& folder, std::string_view name)
 Bytes FileSystem::ReadAtMost(const std::string& path, std::uint64_t largest) const
 {
     if (SizeOf(path) > largest) {
-        throw RuntimeError(error::kPathFileAccess, "Could not read '" + path + "': it is larger than " +
+        throw RuntimeError(error::kPathFileAccess, "Could not read '" + Printable(path) + "': it is larger than " +
                                                        std::to_string(largest / kMebibyte) + " MiB.");
     }
     return Read(path);
@@ -110,7 +110,7 @@ void FileSystem::WriteWhole(const std::string& target, std::span<const std::uint
 void FileSystem::RenameToFree(const std::string& from, const std::string& to)
 {
     if (Exists(to)) {
-        throw RuntimeError(error::kPathFileAccess, "Could not make '" + to + "': it is there already.");
+        throw RuntimeError(error::kPathFileAccess, "Could not make '" + Printable(to) + "': it is there already.");
     }
     Rename(from, to);
 }

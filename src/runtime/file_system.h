@@ -32,6 +32,10 @@ class FileSystem {
 
     virtual bool Exists(const std::string& path) const = 0;
     virtual bool IsFolder(const std::string& path) const = 0;
+    /// Whether the path itself is a link, wherever it leads.
+    virtual bool IsLink(const std::string&) const { return false; }
+    /// Where a file's content stands, or would: the path itself, or what it leads to where it is a link.
+    virtual std::string Target(const std::string& path) const { return path; }
     /// Whether files can be made in the folder.
     virtual bool IsWritableFolder(const std::string& path) const = 0;
     /// Names (not paths) of what a folder holds, in no order.
@@ -78,9 +82,6 @@ class FileSystem {
     virtual void SyncFolder(const std::string& folder) = 0;
     virtual void Remove(const std::string& path) noexcept = 0;
 
-    /// Where a file's content stands: the path itself, or what it leads to where it is a link.
-    virtual std::string Target(const std::string& path) const { return path; }
-
   private:
     using Step = void (FileSystem::*)(const std::string& from, const std::string& to);
     void WriteWhole(const std::string& target, std::span<const std::uint8_t> content, Step rename);
@@ -92,6 +93,8 @@ class DiskFileSystem : public FileSystem {
   public:
     bool Exists(const std::string& path) const override;
     bool IsFolder(const std::string& path) const override;
+    bool IsLink(const std::string& path) const override;
+    std::string Target(const std::string& path) const override;
     bool IsWritableFolder(const std::string& path) const override;
     std::vector<std::string> Names(const std::string& folder) const override;
     void MakeFolders(const std::string& path) override;
@@ -107,7 +110,6 @@ class DiskFileSystem : public FileSystem {
     void RenameToFree(const std::string& from, const std::string& to) override;
     void SyncFolder(const std::string& folder) override;
     void Remove(const std::string& path) noexcept override;
-    std::string Target(const std::string& path) const override;
 };
 
 /// The path of a folder's entry whose name equals `name` without regard to case; the plain join where there is none.

@@ -10,6 +10,7 @@
 #include "runtime/native_path.h"
 #include "runtime/paths.h"
 #include "runtime/runtime_error.h"
+#include "runtime/text.h"
 
 namespace terravane {
 
@@ -62,7 +63,7 @@ std::string MakePrivateFolder(const std::string& name)
 {
     std::string path = ToText(std::filesystem::temp_directory_path() / ToNative(name + "-XXXXXX"));
     if (!mkdtemp(path.data())) {
-        throw RuntimeError(error::kPathFileAccess, "No private folder can be made at '" + path + "'.");
+        throw RuntimeError(error::kPathFileAccess, "No private folder can be made at '" + Printable(path) + "'.");
     }
     return path;
 }

@@ -13,6 +13,7 @@
 #include "runtime/native_path.h"
 #include "runtime/paths.h"
 #include "runtime/runtime_error.h"
+#include "runtime/text.h"
 
 namespace terravane {
 
@@ -81,7 +82,7 @@ std::string MakePrivateFolder(const std::string& name)
         std::error_code failure;
         if (std::filesystem::create_directory(ToNative(path), failure)) return path;
     }
-    throw RuntimeError(error::kPathFileAccess, "No private folder can be made at '" + start + "'.");
+    throw RuntimeError(error::kPathFileAccess, "No private folder can be made at '" + Printable(start) + "'.");
 }
 
 void BecomeTool()

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "runtime/runtime_error.h"
+#include "runtime/text.h"
 
 namespace terravane {
 
@@ -88,7 +89,8 @@ Bytes MemoryFileSystem::Read(const std::string& path) const
 const Bytes& MemoryFileSystem::Known(const std::string& path) const
 {
     const auto file = files_.find(path);
-    if (file == files_.end()) throw RuntimeError(error::kFileNotFound, "Could not find file '" + path + "'.");
+    if (file == files_.end())
+        throw RuntimeError(error::kFileNotFound, "Could not find file '" + Printable(path) + "'.");
     return *file->second;
 }
 
@@ -97,7 +99,7 @@ std::unique_ptr<FileLock> MemoryFileSystem::TakeLock(const std::string& path)
     Known(path);
     if (lockedElsewhere_.contains(path)) {
         throw RuntimeError(error::kPermissionDenied,
-                           "Could not save '" + path + "': another program is saving it; try again.");
+                           "Could not save '" + Printable(path) + "': another program is saving it; try again.");
     }
     auto lock = std::make_unique<HeldLock>(locks_.held);
     if (whenLocked) whenLocked();
@@ -106,7 +108,7 @@ std::unique_ptr<FileLock> MemoryFileSystem::TakeLock(const std::string& path)
 
 void MemoryFileSystem::Take(const SaveStep& step)
 {
-    if (++steps_ == failAt_) throw RuntimeError(failWith_, "Could not write '" + std::string(step.path) + "'.");
+    if (++steps_ == failAt_) throw RuntimeError(failWith_, "Could not write '" + Printable(step.path) + "'.");
     if (atStep) atStep(step);
 }
 

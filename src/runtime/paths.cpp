@@ -108,6 +108,12 @@ std::vector<std::string> FilesBelow(const std::string& folder)
     return texts;
 }
 
+bool IsFile(const std::string& path)
+{
+    std::error_code ignored;
+    return fs::is_regular_file(ToNative(path), ignored);
+}
+
 bool MoveOver(const std::string& from, const std::string& to)
 {
     std::error_code failure;

@@ -41,6 +41,9 @@ std::string Moved(const std::string& path, const std::string& folder, const std:
 /// Every file below a folder, in the order of the paths. A folder that can't be entered is passed over.
 std::vector<std::string> FilesBelow(const std::string& folder);
 
+/// A file of data, or a link that leads to one: no folder, device or pipe.
+bool IsFile(const std::string& path);
+
 /// Puts a file in another's place; false where that failed.
 bool MoveOver(const std::string& from, const std::string& to);
 

@@ -110,6 +110,33 @@ void Append(std::string& bytes, char32_t code)
     }
 }
 
+/// Characters of more than a byte that show nothing and yet change how a line is read: further controls, line ends and
+/// marks of direction.
+constexpr bool IsUnseen(char32_t code)
+{
+    return (code >= 0x80 && code < 0xA0) || code == 0x61C || code == 0x200E || code == 0x200F ||
+           (code >= 0x2028 && code <= 0x202E) || (code >= 0x2066 && code <= 0x2069);
+}
+
+std::string InHex(char32_t code, std::size_t digits)
+{
+    std::string hex(digits, '0');
+    for (std::size_t at = digits; at-- > 0; code >>= 4) hex[at] = "0123456789abcdef"[code & 0xF];
+    return hex;
+}
+
+/// A character as Printable shows it.
+/// bytes  those that it takes in the text
+std::string Shown(char32_t code, std::string_view bytes)
+{
+    if (code == '\n') return "\\n";
+    if (code == '\r') return "\\r";
+    if (code == '\t') return "\\t";
+    const bool isNoText = code == kNoText && bytes.size() == 1;
+    if (isNoText || code < 0x20 || code == 0x7F) return "\\x" + InHex(ByteAt(bytes, 0), 2);
+    return IsUnseen(code) ? "\\u" + InHex(code, 4) : std::string(bytes);
+}
+
 constexpr char UpperCase(char letter)
 {
     return letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter;
@@ -157,6 +184,18 @@ std::string ToUtf8(std::u16string_view text)
     bytes.reserve(text.size());
     ForEachCharacter(text, [&](char32_t code) { Append(bytes, code); });
     return bytes;
+}
+
+std::string Printable(std::string_view text)
+{
+    std::string printable;
+    printable.reserve(text.size());
+    while (!text.empty()) {
+        const Character character = FirstCharacter(text);
+        printable += Shown(character.code, text.substr(0, character.length));
+        text.remove_prefix(character.length);
+    }
+    return printable;
 }
 
 bool SameName(std::string_view left, std::string_view right) noexcept

@@ -22,6 +22,11 @@ std::size_t CharacterCount(std::string_view text) noexcept;
 std::u16string ToUtf16(std::string_view text);
 std::string ToUtf8(std::u16string_view text);
 
+/// As a person may read it in a line of a terminal or a message: control characters, line breaks, marks that turn the
+/// direction of writing, and bytes that are no text are shown by their codes ("\n", "\x1b", "\u202e"). A name that a
+/// stranger chose can then neither work the terminal nor look like two lines. The same text twice is the same as once.
+std::string Printable(std::string_view text);
+
 /// Equal without regard to the case of the letters A to Z: names of tables, columns and brand files.
 bool SameName(std::string_view left, std::string_view right) noexcept;
 

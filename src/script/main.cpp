@@ -6,6 +6,7 @@
 
 #include "runtime/machine.h"
 #include "runtime/runtime_error.h"
+#include "runtime/text.h"
 #include "script/script_program.h"
 
 namespace {
@@ -71,6 +72,9 @@ int main(int argc, char** argv)
     CLI::App app(kAbout, "terravane-script");
     app.footer(kLines);
     app.allow_windows_style_options(false);  // "/tmp/x" is a path everywhere
+    app.failure_message([](const CLI::App*, const CLI::Error& failure) {
+        return terravane::Printable(failure.what()) + "\nRun with --help for more information.\n";
+    });
     app.add_option("FILE", options.files, "Scripts, run in their order; standard input where none is named");
     app.add_option("--home", options.home,
                    "The program's folder for this run (FileRecent.txt, BrandList); else a fresh private one")

@@ -1,6 +1,7 @@
 #include "script/script_run.h"
 
 #include "runtime/streams.h"
+#include "runtime/text.h"
 
 namespace terravane {
 
@@ -56,7 +57,7 @@ void ScriptRun::RunLine(const std::string& line, const std::string& place)
 void ScriptRun::Complain(const std::string& place, const std::string& sentence)
 {
     hasFaults_ = true;
-    complaints_ << place << ": " << sentence << std::endl;
+    complaints_ << Printable(place + ": " + sentence) << std::endl;
 }
 
 bool ScriptRun::HasEnded() const

@@ -334,6 +334,172 @@ class Schedulers(Batch):
         self.assertEqual(len(rows(self.folder / "results.csv")), 12)
 
 
+ESCAPE = b"TRVN_\x1b[31mred\x07.mdb"
+HOSTILE = [
+    ESCAPE, b"TRVN_two\nlines: 1 file, 1 page.mdb", b"TRVN_'quoted' \"twice\" .mdb", b"TRVN_$HOME `id` $(id) %n;&|.mdb",
+    b"-o.mdb", b"..mdb.mdb", b"=1+1.mdb", b"@SUM(A1).mdb", b"TRVN_\xff\xfe.mdb", "TRVN_🛣️ งาน.mdb".encode(),
+    ("ก" * 75 + ".mdb").encode(), "TRVN_\u202egpj.mdb".encode(), "TRVN_דרך.mdb".encode(), "TRVN_\u0085next.mdb".encode(),
+]
+LONGEST = [("ก" * 83 + ".mdb").encode(), b"a" * 251 + b".mdb"]  # as long as a disk takes: no room for "_att_soil"
+UNSEEN = re.compile("[\x00-\x09\x0b-\x1f\x7f\u0080-\u009f\u200e\u200f\u2028-\u202e\u2066-\u2069\ufffd]")
+
+
+@unittest.skipUnless(os.name == "posix", "names and links of a disk that takes any bytes")
+class Strangers(Batch):
+    """A folder that others write in: names that they chose, links that they put there."""
+
+    def setUp(self):
+        super().setUp()
+        self.out = self.folder / "out"
+        self.jobs = self.folder / "jobs"
+        self.jobs.mkdir()
+        self.victim = self.folder / "victim.txt"
+        self.victim.write_text("mine")
+        self.elsewhere = self.folder / "elsewhere"
+        self.elsewhere.mkdir()
+
+    def project(self, name):
+        path = os.path.join(os.fsencode(self.jobs), name)
+        shutil.copy(self.lean, path)
+        return path
+
+    def raw(self, *arguments, status=0, **how):
+        """The bytes that the program says, as a person would see them."""
+        command = [str(settings.programs / "terravane-report"), "--today", TODAY, *arguments]
+        ran = subprocess.run(command, env=environment(), capture_output=True, timeout=SECONDS, check=False, **how)
+        said = (ran.stdout + ran.stderr).decode("utf-8", "replace")
+        self.assertEqual(ran.returncode, status, said)
+        self.assertEqual(UNSEEN.findall(said), [], said)
+        return said
+
+    def assert_untouched(self):
+        self.assertEqual(self.victim.read_text(), "mine")
+        self.assertEqual(list(self.elsewhere.iterdir()), [])
+
+    def test_any_name_is_worked_and_none_works_the_terminal(self):
+        for name in HOSTILE:
+            self.project(name)
+        said = self.raw("-o", self.out, "--csv", self.folder / "all.csv", "--manifest", self.folder / "m.csv", self.jobs)
+        self.assertEqual(len(said.splitlines()), len(HOSTILE), said)
+        self.assertIn("TRVN_\\x1b[31mred\\x07.mdb: 1 file, 2 pages", said)
+        self.assertIn("TRVN_two\\nlines: 1 file, 1 page.mdb: 1 file, 2 pages", said)
+        self.assertEqual(len(list(self.out.iterdir())), len(HOSTILE) + 1)  # and the journal
+        for table, column in (("all.csv", "project"), ("m.csv", "project")):
+            with open(self.folder / table, encoding="utf-8", errors="surrogateescape", newline="") as file:
+                told = {os.path.basename(os.fsencode(row[column])) for row in csv.DictReader(file)}
+            self.assertEqual(told, set(HOSTILE), "a table has each name whole")
+
+    def test_a_failure_shows_a_name_by_its_codes(self):
+        broken = self.project(ESCAPE)
+        with open(broken, "wb") as file:
+            file.write(b"no project")
+        self.assertIn("red\\x07", self.raw("-o", self.out, broken, status=1))
+        self.assertIn("red\\x07", self.raw("--brand", ESCAPE, broken, status=2))
+        self.assertIn("red\\x07", self.raw("--csv", b"nowhere/" + ESCAPE, broken, status=2))
+        for name in LONGEST:
+            self.assertIn("the name is too long", self.raw("-o", self.out, self.project(name), status=1))
+
+    def test_a_script_named_by_a_stranger_is_told_by_its_codes(self):
+        script = os.path.join(os.fsencode(self.folder), b"\x1b[31mred.trv")
+        with open(script, "wb") as file:
+            file.write(b"answer \x1b[31mred.mdb\nmenu mnuOpen\nno\x1bcommand\n")
+        for arguments in ([script], [b"not\x1bthere.trv"], ["--today", b"\x1b[31m"]):
+            ran = subprocess.run([str(settings.programs / "terravane-script"), *arguments], cwd=self.folder,
+                                 env=environment(), capture_output=True, timeout=SECONDS, check=False)
+            self.assertEqual(UNSEEN.findall((ran.stdout + ran.stderr).decode("utf-8", "replace")), [], ran)
+            self.assertEqual(ran.returncode, 1)
+
+    def test_no_cell_is_a_formula(self):
+        job = self.folder / "TRVN_job.mdb"
+        shutil.copy(self.road, job)
+        texts = ["=1+1", "+A1", "-2+3", "@x", "'quoted", "-2.5", "plain"]
+        columns = ["sum_LL", "sum_PL", "sum_PI", "sum_Gs", "sum_omcS", "sum_mddS", "sum_omcM"]
+        sets = ",".join(f"{column} ='{text.replace(chr(39), chr(39) * 2)}'" for column, text in zip(columns, texts))
+        self.script(f'answer TRVN_job.mdb\nmenu mnuOpen\nsql "UPDATE SUMMARY Set {sets}"\n')
+        report("--as-saved", "-o", self.out, "--csv", "all.csv", "TRVN_job.mdb", folder=self.folder)
+        row = rows(self.folder / "all.csv")[0]
+        told = [row[column] for column in columns]
+        self.assertEqual(told, ["'=1+1", "'+A1", "'-2+3", "'@x", "''quoted", "-2.5", "plain"])
+        shutil.copy(self.lean, self.folder / "=1+1.mdb")
+        report("-o", self.out, "--csv", "f.csv", "=1+1.mdb", folder=self.folder)
+        self.assertEqual(rows(self.folder / "f.csv")[0]["project"], "'=1+1.mdb")
+
+    def test_a_link_under_an_outputs_name_gives_way(self):
+        self.out.mkdir()
+        for number, leads_to in enumerate((self.victim, self.elsewhere, "/dev/null", "itself", "nowhere")):
+            self.project(f"TRVN_{number}.mdb".encode())
+            name = f"TRVN_{number}_att_soil.pdf"
+            (self.out / name).symlink_to(name if leads_to == "itself" else leads_to)
+        self.victim.chmod(0o444)
+        self.raw("-o", self.out, self.jobs)
+        self.assertEqual(len(digests(self.out)), 5)
+        self.assertFalse(any(pdf.is_symlink() for pdf in self.out.iterdir()))
+        self.assert_untouched()
+
+    def test_a_linked_folder_below_the_outputs_is_refused_by_name(self):
+        (self.jobs / "sub/deep").mkdir(parents=True)
+        self.project(b"sub/deep/TRVN_1.mdb")
+        for link, deeper in (("sub", "deep"), ("sub/deep", "")):
+            shutil.rmtree(self.out, ignore_errors=True)
+            (self.out / link).parent.mkdir(parents=True)
+            (self.out / link).symlink_to(self.elsewhere)
+            said = self.raw("-o", self.out, self.jobs, status=1)
+            self.assertIn(f"The folder '{self.out / link}' is a link. With --follow-links", said)
+            self.assert_untouched()
+            self.raw("-o", f"{self.out}/.", "--follow-links", self.jobs)
+            self.assertEqual(len(digests(self.elsewhere / deeper)), 1)
+            shutil.rmtree(self.elsewhere)
+            self.elsewhere.mkdir()
+
+    def test_the_outputs_own_folder_may_be_a_link(self):
+        self.project(b"TRVN_1.mdb")
+        self.out.symlink_to(self.elsewhere)
+        self.raw("-o", self.out, self.jobs)
+        self.assertEqual(len(digests(self.elsewhere)), 1)
+
+    def test_neither_links_nor_pipes_are_taken_for_a_journal(self):
+        self.project(b"TRVN_1.mdb")
+        self.out.mkdir()
+        journal = self.out / ".terravane-report.journal"
+        journal.symlink_to(self.victim)
+        self.raw("--resume", "-o", self.out, self.jobs)
+        self.assert_untouched()
+        self.assertTrue(journal.is_file() and not journal.is_symlink())
+        journal.unlink()
+        os.mkfifo(journal)
+        self.raw("--resume", "-o", self.out, self.jobs)
+        (self.out / "TRVN_1_att_soil.pdf").unlink()
+        os.mkfifo(self.out / "TRVN_1_att_soil.pdf")
+        self.assertIn("not a file", self.raw("-o", self.out, self.jobs, status=1))
+
+    def test_a_table_follows_the_link_that_the_user_named_and_no_other(self):
+        self.project(b"TRVN_1.mdb")
+        table = self.folder / "table.csv"
+        table.symlink_to(self.elsewhere / "table.csv")
+        (self.elsewhere / "table.csv.part").symlink_to(self.victim)
+        self.raw("-o", self.out, "--csv", table, self.jobs)
+        self.assertTrue(table.is_symlink())
+        self.assertEqual(self.victim.read_text(), "mine")
+        self.assertEqual(len(rows(self.elsewhere / "table.csv")), 2)
+        self.assertEqual([path.name for path in self.elsewhere.iterdir()], ["table.csv"])
+        for refused in ("/dev/null", self.elsewhere):
+            self.assertIn("Could not write", self.raw("-o", self.out, "--csv", refused, self.jobs, status=2))
+        self.assertTrue(pathlib.Path("/dev/null").is_char_device())
+
+    @unittest.skipUnless(shutil.which("strace"), "strace is not installed")
+    def test_no_name_runs_anything_or_opens_the_network(self):
+        for name in HOSTILE:
+            self.project(name)
+        trace = self.folder / "trace"
+        subprocess.run(["strace", "-f", "-o", trace, "-e", "trace=execve,socket,connect",
+                        str(settings.programs / "terravane-report"), "--today", TODAY, "--jobs", "2", "-o", self.out,
+                        self.jobs], env=environment(), stdout=subprocess.DEVNULL, timeout=SECONDS, check=True)
+        calls = trace.read_text(errors="replace")
+        run_programs = set(re.findall(r'execve\("([^"]*)"', calls))
+        self.assertEqual({os.path.basename(path) for path in run_programs} - {"exe"}, {"terravane-report"})
+        self.assertEqual(set(re.findall(r"socket\((\w+)", calls)) - {"AF_UNIX"}, set())  # the name service's
+
+
 if __name__ == "__main__":
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
     parser.add_argument("--programs", type=pathlib.Path, default=ROOT / "build/bin")

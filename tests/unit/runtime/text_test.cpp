@@ -64,6 +64,19 @@ TEST(Text, ReadsAUnitWithoutItsPairAsAReplacement)
     EXPECT_EQ(ToUtf8(std::u16string{char16_t{0xD83D}, u'b'}), kReplacement + "b");
 }
 
+TEST(Text, ShowsWhatNobodyMaySeeByItsCode)
+{
+    EXPECT_EQ(Printable("Road 7.mdb"), "Road 7.mdb");
+    EXPECT_EQ(Printable("ถนนสาย ก 🛣 «é»"), "ถนนสาย ก 🛣 «é»");
+    EXPECT_EQ(Printable("\x1b[31mred\a"), "\\x1b[31mred\\x07");
+    EXPECT_EQ(Printable(std::string("one\ntwo\r\tthree\x7f\0", 16)), "one\\ntwo\\r\\tthree\\x7f\\x00");
+    EXPECT_EQ(Printable("a\xff\xe0\xb8"), "a\\xff\\xe0\\xb8") << "bytes that are no text";
+    EXPECT_EQ(Printable("\xef\xbf\xbd"), "\xef\xbf\xbd") << "the replacement character itself is a text";
+    EXPECT_EQ(Printable("\u0085\u009f"), "\\u0085\\u009f");
+    EXPECT_EQ(Printable("bdm.\u202e7 \u2066x\u2069 \u2028 \u200f"), "bdm.\\u202e7 \\u2066x\\u2069 \\u2028 \\u200f");
+    EXPECT_EQ(Printable(Printable("\x1b\n")), Printable("\x1b\n"));
+}
+
 TEST(Text, TakesAnyBytes)
 {
     RandomValues random(21);
