@@ -89,6 +89,18 @@ TEST(NaturalLogarithm, PrintsTheSystemsOwnDigitsOfEveryReading)
     }
 }
 
+// The tables of the methods themselves, entry by entry.
+TEST(NaturalLogarithm, IsTheNearestDoubleForEverySieveAndEveryNumberOfBlows)
+{
+    constexpr double kOpenings[]{50,   38.1, 25,    19,  12.5, 9.51, 4.75, 2.6,   2,    1.19,
+                                 0.85, 0.59, 0.425, 0.3, 0.25, 0.18, 0.15, 0.106, 0.075};  // mm
+    for (const double opening : kOpenings)
+        EXPECT_EQ(NaturalLogarithm(opening), static_cast<double>(std::log(static_cast<long double>(opening))))
+            << opening;
+    for (int blows = 1; blows <= 100; ++blows)
+        EXPECT_EQ(NaturalLogarithm(blows), static_cast<double>(std::log(static_cast<long double>(blows)))) << blows;
+}
+
 TEST(NaturalLogarithm, IsExactWhereTheLogarithmIs)
 {
     EXPECT_EQ(NaturalLogarithm(1), 0);
