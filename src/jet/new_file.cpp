@@ -11,7 +11,6 @@
 
 #include <algorithm>
 #include <chrono>
-#include <ctime>
 
 #include "jet/catalog.h"
 #include "jet/data_page.h"
@@ -19,6 +18,7 @@
 #include "jet/system_tables.h"
 #include "jet/table_definition.h"
 #include "jet/usage_map.h"
+#include "runtime/machine.h"
 #include "runtime/text.h"
 
 namespace terravane::jet {
@@ -209,12 +209,9 @@ void AddToCatalog(Image& image, std::string_view name, PageNumber page, double c
 
 double LocalNow()
 {
-    constexpr double kEpoch = 25569;  // 1970-01-01 in days since 1899-12-30
-    constexpr double kSecondsADay = 86400;
-    const std::time_t now = std::chrono::system_clock::to_time_t(std::chrono::system_clock::now());
-    std::tm local{};
-    localtime_r(&now, &local);
-    return kEpoch + static_cast<double>(timegm(&local)) / kSecondsADay;
+    using Days = std::chrono::duration<double, std::chrono::days::period>;
+    constexpr auto kFirstDay = std::chrono::local_days(std::chrono::year(1899) / 12 / 30);
+    return Days(terravane::LocalNow() - kFirstDay).count();
 }
 
 Image NewImage(const Locale& locale, double created)
