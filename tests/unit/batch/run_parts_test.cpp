@@ -82,8 +82,8 @@ TEST(Journal, TheLastLineOfAProjectCountsAndACutOneDoesNot)
 {
     Folder folder;
     const ProjectFile road{"road.mdb", folder / "road"}, bridge{"bridge.mdb", folder / "bridge"};
-    AddToJournal(road, {"old", "made", "2026-11-20", {}});
-    AddToJournal(road, {"new", "made", "2026-11-21", {{folder / "road.pdf", 2, 700, "sum"}}});
+    AddToJournal(DiskFileSystem(), road, {"old", "made", "2026-11-20", {}});
+    AddToJournal(DiskFileSystem(), road, {"new", "made", "2026-11-21", {{folder / "road.pdf", 2, 700, "sum"}}});
     std::ofstream(JournalPath(road), std::ios::app) << "{\"project\":\"bridge\",\"content\":\"x\"";
     const auto entries = ReadJournals(DiskFileSystem(), {road, bridge});
     ASSERT_EQ(entries.size(), 1U);
