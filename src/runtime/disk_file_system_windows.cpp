@@ -234,7 +234,7 @@ class DiskLock : public FileLock {
 
 bool DiskFileSystem::Exists(const std::string& path) const
 try {
-    return AttributesOf(path).has_value();
+    return !path.empty() && AttributesOf(path).has_value();  // "" would be the current folder
 } catch (const RuntimeError&) {
     return false;  // no name of a file
 }

@@ -67,7 +67,10 @@ std::string FullPath(const std::string& path)
 {
     std::error_code failure;
     const fs::path full = fs::absolute(ToNative(path), failure);
-    return failure ? path : ToText(full.lexically_normal().make_preferred());
+    if (failure) return path;
+    const std::string text = ToText(full.lexically_normal().make_preferred());
+    const std::string name = NameOf(path);
+    return name == "." || name == ".." ? WithMark(text) : text;  // not every system's library puts it there
 }
 
 std::string RealPath(const std::string& path)

@@ -79,7 +79,7 @@ def as_here(line, folder):
         there = re.escape(("Z:" + folder).replace("/", mark))
         behind = "(?:" + re.escape(mark) + r"[^\\\"']*)*"
         line = re.sub(there + "(" + behind + ")", lambda found: folder + found[1].replace(mark, "/"), line)
-    return line
+    return line.replace("/Logo.mdb", "/logo.mdb")  # one file there, and told by the name that it is asked for
 
 
 def run_script(program, script, windows=False):

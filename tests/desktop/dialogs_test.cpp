@@ -1,4 +1,5 @@
 // The platform's file dialogs, answered as a user does who types a name and presses Enter.
+#include <QDir>
 #include <QFile>
 #include <QFileDialog>
 #include <QLineEdit>
@@ -39,7 +40,7 @@ struct Dialogs : testing::Test {
     DiskFileSystem disk;
     QtSurroundings surroundings{disk};
 
-    QString PathOf(const char* name) const { return folder.path() + "/" + name; }
+    QString PathOf(const char* name) const { return QDir::toNativeSeparators(folder.path() + "/" + name); }
 
     QString NewFile(const char* name)
     {

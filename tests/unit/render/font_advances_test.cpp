@@ -82,6 +82,7 @@ INSTANTIATE_TEST_SUITE_P(All, InstalledFace, testing::ValuesIn(kFaces), [](const
 TEST(DrawnText, IsAsWideAsMeasured)
 {
     EnsureGuiApplication();
+    RequireFonts();
     const std::string text = "การทดสอบการบดอัดแบบสูงกว่ามาตรฐาน ที่ น้ำ ปู่ ผู้ ฝ้า ฟื้น กำ AVATo Wy. Te 12.50 ≥ µ";
     for (const char* name : {"DilleniaUPC", "Cordia New", "MS Sans Serif", "Times New Roman"})
         for (const bool bold : {false, true}) {

@@ -29,9 +29,9 @@ TEST_F(LookingCommands, TextsAndStates)
               "{\"get\":\"SSTData.Tab\",\"value\":0}\n"
               "{\"get\":\"SSTData.TabEnabled 0\",\"value\":true}\n"
               "{\"get\":\"SSTData.TabEnabled 1\",\"value\":false}\n"
-              "{\"get\":\"stbDes\",\"text\":\"Database File is " +
-                  Folder() +
-                  "TRVN_road.mdb\"}\n"
+              "{\"get\":\"stbDes\",\"text\":" +
+                  Json("Database File is " + Folder() + "TRVN_road.mdb") +
+                  "}\n"
                   "{\"get\":\"StatusBar1.BackColor\",\"value\":\"#32CD32\"}\n"
                   "{\"error\":9,\"description\":\"Subscript out of range\",\"line\":\"get cboWt.List 2\"}\n");
 }

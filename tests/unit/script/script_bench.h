@@ -32,6 +32,14 @@ struct RunResult {
     std::string Last() const { return answers.empty() ? std::string() : answers.back(); }
 };
 
+/// A text as it stands in an answer; paths of some systems have marks that are escaped there.
+inline std::string Json(const std::string& text)
+{
+    std::string json = "\"";
+    for (const char letter : text) json.append(letter == '\\' || letter == '"' ? "\\" : "").push_back(letter);
+    return json + '"';
+}
+
 class ScriptBench : public ::testing::Test {
   public:
     ScriptBench()

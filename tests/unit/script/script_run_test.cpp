@@ -71,9 +71,9 @@ TEST_F(ScriptRuns, QuitLeavesTheRecentFileAlone)
     Run("answer a.mdb\nmenu mnuOpen\n");
     EXPECT_FALSE(std::filesystem::exists(Folder() + "home/FileRecent.txt"));
     const auto run = Run("answer /a/TRVN_b.mdb\nmenu mnuOpen\nmenu mnuExit\necho never\n");
-    EXPECT_EQ(Read("home/FileRecent.txt"), "/a/TRVN_b.mdb\r\n");
+    EXPECT_EQ(Read("home/FileRecent.txt"), FullPath("/a/TRVN_b.mdb") + "\r\n");
     EXPECT_EQ(run.answers.size(), 1U);
-    EXPECT_EQ(Run("get mnuRecent\n").Last(), R"({"get":"mnuRecent","text":"/a/TRVN_b.mdb"})");
+    EXPECT_EQ(Run("get mnuRecent\n").Last(), R"({"get":"mnuRecent","text":)" + Json(FullPath("/a/TRVN_b.mdb")) + "}");
 }
 
 TEST_F(ScriptRuns, HomeWithABrandFolderKeepsIt)
