@@ -148,8 +148,8 @@ inline constexpr Line kPenetrationLines[]{
 inline constexpr Line kBearingResultLines[]{
     {cbr::result::Mold, "Mold No. "},
     {cbr::result::DryDensity, "Dry Density (g/cm^3)  ", {.isWorkedOut = true, .unit = kGramPerCubicCentimetre}},
-    {cbr::result::At01, "CBR at 0.1 in. (%) ", {.isWorkedOut = true, .unit = kPercent}},
-    {cbr::result::At02, "CBR at 0.2 in. (%)", {.isWorkedOut = true, .unit = kPercent}},
+    {cbr::result::At01, "CBR at 0.1 in. (%) ", {.isWorkedOut = true, .unit = kPercent, .mask = kOneDecimal}},
+    {cbr::result::At02, "CBR at 0.2 in. (%)", {.isWorkedOut = true, .unit = kPercent, .mask = kOneDecimal}},
 };
 
 /// The table keeps of the swelling the rows from the second one on: two rows of heads, as the texts they are, and all
@@ -219,7 +219,7 @@ inline constexpr Box kBearingResults[]{
     {"txtOMC1", "Optimum Moisture Content (OMC)", {.unit = kPercent}},
     {"txtMDD1", "Maximum Dry Density (MDD)", {.unit = kGramPerCubicCentimetre}},
     {"cboCBR", "CBR at", {.unit = kPercent, .like = {90, 98, 0}}},
-    {"txtCBR", "of MDD is", {.isWorkedOut = true, .unit = kPercent}},
+    {"txtCBR", "of MDD is", {.isWorkedOut = true, .unit = kPercent, .mask = kOneDecimal}},
 };
 inline constexpr const Box& kBearingCompaction = kBearingResults[0];
 inline constexpr const Box& kBearingMoisture = kBearingResults[1];
