@@ -4,6 +4,8 @@
 #include <array>
 #include <cstdio>
 #include <cstdlib>
+#include <ranges>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -59,29 +61,16 @@ void TimeCommand(benchmark::State& state, const support::SheetCommand& command)
     while (Road().OfProgram().Loaded("frmPreview")) Road().OfProgram().Unload("frmPreview");
 }
 
-/// One report: the lines that bring its sheet to where it can be printed.
-struct ReportRow {
-    std::string_view name;
-    std::vector<std::string_view> lines;
-};
-
-const std::vector<ReportRow>& Reports()
+/// A report is printed from where its preview is pressed.
+bool IsReport(const support::SheetCommand& command)
 {
-    static const std::vector<ReportRow> reports{
-        {"Atterberg", {"menu mnuAtt1", "click cmdCal", "click cmdPlot"}},
-        {"Sieve", {"menu mnuSie1", "click cmdAtt", "click cmdCal", "click cmdgraph", "click cmdClass"}},
-        {"Specific gravity", {"menu mnuSpe1", "click cmdgraph", "click cmdCal"}},
-        {"Compaction", {"menu mnuStd1", "click cmdCal", "click cmdOMC"}},
-        {"CBR", {"menu mnuCBR1", "click optStd", "click cmdCal", "click cmdLPen", "click cmdCBR"}},
-        {"Field density", {"menu mnuDen1", "click optStd", "click cmdCal"}},
-    };
-    return reports;
+    return command.name == support::kPreviewName;
 }
 
-std::vector<DisplayList> PagesOf(const ReportRow& report)
+std::vector<DisplayList> PagesOf(const support::SheetCommand& preview)
 {
-    Do(report.lines);
-    CheckOrEnd(std::string(report.name));
+    Do(preview.before);
+    CheckOrEnd(std::string(preview.group));
     return PagesOfReport(Road().OfProgram());
 }
 
@@ -94,9 +83,9 @@ std::vector<DisplayList> OverallPage()
     return pages;
 }
 
-void RecordReport(benchmark::State& state, const ReportRow& report)
+void RecordReport(benchmark::State& state, const support::SheetCommand& preview)
 {
-    Do(report.lines);
+    Do(preview.before);
     for (auto _ : state) benchmark::DoNotOptimize(PagesOfReport(Road().OfProgram()));
 }
 
@@ -153,13 +142,14 @@ bool RegisterAll()
             TimeCommand(state, command);
         })->Unit(benchmark::kMillisecond);
     }
-    for (const auto& report : Reports()) {
-        benchmark::RegisterBenchmark(("Report drawn/" + std::string(report.name)).c_str(),
+    auto reports = std::views::filter(support::kSheetCommands, IsReport);
+    for (const auto& report : reports) {
+        benchmark::RegisterBenchmark(("Report drawn/" + std::string(report.group)).c_str(),
                                      [&report](benchmark::State& state) { RecordReport(state, report); })
             ->Unit(benchmark::kMillisecond);
     }
     benchmark::RegisterBenchmark("Report drawn/Overall results", RecordOverallResults)->Unit(benchmark::kMillisecond);
-    for (const auto& report : Reports()) RegisterPages(std::string(report.name), [&report] { return PagesOf(report); });
+    for (const auto& report : reports) RegisterPages(std::string(report.group), [&report] { return PagesOf(report); });
     RegisterPages("Overall results", OverallPage);
     return true;
 }

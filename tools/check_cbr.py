@@ -6,7 +6,7 @@
                                                           compare with what the sheet shows
 
 READINGS.json holds under "readings": condition, proving_ring_lb_per_div, mdd_g_cm3, water, density, swelling,
-penetration_in and dial_div, as a technician would type them, and ticks, the moulds whose correction is
+penetration_in and dial_div, as a technician would type them, and ticks, the molds whose correction is
 chosen. Texts are rounded in decimals, and the fits are solved in fractions: no figure here has a rounding error of its
 own, so that a difference of a digit is the program's. With just five penetrations the curve meets each reading, and a
 reading half-way between two tenths of a percent may fall to either: random sheets have fewer or more.
@@ -21,7 +21,7 @@ from checking import RuntimeFailure, as_text, divide, main, quoted, rounded, val
 
 MOULDS = 3
 DESCRIPTIONS = {6: "Overflow", 11: "Division by zero"}
-FIELDS = {"ticks": "the moulds whose correction is chosen: 13"}
+FIELDS = {"ticks": "the molds whose correction is chosen: 13"}
 
 
 class Sheet:
@@ -66,9 +66,9 @@ class Sheet:
         for c in range(first, first + 3):
             if not self.cell("density", c, "blows").strip():
                 return
-            names = ("diameter_cm", "height_cm", "mould_and_soil_g", "mould_g")
-            d, h, whole, mould = (val(self.cell("density", c, n)) for n in names)
-            self.wet[c] = rounded(divide(whole - mould, math.pi * d * d / 4 * h), 2)
+            names = ("diameter_cm", "height_cm", "mold_and_soil_g", "mold_g")
+            d, h, whole, mold = (val(self.cell("density", c, n)) for n in names)
+            self.wet[c] = rounded(divide(whole - mold, math.pi * d * d / 4 * h), 2)
             self.dry[c] = rounded(divide(val(self.wet[c]), 1 + val(self.water[c]) / 100), 2)
             self.result[1][c - first + 1] = self.dry[c]
 
@@ -88,8 +88,8 @@ class Sheet:
         k = val(as_text(self.readings["proving_ring_lb_per_div"]))
         for row in range(len(self.readings["penetration_in"])):
             line = []
-            for mould in range(1, 4):
-                dials = self.readings["dial_div"].get(f"mould_{mould}", [])
+            for mold in range(1, 4):
+                dials = self.readings["dial_div"].get(f"mold_{mold}", [])
                 if row >= len(dials) or not str(dials[row]).strip():
                     line += ["", ""]
                     continue
@@ -97,29 +97,29 @@ class Sheet:
                 line += [load, rounded(val(load) / 3, 2)]
             self.loads.append(line)
 
-    def points(self, mould):
+    def points(self, mold):
         x = [val(p) for p in self.readings["penetration_in"]]
-        return x, [val(line[2 * mould - 1]) for line in self.loads]
+        return x, [val(line[2 * mold - 1]) for line in self.loads]
 
     def curves(self):
-        """The ratios of all moulds; the error's number where the command ends with one."""
+        """The ratios of all molds; the error's number where the command ends with one."""
         try:
-            for mould in range(1, 4):
-                self.ratio(mould, str(mould) in self.ticks)
+            for mold in range(1, 4):
+                self.ratio(mold, str(mold) in self.ticks)
         except RuntimeFailure as failure:
             return failure.number
         return None
 
-    def ratio(self, mould, ticked):
-        x, y = self.points(mould)
+    def ratio(self, mold, ticked):
+        x, y = self.points(mold)
         c = fit(x, y, 1, 5)
         if ticked:
-            self.shifts[mould] = zero_shift(c, x[-1])
-        origin = self.shifts.get(mould, 0.0)
+            self.shifts[mold] = zero_shift(c, x[-1])
+        origin = self.shifts.get(mold, 0.0)
         for row, at, standard in ((2, 0.1, 1000), (3, 0.2, 1500)):
             stress = value(c, origin + at)
             if stress != 0:
-                self.result[row][mould] = rounded(stress / standard * 100, 1)
+                self.result[row][mold] = rounded(stress / standard * 100, 1)
 
     def design(self, share, mdd):
         """The value at the share's first two characters of the density; without a curve the error's number."""
@@ -199,7 +199,7 @@ def typed(readings):
     yield f"set txtK {quoted(str(readings['proving_ring_lb_per_div']))}"
     yield f"set txtMDD {quoted(str(readings.get('mdd_g_cm3') or ''))}"
     tables = (("water", "MSHWater", 1, ("can_no", "can_wet_g", "can_dry_g", "can_g")),
-              ("density", "MSHCompaction", 2, ("blows", "diameter_cm", "height_cm", "mould_and_soil_g", "mould_g")))
+              ("density", "MSHCompaction", 2, ("blows", "diameter_cm", "height_cm", "mold_and_soil_g", "mold_g")))
     for table, grid, top, names in tables:
         for column, line in enumerate(readings[table], 1):
             for row, name in enumerate(names, top):
@@ -207,12 +207,12 @@ def typed(readings):
     for row, line in enumerate(readings["swelling"], 3):
         yield f"put MSHSwell {row} 0 {line['date']}"
         yield f"put MSHSwell {row} 1 {line['time_h']}"
-        for mould, dial in enumerate(line["dial_mm"]):
-            yield f"put MSHSwell {row} {3 + 2 * mould} {dial}"
+        for mold, dial in enumerate(line["dial_mm"]):
+            yield f"put MSHSwell {row} {3 + 2 * mold} {dial}"
     for row, depth in enumerate(readings["penetration_in"]):
         yield f"type MSHPenetrate1 {row} 0 {depth}"
-    for mould, column in ((1, 1), (2, 4), (3, 7)):
-        for row, dial in enumerate(readings["dial_div"].get(f"mould_{mould}", [])):
+    for mold, column in ((1, 1), (2, 4), (3, 7)):
+        for row, dial in enumerate(readings["dial_div"].get(f"mold_{mold}", [])):
             yield f"type MSHPenetrate1 {row} {column} {quoted(str(dial))}"
 
 
@@ -227,16 +227,16 @@ def random_readings(chance):
     if chance.random() < 0.03:
         water[0]["can_dry_g"] = water[0]["can_g"]
     density = [{"blows": blows[i], "diameter_cm": 15.24 if chance.random() > 0.02 else "", "height_cm": 11.64,
-                "mould_and_soil_g": round(10800 + 250 * (i % 3) + chance.uniform(-80, 80), 1), "mould_g": 7000}
+                "mold_and_soil_g": round(10800 + 250 * (i % 3) + chance.uniform(-80, 80), 1), "mold_g": 7000}
                for i in range(count)]
     start = datetime.date(2009, chance.randint(1, 12), chance.randint(1, 28))
     swelling = [{"date": (start + datetime.timedelta(days=d)).strftime("%d/%m/%Y"), "time_h": chance.randint(7, 18),
                  "dial_mm": [round(chance.uniform(0, 3), 2) for _ in range(3)]} for d in range(chance.randint(0, 5))]
     depths = [f"{0.025 * r:.3f}" for r in range(chance.choice([4, 7, 9, 9, 9, 13, 20]))]
     dials = {}
-    for mould in range(1, chance.choice([2, 4, 4, 4])):
+    for mold in range(1, chance.choice([2, 4, 4, 4])):
         limit, bend, start = chance.uniform(40, 300), chance.uniform(3, 15), chance.choice([0, 0, 0, 0.04])
-        dials[f"mould_{mould}"] = [
+        dials[f"mold_{mold}"] = [
             round(max(limit * (1 - math.exp(-bend * max(float(d) - start, 0))) + chance.uniform(-1, 1), 0), 1)
             for d in depths]
     return {"condition": condition, "proving_ring_lb_per_div": chance.choice([4.9958, 5, 12.3, 0]),
@@ -257,7 +257,7 @@ def worked(readings):
 
 def script_of(readings):
     return ["menu mnuCBR1", *typed(readings), "click cmdCal", "dump MSHWater", "dump MSHCompaction",
-            *(f"check chkMold{mould} on" for mould in readings.get("ticks", "")), "click cmdLPen", "dump mshLPC"]
+            *(f"check chkMold{mold} on" for mold in readings.get("ticks", "")), "click cmdLPen", "dump mshLPC"]
 
 
 def shown(answers):

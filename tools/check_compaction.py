@@ -5,8 +5,8 @@
     tools/check_compaction.py --program build/bin/terravane-script [--random N] [--seed S] [READINGS.json ...]
                                                                compare with what the sheet shows
 
-READINGS.json holds "readings": mould_diameter_cm, mould_height_cm, trials of can_no, can_wet_g, can_dry_g, can_g,
-assumed_water_pct, mould_wet_soil_g, mould_g; optionally specific_gravity (draws the air-void line) and interval
+READINGS.json holds "readings": mold_diameter_cm, mold_height_cm, trials of can_no, can_wet_g, can_dry_g, can_g,
+assumed_water_pct, mold_wet_soil_g, mold_g; optionally specific_gravity (draws the air-void line) and interval
 (the spline's step). Written from the method of the test and knowing nothing of the program's own code: texts in
 cells, every stage rounded through decimals, one literal line a step.
 """
@@ -35,7 +35,7 @@ class Sheet:
 
     def __init__(self, readings):
         get = lambda name, default="": as_text(readings.get(name, default))
-        self.height, self.dia = get("mould_height_cm"), get("mould_diameter_cm")
+        self.height, self.dia = get("mold_height_cm"), get("mold_diameter_cm")
         self.gs, self.interval = get("specific_gravity"), get("interval", "0.01")
         self.water = [[""] * (TRIALS + 1) for _ in range(8)]
         self.density = [[""] * (TRIALS + 1) for _ in range(7)]
@@ -44,7 +44,7 @@ class Sheet:
             self.water[1][i] = t.get("can_no", "")
             for row, name in ((2, "can_wet_g"), (3, "can_dry_g"), (4, "can_g")):
                 self.water[row][i] = masked(t.get(name, ""), 2)
-            for row, name in ((0, "assumed_water_pct"), (1, "mould_wet_soil_g"), (2, "mould_g")):
+            for row, name in ((0, "assumed_water_pct"), (1, "mold_wet_soil_g"), (2, "mold_g")):
                 text = t.get(name, "")
                 ditto = row == 2 and i > 1 and text == "/"
                 self.density[row][i] = self.density[2][i - 1] if ditto else text
@@ -69,7 +69,7 @@ class Sheet:
                 d[6][i] = rounded(divide(val(d[5][i]), 1 + val(d[3][i]) / 100), 2)
 
     def points(self):
-        """Water content and dry density of the accepted trials: up to the first column without a mould."""
+        """Water content and dry density of the accepted trials: up to the first column without a mold."""
         kept = itertools.takewhile(lambda i: val(self.density[2][i]) != 0, range(1, TRIALS + 1))
         return [(val(self.density[3][i]), val(self.density[6][i])) for i in kept]
 
@@ -211,7 +211,7 @@ def script_of(readings):
     clean = Sheet({**readings, "trials": []})
     lines = ["menu mnuStd1", f"set txtHeight {quoted(clean.height)}", f"set txtDia {quoted(clean.dia)}"]
     places = (("can_no", "MSHWt", 1), ("can_wet_g", "MSHWt", 2), ("can_dry_g", "MSHWt", 3), ("can_g", "MSHWt", 4),
-              ("assumed_water_pct", "MSHDensity", 0), ("mould_wet_soil_g", "MSHDensity", 1), ("mould_g", "MSHDensity", 2))
+              ("assumed_water_pct", "MSHDensity", 0), ("mold_wet_soil_g", "MSHDensity", 1), ("mold_g", "MSHDensity", 2))
     for i, trial in enumerate(readings["trials"], 1):
         for name, grid, row in places:
             lines.append(f"type {grid} {row} {i} {quoted(as_text(trial.get(name, '')))}")
@@ -271,7 +271,7 @@ def random_readings(rng):
     water, top = rng.uniform(4, 16), rng.uniform(1.5, 2.3)
     gap, curvature, peak = rng.uniform(0.8, 2.5), rng.uniform(0.002, 0.02), rng.uniform(0, count)
     dia, height = rng.choice([(10.16, 11.64), (15.24, 11.64), (10, 12.5)])
-    volume, mould = math.pi * dia**2 * height / 4, rng.choice([1484.5, 2315, 6480, 4250.25])
+    volume, mold = math.pi * dia**2 * height / 4, rng.choice([1484.5, 2315, 6480, 4250.25])
     trials = []
     for i in range(count):
         w = water + i * gap + rng.uniform(-0.2, 0.2)
@@ -279,9 +279,9 @@ def random_readings(rng):
         rho = max(0.2, top - curvature * (i * gap - peak * gap) ** 2 + rng.uniform(-0.01, 0.01))
         trials.append({"can_no": f"A{i + 1}", "can_wet_g": round(can + dry * (1 + w / 100), 3),
                        "can_dry_g": round(can + dry, 3), "can_g": can, "assumed_water_pct": round(w),
-                       "mould_wet_soil_g": round(mould + rho * (1 + w / 100) * volume, 1),
-                       "mould_g": mould if i == 0 or rng.random() < 0.5 else "/"})
-    readings = {"mould_diameter_cm": dia, "mould_height_cm": height, "trials": trials,
+                       "mold_wet_soil_g": round(mold + rho * (1 + w / 100) * volume, 1),
+                       "mold_g": mold if i == 0 or rng.random() < 0.5 else "/"})
+    readings = {"mold_diameter_cm": dia, "mold_height_cm": height, "trials": trials,
                 "interval": rng.choice(["0.01", "0.01", "0.02", "0.1", "0.005", ".03"])}
     if rng.random() < 0.25:
         spoil(rng, readings)
@@ -291,18 +291,18 @@ def random_readings(rng):
 def spoil(rng, readings):
     trial = rng.choice(readings["trials"])
     rng.choice([
-        lambda: trial.update(mould_g=rng.choice(["", "0", "x", "/"])),
+        lambda: trial.update(mold_g=rng.choice(["", "0", "x", "/"])),
         lambda: trial.update(can_wet_g=rng.choice(["", "abc", "85.32g", "-5", "1e2"])),
         lambda: trial.update(can_dry_g=rng.choice(["", "0", "12,5", trial["can_g"]])),
         lambda: trial.update(can_g=""),
-        lambda: trial.update(mould_wet_soil_g=rng.choice(["", "?"])),
-        lambda: readings.update(mould_height_cm=rng.choice(["", "0", "h"])),
-        lambda: readings.update(mould_diameter_cm=""),
+        lambda: trial.update(mold_wet_soil_g=rng.choice(["", "?"])),
+        lambda: readings.update(mold_height_cm=rng.choice(["", "0", "h"])),
+        lambda: readings.update(mold_diameter_cm=""),
         lambda: readings.update(interval=rng.choice(["0", "", "x", "-0.01", "5"])),
         lambda: readings["trials"].reverse(),
         lambda: [t.update(can_wet_g=trial["can_wet_g"], can_dry_g=trial["can_dry_g"], can_g=trial["can_g"])
                  for t in readings["trials"][:2]],
-        lambda: [t.update(mould_wet_soil_g=trial["mould_wet_soil_g"], can_wet_g=trial["can_wet_g"],
+        lambda: [t.update(mold_wet_soil_g=trial["mold_wet_soil_g"], can_wet_g=trial["can_wet_g"],
                           can_dry_g=trial["can_dry_g"], can_g=trial["can_g"]) for t in readings["trials"]],
     ])()
 

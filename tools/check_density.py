@@ -24,7 +24,7 @@ PI = Fraction(3141592654, 10**9)
 # The typed rows of each grid with their names, from row 1 on; "mdd" is filled by the choice of the compaction test.
 GRIDS = {
     "MSHWsand": ("sand_in_cone", ("initial_g", "final_g"), 4),
-    "MSHDsand": ("sand_density", ("mould_diameter_cm", "mould_height_cm", "mould_empty_g", "mould_with_sand_g"), 7),
+    "MSHDsand": ("sand_density", ("mold_diameter_cm", "mold_height_cm", "mold_empty_g", "mold_with_sand_g"), 7),
     "MSHWsoil": ("holes", ("wet_soil_and_pan_g", "pan_g"), 3),
     "MSHVolume": ("holes", ("jar_initial_g", "jar_final_g"), 6),
     "MSHWater": ("holes", ("can_wet_g", "can_dry_g", "can_g"), 6),
@@ -198,9 +198,9 @@ def random_readings(chance):
     def cone():
         return {"initial_g": chosen(chance, mass(6800, 7300), "", "x", -5), "final_g": mass(5100, 5600)}
 
-    def mould():
-        return {"mould_diameter_cm": chosen(chance, 15.24, "", 10), "mould_height_cm": chosen(chance, 11.64, "", 0),
-                "mould_empty_g": 7000, "mould_with_sand_g": chosen(chance, mass(9900, 10100), 7000, "")}
+    def mold():
+        return {"mold_diameter_cm": chosen(chance, 15.24, "", 10), "mold_height_cm": chosen(chance, 11.64, "", 0),
+                "mold_empty_g": 7000, "mold_with_sand_g": chosen(chance, mass(9900, 10100), 7000, "")}
 
     def hole():
         dry = round(chance.uniform(95, 130), 2)
@@ -214,7 +214,7 @@ def random_readings(chance):
         for name in ("jar_initial_g", "jar_final_g"):
             if holes[-1]:
                 del holes[-1][name]
-    return {"sand_in_cone": columns_of(chance, cone), "sand_density": columns_of(chance, mould), "holes": holes,
+    return {"sand_in_cone": columns_of(chance, cone), "sand_density": columns_of(chance, mold), "holes": holes,
             "max_dry_density_g_cm3": chosen(chance, round(chance.uniform(1.6, 2.3), 2), "", 0, "1.9 g/cm3", -2),
             "compaction": chance.choice(["Std", "Mod"])}
 

@@ -9,7 +9,7 @@ import shlex
 
 TESTS = {"Att": "att", "Sie": "sie", "Spe": "spc", "Std": "std", "Mod": "mod", "Den": "den", "CBR": "cbr"}
 MATERIALS = {"1": "soil", "2": "crush"}
-DITTO = "/"  # the mass of the mould as in the column before
+DITTO = "/"  # the mass of the mold as in the column before
 
 
 def of_scripts(scripts):

@@ -224,18 +224,18 @@ def calibration(x, y):
 def compaction(readings, test, material):
     cans = readings.texts(test, material, "MSHWt", 1, 6)[0]
     weighed = rounded(readings.numbers(test, material, "MSHWt", 3, 6, first=2), 2)  # as the cells take them
-    moulds = readings.numbers(test, material, "MSHDensity", 3, 6, first=0)
+    molds = readings.numbers(test, material, "MSHDensity", 3, 6, first=0)
     diameter_, height = (readings.number(test, material, name) for name in ("txtDia", "txtHeight"))
     water, soil, content = water_contents(*weighed)
-    wet = rounded(moulds[1] - moulds[2], 2)
+    wet = rounded(molds[1] - molds[2], 2)
     wet_density = rounded(wet / (height * np.pi * diameter_**2 / 4), 2)
     dry_density = rounded(wet_density / (1 + content / 100), 2)
-    typed = ~np.isnan(moulds[2])
+    typed = ~np.isnan(molds[2])
     x, y = content[typed], dry_density[typed]
     curve = spline_table(x, y)
     top = len(curve[1]) - 1 - int(np.argmax(curve[1][::-1]))
     return {
-        "cans": cans, "weighed": weighed, "moulds": moulds, "water": water, "soil": soil, "content": content, "wet": wet,
+        "cans": cans, "weighed": weighed, "molds": molds, "water": water, "soil": soil, "content": content, "wet": wet,
         "wet_density": wet_density, "dry_density": dry_density, "points": (x, y), "curve": curve,
         "OMC": float(rounded(curve[0][top], 1)), "MDD": float(rounded(curve[1][top], 2)),
         "air": air_void_line(x, y, readings.number(test, material, "txtGs")),
@@ -283,9 +283,9 @@ def bearing_ratio(readings, material, reference):
     cans = readings.texts("cbr", material, "MSHWater", 1, 6)[0]
     water = readings.numbers("cbr", material, "MSHWater", 3, 6, first=2)
     blows = readings.texts("cbr", material, "MSHCompaction", 1, 6, first=2)[0]
-    mould = readings.numbers("cbr", material, "MSHCompaction", 4, 6, first=3)
+    mold = readings.numbers("cbr", material, "MSHCompaction", 4, 6, first=3)
     content = rounded((water[0] - water[1]) / (water[1] - water[2]) * 100, 2)
-    wet_density = rounded((mould[2] - mould[3]) / (np.pi * mould[0] ** 2 / 4 * mould[1]), 2)
+    wet_density = rounded((mold[2] - mold[3]) / (np.pi * mold[0] ** 2 / 4 * mold[1]), 2)
     dry_density = rounded(wet_density / (1 + content / 100), 2)
     depth = readings.cells[("cbr", material, "MSHPenetrate1")]
     rows = max(row for row, _ in depth) + 1
@@ -306,8 +306,8 @@ def bearing_ratio(readings, material, reference):
     parabolas = {depth: np.polyfit(after, values, 2) for depth, values in ratio.items()}
     share = 0.95 * reference["MDD"]
     return {
-        "cans": cans, "water": water, "content": content, "blows": blows, "mould": mould, "wet_density": wet_density,
-        "dry_density": dry_density, "swelling": swelling(readings, material, mould[1]), "depths": depths, "dials": dials,
+        "cans": cans, "water": water, "content": content, "blows": blows, "mold": mold, "wet_density": wet_density,
+        "dry_density": dry_density, "swelling": swelling(readings, material, mold[1]), "depths": depths, "dials": dials,
         "loads": loads, "stresses": stresses, "at": at, "curves": curves, "ratio": ratio, "after": after, "x": x,
         "parabolas": {depth: np.polyval(of, x) for depth, of in parabolas.items()}, "share": share,
         "OMC": reference["OMC"], "MDD": reference["MDD"], "CBR": float(rounded(np.polyval(parabolas[0.2], share), 1)),
@@ -315,14 +315,14 @@ def bearing_ratio(readings, material, reference):
 
 
 def swelling(readings, material, heights):
-    """Date, hour, elapsed hours, then millimetres and percent of each mould."""
+    """Date, hour, elapsed hours, then millimetres and percent of each mold."""
     cells, lines = readings.cells[("cbr", material, "MSHSwell")], []
     dates = [datetime.strptime(cells[row, 0], "%d/%m/%Y") for row in range(3, 7)]
     for i, row in enumerate(range(3, 7)):
         hours = (dates[i] - dates[0]).days * 24 + int(float(cells[row, 1]) - float(cells[3, 1]))
         line = [cells[row, 0], cells[row, 1], str(hours)]
-        for mould, column in enumerate((3, 5, 7)):
-            rise = (float(cells[row, column]) - float(cells[3, column])) / heights[mould] * 10
+        for mold, column in enumerate((3, 5, 7)):
+            rise = (float(cells[row, column]) - float(cells[3, column])) / heights[mold] * 10
             line += [cells[row, column], f"{rounded(rise, 2):.2f}"]
         lines.append(line)
     return lines

@@ -254,19 +254,19 @@ air_void_line <- function(y, gravity) {
 
 compaction <- function(d, test, material) {
   weighed <- rounded(numbers(d, test, material, "MSHWt", 3, 6, 2), 2) # as the cells take them
-  moulds <- numbers(d, test, material, "MSHDensity", 3, 6, 0)
+  molds <- numbers(d, test, material, "MSHDensity", 3, 6, 0)
   water <- water_contents(weighed[1, ], weighed[2, ], weighed[3, ])
-  wet <- rounded(moulds[2, ] - moulds[3, ], 2)
+  wet <- rounded(molds[2, ] - molds[3, ], 2)
   volume <- value(d, test, material, "txtHeight") * pi * value(d, test, material, "txtDia")^2 / 4
   wet_density <- rounded(wet / volume, 2)
   dry_density <- rounded(wet_density / (1 + water[3, ] / 100), 2)
-  typed <- !is.na(moulds[3, ])
+  typed <- !is.na(molds[3, ])
   x <- water[3, typed]
   y <- dry_density[typed]
   curve <- spline_table(x, y)
   top <- max(which(curve$y == max(curve$y)))
   list(
-    cans = texts(d, test, material, "MSHWt", 1, 6)[1, ], weighed = weighed, moulds = moulds, water = water, wet = wet,
+    cans = texts(d, test, material, "MSHWt", 1, 6)[1, ], weighed = weighed, molds = molds, water = water, wet = wet,
     wet_density = wet_density, dry_density = dry_density, x = x, y = y, curve = curve, OMC = rounded(curve$x[top], 1),
     MDD = rounded(curve$y[top], 2), air = air_void_line(y, value(d, test, material, "txtGs"))
   )
@@ -313,9 +313,9 @@ swelling <- function(d, material, heights) {
 
 bearing_ratio <- function(d, material, reference) {
   water <- numbers(d, "cbr", material, "MSHWater", 3, 6, 2)
-  mould <- numbers(d, "cbr", material, "MSHCompaction", 4, 6, 3)
+  mold <- numbers(d, "cbr", material, "MSHCompaction", 4, 6, 3)
   content <- rounded((water[1, ] - water[2, ]) / (water[2, ] - water[3, ]) * 100, 2)
-  wet_density <- rounded((mould[3, ] - mould[4, ]) / (pi * mould[1, ]^2 / 4 * mould[2, ]), 2)
+  wet_density <- rounded((mold[3, ] - mold[4, ]) / (pi * mold[1, ]^2 / 4 * mold[2, ]), 2)
   dry_density <- rounded(wet_density / (1 + content / 100), 2)
   at <- d$at[[paste("cbr", material, "MSHPenetrate1")]]
   typed <- matrix(NA_real_, max(d$row[at]) + 1, 8)
@@ -333,8 +333,8 @@ bearing_ratio <- function(d, material, reference) {
   share <- 0.95 * reference$MDD
   list(
     cans = texts(d, "cbr", material, "MSHWater", 1, 6)[1, ], water = water, content = content,
-    blows = texts(d, "cbr", material, "MSHCompaction", 1, 6, 2)[1, ], mould = mould, wet_density = wet_density,
-    dry_density = dry_density, swelling = swelling(d, material, mould[2, 1:3]), depths = depths, dials = dials,
+    blows = texts(d, "cbr", material, "MSHCompaction", 1, 6, 2)[1, ], mold = mold, wet_density = wet_density,
+    dry_density = dry_density, swelling = swelling(d, material, mold[2, 1:3]), depths = depths, dials = dials,
     loads = loads, stresses = stresses, x = x, curves = outer(x, 1:5, `^`) %*% fit, ratio = ratio, after = after,
     along = along, parabolas = outer(along, 0:2, `^`) %*% parabolas, share = share, OMC = reference$OMC,
     MDD = reference$MDD, CBR = rounded(sum(share^(0:2) * parabolas[, 2]), 1)
@@ -585,7 +585,7 @@ page_compaction <- function(d, test, material, of) {
     "Mass of Soil in Mold, (g)", "Wet Density, (g/cm^3)", "Dry Density, (g/cm^3)"
   )
   worked <- rbind(of$water[3, ], of$wet, of$wet_density, of$dry_density)
-  bottom <- draw_table(bottom, edges, cbind(labels, rbind(plain(of$moulds), masked(worked, 2))), "Density Determination", heads = 0)
+  bottom <- draw_table(bottom, edges, cbind(labels, rbind(plain(of$molds), masked(worked, 2))), "Density Determination", heads = 0)
   signed(d, test, material, 12600)
   low <- min(of$y) - 0.01
   xlim <- c(floor(min(of$x)), floor(max(of$x)) + 2)
@@ -674,7 +674,7 @@ page_cbr <- function(d, material, of) {
   bottom <- draw_table(5600, edges, rows, "Water Content Determination")
   rows <- rows_of(
     condition, c("Mold No.", 1:3, 1:3), c("Number of Blows per Layer/Layers", of$blows),
-    cbind(c("Diameter of Sample, (cm)", "Height of Sample, (cm)", "Mass of Mold + Compacted Soil, (g)", "Mass of Mold, (g)"), plain(of$mould)),
+    cbind(c("Diameter of Sample, (cm)", "Height of Sample, (cm)", "Mass of Mold + Compacted Soil, (g)", "Mass of Mold, (g)"), plain(of$mold)),
     c("Wet Density, (g/cm^3)", masked(of$wet_density, 2)), c("Dry Density, (g/cm^3)", masked(of$dry_density, 2))
   )
   bottom <- draw_table(bottom, edges, rows, "Dry Density Determination")
@@ -695,7 +695,7 @@ penetration <- function(d, material, of) {
     c("", rep(c("Reading", "P", "P/A"), 3)), c("(in)", rep(c("(div)", "(lb)", "(lb/in^2)"), 3))
   )
   body <- plain(of$depths)
-  for (mould in 1:3) body <- cbind(body, plain(of$dials[, mould]), masked(of$loads[, mould], 1), masked(of$stresses[, mould], 2))
+  for (mold in 1:3) body <- cbind(body, plain(of$dials[, mold]), masked(of$loads[, mold], 1), masked(of$stresses[, mold], 2))
   bottom <- draw_table(3770, seq(LEFT, RIGHT, length.out = 11), rows_of(heads, body), heads = 4)
   found <- sprintf(
     c("Dry Density is %.2f g/cm^3", "CBR Value at 0.1 in. Penetration is %.1f %%", "CBR Value at 0.2 in. Penetration is %.1f %%"),
@@ -704,11 +704,11 @@ penetration <- function(d, material, of) {
   put(LEFT, bottom + 5600 + 380 * 0:2, found, 9)
   last <- of$depths[length(of$depths)]
   chart(1300, bottom + 700, 4200, 4000, c(0, last + 0.1), c(0, max(of$stresses) * 1.15), "Penetration, in", "Resistance of Penetration, lb/in^2")
-  for (mould in 1:3) {
-    lines(of$x, of$curves[, mould], col = "red")
-    points(of$depths, of$stresses[, mould], pch = c(21, 16, 22)[mould], bg = "white")
+  for (mold in 1:3) {
+    lines(of$x, of$curves[, mold], col = "red")
+    points(of$depths, of$stresses[, mold], pch = c(21, 16, 22)[mold], bg = "white")
     for (row in 1:2) {
-      stress <- of$ratio[row, mould] * c(10, 15)[row]
+      stress <- of$ratio[row, mold] * c(10, 15)[row]
       dashes(c(0.1, 0.2)[row], stress, 0)
       text(c(0.1, 0.2)[row], stress, sprintf(" %.2f", stress), adj = 0, cex = 0.7)
     }

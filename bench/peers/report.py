@@ -276,7 +276,7 @@ class Report:
                    ["Weight of Hammer :", box("cboWt"), f"Height of Mold : {box('txtHeight')} cm"]], heads=0)  # fmt: skip
         page.table(3770, [8000, 10300, RIGHT], [["OMC", f"{of['OMC']:.1f} %"], ["MDD", f"{of['MDD']:.2f} g/cm^3"]], heads=0)
         edges = np.append(LEFT, np.linspace(3000, RIGHT, 7))
-        weighed, moulds = of["weighed"], of["moulds"]
+        weighed, molds = of["weighed"], of["molds"]
         rows = [["Sample No.", "1", "2", "3", "4", "5", "6"], ["Moisture Can No.", *of["cans"]]]
         labels = ["Mass of Can + Wet Soil, (g)", "Mass of Can + Dry Soil, (g)", "Mass of Can, (g)", "Mass of Water, (g)",
                   "Mass of Dry Soil, (g)", "Water Content, (%)"]  # fmt: skip
@@ -284,7 +284,7 @@ class Report:
         bottom = page.table(4500, edges, rows, "Water Content Determination")
         labels = ["Assumed Water Content, (%)", "Mass of Soil + Mold, (g)", "Mass of Mold, (g)", "Water Content, (%)",
                   "Mass of Soil in Mold, (g)", "Wet Density, (g/cm^3)", "Dry Density, (g/cm^3)"]  # fmt: skip
-        rows = [[label, *shown(row)] for label, row in zip(labels[:3], moulds)]
+        rows = [[label, *shown(row)] for label, row in zip(labels[:3], molds)]
         rows += [[label, *shown(row, 2)] for label, row in
                  zip(labels[3:], [of["content"], of["wet"], of["wet_density"], of["dry_density"]])]  # fmt: skip
         bottom = page.table(bottom, edges, rows, "Density Determination", heads=0)
@@ -356,7 +356,7 @@ class Report:
         bottom = page.table(5600, edges, rows, "Water Content Determination")
         rows = [condition, ["Mold No.", *"123123"], ["Number of Blows per Layer/Layers", *of["blows"]]]
         labels = ["Diameter of Sample, (cm)", "Height of Sample, (cm)", "Mass of Mold + Compacted Soil, (g)", "Mass of Mold, (g)"]
-        rows += [[label, *shown(row)] for label, row in zip(labels, of["mould"])]
+        rows += [[label, *shown(row)] for label, row in zip(labels, of["mold"])]
         rows += [["Wet Density, (g/cm^3)", *shown(of["wet_density"], 2)], ["Dry Density, (g/cm^3)", *shown(of["dry_density"], 2)]]
         bottom = page.table(bottom, edges, rows, "Dry Density Determination")
         page.table(bottom, [LEFT, 7453], [[f"CBR Value at 95% of {kind} is {of['CBR']:.1f} %"]], "Results of Testing", heads=0)
@@ -371,17 +371,17 @@ class Report:
         heads = [["Mold No.", "", "1", "", "", "2", "", "", "3", ""], ["Penetration", *("Load Dial", "Load", "Stress") * 3],
                  ["", *("Reading", "P", "P/A") * 3], ["(in)", *("(div)", "(lb)", "(lb/in^2)") * 3]]  # fmt: skip
         columns = [shown(of["depths"])]
-        for mould in range(3):
-            columns += [shown(of["dials"][mould]), shown(of["loads"][mould], 1), shown(of["stresses"][mould], 2)]
+        for mold in range(3):
+            columns += [shown(of["dials"][mold]), shown(of["loads"][mold], 1), shown(of["stresses"][mold], 2)]
         bottom = page.table(3770, np.linspace(LEFT, RIGHT, 11), heads + [list(row) for row in zip(*columns)], heads=4)
         last = of["depths"][-1]
         chart = page.chart(1100, bottom + 700, 4200, 4000, (0, last + 0.1), (0, of["stresses"].max() * 1.15),
                            ("Penetration, in", "Resistance of Penetration, lb/in^2"))  # fmt: skip
-        for mould, mark in enumerate(("wo", "ko", "ws")):
-            chart.plot(of["at"], of["curves"][mould], "r-", linewidth=1)
-            chart.plot(of["depths"], of["stresses"][mould], mark, markersize=3, markeredgecolor="black", label=f"Mold No.{mould + 1}")
+        for mold, mark in enumerate(("wo", "ko", "ws")):
+            chart.plot(of["at"], of["curves"][mold], "r-", linewidth=1)
+            chart.plot(of["depths"], of["stresses"][mold], mark, markersize=3, markeredgecolor="black", label=f"Mold No.{mold + 1}")
             for depth, standard in ((0.1, 10), (0.2, 15)):
-                stress = of["ratio"][depth][mould] * standard
+                stress = of["ratio"][depth][mold] * standard
                 chart.plot([depth, depth, 0], [0, stress, stress], "b--", linewidth=0.6)
                 chart.text(depth, stress, f" {stress:.2f}", fontsize=5)
         chart.legend(fontsize=5, ncol=3, loc="upper center")

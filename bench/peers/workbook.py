@@ -410,8 +410,8 @@ class Book:
             page.run(15 + i, 1, row, "two")
         content = self.water_rows(page, 18, 15, 16, 17, six, ["Mass of Water, (g)", "Mass of Dry Soil, (g)", "Water Content, (%)"])
         page.put(21, 0, "Density Determination", "bold")
-        moulds = self.texts(test, material, "MSHDensity", 3, 6, first=0)
-        self.reading_rows(page, 22, ["Assumed Water Content, (%)", "Mass of Soil + Mold, (g)", "Mass of Mold, (g)"], moulds)
+        molds = self.texts(test, material, "MSHDensity", 3, 6, first=0)
+        self.reading_rows(page, 22, ["Assumed Water Content, (%)", "Mass of Soil + Mold, (g)", "Mass of Mold, (g)"], molds)
         self.formula_row(page, 25, "Water Content, (%)", six, lambda c: at(content, c), "two", 24)
         self.formula_row(page, 26, "Mass of Soil in Mold, (g)", six, lambda c: f"ROUND({at(23, c)}-{at(24, c)};2)", "two", 24)
         volume = "([.$D$12]*PI()*[.$D$11]^2/4)"
@@ -548,9 +548,9 @@ class Book:
         content = self.formula_row(page, 19, "Moistue Content, (%)", six, lambda c: f"ROUND(({at(16, c)}-{at(17, c)})/({at(17, c)}-{at(18, c)})*100;2)", "two", 16)
         page.put(20, 0, "Dry Density Determination", "bold")
         page.run(21, 0, ["Mold No.", *"123123"], "bold")
-        mould = self.texts(test, material, "MSHCompaction", 5, 6, first=2)
+        mold = self.texts(test, material, "MSHCompaction", 5, 6, first=2)
         labels = ["Number of Blows per Layer/Layers", "Diameter of Sample, (cm)", "Height of Sample, (cm)", "Mass of Mold + Compacted Soil, (g)", "Mass of Mold, (g)"]
-        self.reading_rows(page, 22, labels, mould)
+        self.reading_rows(page, 22, labels, mold)
         self.formula_row(page, 27, "Wet Density, (g/cm^3)", six, lambda c: f"ROUND(({at(25, c)}-{at(26, c)})/(PI()*{at(23, c)}^2/4*{at(24, c)});2)", "two", 23)
         self.formula_row(page, 28, "Dry Density, (g/cm^3)", six, lambda c: f"ROUND({at(27, c)}/(1+{at(content, c)}/100);2)", "two", 23)
         page.put(29, 0, "Results of Testing", "bold")
@@ -596,7 +596,7 @@ class Book:
             curve.put(40 + k, 0, float(k + 2) / 1000)
             for m in range(3):
                 curve.put(40 + k, 1 + m, f"={value(m, at(40 + k, 0))}")
-        for m in range(3):  # the parabolas through the three moulds
+        for m in range(3):  # the parabolas through the three molds
             density = f"[$'{front.name}'.{column_name(4 + m)}29]"
             curve.run(34 + m, 0, [1.0, f"={density}", f"={density}^2"])
             for row in (11, 12):

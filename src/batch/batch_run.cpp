@@ -56,7 +56,8 @@ std::string Counted(std::size_t count, const std::string& one, const std::string
     return std::to_string(count) + " " + (count == 1 ? one : many);
 }
 
-std::string Told(const ProjectFile& project, const ProjectAnswer& answer, bool checks)
+/// What is said of a project that is done.
+std::string ProjectLine(const ProjectFile& project, const ProjectAnswer& answer, bool checks)
 {
     const std::string path = Printable(project.path);
     if (!answer.failure.empty()) return path + ": failed: " + Printable(answer.failure);
@@ -146,7 +147,7 @@ class BatchRun {
         files_.Take(project, answer);
         if (!listeners_.tellsProjects && answer.stale.empty()) return;
         ClearBar();
-        if (listeners_.tellsProjects) listeners_.says << Told(project, answer, options_.checks) << '\n';
+        if (listeners_.tellsProjects) listeners_.says << ProjectLine(project, answer, options_.checks) << '\n';
         for (const std::string& stale : answer.stale) listeners_.says << Printable(project.path + ": " + stale) << '\n';
         listeners_.says.flush();
     }

@@ -21,12 +21,6 @@ bool IsBlank(const TestSheet& sheet, std::string_view box)
     return Trim(sheet.Get<TextControl>(box).Text()).empty();
 }
 
-void PressAtterberg(Presser& presser, const Choices&, const ProjectTexts&)
-{
-    presser.Press("cmdCal");
-    presser.Press("cmdPlot");
-}
-
 /// Limits without an Atterberg test were typed, and the table keeps them though the sheet never reads them back.
 void TypeSavedLimits(Presser& presser, const ProjectTexts& saved)
 {
@@ -74,11 +68,6 @@ void PressCompaction(Presser& presser, const Choices& choices, const ProjectText
     presser.Press("cmdOMC");
 }
 
-void PressDensity(Presser& presser, const Choices&, const ProjectTexts&)
-{
-    presser.Press("cmdCal");
-}
-
 /// The compaction tests that a design value may refer to, the likeliest first: that of the field density test, the
 /// modified one, the standard one.
 std::vector<std::string_view> LikelyProctors(const Presser& presser, const ProjectTexts& saved)
@@ -111,15 +100,15 @@ void PressBearing(Presser& presser, const Choices& choices, const ProjectTexts& 
     presser.Press("cmdCBR");
 }
 
-/// The commands of each test's sheet.
+/// The tests on whose sheets something is chosen or typed between the commands; the description of each other one has
+/// its commands.
 struct TestCommands {
     Test test;
     void (*press)(Presser& presser, const Choices& choices, const ProjectTexts& saved);
 };
 constexpr std::array kCommands{
-    TestCommands{Test::AttSoil, PressAtterberg},  TestCommands{Test::SieSoil, PressSieve},
-    TestCommands{Test::SpcSoil, PressSpecific},   TestCommands{Test::StdSoil, PressCompaction},
-    TestCommands{Test::ModSoil, PressCompaction}, TestCommands{Test::DenSoil, PressDensity},
+    TestCommands{Test::SieSoil, PressSieve},      TestCommands{Test::SpcSoil, PressSpecific},
+    TestCommands{Test::StdSoil, PressCompaction}, TestCommands{Test::ModSoil, PressCompaction},
     TestCommands{Test::CBRSoil, PressBearing},
 };
 
@@ -133,8 +122,9 @@ const TableSchema& Schema(const Description& test, Material material)
 void PressCommands(const Description& test, Presser& presser, const Choices& choices, const ProjectTexts& saved)
 {
     const auto commands = std::ranges::find(kCommands, test.test, &TestCommands::test);
-    if (commands == kCommands.end()) throw RuntimeError(error::kInvalidProcedureCall, "No commands are known");
-    commands->press(presser, choices, saved);
+    if (commands != kCommands.end()) return commands->press(presser, choices, saved);
+    if (test.commands.empty()) throw RuntimeError(error::kInvalidProcedureCall, "No commands are known");
+    for (const std::string_view command : test.commands) presser.Press(command);
 }
 
 std::string TableName(const Description& test, Material material)

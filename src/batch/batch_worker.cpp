@@ -8,7 +8,8 @@ namespace terravane {
 
 namespace {
 
-ProjectAnswer Clashed(const std::string& owner)
+/// The answer for a project whose outputs would overwrite another one's.
+ProjectAnswer NameClash(const std::string& owner)
 {
     ProjectAnswer answer;
     answer.failure = "its outputs would have the names of those of " + owner;
@@ -44,7 +45,7 @@ BatchWorker::BatchWorker(const BatchOptions& options)
 std::string BatchWorker::Answer(const std::string& text)
 {
     const ProjectRequest request = ReadRequest(text);
-    if (!request.clash.empty()) return ToText(Clashed(request.clash));
+    if (!request.clash.empty()) return ToText(NameClash(request.clash));
     return ToText(WorkProject({disk_, outputs_}, request.project, options_, brand_, request.earlier));
 }
 

@@ -17,7 +17,7 @@ using Variants = std::vector<Choices>;
 
 /// Every variant with every value of one more choice; `set` writes the value into the choices.
 template <class Values, class Set>
-Variants Crossed(const Variants& variants, const Values& values, Set set)
+Variants WithEveryValue(const Variants& variants, const Values& values, Set set)
 {
     Variants crossed;
     for (const auto& value : values) {
@@ -32,38 +32,41 @@ Variants Crossed(const Variants& variants, const Values& values, Set set)
 Variants Curves(Variants variants, const GivenChoices& given)
 {
     if (given.curve) return variants;
-    return Crossed(variants, kCurves, [](Choices& choices, std::string_view curve) { choices.curve = curve; });
+    return WithEveryValue(variants, kCurves, [](Choices& choices, std::string_view curve) { choices.curve = curve; });
 }
 
 Variants Smoothness(Variants variants, const GivenChoices& given)
 {
     if (given.isSmooth) return variants;
-    return Crossed(variants, std::array{false, true}, [](Choices& choices, bool smooth) { choices.isSmooth = smooth; });
+    return WithEveryValue(variants, std::array{false, true},
+                          [](Choices& choices, bool smooth) { choices.isSmooth = smooth; });
 }
 
 Variants Calibrations(const Variants& variants)
 {
-    return Crossed(variants, kCalibrations, [](Choices& choices, std::string_view fit) { choices.calibration = fit; });
+    return WithEveryValue(variants, kCalibrations,
+                          [](Choices& choices, std::string_view fit) { choices.calibration = fit; });
 }
 
 Variants Corrections(Variants variants, const GivenChoices& given)
 {
     if (given.corrects) return variants;
     for (std::size_t mold = 0; mold < kMolds; ++mold) {
-        variants = Crossed(variants, std::array{false, true},
-                           [mold](Choices& choices, bool corrects) { choices.corrects[mold] = corrects; });
+        variants = WithEveryValue(variants, std::array{false, true},
+                                  [mold](Choices& choices, bool corrects) { choices.corrects[mold] = corrects; });
     }
     return variants;
 }
 
 Variants Shares(const Variants& variants)
 {
-    return Crossed(variants, kShares, [](Choices& choices, std::string_view share) { choices.share = share; });
+    return WithEveryValue(variants, kShares, [](Choices& choices, std::string_view share) { choices.share = share; });
 }
 
 Variants Proctors(const Variants& variants)
 {
-    return Crossed(variants, kProctors, [](Choices& choices, std::string_view proctor) { choices.proctor = proctor; });
+    return WithEveryValue(variants, kProctors,
+                          [](Choices& choices, std::string_view proctor) { choices.proctor = proctor; });
 }
 
 }  // namespace

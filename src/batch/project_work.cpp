@@ -63,17 +63,17 @@ class ProjectWork {
         const ProjectTexts saved(content_);
         ProjectSession session(brand_, FullPath(project_.path), content_, options_.today);
         const auto outcomes = WorkSheets(session, saved, options_, [&](const TestOutcome& outcome) {
-            if (MakesPages()) TakeReport(session, outcome);
+            if (MakesPages()) AddReportPages(session, outcome);
         });
-        if (MakesPages() && options_.wantsSummary) TakeResults(session);
-        if (!options_.checks) TellTroubles(outcomes);
-        if (options_.checks || WantsRows()) TakeTexts(saved, session.Texts(), outcomes);
+        if (MakesPages() && options_.wantsSummary) AddResultsPages(session);
+        if (!options_.checks) AddTroubles(outcomes);
+        if (options_.checks || WantsRows()) AddRows(saved, session.Texts(), outcomes);
         if (!MakesPages()) return;
         WriteOutputs();
         if (options_.posts) Post(saved, session.Texts());
     }
 
-    void TakeReport(ProjectSession& session, const TestOutcome& outcome)
+    void AddReportPages(ProjectSession& session, const TestOutcome& outcome)
     {
         const laboratory::MaterialDescription& material = laboratory::Describe(outcome.material);
         auto pages = session.ReportPages();
@@ -83,7 +83,7 @@ class ProjectWork {
                           session.ReportTitle(), std::move(pages)});
     }
 
-    void TakeResults(ProjectSession& session)
+    void AddResultsPages(ProjectSession& session)
     {
         const std::size_t before = session.Heard().Troubles().size();
         auto pages = session.ResultsPages();
@@ -99,7 +99,7 @@ class ProjectWork {
         answer_.failure += sentence;
     }
 
-    void TellTroubles(const std::vector<TestOutcome>& outcomes)
+    void AddTroubles(const std::vector<TestOutcome>& outcomes)
     {
         for (const TestOutcome& outcome : outcomes) {
             const laboratory::MaterialDescription& material = laboratory::Describe(outcome.material);
@@ -110,7 +110,7 @@ class ProjectWork {
         }
     }
 
-    void TakeTexts(const ProjectTexts& saved, const ProjectTexts& now, const std::vector<TestOutcome>& outcomes)
+    void AddRows(const ProjectTexts& saved, const ProjectTexts& now, const std::vector<TestOutcome>& outcomes)
     {
         const auto stale = options_.checks ? FindStale(saved, now, outcomes) : std::vector<StaleResult>();
         std::ranges::transform(stale, std::back_inserter(answer_.stale), Sentence);

@@ -19,7 +19,7 @@ class Pool {
 
     void Run()
     {
-        for (HandOut(); IsBusy(); HandOut()) {
+        for (AssignTasks(); IsBusy(); AssignTasks()) {
             for (const std::size_t worker : WaitForAnswers(workers_, kTickMilliseconds)) TakeAnswer(worker);
             if (task_.tick) task_.tick();
         }
@@ -34,7 +34,8 @@ class Pool {
         return std::ranges::any_of(tasks_, [](const auto& task) { return task.has_value(); });
     }
 
-    void HandOut()
+    /// The next tasks to the workers that have none, until the run is stopped.
+    void AssignTasks()
     {
         for (std::size_t i = 0; i < tasks_.size(); ++i) {
             if (tasks_[i] || next_ == count_ || (task_.stop && task_.stop())) continue;

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "desktop/layout.h"
+#include "laboratory/description.h"
 
 namespace terravane {
 
@@ -36,6 +37,9 @@ inline constexpr std::array kLayouts{
     WindowLayout{"frmSummary", SummaryLayout},
     WindowLayout{"frmDensity", DensityLayout},
 };
+
+/// A layout with the boxes of the sheet that it names nowhere: they stand in the row of Calculate, before all else.
+Place WithOtherBoxes(Place layout, const laboratory::Sheet& sheet);
 
 /// The layout of a form's window; error 424 for a form that has none.
 const Place& LayoutOf(std::string_view form);

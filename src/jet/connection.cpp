@@ -65,7 +65,7 @@ Fingerprint Fingerprint::Of(ByteView bytes)
 
 void Connection::Open(FileSystem& files, const std::string& path)
 {
-    FlushOrGiveUp();
+    FlushOrClose();
     if (!files.Exists(path)) throw RuntimeError(engine::kFile, "Could not find file " + Quoted(path) + ".");
     Bytes bytes = files.ReadAtMost(path, kLargestFile);
     database_.emplace(OpenBytes(std::move(bytes), path));
@@ -74,7 +74,7 @@ void Connection::Open(FileSystem& files, const std::string& path)
     unsaved_.clear();
 }
 
-void Connection::FlushOrGiveUp()
+void Connection::FlushOrClose()
 try {
     Flush();
 } catch (...) {
@@ -104,7 +104,7 @@ void Connection::CheckNotOpenElsewhere() const
                   Quoted(lockFile) + ".");
 }
 
-Database Connection::OnTopOf(Bytes found) const
+Database Connection::ReplayUnsavedOn(Bytes found) const
 try {
     Database database = OpenBytes(std::move(found), path_);
     for (const std::string& statement : unsaved_) ExecuteOn(database, statement);
@@ -116,13 +116,13 @@ try {
                   error.Description());
 }
 
-void Connection::CatchUp()
+void Connection::ReadOthersChanges()
 {
     Bytes bytes = files_->ReadAtMost(path_, kLargestFile);
     const Fingerprint found = Fingerprint::Of(bytes);
     // Our own bytes are there already when the folder could not be synced behind the last writing.
     if (found == onDisk_ || found == Fingerprint::Of(database_->Content())) return;
-    database_ = OnTopOf(std::move(bytes));
+    database_ = ReplayUnsavedOn(std::move(bytes));
     onDisk_ = found;
 }
 
@@ -132,7 +132,7 @@ void Connection::Flush()
     if (!files_->Exists(path_)) throw Refused("Could not find file " + Quoted(path_) + "; nothing was saved.");
     const auto lock = files_->Lock(path_);
     CheckNotOpenElsewhere();
-    CatchUp();
+    ReadOthersChanges();
     if (HasChanges()) files_->ReplaceWhole(path_, database_->Content());
     database_->MarkSaved();
     unsaved_.clear();

@@ -53,10 +53,12 @@ class Connection {
     void Flush();
 
   private:
-    void FlushOrGiveUp();
+    /// Of the file that was open: closed without what it can't save, so that the next one opens all the same.
+    void FlushOrClose();
     void CheckNotOpenElsewhere() const;
-    void CatchUp();
-    Database OnTopOf(Bytes found) const;
+    /// Where another instance has saved since the file was read: its file with our unsaved statements.
+    void ReadOthersChanges();
+    Database ReplayUnsavedOn(Bytes found) const;
 
     FileSystem* files_ = nullptr;
     std::string path_;

@@ -159,6 +159,8 @@ inline constexpr Posted kAtterbergPosts[]{
      .place = 15},
 };
 
+inline constexpr std::string_view kAtterbergCommands[]{"cmdCal", "cmdPlot"};
+
 inline constexpr Description kAtterberg{
     .test = Test::AttSoil,
     .key = "att",
@@ -177,6 +179,7 @@ inline constexpr Description kAtterberg{
     .rows = kLimitTrials,
     .workOrder = 1,
     .posts = kAtterbergPosts,
+    .commands = kAtterbergCommands,
 };
 
 }  // namespace laboratory

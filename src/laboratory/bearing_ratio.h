@@ -148,8 +148,8 @@ inline constexpr Line kPenetrationLines[]{
 inline constexpr Line kBearingResultLines[]{
     {cbr::result::Mold, "Mold No. "},
     {cbr::result::DryDensity, "Dry Density (g/cm^3)  ", {.isWorkedOut = true, .unit = kGramPerCubicCentimetre}},
-    {cbr::result::At01, "CBR at 0.1 in. (%) ", {.isWorkedOut = true, .unit = kPercent}},
-    {cbr::result::At02, "CBR at 0.2 in. (%)", {.isWorkedOut = true, .unit = kPercent}},
+    {cbr::result::At01, "CBR at 0.1 in. (%) ", {.isWorkedOut = true, .unit = kPercent, .mask = kOneDecimal}},
+    {cbr::result::At02, "CBR at 0.2 in. (%)", {.isWorkedOut = true, .unit = kPercent, .mask = kOneDecimal}},
 };
 
 /// The table keeps of the swelling the rows from the second one on: two rows of heads, as the texts they are, and all
@@ -205,8 +205,12 @@ static_assert(IsInOrder(kBearingRatios) && kBearingRatios.Lines() == cbr::result
 
 /// The table keeps them between the swelling and the penetrations.
 inline constexpr Box kBearingBoxes[]{
-    {"txtK", "K Constant", {.kept = "k", .place = 21, .unit = kPoundPerDivision, .like = {4, 5, 4}}},
-    {"txtWeight", "Surcharge", {.kept = "sur", .place = 22, .unit = kKilogram, .like = {4.4, 4.6, 2}}},
+    {"txtK",
+     "K Constant",
+     {.page = "Prv. Constant (K)  ", .kept = "k", .place = 21, .unit = kPoundPerDivision, .like = {4, 5, 4}}},
+    {"txtWeight",
+     "Surcharge",
+     {.page = "Surcharge Weight  ", .kept = "sur", .place = 22, .unit = kKilogram, .like = {4.4, 4.6, 2}}},
 };
 inline constexpr const Box& kRingConstant = kBearingBoxes[0];
 inline constexpr const Box& kSurcharge = kBearingBoxes[1];
@@ -214,12 +218,12 @@ inline constexpr const Box& kSurcharge = kBearingBoxes[1];
 /// Not kept: the parameters come from the compaction test that is chosen, the value is worked out anew.
 inline constexpr Box kBearingResults[]{
     {"txtCompaction", "Type of Compaction", {}},
-    {"txtOMC", "OMC", {.unit = kPercent}},
-    {"txtMDD", "MDD", {.unit = kGramPerCubicCentimetre, .like = {1.9, 2.1, 2}}},
+    {"txtOMC", "OMC", {.page = "OMC ", .unit = kPercent}},
+    {"txtMDD", "MDD", {.page = "MDD ", .unit = kGramPerCubicCentimetre, .like = {1.9, 2.1, 2}}},
     {"txtOMC1", "Optimum Moisture Content (OMC)", {.unit = kPercent}},
     {"txtMDD1", "Maximum Dry Density (MDD)", {.unit = kGramPerCubicCentimetre}},
     {"cboCBR", "CBR at", {.unit = kPercent, .like = {90, 98, 0}}},
-    {"txtCBR", "of MDD is", {.isWorkedOut = true, .unit = kPercent}},
+    {"txtCBR", "of MDD is", {.isWorkedOut = true, .unit = kPercent, .mask = kOneDecimal}},
 };
 inline constexpr const Box& kBearingCompaction = kBearingResults[0];
 inline constexpr const Box& kBearingMoisture = kBearingResults[1];

@@ -126,10 +126,17 @@ inline constexpr const Box& kLayers = kCompactionBoxes[3];
 inline constexpr const Box& kHammer = kCompactionBoxes[4];
 
 inline constexpr Box kCompactionResults[]{
-    {"txtOMC", "OMC", {.kept = "omc", .isLoaded = false, .isWorkedOut = true, .isResult = true, .unit = kPercent}},
+    {"txtOMC",
+     "OMC",
+     {.kept = "omc", .isLoaded = false, .isWorkedOut = true, .isResult = true, .unit = kPercent, .mask = kOneDecimal}},
     {"txtDmax",
      "MDD",
-     {.kept = "mdd", .isLoaded = false, .isWorkedOut = true, .isResult = true, .unit = kGramPerCubicCentimetre}},
+     {.kept = "mdd",
+      .isLoaded = false,
+      .isWorkedOut = true,
+      .isResult = true,
+      .unit = kGramPerCubicCentimetre,
+      .mask = kTwoDecimals}},
     {"txtGs", "Gs", {.kept = "gs", .isResult = true, .unit = kRatio, .like = {2.6, 2.8, 2}}},
 };
 inline constexpr const Box& kOptimumMoisture = kCompactionResults[0];

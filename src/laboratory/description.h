@@ -222,6 +222,7 @@ struct Table {
 /// prefix      of its columns
 /// rows        of each of its tables
 /// workOrder   when it is worked: a test stands behind those whose results it takes
+/// commands    of its sheet, in the order of the method, where nothing has to be chosen or typed between them
 /// needs       tests whose results its commands read
 struct Description {
     Test test;
@@ -234,6 +235,7 @@ struct Description {
     std::span<const Posted> posts;
     std::span<const Taken> takes = {};
     std::span<const Test> needs = {};
+    std::span<const std::string_view> commands = {};
 
     constexpr const Table& TableFor(Material material) const
     {

@@ -223,6 +223,8 @@ inline constexpr Posted kFieldPosts[]{
 inline constexpr Taken kFieldTakes[]{{"mdd", "MDD", Test::None, "mdd", false}};
 inline constexpr Test kFieldNeeds[]{Test::StdSoil, Test::ModSoil};
 
+inline constexpr std::string_view kFieldCommands[]{"cmdCal"};
+
 inline constexpr Description kFieldDensity{
     .test = Test::DenSoil,
     .key = "den",
@@ -244,6 +246,7 @@ inline constexpr Description kFieldDensity{
     .posts = kFieldPosts,
     .takes = kFieldTakes,
     .needs = kFieldNeeds,
+    .commands = kFieldCommands,
 };
 
 }  // namespace laboratory

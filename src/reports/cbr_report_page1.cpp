@@ -60,13 +60,14 @@ struct ParameterColumn {
 };
 
 constexpr std::array kParameters{
-    ParameterColumn{"Opt. Moisture ",
-                    "Opt. Moisture           ",
-                    {ReportField{"OMC ", "txtOMC", "%"}, ReportField{"MDD ", "txtMDD", "g/cm^3"}}},
+    ParameterColumn{
+        "Opt. Moisture ",
+        "Opt. Moisture           ",
+        {FieldOf(laboratory::kBearingSheet, "txtOMC", "%"), FieldOf(laboratory::kBearingSheet, "txtMDD", "g/cm^3")}},
     ParameterColumn{
         "Prv. Constant (K) ",
         "Prv. Constant (K)           ",
-        {ReportField{"Prv. Constant (K)  ", "txtK", "lb/div."}, ReportField{"Surcharge Weight  ", "txtWeight", "kg"}}},
+        {FieldOf(laboratory::kBearingSheet, "txtK", "lb/div."), FieldOf(laboratory::kBearingSheet, "txtWeight", "kg")}},
 };
 
 void PrintParameters(const CbrPage& of, const ParameterColumn& column, double left)

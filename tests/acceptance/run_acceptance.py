@@ -3,8 +3,9 @@
 
     tests/acceptance/run_acceptance.py [--program build/bin/terravane-script] [--update] [SCRIPT.trv | FOLDER ...]
 
-A folder stands for its scripts; without either it runs all below its own folder. Each runs in a fresh folder of its own, on 21 November 2026, and is
-compared with SCRIPT.expected, in which the fresh folder is written <work>. --update writes what came instead.
+A folder stands for its scripts; without either it runs the scripts of all folders beside this file. Each runs in a fresh
+folder of its own, on 21 November 2026, and is compared with SCRIPT.expected, in which the fresh folder is written <work>.
+--update writes what came instead.
 --windows reads the answers of a program that runs under wine: a path that begins with the fresh folder has its marks as
 here. --sample compares nothing: the script must end well and no answer may be an error or a refusal.
 
@@ -152,7 +153,7 @@ def main(arguments):
     mode = parser.parse_args(arguments)
     program = mode.program.resolve()
     failed = 0
-    for script in scripts_of(mode.scripts or sorted(TESTS.iterdir())):
+    for script in scripts_of(mode.scripts or sorted(path for path in TESTS.iterdir() if path.is_dir())):
         wrong = judge(program, script.resolve(), mode)
         failed += bool(wrong)
         print(f"{'FAILED' if wrong else 'ok'}  {script}")

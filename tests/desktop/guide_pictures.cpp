@@ -67,7 +67,7 @@ const std::vector<SheetPictures> kSheets{
     {"mnuCBR1",
      "frmCBR",
      1280,
-     {{"cbr-moulds", 0, 770, {"optStd", "cmdCal"}},
+     {{"cbr-molds", 0, 770, {"optStd", "cmdCal"}},
       {"cbr-readings", 1, 840},
       {"cbr-curves", 2, 760, {"cmdLPen"}},
       {"cbr-value", 3, 740, {"cmdCBR"}}}},

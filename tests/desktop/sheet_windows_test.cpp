@@ -9,36 +9,34 @@
 #include <QTabWidget>
 #include <QToolButton>
 #include <algorithm>
+#include <cctype>
 #include <fstream>
 
 #include <gtest/gtest.h>
 
 #include "desktop/desktop_fixture.h"
 #include "desktop/grid_view.h"
+#include "laboratory/tests.h"
 #include "script/script_line.h"
 #include "source_folder.h"
 
 namespace terravane {
 namespace {
 
-struct CellResult {
-    const char* grid;
-    int row, column;
-    const char* text;
-};
-
-/// results, cells  what stands in boxes and grids at the end: checked by hand in the sheet's own tests
-struct SheetCase {
-    const char* folder;
-    const char* key;
-    const char* form;
-    std::vector<std::pair<const char*, const char*>> results;
-    std::vector<CellResult> cells = {};
-};
-
-void PrintTo(const SheetCase& sheet, std::ostream* out)
+/// The folder of its scripts is called as the form is: "atterberg".
+std::string FolderOf(const laboratory::Sheet& sheet)
 {
-    *out << sheet.form;
+    std::string name(sheet.form.substr(std::string_view("frm").size()));
+    std::ranges::transform(name, name.begin(), [](unsigned char letter) { return std::tolower(letter); });
+    return std::string(kSourceFolder) + "/tests/acceptance/" + name + "/report";
+}
+
+std::vector<std::string> LinesOf(const std::string& path)
+{
+    std::ifstream file(path);
+    std::vector<std::string> lines;
+    for (std::string line; std::getline(file, line);) lines.push_back(line);
+    return lines;
 }
 
 /// The hands of a technician on one sheet's window.
@@ -52,7 +50,7 @@ class Hands {
         if (command == "type")
             return TypeCell(words[1], WholeNumber(words[2], "a row"), WholeNumber(words[3], "a column"), words[4]);
         if (command == "put") return PutCell(words);
-        if (command == "set") return TypeBox(words[1], words[2]);
+        if (command == "set" || command == "choose") return TypeBox(words[1], words[2]);
         if (command == "click") return Click(words[1]);
         if (command == "key") return QTest::keyClick(Front(words[1]), Qt::Key_Return);
         if (command == "select") return Select(words[1], words[2]);
@@ -120,39 +118,60 @@ class Hands {
     std::string form_;
 };
 
-/// The script's lines from the opening of the sheet to its preview, without those that only look.
-std::vector<std::vector<std::string>> StepsOf(const SheetCase& sheet)
-{
-    std::ifstream file(std::string(kSourceFolder) + "/tests/acceptance/" + sheet.folder + "/report.trv");
-    EXPECT_TRUE(file.is_open());
+/// What a line of the script asks and the text that it is answered with.
+struct Asked {
+    std::vector<std::string> words;
+    std::string text;
+};
+
+/// The script's lines from the opening of the sheet to its preview: what is done, and what is asked at the end.
+/// menu  the item that opened the sheet
+struct ReportScript {
+    std::string menu;
     std::vector<std::vector<std::string>> steps;
-    bool opened = false;
-    for (std::string line; std::getline(file, line);) {
+    std::vector<Asked> asked;
+};
+
+/// {"get":"txtLL","text":"45.31"} and {"cell":"MSHSummary","row":3,"col":1,"text":"1.88"} tell a text.
+bool IsTextAsked(const std::string& answer)
+{
+    return (answer.starts_with(R"({"get":)") || answer.starts_with(R"({"cell":)")) &&
+           answer.find(R"("text":")") != std::string::npos;
+}
+
+std::string TextOf(const std::string& answer)
+{
+    constexpr std::string_view kBefore = R"("text":")", kBehind = R"("})";
+    const auto from = answer.find(kBefore) + kBefore.size();
+    return answer.substr(from, answer.size() - kBehind.size() - from);
+}
+
+/// The answers are those kept beside the script, in its order.
+ReportScript ScriptOf(const laboratory::Sheet& sheet)
+{
+    const std::string path = FolderOf(sheet);
+    auto answers = LinesOf(path + ".expected");
+    std::erase_if(answers, [](const std::string& answer) { return !IsTextAsked(answer); });
+    auto answer = answers.begin();
+    ReportScript script;
+    for (const std::string& line : LinesOf(path + ".trv")) {
         const auto words = SplitLine(line);
         if (words.empty()) continue;
         if (words[0] == "click" && words[1] == "cmdView") break;
-        const bool looks = words[0] == "get" || words[0] == "page" || words[0] == "answer" || words[0] == "dump";
-        if (opened && !looks) steps.push_back(words);
-        opened = opened || (words[0] == "menu" && words[1].starts_with(std::string(sheet.key).substr(0, 6)));
+        const bool isOpen = !script.menu.empty();
+        const bool looks = words[0] == "page" || words[0] == "answer" || words[0] == "dump";
+        if (words[0] == "get" && answer != answers.end()) script.asked.push_back({words, TextOf(*answer++)});
+        if (words[0] == "menu" && words[1] != "mnuNew") script.menu = words[1];
+        if (isOpen && words[0] != "get" && !looks) script.steps.push_back(words);
     }
-    return steps;
+    return script;
 }
 
-class SheetWindows : public testing::TestWithParam<SheetCase> {};
+class SheetWindows : public testing::TestWithParam<const laboratory::Sheet*> {};
 
-INSTANTIATE_TEST_SUITE_P(
-    Sheets, SheetWindows,
-    testing::Values(SheetCase{"atterberg", "mnuAtt1", "frmAtterberg", {{"txtLL", "45.31"}, {"txtPL", "22.70"}}},
-                    SheetCase{"specific", "mnuSpe1", "frmSpecific", {{"txtR", " 0.9995"}}},
-                    SheetCase{"sieve", "mnuSie1", "frmSieve", {{"txtSuscs", "GW-GC"}, {"txtSaash", "A-1-a(0)"}}},
-                    SheetCase{"cbr", "mnuCBR1", "frmCBR", {{"txtCBR", "6.1"}}},
-                    SheetCase{"density",
-                              "mnuDen1",
-                              "frmDensity",
-                              {{"txtPosition", "กม. 12+400 ซ้ายทาง"}},
-                              {{"MSHSummary", 3, 1, "1.88"}, {"MSHSummary", 4, 6, "93.17"}}}));
+INSTANTIATE_TEST_SUITE_P(Sheets, SheetWindows, testing::ValuesIn(laboratory::SheetsClosedBeforeFile()),
+                         [](const auto& sheet) { return std::string(sheet.param->form); });
 
-/// A choice that renames a frame shows in its window.
 /// The last row of a box's picture, its frame left out, that has ink.
 int LowestInk(QLineEdit& box)
 {
@@ -179,6 +198,7 @@ TEST(TextBoxes, ThaiStandsOnTheLineOfLatin)
     EXPECT_EQ(LowestInk(*box), latin) << "The Thai letter stands higher or lower than the Latin one.";
 }
 
+/// A choice that renames a frame shows in its window.
 TEST(DensityWindow, TheSummaryNamesTheChosenCompactionTest)
 {
     DesktopFixture running;
@@ -204,17 +224,21 @@ TEST(CbrWindow, TheRingConstantHasItsUnitBehindIt)
 
 TEST_P(SheetWindows, FromTypedReadingsToResultsAndReport)
 {
-    const SheetCase& sheet = GetParam();
+    const std::string form(GetParam()->form);
+    const ReportScript script = ScriptOf(*GetParam());
+    ASSERT_FALSE(script.asked.empty()) << "The script asks for no result before it prints.";
     DesktopFixture running;
     running.MakeProject();
-    running.OpenSheet(sheet.key);
-    Hands hands(running, sheet.form);
-    for (const auto& step : StepsOf(sheet)) hands.Do(step);
-    for (const auto& [box, text] : sheet.results) {
-        EXPECT_EQ(running.FormNamed(sheet.form).Get<TextControl>(box).Text(), text) << box;
-    }
-    for (const auto& [grid, row, column, text] : sheet.cells) {
-        EXPECT_EQ(running.FormNamed(sheet.form).Get<TextGrid>(grid)(row, column), text) << grid << " row " << row;
+    running.OpenSheet(script.menu);
+    Hands hands(running, form);
+    for (const auto& step : script.steps) hands.Do(step);
+    const Form& sheet = running.FormNamed(form);
+    for (const auto& [words, text] : script.asked) {
+        const bool isCell = words.size() > 2;
+        const std::string shown =
+            isCell ? sheet.Get<TextGrid>(words[1])(WholeNumber(words[2], "a row"), WholeNumber(words[3], "a column"))
+                   : sheet.Get<TextControl>(words[1]).Text();
+        EXPECT_EQ(shown, text) << words[1];
     }
     QTest::mouseClick(hands.Front("cmdView"), Qt::LeftButton);
     ASSERT_TRUE(running.program.Loaded("frmPreview")) << "Print Preview shows the report.";

@@ -1,4 +1,4 @@
-/// A sheet under random hands: the whole program on a disk in memory, one project, one of the seven sheets opened as a
+/// A sheet under random hands: the whole program on a disk in memory, one project, one of the sheets opened as a
 /// person opens it, typed into, commanded, saved and opened again.
 #pragma once
 

@@ -1,7 +1,7 @@
 // Calculate: from weighings to water contents and the mean plastic limit.
-#include "laboratory/masks.h"
 #include "runtime/numbers.h"
 #include "sheets/atterberg/frmAtterberg.h"
+#include "sheets/pattern/trial_cells.h"
 
 namespace terravane {
 
@@ -25,28 +25,26 @@ bool frmAtterberg::HasTrial(const TextGrid& grid, int column)
 
 void frmAtterberg::LiquidWaterContentOf(int trial)
 {
-    const auto cell = [&](ll::Row row) { return MSHLL(row, trial); };
-    const auto value = [&](ll::Row row) { return Val(cell(row)); };
-    cell(ll::Water) = Format(value(ll::WetAndCan) - value(ll::DryAndCan), kTwoDecimals);
-    cell(ll::DrySoil) = Format(value(ll::DryAndCan) - value(ll::Can), kTwoDecimals);
-    cell(ll::WaterContent) = Format(Divide(value(ll::Water), value(ll::DrySoil)) * 100, kTwoDecimals);
+    const TrialCells of(MSHLL, laboratory::kLiquidLimit, trial);
+    of.Show(ll::Water, of.Value(ll::WetAndCan) - of.Value(ll::DryAndCan));
+    of.Show(ll::DrySoil, of.Value(ll::DryAndCan) - of.Value(ll::Can));
+    of.Show(ll::WaterContent, Divide(of.Value(ll::Water), of.Value(ll::DrySoil)) * 100);
 }
 
 void frmAtterberg::PlasticLimitOf(int thread)
 {
-    const auto cell = [&](pl::Row row) { return MSHPL(row, thread); };
-    const auto value = [&](pl::Row row) { return Val(cell(row)); };
-    cell(pl::Water) = Format(value(pl::WetAndCan) - value(pl::DryAndCan), kTwoDecimals);
-    cell(pl::DrySoil) = Format(value(pl::DryAndCan) - value(pl::Can), kTwoDecimals);
-    cell(pl::WaterContent) = Format(Divide(value(pl::Water), value(pl::DrySoil)) * 100, kTwoDecimals);
-    cell(pl::PlasticLimit) = cell(pl::WaterContent);
+    const TrialCells of(MSHPL, laboratory::kPlasticLimit, thread);
+    of.Show(pl::Water, of.Value(pl::WetAndCan) - of.Value(pl::DryAndCan));
+    of.Show(pl::DrySoil, of.Value(pl::DryAndCan) - of.Value(pl::Can));
+    of.Show(pl::WaterContent, Divide(of.Value(pl::Water), of.Value(pl::DrySoil)) * 100);
+    of[pl::PlasticLimit] = of[pl::WaterContent];
 }
 
 /// A plain mean: no thread is left out, however far off it lies.
 void frmAtterberg::AveragePlasticLimits()
 {
     for (int thread = 1; HasTrial(MSHPL, thread); ++thread) {
-        MSHPL(pl::Average, thread) = Format(MeanPlasticLimit(), kTwoDecimals);
+        TrialCells(MSHPL, laboratory::kPlasticLimit, thread).Show(pl::Average, MeanPlasticLimit());
     }
 }
 

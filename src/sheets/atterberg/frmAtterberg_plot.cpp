@@ -4,11 +4,11 @@
 #include <cmath>
 #include <vector>
 
-#include "laboratory/masks.h"
 #include "runtime/numbers.h"
 #include "runtime/runtime_error.h"
 #include "sheets/atterberg/frmAtterberg.h"
 #include "sheets/pattern/plot.h"
+#include "sheets/pattern/trial_cells.h"
 
 namespace terravane {
 
@@ -142,7 +142,7 @@ void frmAtterberg::DrawGuides(const FlowScale& scale, double liquidLimit)
     const double lineHeight = picGraph.TextHeight("W");
     PrintAt(picGraph, x + kCaptionRoom, scale.height - 2 * kCaptionRoom - lineHeight, " N = 25");
     PrintAt(picGraph, x + 2 * kCaptionRoom, y - 3 * kCaptionRoom - lineHeight,
-            "LL = " + Format(liquidLimit, kTwoDecimals) + " %");
+            "LL = " + Shown(laboratory::kLiquidLimitBox.is, liquidLimit) + " %");
     PrintLeftOf(picgraph1, picGraph, y, "LL");
 }
 
@@ -151,12 +151,12 @@ void frmAtterberg::DrawGuides(const FlowScale& scale, double liquidLimit)
 void frmAtterberg::ReadLimits(const StraightLine& curve)
 {
     const auto waterAt = [&](double blows) { return curve.At(DecimalLogarithm(blows)); };
-    txtLL.SetText(Format(waterAt(kLimitBlows), kTwoDecimals));
-    txtPL.SetText(Format(MeanPlasticLimit(), kTwoDecimals));
+    txtLL.SetText(Shown(laboratory::kLiquidLimitBox.is, waterAt(kLimitBlows)));
+    txtPL.SetText(Shown(laboratory::kPlasticLimitBox.is, MeanPlasticLimit()));
     const double liquid = Val(txtLL.Text()), plastic = Val(txtPL.Text());
     if (liquid != 0 && plastic != 0) txtPI.SetText(NumberText(liquid - plastic));
-    txtFI.SetText(
-        Format((waterAt(kFlowFrom) - waterAt(kFlowTo)) / DecimalLogarithm(kFlowTo / kFlowFrom), kTwoDecimals));
+    const double flow = (waterAt(kFlowFrom) - waterAt(kFlowTo)) / DecimalLogarithm(kFlowTo / kFlowFrom);
+    txtFI.SetText(Shown(laboratory::kFlowIndexBox.is, flow));
 }
 
 }  // namespace terravane

@@ -3,12 +3,12 @@
 // printed report.
 #include <numbers>
 
-#include "laboratory/masks.h"
 #include "runtime/dates.h"
 #include "runtime/numbers.h"
 #include "runtime/runtime_error.h"
 #include "runtime/text.h"
 #include "sheets/cbr/frmCBR.h"
+#include "sheets/pattern/trial_cells.h"
 
 namespace terravane {
 
@@ -65,11 +65,11 @@ void frmCBR::Calculate()
 void frmCBR::WaterContents(int firstColumn)
 {
     for (int column = firstColumn; column < firstColumn + kMolds; ++column) {
-        const auto value = [&](water::Row row) { return Val(MSHWater(row, column)); };
-        if (IsEmpty(MSHWater(water::CanNumber, column))) return;
-        const double wetLoss = value(water::WetAndCan) - value(water::DryAndCan);
-        const double drySoil = value(water::DryAndCan) - value(water::Can);
-        MSHWater(water::WaterContent, column) = Format(Divide(wetLoss, drySoil) * 100, kTwoDecimals);
+        const TrialCells of(MSHWater, laboratory::kBearingWater, column);
+        if (IsEmpty(of[water::CanNumber])) return;
+        const double wetLoss = of.Value(water::WetAndCan) - of.Value(water::DryAndCan);
+        const double drySoil = of.Value(water::DryAndCan) - of.Value(water::Can);
+        of.Show(water::WaterContent, Divide(wetLoss, drySoil) * 100);
     }
 }
 
@@ -87,14 +87,13 @@ void frmCBR::Densities(int firstColumn)
 
 void frmCBR::DensityOf(int column)
 {
-    const auto cell = [&](density::Row row) { return MSHCompaction(row, column); };
-    const auto value = [&](density::Row row) { return Val(cell(row)); };
-    const double diameter = value(density::Diameter);
-    const double volume = std::numbers::pi * diameter * diameter / 4 * value(density::Height);
-    const double soil = value(density::MoldAndSoil) - value(density::JustMold);
-    cell(density::WetDensity) = Format(Divide(soil, volume), kTwoDecimals);
+    const TrialCells of(MSHCompaction, laboratory::kBearingDensity, column);
+    const double diameter = of.Value(density::Diameter);
+    const double volume = std::numbers::pi * diameter * diameter / 4 * of.Value(density::Height);
+    const double soil = of.Value(density::MoldAndSoil) - of.Value(density::JustMold);
+    of.Show(density::WetDensity, Divide(soil, volume));
     const double water = Val(MSHWater(water::WaterContent, column));
-    cell(density::DryDensity) = Format(Divide(value(density::WetDensity), 1 + water / 100), kTwoDecimals);
+    of.Show(density::DryDensity, Divide(of.Value(density::WetDensity), 1 + water / 100));
 }
 
 /// Of a test of both conditions only the first mold of each goes on.
@@ -119,28 +118,29 @@ void frmCBR::SwellingOf(int row)
     const auto value = [&](int at, int column) { return Val(MSHSwell(at, column)); };
     const double days = static_cast<double>(HoursBetween(date(swell::First), date(row)));
     const double hours = Int(value(row, swell::Time) - value(swell::First, swell::Time));
-    MSHSwell(row, swell::Elapsed) = NumberText(days + hours);
+    const TrialCells reading(MSHSwell, laboratory::kSwelling, row),
+        first(MSHSwell, laboratory::kSwelling, swell::First);
+    reading.Show(swell::Elapsed, days + hours);
     for (int mold = 1; mold <= kMolds; ++mold) {
         const double height = Val(MSHCompaction(density::Height, mold));
         if (height == 0) continue;
         const int dial = swell::Dial(mold);
         const double rise = value(row, dial) - value(swell::First, dial);
-        MSHSwell(row, dial + 1) = Format(rise / height * kMillimetres, kTwoDecimals);
-        MSHSwell(swell::First, dial + 1) = "0.00";
+        reading.Show(dial + 1, rise / height * kMillimetres);
+        first.Show(dial + 1, 0);
     }
-    MSHSwell(swell::First, swell::Elapsed) = "0";
+    first.Show(swell::Elapsed, 0);
 }
 
 void frmCBR::LoadsAndStresses()
 {
     const double constant = Val(txtK.Text());
     for (int row = 0; row < MSHPenetrate1.Rows(); ++row) {
+        const TrialCells of(MSHPenetrate1, laboratory::kPenetrations, row);
         for (int mold = 1; mold <= kMolds; ++mold) {
-            const auto dial = MSHPenetrate1(row, penetration::Dial(mold));
-            const auto load = MSHPenetrate1(row, penetration::Load(mold));
-            if (IsEmpty(dial)) continue;
-            MSHPenetrate1(row, penetration::Load(mold)) = Format(constant * Val(dial), kOneDecimal);
-            MSHPenetrate1(row, penetration::Stress(mold)) = Format(Val(load) / kPistonArea, kTwoDecimals);
+            if (IsEmpty(of[penetration::Dial(mold)])) continue;
+            of.Show(penetration::Load(mold), constant * of.Value(penetration::Dial(mold)));
+            of.Show(penetration::Stress(mold), of.Value(penetration::Load(mold)) / kPistonArea);
         }
     }
 }

@@ -2,13 +2,13 @@
 // concave upward, the bearing ratios at 0.1 in and 0.2 in.
 #include <algorithm>
 
-#include "laboratory/masks.h"
 #include "numeric/polynomial_fit.h"
 #include "numeric/power_fit.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
 #include "sheets/cbr/frmCBR.h"
 #include "sheets/pattern/plot.h"
+#include "sheets/pattern/trial_cells.h"
 
 namespace terravane {
 
@@ -157,7 +157,7 @@ void frmCBR::ReadValues(const LoadScale& scale, int mold, const MoldTask& task)
         const double stress = Stress(x);
         if (stress == 0 && !task.writesZero) continue;
         MarkStress(scale, x, stress);
-        mshLPC(standard.row, mold) = Format(stress / standard.stress * 100, kOneDecimal);
+        TrialCells(mshLPC, laboratory::kBearingRatios, mold).Show(standard.row, stress / standard.stress * 100);
     }
 }
 

@@ -11,6 +11,7 @@
 #include "runtime/text.h"
 #include "sheets/cbr/frmCBR.h"
 #include "sheets/pattern/plot.h"
+#include "sheets/pattern/trial_cells.h"
 
 namespace terravane {
 
@@ -190,7 +191,7 @@ void frmCBR::ReadDesignValue(const DensityScale& scale)
 {
     const double density = Val(txtMDD.Text()) * Val(terravane::Left(cboCBR.Text(), kShareDigits)) / 100;
     const double ratio = RatioAt(density);
-    txtCBR.SetText(Format(ratio, kOneDecimal));
+    txtCBR.SetText(Shown(laboratory::kBearingRatioBox.is, ratio));
     const double x = scale.X(density), y = scale.Y(ratio);
     DrawGuides(picGraph3, x, y, scale.Y(0));
     DrawTriangle(picGraph3, x, y);

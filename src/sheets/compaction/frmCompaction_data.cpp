@@ -1,9 +1,9 @@
 // Calculate: from weighings to water contents and densities.
 #include <numbers>
 
-#include "laboratory/masks.h"
 #include "runtime/numbers.h"
 #include "sheets/compaction/frmCompaction.h"
+#include "sheets/pattern/trial_cells.h"
 
 namespace terravane {
 
@@ -35,31 +35,27 @@ void frmCompaction::BlankCalculatedRows()
 
 void frmCompaction::WaterContentOf(int trial)
 {
-    const auto cell = [&](water::Row row) { return MSHWt(row, trial); };
-    const auto value = [&](water::Row row) { return Val(cell(row)); };
-
-    if (value(water::WetAndCan) != 0) {
-        cell(water::Water) = Format(value(water::WetAndCan) - value(water::DryAndCan), kTwoDecimals);
+    const TrialCells of(MSHWt, laboratory::kCompactionWater, trial);
+    if (of.Value(water::WetAndCan) != 0) {
+        of.Show(water::Water, of.Value(water::WetAndCan) - of.Value(water::DryAndCan));
     }
-    if (value(water::DryAndCan) != 0) {
-        cell(water::DrySoil) = Format(value(water::DryAndCan) - value(water::Can), kTwoDecimals);
+    if (of.Value(water::DryAndCan) != 0) {
+        of.Show(water::DrySoil, of.Value(water::DryAndCan) - of.Value(water::Can));
     }
-    if (value(water::DrySoil) != 0) {
-        cell(water::WaterContent) = Format(Divide(value(water::Water), value(water::DrySoil)) * 100, kTwoDecimals);
+    if (of.Value(water::DrySoil) != 0) {
+        of.Show(water::WaterContent, Divide(of.Value(water::Water), of.Value(water::DrySoil)) * 100);
     }
 }
 
 void frmCompaction::DensityOf(int trial)
 {
-    const auto cell = [&](density::Row row) { return MSHDensity(row, trial); };
-    const auto value = [&](density::Row row) { return Val(cell(row)); };
-    if (value(density::Mold) == 0) return;  // no mold weighed, no trial in this column
+    const TrialCells of(MSHDensity, laboratory::kCompactionDensity, trial);
+    if (of.Value(density::Mold) == 0) return;  // no mold weighed, no trial in this column
 
-    cell(density::WaterContent) = Format(Val(MSHWt(water::WaterContent, trial)), kTwoDecimals);
-    cell(density::WetSoil) = Format(value(density::WetAndMold) - value(density::Mold), kTwoDecimals);
-    cell(density::WetDensity) = Format(Divide(value(density::WetSoil), MoldVolume()), kTwoDecimals);
-    cell(density::DryDensity) =
-        Format(Divide(value(density::WetDensity), 1 + value(density::WaterContent) / 100), kTwoDecimals);
+    of.Show(density::WaterContent, Val(MSHWt(water::WaterContent, trial)));
+    of.Show(density::WetSoil, of.Value(density::WetAndMold) - of.Value(density::Mold));
+    of.Show(density::WetDensity, Divide(of.Value(density::WetSoil), MoldVolume()));
+    of.Show(density::DryDensity, Divide(of.Value(density::WetDensity), 1 + of.Value(density::WaterContent) / 100));
 }
 
 /// cm³, of a mold in cm.

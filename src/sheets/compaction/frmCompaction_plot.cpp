@@ -10,6 +10,7 @@
 #include "runtime/text.h"
 #include "sheets/compaction/frmCompaction.h"
 #include "sheets/pattern/plot.h"
+#include "sheets/pattern/trial_cells.h"
 
 namespace terravane {
 
@@ -58,8 +59,8 @@ void frmCompaction::cmdOMC_Click()
     DrawTicks(scale);
 
     const CompactionPeak peak = optInt.Value() ? DrawSpline(scale) : DrawFit(scale, points);
-    txtOMC.SetText(Format(peak.water, kOneDecimal));
-    txtDmax.SetText(Format(peak.density, kTwoDecimals));
+    txtOMC.SetText(Shown(laboratory::kOptimumMoisture.is, peak.water));
+    txtDmax.SetText(Shown(laboratory::kMaximumDryDensity.is, peak.density));
     MarkPoints(scale, points);
     DrawGuides(scale, peak);
     if (chkSatLine.Value()) {
@@ -182,9 +183,9 @@ void frmCompaction::DrawGuides(const CompactionScale& scale, CompactionPeak peak
     const auto& captions = optInt.Value() ? kSplineCaptions : kFitCaptions;
     const double lineHeight = picGraph.TextHeight("W");
     PrintAt(picGraph, 30, y - lineHeight,
-            std::string(captions.density) + Format(peak.density, kTwoDecimals) + " g/cm^3");
+            std::string(captions.density) + Shown(laboratory::kMaximumDryDensity.is, peak.density) + " g/cm^3");
     PrintAt(picGraph, x + 30, scale.height - 30 - lineHeight,
-            std::string(captions.water) + Format(peak.water, kOneDecimal) + " %");
+            std::string(captions.water) + Shown(laboratory::kOptimumMoisture.is, peak.water) + " %");
 }
 
 /// Where soil of this specific gravity would have the chosen air voids: a row of dots, close enough to read

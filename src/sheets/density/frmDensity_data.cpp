@@ -1,8 +1,8 @@
 // Calculate: from the sand to the percent compaction. A stage reads back the text that the stage before it wrote.
 // Differences are shown with all their digits, what is divided with two decimals.
-#include "laboratory/masks.h"
 #include "runtime/numbers.h"
 #include "sheets/density/frmDensity.h"
+#include "sheets/pattern/trial_cells.h"
 
 namespace terravane {
 
@@ -25,10 +25,10 @@ struct ColumnAverage {
     }
 
     /// Into all six columns; a sheet without any determination keeps what stands there.
-    void Write(TextGrid& grid, int row) const
+    void Write(TextGrid& grid, const laboratory::Grid& described, int row) const
     {
         if (last == 0) return;
-        for (int column = 1; column <= kColumns; ++column) grid(row, column) = Format(sum / last, kTwoDecimals);
+        for (int column = 1; column <= kColumns; ++column) TrialCells(grid, described, column).Show(row, sum / last);
     }
 };
 
@@ -48,67 +48,63 @@ void frmDensity::SandInCone()
 {
     ColumnAverage average;
     for (int column = 1; column <= kColumns; ++column) {
-        const auto value = [&](cone::Row row) { return Val(MSHWsand(row, column)); };
-        if (value(cone::Initial) == 0) continue;
-        MSHWsand(cone::SandInCone, column) = NumberText(value(cone::Initial) - value(cone::Final));
-        average.Add(column, value(cone::SandInCone));
+        const TrialCells of(MSHWsand, laboratory::kSandInCone, column);
+        if (of.Value(cone::Initial) == 0) continue;
+        of.Show(cone::SandInCone, of.Value(cone::Initial) - of.Value(cone::Final));
+        average.Add(column, of.Value(cone::SandInCone));
     }
-    average.Write(MSHWsand, cone::Average);
+    average.Write(MSHWsand, laboratory::kSandInCone, cone::Average);
 }
 
 void frmDensity::SandDensity()
 {
     ColumnAverage average;
     for (int column = 1; column <= kColumns; ++column) {
-        const auto value = [&](sand::Row row) { return Val(MSHDsand(row, column)); };
-        const double diameter = value(sand::Diameter);
+        const TrialCells of(MSHDsand, laboratory::kSandDensity, column);
+        const double diameter = of.Value(sand::Diameter);
         if (diameter == 0) continue;
-        MSHDsand(sand::Sand, column) = NumberText(value(sand::MoldAndSand) - value(sand::Mold));
-        MSHDsand(sand::Volume, column) = Format(kPi * (diameter * diameter) / 4 * value(sand::Height), kTwoDecimals);
-        average.Add(column, Divide(value(sand::Sand), value(sand::Volume)));
+        of.Show(sand::Sand, of.Value(sand::MoldAndSand) - of.Value(sand::Mold));
+        of.Show(sand::Volume, kPi * (diameter * diameter) / 4 * of.Value(sand::Height));
+        average.Add(column, Divide(of.Value(sand::Sand), of.Value(sand::Volume)));
     }
-    average.Write(MSHDsand, sand::Density);
+    average.Write(MSHDsand, laboratory::kSandDensity, sand::Density);
 }
 
 void frmDensity::WetSoil()
 {
     for (int hole = 1; hole <= kColumns; ++hole) {
-        const auto value = [&](soil::Row row) { return Val(MSHWsoil(row, hole)); };
-        if (value(soil::WetAndPan) == 0) continue;
-        MSHWsoil(soil::WetSoil, hole) = NumberText(value(soil::WetAndPan) - value(soil::Pan));
+        const TrialCells of(MSHWsoil, laboratory::kHoleSoil, hole);
+        if (of.Value(soil::WetAndPan) == 0) continue;
+        of.Show(soil::WetSoil, of.Value(soil::WetAndPan) - of.Value(soil::Pan));
     }
 }
 
 void frmDensity::Volumes()
 {
     for (int hole = 1; hole <= kColumns; ++hole) {
-        const auto cell = [&](volume::Row row) { return MSHVolume(row, hole); };
-        const auto value = [&](volume::Row row) { return Val(cell(row)); };
-        if (value(volume::Initial) == 0) continue;
-        cell(volume::SandInCone) = MSHWsand(cone::Average, hole);
-        cell(volume::SandInHole) =
-            NumberText(value(volume::Initial) - value(volume::Final) - value(volume::SandInCone));
-        cell(volume::SandDensity) = MSHDsand(sand::Density, hole);
-        cell(volume::Volume) = Format(Divide(value(volume::SandInHole), value(volume::SandDensity)), kTwoDecimals);
+        const TrialCells of(MSHVolume, laboratory::kHoleVolume, hole);
+        if (of.Value(volume::Initial) == 0) continue;
+        of[volume::SandInCone] = MSHWsand(cone::Average, hole);
+        of.Show(volume::SandInHole, of.Value(volume::Initial) - of.Value(volume::Final) - of.Value(volume::SandInCone));
+        of[volume::SandDensity] = MSHDsand(sand::Density, hole);
+        of.Show(volume::Volume, Divide(of.Value(volume::SandInHole), of.Value(volume::SandDensity)));
     }
 }
 
 /// Water content, wet and dry density of one hole. One without a water content has no densities.
 void frmDensity::DensitiesOf(int hole)
 {
-    const auto cell = [&](water::Row row) { return MSHWater(row, hole); };
-    const auto value = [&](water::Row row) { return Val(cell(row)); };
-    if (value(water::WetAndCan) == 0) return;
+    const TrialCells of(MSHWater, laboratory::kHoleWater, hole);
+    if (of.Value(water::WetAndCan) == 0) return;
+    of.Show(water::Water, of.Value(water::WetAndCan) - of.Value(water::DryAndCan));
+    of.Show(water::DrySoil, of.Value(water::DryAndCan) - of.Value(water::Can));
+    of.Show(water::WaterContent, Divide(of.Value(water::Water), of.Value(water::DrySoil)) * 100);
 
-    cell(water::Water) = Format(value(water::WetAndCan) - value(water::DryAndCan), kTwoDecimals);
-    cell(water::DrySoil) = NumberText(value(water::DryAndCan) - value(water::Can));
-    cell(water::WaterContent) = Format(Divide(value(water::Water), value(water::DrySoil)) * 100, kTwoDecimals);
-
+    const TrialCells result(MSHSummary, laboratory::kHoleSummary, hole);
     const double wetSoil = Val(MSHWsoil(soil::WetSoil, hole)), size = Val(MSHVolume(volume::Volume, hole));
-    MSHSummary(summary::WetDensity, hole) = Format(Divide(wetSoil, size), kTwoDecimals);
-    const double wetDensity = Val(MSHSummary(summary::WetDensity, hole));
-    MSHSummary(summary::DryDensity, hole) =
-        Format(Divide(wetDensity, 1 + value(water::WaterContent) / 100), kTwoDecimals);
+    result.Show(summary::WetDensity, Divide(wetSoil, size));
+    result.Show(summary::DryDensity,
+                Divide(result.Value(summary::WetDensity), 1 + of.Value(water::WaterContent) / 100));
 }
 
 /// Percent compaction of the holes up to the first without a maximum density, and its average to two decimals.
@@ -117,11 +113,10 @@ float frmDensity::AverageCompaction()
     double sum = 0;
     int holes = 0;
     for (int hole = 1; hole <= kColumns; ++hole) {
-        const auto value = [&](summary::Row row) { return Val(MSHSummary(row, hole)); };
-        if (value(summary::MaximumDensity) == 0) break;
-        MSHSummary(summary::Compaction, hole) =
-            Format(Divide(value(summary::DryDensity), value(summary::MaximumDensity)) * 100, kTwoDecimals);
-        sum += value(summary::Compaction);
+        const TrialCells of(MSHSummary, laboratory::kHoleSummary, hole);
+        if (of.Value(summary::MaximumDensity) == 0) break;
+        of.Show(summary::Compaction, Divide(of.Value(summary::DryDensity), of.Value(summary::MaximumDensity)) * 100);
+        sum += of.Value(summary::Compaction);
         ++holes;
     }
     return ToSingle(RoundedToPlaces(Divide(sum, holes), 2));

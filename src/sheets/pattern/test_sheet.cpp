@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "laboratory/masks.h"
+#include "runtime/numbers.h"
 #include "runtime/text.h"
 
 namespace terravane {
@@ -21,8 +22,20 @@ TestSheet::TestSheet(Program& owner, const laboratory::Sheet& sheet)
     RestoreCommandColours();
 }
 
+void TestSheet::MakeOtherBoxes()
+{
+    for (const laboratory::Box& box : described.boxes)
+        if (!Find(box.control)) otherBoxes_.emplace_back(*this, box);
+}
+
+double TestSheet::Number(const laboratory::Box& box) const
+{
+    return Val(Get<TextControl>(box.control).Text());
+}
+
 void TestSheet::Form_Load()
 {
+    MakeOtherBoxes();
     DTPDate.SetText(Format(program.Ask().Now(), kLongDate));
     FillNameLists(program, cboTest, cboCheck);
 }

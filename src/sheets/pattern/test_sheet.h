@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <deque>
 #include <span>
 #include <string>
 #include <string_view>
@@ -84,7 +85,8 @@ struct TestSheet : Form {
     Timer Timer1{*this, "Timer1", std::chrono::milliseconds(1000), {.Ticked = [this] { Timer1_Timer(); }}};
     Image imgMouse{*this, "imgMouse"};  // holds the hand cursor of the commands
 
-    /// Date of today, name lists of the brand store; a sheet builds its grids where its members stand. It
+    /// Boxes that are described and that no member declares, date of today, name lists of the brand store; a sheet
+    /// builds its grids where its members stand. It
     /// must not ask for the current test and material: they are still the last sheet's.
     void Form_Load() override;
 
@@ -112,12 +114,19 @@ struct TestSheet : Form {
     void Tell(std::string sentence);
     /// What Save stored with a test of the current material.
     StoredResults ResultsOf(Test test) const;
+    /// What Val reads in a box that the sheet is described with: for one that no member declares.
+    double Number(const laboratory::Box& box) const;
 
     /// For fields outside the grids, where they get the focus.
     Handler HidesEditors()
     {
         return [this] { HideEditors(*this); };
     }
+
+  private:
+    void MakeOtherBoxes();
+
+    std::deque<TextBox> otherBoxes_;  // described; their texts are kept and printed, no event of theirs is handled
 };
 
 /// Fills the open sheet from HEAD and the table of the current test and material.

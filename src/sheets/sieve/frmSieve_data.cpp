@@ -3,9 +3,9 @@
 #include <array>
 #include <cmath>
 
-#include "laboratory/masks.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
+#include "sheets/pattern/trial_cells.h"
 #include "sheets/sieve/frmSieve.h"
 #include "sheets/sieve/sieve_table.h"
 
@@ -41,7 +41,8 @@ void frmSieve::cmdCal_Click()
     }
     const float total = TotalMass();
     const double original = Val(txtGsoil.Text());
-    txtErr.SetText(Format(std::abs(Divide(static_cast<double>(total) - original, original) * 100), kTwoDecimals) + "%");
+    const double loss = std::abs(Divide(static_cast<double>(total) - original, original) * 100);
+    txtErr.SetText(Shown(laboratory::kMassLost.is, loss) + "%");
     float cumulative = 0;
     for (int row = 1; row <= kMostSieves; ++row) ReduceRow(row, total, cumulative);
     CopyPassing();
@@ -63,18 +64,16 @@ float frmSieve::TotalMass()
 /// The mass lost by washing counts as retained in the pan, wherever the pan stands.
 void frmSieve::ReduceRow(int row, float total, float& cumulative)
 {
-    const auto cell = [&](sieve::Column column) { return MSHSieve(row, column); };
-    const auto value = [&](sieve::Column column) { return Val(cell(column)); };
-    const auto name = Trim(cell(sieve::Number));
+    const TrialCells of(MSHSieve, laboratory::kSieveStack, row);
+    const auto name = Trim(of[sieve::Number]);
     if (name.empty()) return;
 
     const double washed = name == kPan ? Val(txtWl.Text()) : 0;
-    cell(sieve::Retained) = Format(value(sieve::SieveAndSoil) - value(sieve::EmptySieve) + washed, kTwoDecimals);
-    cumulative = Added(cumulative, value(sieve::Retained));
-    cell(sieve::Cumulative) = Format(static_cast<double>(cumulative), kTwoDecimals);
-    cell(sieve::CumulativePercent) =
-        Format(Divide(value(sieve::Cumulative), static_cast<double>(total)) * 100, kOneDecimal);
-    cell(sieve::Passing) = Format(100 - value(sieve::CumulativePercent), kOneDecimal);
+    of.Show(sieve::Retained, of.Value(sieve::SieveAndSoil) - of.Value(sieve::EmptySieve) + washed);
+    cumulative = Added(cumulative, of.Value(sieve::Retained));
+    of.Show(sieve::Cumulative, static_cast<double>(cumulative));
+    of.Show(sieve::CumulativePercent, Divide(of.Value(sieve::Cumulative), static_cast<double>(total)) * 100);
+    of.Show(sieve::Passing, 100 - of.Value(sieve::CumulativePercent));
 }
 
 /// A sieve that is not in the stack leaves its box as it was.

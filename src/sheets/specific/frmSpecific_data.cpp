@@ -1,7 +1,7 @@
 // Calculate: from the flask's curve and the trials' weighings to the specific gravity.
-#include "laboratory/masks.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
+#include "sheets/pattern/trial_cells.h"
 #include "sheets/specific/frmSpecific.h"
 #include "sheets/specific/water_density.h"
 
@@ -26,7 +26,7 @@ void frmSpecific::cmdCal_Click()
         sum += Val(MSHSpecific(gravity::Gravity, trials));
     }
     for (int trial = 1; trial <= trials; ++trial)
-        MSHSpecific(gravity::Average, trial) = Format(sum / trials, kTwoDecimals);
+        TrialCells(MSHSpecific, laboratory::kGravityTrialGrid, trial).Show(gravity::Average, sum / trials);
     PostGravity();
 }
 
@@ -34,15 +34,13 @@ void frmSpecific::cmdCal_Click()
 /// A stage reads back the text that the stage before it wrote.
 void frmSpecific::GravityOf(int trial)
 {
-    const auto cell = [&](gravity::Row row) { return MSHSpecific(row, trial); };
-    const auto value = [&](gravity::Row row) { return Val(cell(row)); };
-    cell(gravity::FlaskAndWater) = Format(curve_.At(value(gravity::Temperature)), kTwoDecimals);
-    cell(gravity::DrySoil) = Format(value(gravity::DryAndContainer) - value(gravity::Container), kTwoDecimals);
-    cell(gravity::Correction) = Format(WaterDensity(cell(gravity::Temperature)) / kWaterDensityAt20, kFourDecimals);
+    const TrialCells of(MSHSpecific, laboratory::kGravityTrialGrid, trial);
+    of.Show(gravity::FlaskAndWater, curve_.At(of.Value(gravity::Temperature)));
+    of.Show(gravity::DrySoil, of.Value(gravity::DryAndContainer) - of.Value(gravity::Container));
+    of.Show(gravity::Correction, WaterDensity(of[gravity::Temperature]) / kWaterDensityAt20);
     const double displaced =
-        value(gravity::FlaskAndWater) + value(gravity::DrySoil) - value(gravity::FlaskWaterAndSoil);
-    cell(gravity::Gravity) =
-        Format(Divide(value(gravity::Correction) * value(gravity::DrySoil), displaced), kNoForcedZero);
+        of.Value(gravity::FlaskAndWater) + of.Value(gravity::DrySoil) - of.Value(gravity::FlaskWaterAndSoil);
+    of.Show(gravity::Gravity, Divide(of.Value(gravity::Correction) * of.Value(gravity::DrySoil), displaced));
 }
 
 void frmSpecific::PostGravity()

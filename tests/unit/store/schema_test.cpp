@@ -1,8 +1,10 @@
-// The format of project file and brand store, typed here a second time from the laboratory's list of columns.
+// The format of project file and brand store, typed here a second time from the laboratory's list of columns; and which
+// of them tell that a test was begun, and which hold results.
 #include "store/schema.h"
 
 #include <gtest/gtest.h>
 
+#include "laboratory/tests.h"
 #include "runtime/memory_file_system.h"
 #include "store/new_stores.h"
 #include "unit/runtime/raises.h"
@@ -57,6 +59,21 @@ const std::vector<Listed> kProject{
     {"SUMMARY", 2, "sum_", kSummary},
 };
 
+/// What each test keeps beside its tables' names: the columns that tell readings, and those of results. A flag
+/// forgotten in a description would make a test without readings of one that has some.
+struct ListedTest {
+    std::string key, soil, crushedRock, readings, results;
+};
+const std::vector<ListedTest> kTests{
+    {"att", "ATTSOIL", "ATTCRUSH", "blows wscan1 wscan2", "LL PL PI FI"},
+    {"sie", "SIESOIL", "SIECRUSH", "mos mss", "LL PL"},
+    {"spc", "SPCSOIL", "SPCCRUSH", "temp1 fwater temp2 swsoil", "gs"},
+    {"std", "STDSOIL", "STDCRUSH", "wcanw wcand wsm wm", "omc mdd gs"},
+    {"mod", "MODSOIL", "MODCRUSH", "wcanw wcand wsm wm", "omc mdd gs"},
+    {"cbr", "CBRSOIL", "CBRCRUSH", "wcanw wms read1 read2 read3", ""},
+    {"den", "DENSOIL", "DENCRUSH", "imsjc mmsp imsj mwsc", "mdd"},
+};
+
 const std::vector<Listed> kBrand{
     {"LOGO", 1, "logo_", "ID:10 ins:100 dep:100 cov1:100 cov2:100 cov3:100"},
     {"PERSON", 15, "person_", "ID:10 name:100 position:50"},
@@ -83,12 +100,12 @@ void ExpectSchema(std::span<const TableSchema> tables, const std::vector<Listed>
     }
 }
 
-TEST(Schema, HasTheSixteenTablesOfAProject)
+TEST(Schema, HasTheTablesOfAProject)
 {
     ExpectSchema(ProjectTables(), kProject);
 }
 
-TEST(Schema, HasTheTwoTablesOfTheBrandStore)
+TEST(Schema, HasTheTablesOfTheBrandStore)
 {
     ExpectSchema(BrandTables(), kBrand);
 }
@@ -102,17 +119,28 @@ TEST(Schema, GivesRowsTheirKeysWithALeadingBlank)
 
 TEST(Schema, FindsTheTableOfATestAndMaterial)
 {
-    struct Row {
-        TestKind test;
-        const char* soil;
-        const char* crush;
-    };
-    for (const Row& row : {Row{TestKind::StdSoil, "STDSOIL", "STDCRUSH"}, Row{TestKind::ModSoil, "MODSOIL", "MODCRUSH"},
-                           Row{TestKind::DenSoil, "DENSOIL", "DENCRUSH"}, Row{TestKind::SpcSoil, "SPCSOIL", "SPCCRUSH"},
-                           Row{TestKind::AttSoil, "ATTSOIL", "ATTCRUSH"}, Row{TestKind::SieSoil, "SIESOIL", "SIECRUSH"},
-                           Row{TestKind::CBRSoil, "CBRSOIL", "CBRCRUSH"}}) {
-        EXPECT_EQ(TableOf(row.test, Material::Soil).name, row.soil);
-        EXPECT_EQ(TableOf(row.test, Material::Crush).name, row.crush);
+    ASSERT_EQ(laboratory::Tests().size(), kTests.size());
+    for (const ListedTest& listed : kTests) {
+        const TestKind test = laboratory::FindTest(listed.key)->test;
+        EXPECT_EQ(TableOf(test, Material::Soil).name, listed.soil);
+        EXPECT_EQ(TableOf(test, Material::Crush).name, listed.crushedRock);
+    }
+}
+
+std::string Flagged(const laboratory::Description& test, bool laboratory::KeptColumn::*flag)
+{
+    std::string names;
+    for (const laboratory::KeptColumn& column : laboratory::TableColumns(test.sheet))
+        if (column.*flag) names.append(names.empty() ? "" : " ").append(column.suffix);
+    return names;
+}
+
+TEST(Schema, KnowsReadingsAndResultsByTheirColumns)
+{
+    for (const ListedTest& listed : kTests) {
+        const laboratory::Description& test = *laboratory::FindTest(listed.key);
+        EXPECT_EQ(Flagged(test, &laboratory::KeptColumn::isReading), listed.readings) << listed.key;
+        EXPECT_EQ(Flagged(test, &laboratory::KeptColumn::isResult), listed.results) << listed.key;
     }
 }
 
