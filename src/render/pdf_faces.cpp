@@ -100,8 +100,7 @@ Face::Face(const QRawFont& font)
       unitsPerEm_(hb_face_get_upem(face_.get())),
       name_(Name()),
       characters_(Characters()),
-      usual_(UsualGlyphs()),
-      usualProgram_(ProgramOf(*usual_))
+      usual_(UsualGlyphs())
 {}
 
 ShapedText Face::Shape(const std::u16string& text) const

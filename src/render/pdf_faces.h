@@ -67,6 +67,8 @@ class Face {
     void NameCluster(std::u16string_view cluster, std::span<PlacedGlyph> glyphs) const;
     void JoinSaraAm(std::vector<PlacedGlyph>& glyphs, std::size_t first) const;
     void SpellOut(std::u16string_view cluster, std::span<PlacedGlyph> glyphs) const;
+    hb::Set GlyphsFor(const UsedGlyphs& used) const;
+    std::shared_ptr<const Program> PartOf(const hb_set_t& glyphs) const;
     Program ProgramOf(const hb_set_t& glyphs) const;
     std::string PackedToUnicode(const UsedGlyphs& used) const;
     std::string Name() const;
@@ -80,10 +82,10 @@ class Face {
     std::string name_;
     std::map<GlyphId, char16_t> characters_;  // of glyphs that stand for one of the usual characters
     hb::Set usual_;
-    Program usualProgram_;
 
     mutable std::mutex mutex_;  // of what is remembered
     mutable std::unordered_map<std::u16string, ShapedText> shaped_;
+    mutable std::map<std::vector<GlyphId>, std::shared_ptr<const Program>> programs_;  // of other parts of the face
     mutable std::map<UsedGlyphs, std::string> packedToUnicode_;  // by the glyphs that are no usual character's own
 };
 

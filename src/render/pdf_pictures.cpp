@@ -21,7 +21,7 @@ namespace terravane::pdf {
 namespace {
 
 constexpr double kDotsPerTwip = 600.0 / 1440;
-constexpr int kPhotographQuality = 90;  // of 100
+constexpr int kPhotographQuality = 80;  // of 100
 constexpr std::size_t kMostPacked = 8;  // pictures remembered: some laboratories' logos
 constexpr std::string_view kDeflated = "/Filter /FlateDecode";
 constexpr std::string_view kPhotograph = "/Filter /DCTDecode";
