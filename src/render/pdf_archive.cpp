@@ -61,13 +61,13 @@ std::string Curve()
     return content;
 }
 
-struct Tag {
+struct ProfilePart {
     std::string_view name;
     std::string content;
 };
 
 /// White and primaries as D50 shows them, and the matrix that took them there from D65.
-std::vector<Tag> Tags()
+std::vector<ProfilePart> ProfileParts()
 {
     return {
         {"desc", TextOf("sRGB")},
@@ -142,15 +142,15 @@ std::string Intent(Objects& objects)
 
 std::string ColourProfile()
 {
-    const auto tags = Tags();
+    const auto parts = ProfileParts();
     std::string table, contents;
-    AppendBig(table, static_cast<std::uint32_t>(tags.size()), 4);
-    const std::size_t begin = kProfileHead + 4 + 12 * tags.size();
-    for (const Tag& tag : tags) {
-        table += tag.name;
+    AppendBig(table, static_cast<std::uint32_t>(parts.size()), 4);
+    const std::size_t begin = kProfileHead + 4 + 12 * parts.size();
+    for (const ProfilePart& part : parts) {
+        table += part.name;
         AppendBig(table, static_cast<std::uint32_t>(begin + contents.size()), 4);
-        AppendBig(table, static_cast<std::uint32_t>(tag.content.size()), 4);
-        contents += tag.content;
+        AppendBig(table, static_cast<std::uint32_t>(part.content.size()), 4);
+        contents += part.content;
         contents.append((4 - contents.size() % 4) % 4, '\0');
     }
     return ProfileHead(begin + contents.size()) + table + contents;
