@@ -9,7 +9,7 @@
 
 namespace terravane::cbr {
 
-inline constexpr double kTitleLeft = 60;  // of the turned axis title: the labels take the rest of the margin
+inline constexpr double kTitleLeft = 40;  // of the turned axis title: the labels take the rest of the margin
 
 /// A row of a step table: the first whose bound the greatest value stays below gives the step. The last bound is
 /// infinite.
