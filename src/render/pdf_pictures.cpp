@@ -21,7 +21,7 @@ namespace terravane::pdf {
 namespace {
 
 constexpr double kDotsPerTwip = 600.0 / 1440;
-constexpr int kPhotographQuality = 80;  // of 100
+constexpr int kPhotographQuality = 70;  // of 100
 constexpr std::size_t kMostPacked = 8;  // pictures remembered: some laboratories' logos
 constexpr std::string_view kDeflated = "/Filter /FlateDecode";
 constexpr std::string_view kPhotograph = "/Filter /DCTDecode";
@@ -90,6 +90,8 @@ PackedPicture AsPhotograph(const QImage& image)
     QBuffer buffer(&bytes);
     QImageWriter writer(&buffer, "jpeg");
     writer.setQuality(kPhotographQuality);
+    writer.setOptimizedWrite(true);
+    writer.setProgressiveScanWrite(true);
     const bool isGrey = image.format() == QImage::Format_Grayscale8;
     writer.write(isGrey ? image : image.convertToFormat(QImage::Format_RGB888));
     return {ImageDictionary(image.size(), isGrey ? "DeviceGray" : "DeviceRGB", kPhotograph), bytes.toStdString()};

@@ -257,7 +257,7 @@ TEST_F(PlotLabels, OfThreeMoldsAreSpreadByALineAndOnEitherSideOfTheCurves)
 TEST_F(PlotLabels, TheOptimumIsNotCutWhereTheTopIsTheLastTrial)
 {
     frmCompaction& sheet = lab.OpenSheet();
-    constexpr std::array<std::string_view, 3> kWater{"10.0", "12.0", "13.9"}, kDensity{"1.80", "1.90", "2.00"};
+    constexpr std::array<std::string_view, 3> kWater{"5.0", "9.0", "13.9"}, kDensity{"1.80", "1.90", "2.00"};
     for (int trial = 1; trial <= 3; ++trial) {
         const auto i = static_cast<std::size_t>(trial) - 1;
         sheet.MSHDensity(compaction::density::Mold, trial) = "1";
