@@ -156,7 +156,7 @@ std::string ColourProfile()
     return ProfileHead(begin + contents.size()) + table + contents;
 }
 
-std::string Description(const PdfDocument& document)
+std::string Description(std::string_view title, Moment created)
 {
     const std::string maker(kMaker);
     return "<?xpacket begin=\"\xEF\xBB\xBF\" id=\"W5M0MpCehiHzreSzNTczkc9d\"?>\n"
@@ -167,15 +167,15 @@ std::string Description(const PdfDocument& document)
            " xmlns:pdfaid=\"http://www.aiim.org/pdfa/ns/id/\">\n"
            "<pdfaid:part>2</pdfaid:part>\n<pdfaid:conformance>U</pdfaid:conformance>\n"
            "<dc:title><rdf:Alt><rdf:li xml:lang=\"x-default\">" +
-           Escaped(document.title) + "</rdf:li></rdf:Alt></dc:title>\n<xmp:CreatorTool>" + maker +
-           "</xmp:CreatorTool>\n<xmp:CreateDate>" + XmpDate(document.created) + "</xmp:CreateDate>\n<pdf:Producer>" +
-           maker + "</pdf:Producer>\n</rdf:Description>\n</rdf:RDF>\n</x:xmpmeta>\n<?xpacket end=\"r\"?>";
+           Escaped(title) + "</rdf:li></rdf:Alt></dc:title>\n<xmp:CreatorTool>" + maker +
+           "</xmp:CreatorTool>\n<xmp:CreateDate>" + XmpDate(created) + "</xmp:CreateDate>\n<pdf:Producer>" + maker +
+           "</pdf:Producer>\n</rdf:Description>\n</rdf:RDF>\n</x:xmpmeta>\n<?xpacket end=\"r\"?>";
 }
 
-std::string ArchiveEntries(Objects& objects, std::span<const DisplayList> pages, const PdfDocument& document)
+std::string ArchiveEntries(Objects& objects, std::span<const DisplayList> pages, std::string_view description)
 {
-    const int description = objects.AddStream("/Type /Metadata /Subtype /XML", Description(document));
-    return " /Metadata " + Reference(description) + Intent(objects) + " /Lang (th)" + PageLabels(pages) +
+    const int metadata = objects.AddStream("/Type /Metadata /Subtype /XML", description);
+    return " /Metadata " + Reference(metadata) + Intent(objects) + " /Lang (th)" + PageLabels(pages) +
            " /ViewerPreferences << /DisplayDocTitle true >>";
 }
 

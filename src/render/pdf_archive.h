@@ -7,7 +7,6 @@
 #include <string_view>
 
 #include "drawing/display_list.h"
-#include "render/pdf.h"
 #include "render/pdf_objects.h"
 
 namespace terravane::pdf {
@@ -18,9 +17,9 @@ inline constexpr std::string_view kMaker = "Terravane";
 std::string ColourProfile();
 
 /// The document's description as XMP, in step with the information dictionary.
-std::string Description(const PdfDocument& document);
+std::string Description(std::string_view title, Moment created);
 
-/// What the catalog says of a document and its pages, with the objects that it refers to.
-std::string ArchiveEntries(Objects& objects, std::span<const DisplayList> pages, const PdfDocument& document);
+/// What the catalog says of a document with this description and its pages, with the objects that it refers to.
+std::string ArchiveEntries(Objects& objects, std::span<const DisplayList> pages, std::string_view description);
 
 }  // namespace terravane::pdf

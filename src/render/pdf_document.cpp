@@ -41,7 +41,8 @@ class Assembly {
     {
         AddPages();
         const std::string bookmarks = AddBookmarks();
-        const std::string archive = pdf::ArchiveEntries(objects_, pages_, document_);
+        const std::string description = pdf::Description(document_.title, document_.created);
+        const std::string archive = pdf::ArchiveEntries(objects_, pages_, description);
         const int catalog = objects_.Add("<< /Type /Catalog /Pages " + Reference(tree_) + bookmarks + archive + " >>");
         const std::string maker(pdf::kMaker);
         const std::string created = pdf::DateString(document_.created);
