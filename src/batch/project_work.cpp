@@ -1,6 +1,7 @@
 #include "batch/project_work.h"
 
 #include <algorithm>
+#include <chrono>
 #include <future>
 
 #include "batch/output_disk.h"
@@ -24,6 +25,12 @@ struct Part {
     std::string name, bookmark, title;
     std::vector<DisplayList> pages;
 };
+
+/// The day alone: a run is printed for a day, at no hour that anybody knows.
+Moment DayOf(Moment moment)
+{
+    return std::chrono::floor<std::chrono::days>(moment);
+}
 
 class ProjectWork {
   public:
@@ -129,7 +136,7 @@ class ProjectWork {
             WriteOneFile();
         } else {
             for (const Part& part : parts_)
-                Write(project_.stem + "_" + part.name + ".pdf", part.pages, {part.title, options_.today, {}});
+                Write(project_.stem + "_" + part.name + ".pdf", part.pages, {part.title, DayOf(options_.today), {}});
         }
         writing_.get();
     }
@@ -137,7 +144,7 @@ class ProjectWork {
     void WriteOneFile()
     {
         std::vector<DisplayList> pages;
-        PdfDocument document{NameOf(project_.stem), options_.today, {}};
+        PdfDocument document{NameOf(project_.stem), DayOf(options_.today), {}};
         for (Part& part : parts_) {
             document.sections.push_back({part.bookmark, pages.size()});
             std::ranges::move(part.pages, std::back_inserter(pages));

@@ -41,7 +41,8 @@ struct DrawnPoint {
     bool operator==(const DrawnPoint&) const = default;
 };
 
-/// How a line is drawn: width in the platform's draw widths (5 twips each), style 0 solid, 1 dash, 2 dot.
+/// How a line is drawn: width in the platform's draw widths (5 twips each), style 0 solid, 1 dash, 2 dot, 3 dash and
+/// dot.
 struct Pen {
     int width = 1;
     int style = 0;
@@ -118,9 +119,11 @@ struct PictureItem {
 using DrawnItem = std::variant<TextItem, LineItem, PolylineItem, BoxItem, FillItem, CircleItem, PointItem, PictureItem>;
 
 /// One surface's content: its size in twips and what was drawn on it.
+/// label  of a page that is not numbered, "cover"; pages without one count from 1 behind it
 struct DisplayList {
     double width = 0, height = 0;
     std::vector<DrawnItem> items;
+    std::string label = {};
     bool operator==(const DisplayList&) const = default;
 };
 

@@ -28,7 +28,7 @@ class DrawingSurface {
     bool FontItalic = false;
     Colour ForeColor = kBlack;
     int DrawWidth = 1;  // 5 twips each
-    int DrawStyle = 0;  // 0 solid, 1 dash, 2 dot
+    int DrawStyle = 0;  // 0 solid, 1 dash, 2 dot, 3 dash and dot
     bool FillSolid = false;
     Colour FillColor = kBlack;
 

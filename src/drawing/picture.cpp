@@ -2,7 +2,9 @@
 //
 //   JPEG  FF D8, then segments FF marker length(2, big-endian, itself included); the size stands in the first
 //   frame
-//         header: marker, length, precision(1), height(2), width(2)
+//         header: marker, length, precision(1), height(2), width(2). A segment FF E1 length "Exif" 00 00 may tell how
+//         the camera was held: "II" or "MM" for its byte order, 2A(2), at 4 the place(4) of its list: count(2), then
+//         entries tag(2) kind(2) count(4) value(4); tag 0112 is 1 for upright, 5 to 8 for lying on a side
 //   PNG   89 "PNG" 0D 0A 1A 0A, then the chunk length(4) "IHDR" width(4) height(4), big-endian
 //   BMP   "BM", at 14 the header's length(4); 12: width(2) height(2), more: width(4) height(4, negative when
 //   the
@@ -29,6 +31,7 @@ constexpr std::uint64_t kLargestFile = 64 << 20;  // bytes
 
 struct PictureSize {
     std::int64_t width = 0, height = 0;
+    bool isUpright = true;
 };
 
 /// The bytes, asked for by place; a place behind the end is a damaged picture.
@@ -54,6 +57,7 @@ class Header {
     std::uint32_t Big32(std::size_t at) const { return Big16(at) << 16 | Big16(at + 2); }
     std::uint32_t Little16(std::size_t at) const { return Byte(at + 1) << 8 | Byte(at); }
     std::uint32_t Little32(std::size_t at) const { return Little16(at + 2) << 16 | Little16(at); }
+    std::size_t Size() const { return bytes_.size(); }
 
   private:
     const std::string& name_;
@@ -72,15 +76,43 @@ bool StandsAlone(std::uint32_t marker)
     return marker == 0x01 || (marker >= 0xD0 && marker <= 0xD7);
 }
 
+/// How the camera was held, 1 to 8, by the segment at a place; 1 where it does not tell, whatever else it holds.
+std::uint32_t OrientationIn(const Header& header, std::size_t segment)
+{
+    constexpr std::uint32_t kUpright = 1, kExif = 0x45786966, kLittleEndian = 0x4949, kOrientation = 0x0112;
+    constexpr std::size_t kShortest = 18;  // up to the list's place
+    const std::size_t begin = segment + 10, end = std::min(segment + 2 + header.Big16(segment + 2), header.Size());
+    if (segment + kShortest > end || header.Big32(segment + 4) != kExif) return kUpright;
+    const bool isLittle = header.Big16(begin) == kLittleEndian;
+    const auto two = [&](std::size_t at) { return isLittle ? header.Little16(at) : header.Big16(at); };
+    const std::size_t list = begin + (isLittle ? header.Little32(begin + 4) : header.Big32(begin + 4));
+    if (list + 2 > end) return kUpright;
+    for (std::size_t entry = list + 2; entry < list + 2 + 12 * two(list) && entry + 12 <= end; entry += 12)
+        if (two(entry) == kOrientation) return two(entry + 8);
+    return kUpright;
+}
+
+/// The size of a picture that is stored as it was held.
+PictureSize Held(std::uint32_t orientation, PictureSize stored)
+{
+    const bool liesOnASide = orientation >= 5 && orientation <= 8;
+    if (liesOnASide) std::swap(stored.width, stored.height);
+    stored.isUpright = orientation < 2 || orientation > 8;
+    return stored;
+}
+
 PictureSize JpegSize(const Header& header)
 {
     constexpr std::uint32_t kStartOfScan = 0xDA;
     constexpr std::uint32_t kEndOfImage = 0xD9;
+    constexpr std::uint32_t kApplication1 = 0xE1;
+    std::uint32_t orientation = 1;
     std::size_t at = 2;
     for (;;) {
         if (header.Byte(at) != 0xFF) header.Damaged();
         const std::uint32_t marker = header.Byte(at + 1);
-        if (IsFrame(marker)) return {header.Big16(at + 7), header.Big16(at + 5)};
+        if (IsFrame(marker)) return Held(orientation, {header.Big16(at + 7), header.Big16(at + 5)});
+        if (marker == kApplication1 && orientation == 1) orientation = OrientationIn(header, at);
         if (marker == kStartOfScan || marker == kEndOfImage) header.Damaged();  // the size comes before the scan
         if (marker == 0xFF)
             at += 1;  // a byte of padding
@@ -153,7 +185,7 @@ std::shared_ptr<const Picture> ReadPicture(std::string name, Bytes bytes)
     const PictureSize size = kind.size(header);
     if (!IsDrawable(size)) header.Damaged();
     return std::make_shared<const Picture>(Picture{std::move(name), kind.format, static_cast<int>(size.width),
-                                                   static_cast<int>(size.height), std::move(bytes)});
+                                                   static_cast<int>(size.height), std::move(bytes), size.isUpright});
 }
 
 std::shared_ptr<const Picture> LoadPicture(const FileSystem& files, const std::string& path)

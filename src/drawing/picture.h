@@ -11,13 +11,15 @@ namespace terravane {
 enum class PictureFormat { Jpeg, Png, Bmp, Gif, Ico };
 
 /// name    the file's name, as in answers ("dep_logo.jpg")
-/// width, height  pixels, from the file's own header
+/// width, height  pixels, as the picture is to be seen
+/// isUpright  whether its rows stand as they are to be seen; a camera held sideways says in the file that they do not
 /// bytes   the file as it is; decoding is the renderer's
 struct Picture {
     std::string name;
     PictureFormat format = PictureFormat::Jpeg;
     int width = 0, height = 0;
     Bytes bytes;
+    bool isUpright = true;
     bool operator==(const Picture&) const = default;
 };
 

@@ -12,7 +12,9 @@ inline constexpr int kThinRule = 1;  // draw widths
 inline constexpr int kThickRule = 2;
 
 inline constexpr int kSolid = 0;  // draw styles
+inline constexpr int kDashed = 1;
 inline constexpr int kDotted = 2;
+inline constexpr int kDashDotted = 3;
 
 /// A piece of a surface's state that has another value until the scope ends, also where an error ends it.
 template <class State>

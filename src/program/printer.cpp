@@ -25,9 +25,17 @@ void Printer::SetTarget(PrintTarget target, std::string title)
     title_ = std::move(title);
 }
 
+DisplayList Printer::PresentPage() const
+{
+    DisplayList page = *Image();
+    page.label = PageLabel;
+    return page;
+}
+
 void Printer::NewPage()
 {
-    ended_.push_back(*Image());
+    ended_.push_back(PresentPage());
+    PageLabel.clear();
     Cls();
 }
 
@@ -43,13 +51,14 @@ void Printer::KillDoc()
 {
     ended_.clear();
     target_ = {};
+    PageLabel.clear();
     Cls();
 }
 
 std::vector<DisplayList> Printer::Pages() const
 {
     auto pages = ended_;
-    pages.push_back(*Image());
+    pages.push_back(PresentPage());
     return pages;
 }
 

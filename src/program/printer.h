@@ -23,6 +23,9 @@ class Printer : public DrawingSurface {
   public:
     Printer();
 
+    /// What the present page is called where it has no number; the next page has one again.
+    std::string PageLabel;
+
     int PaperSize() const { return paperSize_; }
     /// A4 is the only paper; any other size is error 380 "Invalid property value".
     void SetPaperSize(int size);
@@ -45,6 +48,8 @@ class Printer : public DrawingSurface {
     std::vector<DisplayList> Pages() const;
 
   private:
+    DisplayList PresentPage() const;
+
     int paperSize_ = kPaperA4;
     Orientation orientation_ = Orientation::Portrait;
     std::vector<DisplayList> ended_;

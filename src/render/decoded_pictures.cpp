@@ -13,6 +13,7 @@ namespace terravane {
 namespace {
 
 constexpr int kLongestSide = 4096;
+constexpr int kShorterSide = 1200;
 constexpr qsizetype kMostBytes = 32 << 20;  // of pictures that nobody uses now
 constexpr int kMostMegabytes = 512;         // while decoding: the largest picture that ReadPicture takes needs 400
 
@@ -33,6 +34,15 @@ const char* QtFormat(PictureFormat format)
     return "";
 }
 
+QSize ReducedFrom(QSize size)
+{
+    if (std::min(size.width(), size.height()) > kShorterSide)
+        size.scale(kShorterSide, kShorterSide, Qt::KeepAspectRatioByExpanding);
+    if (std::max(size.width(), size.height()) > kLongestSide)
+        size.scale(kLongestSide, kLongestSide, Qt::KeepAspectRatio);
+    return size.expandedTo({1, 1});
+}
+
 QImage Decode(const Picture& picture)
 {
     QByteArray bytes = QByteArray::fromRawData(reinterpret_cast<const char*>(picture.bytes.data()),
@@ -40,9 +50,9 @@ QImage Decode(const Picture& picture)
     QBuffer buffer(&bytes);
     QImageReader::setAllocationLimit(kMostMegabytes);
     QImageReader reader(&buffer, QtFormat(picture.format));
-    const QSize size(picture.width, picture.height);
-    if (std::max(size.width(), size.height()) > kLongestSide)
-        reader.setScaledSize(size.scaled(kLongestSide, kLongestSide, Qt::KeepAspectRatio).expandedTo({1, 1}));
+    reader.setAutoTransform(true);
+    const QSize whole = reader.size();
+    if (const QSize size = ReducedFrom(whole); whole.isValid() && size != whole) reader.setScaledSize(size);
     return reader.read();
 }
 

@@ -8,8 +8,9 @@
 
 namespace terravane {
 
-/// The picture's pixels; an empty image where its bytes can't be decoded. Very large pictures come reduced to
-/// 4096 pixels on their longer side. May be called from several threads.
+/// The picture's pixels, upright; an empty image where its bytes can't be decoded. Large pictures come reduced to 1200
+/// pixels on their shorter side, twice what a logo's place shows at 600 dots to the inch, and very long ones to 4096 on
+/// their longer. May be called from several threads.
 QImage Decoded(const std::shared_ptr<const Picture>& picture);
 
 /// Whether two pictures are copies of one file, whatever their names.

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <span>
 
 #include "drawing/display_list.h"
 
@@ -11,15 +12,17 @@ namespace terravane {
 
 inline constexpr double kTwipsPerDrawWidth = 5;
 
-/// Ink and gap in twips; a line of style 0 has neither.
-struct Dash {
-    double ink, gap;
-};
-inline constexpr std::array kDashes{Dash{0, 0}, Dash{120, 60}, Dash{30, 40}};
+/// Ink and gap in turn, in twips; a line of style 0 has neither.
+using Dash = std::span<const double>;
 
-inline const Dash& DashOf(const Pen& pen)
+inline constexpr std::array kDash{120.0, 60.0};
+inline constexpr std::array kDot{30.0, 40.0};
+inline constexpr std::array kDashDot{140.0, 50.0, 30.0, 50.0};
+inline constexpr std::array kDashes{Dash{}, Dash{kDash}, Dash{kDot}, Dash{kDashDot}};
+
+inline Dash DashOf(const Pen& pen)
 {
-    return kDashes[static_cast<std::size_t>(std::clamp(pen.style, 0, 2))];
+    return kDashes[static_cast<std::size_t>(std::clamp(pen.style, 0, static_cast<int>(kDashes.size()) - 1))];
 }
 
 /// What stands in the place of a picture that can't be decoded: a crossed grey box.

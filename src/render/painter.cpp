@@ -1,6 +1,7 @@
 #include "render/painter.h"
 
 #include <QImage>
+#include <QList>
 #include <QPainter>
 #include <QPen>
 #include <QPointF>
@@ -157,8 +158,9 @@ class ItemPainter {
     {
         const double ink = Ink(pen.width);
         QPen result(QtColour(pen.colour), ink, Qt::SolidLine, Qt::FlatCap, join);
-        if (const Dash& dash = DashOf(pen); dash.ink > 0)
-            result.setDashPattern({dash.ink / ink, dash.gap / ink});  // Qt counts in pen widths
+        QList<qreal> pattern;  // Qt counts in pen widths
+        for (const double length : DashOf(pen)) pattern << length / ink;
+        if (!pattern.isEmpty()) result.setDashPattern(pattern);
         return result;
     }
 

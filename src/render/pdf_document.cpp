@@ -5,6 +5,7 @@
 #include "render/fonts.h"
 #include "render/gui_application.h"
 #include "render/pdf.h"
+#include "render/pdf_archive.h"
 #include "render/pdf_objects.h"
 #include "render/pdf_page.h"
 #include "runtime/runtime_error.h"
@@ -40,11 +41,13 @@ class Assembly {
     {
         AddPages();
         const std::string bookmarks = AddBookmarks();
-        const int catalog = objects_.Add("<< /Type /Catalog /Pages " + Reference(tree_) + bookmarks + " >>");
+        const std::string description = pdf::Description(document_.title, document_.created);
+        const std::string archive = pdf::ArchiveEntries(objects_, pages_, description);
+        const int catalog = objects_.Add("<< /Type /Catalog /Pages " + Reference(tree_) + bookmarks + archive + " >>");
+        const std::string maker(pdf::kMaker);
         const std::string created = pdf::DateString(document_.created);
-        const int information =
-            objects_.Add("<< /Title " + pdf::TextString(document_.title) +
-                         " /Creator (Terravane) /Producer (Terravane)" + " /CreationDate " + created + " >>");
+        const int information = objects_.Add("<< /Title " + pdf::TextString(document_.title) + " /Creator (" + maker +
+                                             ") /Producer (" + maker + ") /CreationDate " + created + " >>");
         return objects_.Finish(catalog, information, identity_ + created + document_.title + bookmarks);
     }
 

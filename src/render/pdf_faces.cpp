@@ -4,7 +4,9 @@
 #include <QRawFont>
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstddef>
+#include <iterator>
 #include <tuple>
 
 #include <hb-ot.h>
@@ -18,6 +20,8 @@ namespace {
 /// What shaping, cutting out glyphs and the font's dictionary read of a font file.
 constexpr std::array kTables{"head", "hhea", "hmtx", "maxp", "cmap", "loca", "glyf", "name",
                              "OS/2", "post", "GDEF", "GSUB", "GPOS", "cvt ", "fpgm", "prep"};
+
+constexpr char16_t kSaraAm = u'\u0E33';
 
 constexpr std::size_t kMostTexts = 2000;  // remembered: some projects' reports, a megabyte or two
 
@@ -96,8 +100,7 @@ Face::Face(const QRawFont& font)
       unitsPerEm_(hb_face_get_upem(face_.get())),
       name_(Name()),
       characters_(Characters()),
-      usual_(UsualGlyphs()),
-      usualProgram_(ProgramOf(*usual_))
+      usual_(UsualGlyphs())
 {}
 
 ShapedText Face::Shape(const std::u16string& text) const
@@ -138,8 +141,10 @@ void Face::ShapeStretch(std::u16string_view text, std::vector<PlacedGlyph>& glyp
         if (!isLast) continue;
         const std::size_t from = infos[at].cluster;
         const std::size_t end = at + 1 < count ? infos[at + 1].cluster : text.size();
-        const std::size_t members = at + 1 - start;
-        NameCluster(text.substr(from, end - from), std::span(glyphs).last(members));
+        const std::size_t first = glyphs.size() - (at + 1 - start);
+        const std::u16string_view cluster = text.substr(from, end - from);
+        if (cluster.ends_with(kSaraAm)) JoinSaraAm(glyphs, first);
+        NameCluster(cluster, std::span(glyphs).subspan(first));
         start = at + 1;
     }
 }
@@ -163,11 +168,48 @@ void Face::NameCluster(std::u16string_view cluster, std::span<PlacedGlyph> glyph
         const bool isLast = at + 1 == unnamed.size();
         unnamed[at]->text = rest.substr(std::min(at, rest.size()), isLast ? std::u16string::npos : 1);
     }
-    if (glyphs.size() == 1) return;
-    // Marks are drawn in any order, but copied out in the order of the file.
-    std::stable_sort(glyphs.begin(), glyphs.end(), [&](const PlacedGlyph& one, const PlacedGlyph& other) {
-        return cluster.find(one.text) < cluster.find(other.text);
-    });
+    if (glyphs.size() > 1) {
+        // Marks are drawn in any order, but copied out in the order of the file.
+        std::stable_sort(glyphs.begin(), glyphs.end(), [&](const PlacedGlyph& one, const PlacedGlyph& other) {
+            return cluster.find(one.text) < cluster.find(other.text);
+        });
+    }
+    SpellOut(cluster, glyphs);
+}
+
+/// Shapers draw sara am as its ring and its stroke, neither of which a reader takes for it. Where the ring stands as in
+/// the face's own sara am, or as good as there, that glyph is drawn, and the tone above keeps its place over the ring.
+void Face::JoinSaraAm(std::vector<PlacedGlyph>& glyphs, std::size_t first) const
+{
+    constexpr double kHardlySeen = 0.095;  // ems: less than a point in a report's text
+    const auto isGlyphOf = [this](const PlacedGlyph& glyph, char16_t character) {
+        const auto own = characters_.find(glyph.glyph);
+        return own != characters_.end() && own->second == character;
+    };
+    hb_codepoint_t joined = 0;
+    const auto begin = glyphs.begin() + static_cast<std::ptrdiff_t>(first);
+    const auto ring = std::find_if(begin, glyphs.end(), [&](const auto& glyph) { return isGlyphOf(glyph, u'\u0E4D'); });
+    if (ring == glyphs.end() || !isGlyphOf(glyphs.back(), u'\u0E32') || ring->y != 0 ||
+        !hb_font_get_nominal_glyph(font_.get(), kSaraAm, &joined))
+        return;
+    PlacedGlyph& stroke = glyphs.back();
+    const double moved = stroke.x - ring->x;
+    if (std::abs(moved) > kHardlySeen) return;
+    for (auto tone = std::next(ring); tone + 1 != glyphs.end(); ++tone) tone->x += moved;
+    stroke.glyph = static_cast<GlyphId>(joined);
+    stroke.step = AdvanceOf(stroke.glyph);
+    glyphs.erase(ring);
+}
+
+/// A letter with marks is noted as it was typed: readers take a mark that stands over the middle of its letter for the
+/// end of a word, and the ring and stroke of sara am for two characters.
+void Face::SpellOut(std::u16string_view cluster, std::span<PlacedGlyph> glyphs) const
+{
+    std::u16string spelt;
+    for (const PlacedGlyph& glyph : glyphs) spelt += glyph.text;
+    if (spelt == cluster && glyphs.size() == 1) return;
+    glyphs.front().letter = cluster;
+    glyphs.front().members = glyphs.size();
 }
 
 double Face::AdvanceOf(GlyphId glyph) const

@@ -23,12 +23,15 @@ using GlyphId = std::uint16_t;
 
 /// glyph  its number in the face
 /// text   the characters it stands for in a text that is copied out, the same wherever it stands
+/// letter what was typed, where a letter has marks or its glyph is not its own; on the first of its `members` glyphs
 /// x, y   its origin, in ems from the text's start, y upwards
 /// step   by how much a reader steps on behind it, in ems
 struct PlacedGlyph {
     GlyphId glyph = 0;
     std::u16string text;
     double x = 0, y = 0, step = 0;
+    std::u16string letter = {};
+    std::size_t members = 0;
 };
 
 /// A text's glyphs, in the order in which they are copied out. Whoever draws the text again has the same ones.
@@ -62,6 +65,10 @@ class Face {
     hb::Set UsualGlyphs() const;
     std::map<GlyphId, char16_t> Characters() const;
     void NameCluster(std::u16string_view cluster, std::span<PlacedGlyph> glyphs) const;
+    void JoinSaraAm(std::vector<PlacedGlyph>& glyphs, std::size_t first) const;
+    void SpellOut(std::u16string_view cluster, std::span<PlacedGlyph> glyphs) const;
+    hb::Set GlyphsFor(const UsedGlyphs& used) const;
+    std::shared_ptr<const Program> PartOf(const hb_set_t& glyphs) const;
     Program ProgramOf(const hb_set_t& glyphs) const;
     std::string PackedToUnicode(const UsedGlyphs& used) const;
     std::string Name() const;
@@ -75,10 +82,10 @@ class Face {
     std::string name_;
     std::map<GlyphId, char16_t> characters_;  // of glyphs that stand for one of the usual characters
     hb::Set usual_;
-    Program usualProgram_;
 
     mutable std::mutex mutex_;  // of what is remembered
     mutable std::unordered_map<std::u16string, ShapedText> shaped_;
+    mutable std::map<std::vector<GlyphId>, std::shared_ptr<const Program>> programs_;  // of other parts of the face
     mutable std::map<UsedGlyphs, std::string> packedToUnicode_;  // by the glyphs that are no usual character's own
 };
 

@@ -12,7 +12,8 @@ namespace terravane::pdf {
 namespace {
 
 /// Characters of a laboratory's reports. A font with all of them is cut out and packed once a process and serves
-/// every document, in place of one for each document with the few it uses.
+/// every document that uses many, in place of one for each document with those it uses. Of a face that draws a title or
+/// the labels of a plot a document has its few glyphs, and the digits, so that the next one's are the same.
 struct Block {
     hb_codepoint_t first, last;
 };
@@ -22,7 +23,9 @@ constexpr std::array kUsual{
     Block{0xD7, 0xD7},     // times
     Block{0x0E01, 0x0E5B}  // Thai
 };
-constexpr int kSymbolic = 4;  // glyphs are found by their number, not by a character
+constexpr std::size_t kFew = 64;        // glyphs
+constexpr std::size_t kMostParts = 30;  // of a face, remembered
+constexpr int kSymbolic = 4;            // glyphs are found by their number, not by a character
 constexpr double kThousandths = 1000;
 constexpr std::size_t kMostTables = 50;  // from glyphs to texts, remembered: 50 kilobytes
 
@@ -156,13 +159,34 @@ std::string Face::PackedToUnicode(const UsedGlyphs& used) const
     return packed;
 }
 
+/// The usual characters' glyphs and those used, or these alone with the digits where they are few.
+hb::Set Face::GlyphsFor(const UsedGlyphs& used) const
+{
+    hb::Set glyphs(used.size() > kFew ? hb_set_copy(usual_.get()) : hb_set_create());
+    hb_set_add(glyphs.get(), 0);
+    for (const auto& [glyph, character] : characters_)
+        if (character >= u'0' && character <= u'9') hb_set_add(glyphs.get(), glyph);
+    for (const auto& glyph : used) hb_set_add(glyphs.get(), glyph.first);
+    return glyphs;
+}
+
+std::shared_ptr<const Face::Program> Face::PartOf(const hb_set_t& glyphs) const
+{
+    std::vector<GlyphId> numbers;
+    for (hb_codepoint_t glyph = HB_SET_VALUE_INVALID; hb_set_next(&glyphs, &glyph);)
+        numbers.push_back(static_cast<GlyphId>(glyph));
+    const std::scoped_lock lock(mutex_);
+    if (programs_.size() > kMostParts) programs_.clear();
+    auto& part = programs_[numbers];
+    if (!part) part = std::make_shared<const Program>(ProgramOf(glyphs));
+    return part;
+}
+
 int Face::AddTo(Objects& objects, const UsedGlyphs& used) const
 {
-    const hb::Set glyphs(hb_set_copy(usual_.get()));
-    for (const auto& glyph : used) hb_set_add(glyphs.get(), glyph.first);
-    const bool isUsual = hb_set_is_equal(glyphs.get(), usual_.get());
-    const Program own = isUsual ? Program{} : ProgramOf(*glyphs);
-    const Program& program = isUsual ? usualProgram_ : own;
+    const hb::Set glyphs = GlyphsFor(used);
+    const std::shared_ptr<const Program> part = PartOf(*glyphs);
+    const Program& program = *part;
 
     const std::string name = PartMark(*glyphs) + name_;
     const int file =

@@ -34,6 +34,11 @@ std::string CrossReference(std::size_t place)
     return {line.data(), static_cast<std::size_t>(length)};
 }
 
+bool HasHour(Moment moment)
+{
+    return Format(moment, "hhnnss") != "000000";
+}
+
 std::string IdentifierOf(std::string_view identity)
 {
     return "<" + QCryptographicHash::hash(View(identity), QCryptographicHash::Md5).toHex().toStdString() + ">";
@@ -48,8 +53,13 @@ std::string Reference(int object)
 
 std::string TextString(std::string_view text)
 {
+    return TextString(std::u16string_view(ToUtf16(text)));
+}
+
+std::string TextString(std::u16string_view text)
+{
     std::string result = "<FEFF";
-    for (const char16_t unit : ToUtf16(text)) AppendHexadecimal(result, unit);
+    for (const char16_t unit : text) AppendHexadecimal(result, unit);
     return result + ">";
 }
 
@@ -61,7 +71,12 @@ void AppendHexadecimal(std::string& out, std::uint16_t unit)
 
 std::string DateString(Moment moment)
 {
-    return "(D:" + Format(moment, "yyyymmdd") + Format(moment, "hhnnss") + ")";
+    return "(D:" + Format(moment, "yyyymmdd") + (HasHour(moment) ? Format(moment, "hhnnss") : "") + ")";
+}
+
+std::string XmpDate(Moment moment)
+{
+    return Format(moment, "yyyy-mm-dd") + (HasHour(moment) ? "T" + Format(moment, "hh:nn:ss") : "");
 }
 
 void AppendNumber(std::string& out, double value)
@@ -88,7 +103,7 @@ std::string Deflated(std::string_view content, Packing packing)
 
 Objects::Objects()
 {
-    Append("%PDF-1.5\n%\xE2\xE3\xCF\xD3\n");  // high bytes tell transfer programs that this is no text
+    Append("%PDF-1.7\n%\xE2\xE3\xCF\xD3\n");  // high bytes tell transfer programs that this is no text
 }
 
 int Objects::Reserve()

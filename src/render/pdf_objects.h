@@ -1,6 +1,6 @@
 /// The objects of a PDF file and the order in which they stand in it. Knows nothing of pages.
 ///
-///     %PDF-1.5   objects, each "n 0 obj ... endobj"   xref: the place of each   trailer
+///     %PDF-1.7   objects, each "n 0 obj ... endobj"   xref: the place of each   trailer
 #pragma once
 
 #include <cstdint>
@@ -19,9 +19,12 @@ std::string Reference(int object);
 
 /// A text as a PDF string in UTF-16, "<FEFF0041>".
 std::string TextString(std::string_view text);
+std::string TextString(std::u16string_view text);
 
-/// "(D:20261121120000)": local time without a zone.
+/// "(D:20261121143000)": local time without a zone; "(D:20261121)" at midnight, which stands for a day without an hour.
 std::string DateString(Moment moment);
+/// The same as XMP has it: "2026-11-21T14:30:00", "2026-11-21".
+std::string XmpDate(Moment moment);
 
 /// A unit of UTF-16 or a glyph's number as a string "<0041>" has it: four digits.
 void AppendHexadecimal(std::string& out, std::uint16_t unit);

@@ -8,6 +8,7 @@
 
 #include "drawing/display_list.h"
 #include "render/pdf_faces.h"
+#include "render/pdf_pictures.h"
 
 namespace terravane::pdf {
 
@@ -17,8 +18,8 @@ class Resources {
   public:
     /// The face's name, the glyphs noted.
     std::string NameOf(const Face& face, const std::vector<PlacedGlyph>& glyphs);
-    /// The same picture from two places has one name.
-    std::string NameOf(const std::shared_ptr<const Picture>& picture);
+    /// The same picture from two places has one name, and the pixels that the larger place needs.
+    std::string NameOf(const std::shared_ptr<const Picture>& picture, PixelSize needed);
 
     /// Adds all of them; the number of the dictionary that names them.
     int AddTo(Objects& objects) const;
@@ -29,10 +30,14 @@ class Resources {
         UsedGlyphs glyphs;
     };
     std::vector<UsedFace> faces_;
-    std::vector<std::shared_ptr<const Picture>> pictures_;
+    struct UsedPicture {
+        std::shared_ptr<const Picture> picture;
+        PixelSize needed;
+    };
+    std::vector<UsedPicture> pictures_;
 };
 
-/// A side of the paper in points, from twips: paper comes in whole points, A4 as 595 by 842.
+/// A side of the paper in points, from twips. A4 is 210 by 297 mm, which no whole twips are.
 double PaperPoints(double twips);
 
 /// The operators that draw a list as PaintList draws it, on a page of its size. A curve's points that stand

@@ -1,11 +1,18 @@
 #include "render/pdf_pictures.h"
 
+#include <QBuffer>
+#include <QByteArray>
 #include <QImage>
-#include <array>
+#include <QImageWriter>
+#include <algorithm>
+#include <cmath>
 #include <cstddef>
 #include <cstdint>
+#include <mutex>
 #include <optional>
 #include <span>
+#include <string>
+#include <vector>
 
 #include "render/decoded_pictures.h"
 
@@ -13,10 +20,23 @@ namespace terravane::pdf {
 
 namespace {
 
-std::string ImageDictionary(int width, int height, std::string_view colours, std::string_view rest)
+constexpr double kDotsPerTwip = 600.0 / 1440;
+constexpr int kPhotographQuality = 70;  // of 100
+constexpr std::size_t kMostPacked = 8;  // pictures remembered: some laboratories' logos
+constexpr std::string_view kDeflated = "/Filter /FlateDecode";
+constexpr std::string_view kPhotograph = "/Filter /DCTDecode";
+
+/// A picture as it stands in a file: its dictionary and content, and a mask where it is not opaque.
+struct PackedPicture {
+    std::string dictionary, content;
+    std::string maskDictionary = {}, mask = {};
+};
+
+std::string ImageDictionary(const QSize& size, std::string_view colours, std::string_view filter)
 {
-    return "/Type /XObject /Subtype /Image /Width " + std::to_string(width) + " /Height " + std::to_string(height) +
-           " /BitsPerComponent 8 /ColorSpace /" + std::string(colours) + " " + std::string(rest);
+    return "/Type /XObject /Subtype /Image /Width " + std::to_string(size.width()) + " /Height " +
+           std::to_string(size.height()) + " /BitsPerComponent 8 /ColorSpace /" + std::string(colours) + " " +
+           std::string(filter);
 }
 
 /// The colours of a pixel in a JPEG file: its frame header's sixth byte behind the length.
@@ -53,30 +73,90 @@ std::string RowsOf(const QImage& image, int bytesPerPixel)
     return rows;
 }
 
-int AddPixels(Objects& objects, const QImage& image)
+PackedPicture AsPixels(const QImage& image)
 {
-    std::string rest = "/Filter /FlateDecode";
-    if (image.hasAlphaChannel()) {
-        const QImage mask = image.convertToFormat(QImage::Format_Alpha8);
-        const int object = objects.AddStream(ImageDictionary(mask.width(), mask.height(), "DeviceGray", rest),
-                                             Deflated(RowsOf(mask, 1), Packing::Small));
-        rest += " /SMask " + Reference(object);
-    }
     const QImage colours = image.convertToFormat(QImage::Format_RGB888);
-    return objects.AddStream(ImageDictionary(colours.width(), colours.height(), "DeviceRGB", rest),
-                             Deflated(RowsOf(colours, 3), Packing::Small));
+    PackedPicture packed{ImageDictionary(image.size(), "DeviceRGB", kDeflated),
+                         Deflated(RowsOf(colours, 3), Packing::Small)};
+    if (!image.hasAlphaChannel()) return packed;
+    packed.maskDictionary = ImageDictionary(image.size(), "DeviceGray", kDeflated);
+    packed.mask = Deflated(RowsOf(image.convertToFormat(QImage::Format_Alpha8), 1), Packing::Small);
+    return packed;
 }
+
+PackedPicture AsPhotograph(const QImage& image)
+{
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    QImageWriter writer(&buffer, "jpeg");
+    writer.setQuality(kPhotographQuality);
+    writer.setOptimizedWrite(true);
+    writer.setProgressiveScanWrite(true);
+    const bool isGrey = image.format() == QImage::Format_Grayscale8;
+    writer.write(isGrey ? image : image.convertToFormat(QImage::Format_RGB888));
+    return {ImageDictionary(image.size(), isGrey ? "DeviceGray" : "DeviceRGB", kPhotograph), bytes.toStdString()};
+}
+
+PackedPicture Pack(const std::shared_ptr<const Picture>& picture, PixelSize needed)
+{
+    const QImage image = Decoded(picture);
+    const QSize size(std::min(picture->width, needed.width), std::min(picture->height, needed.height));
+    const bool fits = size == QSize(picture->width, picture->height);
+    const bool isPhotograph = picture->format == PictureFormat::Jpeg;
+    const std::string_view colours = isPhotograph ? ColourNameOf(*picture) : "";
+    if (fits && picture->isUpright && !colours.empty())
+        return {ImageDictionary(size, colours, kPhotograph), {picture->bytes.begin(), picture->bytes.end()}};
+    const QImage reduced =
+        fits ? image : image.scaled(size.boundedTo(image.size()), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    return isPhotograph ? AsPhotograph(reduced) : AsPixels(reduced);
+}
+
+/// The pictures packed last, the newest in front. The pages of a job bear the same few.
+class PackedPictures {
+  public:
+    PackedPicture Find(const std::shared_ptr<const Picture>& picture, PixelSize needed)
+    {
+        const std::scoped_lock lock(mutex_);
+        const auto known = std::find_if(entries_.begin(), entries_.end(), [&](const Entry& entry) {
+            return entry.needed == needed && (entry.picture == picture || AreCopies(*entry.picture, *picture));
+        });
+        if (known == entries_.end())
+            entries_.insert(entries_.begin(), {picture, needed, Pack(picture, needed)});
+        else
+            std::rotate(entries_.begin(), known, known + 1);
+        if (entries_.size() > kMostPacked) entries_.pop_back();
+        return entries_.front().packed;
+    }
+
+  private:
+    struct Entry {
+        std::shared_ptr<const Picture> picture;
+        PixelSize needed;
+        PackedPicture packed;
+    };
+
+    std::mutex mutex_;
+    std::vector<Entry> entries_;
+};
 
 }  // namespace
 
-int AddPicture(Objects& objects, const std::shared_ptr<const Picture>& picture)
+PixelSize PixelsFor(double width, double height)
 {
-    const QImage image = Decoded(picture);
-    const std::string_view colours = ColourNameOf(*picture);
-    const bool isWhole = image.size() == QSize(picture->width, picture->height);  // not reduced
-    if (picture->format != PictureFormat::Jpeg || colours.empty() || !isWhole) return AddPixels(objects, image);
-    const std::string_view bytes(reinterpret_cast<const char*>(picture->bytes.data()), picture->bytes.size());
-    return objects.AddStream(ImageDictionary(image.width(), image.height(), colours, "/Filter /DCTDecode"), bytes);
+    const auto dots = [](double twips) {
+        constexpr double kMost = 1e5;
+        return std::max(1, static_cast<int>(std::ceil(std::clamp(twips * kDotsPerTwip, 0.0, kMost))));
+    };
+    return {dots(width), dots(height)};
+}
+
+int AddPicture(Objects& objects, const std::shared_ptr<const Picture>& picture, PixelSize needed)
+{
+    static PackedPictures pictures;
+    PackedPicture packed = pictures.Find(picture, needed);
+    if (!packed.mask.empty())
+        packed.dictionary += " /SMask " + Reference(objects.AddStream(packed.maskDictionary, packed.mask));
+    return objects.AddStream(packed.dictionary, packed.content);
 }
 
 }  // namespace terravane::pdf

@@ -1,13 +1,26 @@
-/// Pictures as objects of a PDF file.
+/// Picture files as objects of a PDF file.
 #pragma once
+
+#include <memory>
 
 #include "drawing/picture.h"
 #include "render/pdf_objects.h"
 
 namespace terravane::pdf {
 
-/// Adds a picture that can be decoded; the number of its object. A JPEG file goes in as it is, any other as
-/// its pixels without loss, with what is seen through in a mask.
-int AddPicture(Objects& objects, const std::shared_ptr<const Picture>& picture);
+/// Pixels across and down.
+struct PixelSize {
+    int width = 0, height = 0;
+
+    bool operator==(const PixelSize&) const = default;
+};
+
+/// The pixels that a place on the page can show, at 600 to the inch. Lengths in twips.
+PixelSize PixelsFor(double width, double height);
+
+/// A picture that can be decoded; the number of its object. A picture with more pixels than `needed` is brought down to
+/// them, a photograph stays one (JPEG), and what its file says of upright is obeyed. May be called from several
+/// threads: the last few pictures are remembered as they were packed.
+int AddPicture(Objects& objects, const std::shared_ptr<const Picture>& picture, PixelSize needed);
 
 }  // namespace terravane::pdf

@@ -28,6 +28,7 @@ void PrintReport(const Program& program, Printer& printer)
 {
     const auto page = [&](int number) { return PrintingOf(program, printer, Medium::Printer, number); };
     const auto& second = ReportOf(program.CurrentTest).second;
+    printer.PageLabel = "cover";
     DrawCoverPage(page(kCover));
     printer.NewPage();
     DrawPage(page(kFirstPage));

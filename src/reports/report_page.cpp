@@ -15,6 +15,12 @@ double Middle(const DrawingSurface& page)
     return kLeft + WholeWidth(page).Width() / 2;
 }
 
+/// Nearer than half a blank two texts read as one.
+double Apart(const DrawingSurface& page)
+{
+    return page.TextWidth(" ") / 2;
+}
+
 void CopyBox(DrawingSurface& page, const PictureBox& box, double x, double y)
 {
     page.PaintPicture(box.Name(), box.Image(), x, y, box.Width, box.Height);
@@ -60,13 +66,13 @@ std::string TextOf(const TestSheet& sheet, std::string_view control)
 
 double UnitLeft(const DrawingSurface& page, double place)
 {
-    return page.CurrentX > place ? page.CurrentX + page.TextWidth(" ") : place;
+    return page.CurrentX + Apart(page) > place ? page.CurrentX + page.TextWidth(" ") : place;
 }
 
 double ColonLeft(const DrawingSurface& page, double place, std::string_view colon, double valueLeft)
 {
     const double width = page.TextWidth(colon.substr(0, colon.find_last_not_of(' ') + 1));
-    return place + width > valueLeft ? valueLeft - page.TextWidth(" ") - width : place;
+    return place + width + Apart(page) > valueLeft ? valueLeft - page.TextWidth(" ") - width : place;
 }
 
 void SetReportFont(DrawingSurface& page)

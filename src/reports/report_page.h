@@ -87,12 +87,13 @@ struct ReportPage : Printing {
     std::string Text(std::string_view control) const { return TextOf(sheet, control); }
 };
 
-/// Where a unit stands behind the value that was printed last: at its place, a blank behind the value where that is
-/// longer than the room in front of the place.
+/// Where a unit stands behind the value that was printed last: at its place, a blank behind the value where that ends
+/// less than half a blank in front of the place, or behind it.
 double UnitLeft(const DrawingSurface& page, double place);
 
 /// Where a colon stands in front of a value that begins at `valueLeft`: at its place, a blank in front of the value
-/// where that reaches back over the colon. colon  with the blanks it is printed with; those behind it count for nothing
+/// where that begins less than half a blank behind the colon. colon  with the blanks it is printed with; those behind
+/// it count for nothing
 double ColonLeft(const DrawingSurface& page, double place, std::string_view colon, double valueLeft);
 
 /// What a page begins with: the reports' font, neither bold nor italic.

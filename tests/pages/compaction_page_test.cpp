@@ -150,19 +150,22 @@ TEST_F(CompactionPage, MoldRowsStandAtTheirStops)
     EXPECT_NEAR(page.Text("Height of Mold").y, Y(1), kTwip);
 }
 
-// The unit stands 500 behind the value's beginning: five digits and a point (477) fit, two digits more don't.
+// The unit stands 500 behind the value's beginning: four digits and a point (390) fit. Five digits (477) would leave 23
+// to the unit, less than half a blank (26): "10.160cm" would read as one.
 TEST_F(CompactionPage, AMoldMeasureThatIsLongerThanItsPlacePushesItsUnit)
 {
     const double place = Printed().Texts("cm").at(0).x;
-    sheet.txtDia.SetText("10.160");
+    sheet.txtDia.SetText("11.56");
     EXPECT_EQ(Printed().Texts("cm").at(0).x, place);
-    sheet.txtDia.SetText("10.16001");
-    const PageMarks page = Printed();
-    const TextItem value = page.Text("10.16001");
-    const double end = value.x + TextWidth(value.font, value.text);
-    EXPECT_NEAR(page.Texts("cm").at(0).x, end + TextWidth(value.font, " "), kTwip);
-    EXPECT_EQ(page.Texts("cm").at(1).x, place) << "The height's stays.";
-    EXPECT_NEAR(page.Text("Height of Mold").y, Y(1), kTwip);
+    for (const char* longer : {"11.562", "10.16001"}) {
+        sheet.txtDia.SetText(longer);
+        const PageMarks page = Printed();
+        const TextItem value = page.Text(longer);
+        const double end = value.x + TextWidth(value.font, value.text);
+        EXPECT_NEAR(page.Texts("cm").at(0).x, end + TextWidth(value.font, " "), kTwip) << longer;
+        EXPECT_EQ(page.Texts("cm").at(1).x, place) << "The height's stays.";
+        EXPECT_NEAR(page.Text("Height of Mold").y, Y(1), kTwip);
+    }
 }
 
 // Between the colon's end and the units there are 607 twips: "12345.67" needs 651.

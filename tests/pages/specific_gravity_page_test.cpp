@@ -116,7 +116,7 @@ TEST_F(SpecificGravityPage, PlotStandsAtTheRight)
     EXPECT_EQ(frame.width, 5900);
     EXPECT_EQ(frame.height, 4300);
     EXPECT_EQ(plot.name, "picgraph1");
-    EXPECT_NEAR(plot.x, 5506 + 900, kTwip);
+    EXPECT_NEAR(plot.x, 5506 + 1120, kTwip) << "room for labels of six digits and two decimals";
     EXPECT_NEAR(plot.y, Y(1) + 300, kTwip);
     EXPECT_EQ(*plot.drawing, *sheet.picgraph1.Image());
 }

@@ -79,7 +79,7 @@ struct frmAtterberg : TestSheet {
     void DrawWaterTicks(const FlowScale& scale);
     StraightLine FitFlowCurve() const;
     void DrawFlowCurve(const FlowScale& scale, const StraightLine& curve);
-    void DrawGuides(const FlowScale& scale, double liquidLimit);
+    void DrawLimit(const FlowScale& scale, double liquidLimit);
     void ReadLimits(const StraightLine& curve);
     double MeanPlasticLimit() const;
     void PostLimits();

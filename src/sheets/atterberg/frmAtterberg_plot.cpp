@@ -1,13 +1,16 @@
 // Plot Graph: the flow curve through the liquid limit trials, its water content at 25 blows, the indices, and the
 // drawing in the sheet's two picture boxes from where the report copies it.
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <vector>
 
+#include "drawing/scopes.h"
 #include "runtime/numbers.h"
 #include "runtime/runtime_error.h"
 #include "sheets/atterberg/frmAtterberg.h"
 #include "sheets/pattern/plot.h"
+#include "sheets/pattern/plot_labels.h"
 #include "sheets/pattern/trial_cells.h"
 
 namespace terravane {
@@ -21,6 +24,10 @@ constexpr double kFlowFrom = 20, kFlowTo = 40;
 constexpr int kTen = 10;          // percent between two lines
 constexpr double kHeadRoom = 10;  // percent above the wettest trial
 constexpr double kCaptionRoom = 30;
+constexpr std::string_view kLimitCaption = " N = 25";
+constexpr std::array kLimitSides{Beside::AboveRight, Beside::BelowLeft};
+
+constexpr AxisTitles kAxes{"Number of Blows", "Water Content , %"};
 
 /// Whole tens in a number of percent, which is rounded to a whole one first, halves to even.
 double WholeTens(double percent)
@@ -43,21 +50,22 @@ double FlowScale::Y(double water) const
 void frmAtterberg::cmdPlot_Click()
 {
     const ShownAtEnd frameShown{picgraph1}, plotShown{picGraph};
-    DrawAxes();
+    ClearPlot(picgraph1, picGraph, kAxes);
+    const AtEnd framed([this] { DrawPlotFrames(picgraph1, picGraph, WholeBox(picGraph)); });
     const FlowScale scale = ScaleOf();
     DrawWaterTicks(scale);
     DrawBlowTicks(scale);
 
     const StraightLine curve = FitFlowCurve();
-    DrawGuides(scale, curve.At(DecimalLogarithm(kLimitBlows)));
     DrawFlowCurve(scale, curve);
+    DrawLimit(scale, curve.At(DecimalLogarithm(kLimitBlows)));
     ReadLimits(curve);
     PostLimits();
 }
 
 void frmAtterberg::DrawAxes()
 {
-    DrawEmptyPlot(picgraph1, picGraph, {"Number of Blows", "Water Content , %"});
+    DrawEmptyPlot(picgraph1, picGraph, kAxes, WholeBox(picGraph));
 }
 
 FlowScale frmAtterberg::ScaleOf() const
@@ -86,6 +94,7 @@ void frmAtterberg::DrawWaterTicks(const FlowScale& scale)
         const double y = scale.height - i * step;
         picGraph.Line(0, y, scale.width, y, kGridGrey);
         if (i % every != 0) continue;
+        DrawTickRight(picgraph1, picGraph, y, scale.width);
         PrintAt(picgraph1, left + scale.width + 2 * kTickRoom, top + y - lineHeight / 2,
                 NumberText(static_cast<double>(i * kTen)));
     }
@@ -95,6 +104,7 @@ void frmAtterberg::PrintBlows(const FlowScale& scale, double blows, double share
 {
     const auto [left, top] = InsetOf(picGraph, picgraph1);
     const std::string text = NumberText(blows);
+    DrawTickBelow(picgraph1, picGraph, scale.X(blows), scale.height);
     PrintAt(picgraph1, left + scale.X(blows) - picgraph1.TextWidth(text) * shareLeft, top + scale.height + kTickRoom,
             text);
 }
@@ -127,22 +137,29 @@ StraightLine frmAtterberg::FitFlowCurve() const
 
 void frmAtterberg::DrawFlowCurve(const FlowScale& scale, const StraightLine& curve)
 {
-    picGraph.Line(0, scale.Y(curve.At(DecimalLogarithm(kFewestBlows))), scale.width,
-                  scale.Y(curve.At(DecimalLogarithm(kMostBlows))), kBlue);
+    {
+        const Stroke stroke(picGraph, plot_pen::kCurve);
+        picGraph.Line(0, scale.Y(curve.At(DecimalLogarithm(kFewestBlows))), scale.width,
+                      scale.Y(curve.At(DecimalLogarithm(kMostBlows))), kBlue);
+    }
+    DrawGuideLines(picGraph, scale.X(kLimitBlows), scale.Y(curve.At(DecimalLogarithm(kLimitBlows))), scale.height);
     std::vector<DrawnPoint> trials;
     for (int trial = 1; HasTrial(MSHLL, trial); ++trial)
         trials.push_back({scale.X(Val(MSHLL(ll::Blows, trial))), scale.Y(Val(MSHLL(ll::WaterContent, trial)))});
     DrawMarks(picGraph, trials);
 }
 
-void frmAtterberg::DrawGuides(const FlowScale& scale, double liquidLimit)
+/// The guides end on the curve, which stays whole; their captions stand over all else.
+void frmAtterberg::DrawLimit(const FlowScale& scale, double liquidLimit)
 {
     const double x = scale.X(kLimitBlows), y = scale.Y(liquidLimit);
-    DrawGuideLines(picGraph, x, y, scale.height);
-    const double lineHeight = picGraph.TextHeight("W");
-    PrintAt(picGraph, x + kCaptionRoom, scale.height - 2 * kCaptionRoom - lineHeight, " N = 25");
-    PrintAt(picGraph, x + 2 * kCaptionRoom, y - 3 * kCaptionRoom - lineHeight,
-            "LL = " + Shown(laboratory::kLiquidLimitBox.is, liquidLimit) + " %");
+    const std::string limit = "LL = " + Shown(laboratory::kLiquidLimitBox.is, liquidLimit) + " %";
+    const double lineHeight = picGraph.TextHeight("W"), low = scale.height - 2 * kCaptionRoom - lineHeight;
+    auto places = PlacesBeside(picGraph, limit, {x, y}, 2 * kCaptionRoom, kLimitSides);
+    places.insert(places.begin(), {x + 2 * kCaptionRoom, y - 3 * kCaptionRoom - lineHeight});
+    const std::array captions{PlotLabel{std::string(kLimitCaption), {x, low}, {{x + kCaptionRoom, low}}},
+                              PlotLabel{limit, {x, y}, places}};
+    PrintLabels(picGraph, {0, 0, scale.width, scale.height}, captions);
     PrintLeftOf(picgraph1, picGraph, y, "LL");
 }
 

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "drawing/scopes.h"
 #include "runtime/numbers.h"
-#include "sheets/pattern/plot.h"
 
 namespace terravane::cbr {
 
@@ -13,7 +13,7 @@ namespace {
 constexpr double kRadius = 30;
 constexpr double kHalfSquare = 25;
 constexpr double kLabelGap = 50;  // between an axis and its labels
-constexpr int kDashed = 1;
+constexpr double kSample = 280;   // of a curve's line in the key
 
 }  // namespace
 
@@ -26,34 +26,35 @@ RisingAxis AxisFor(double greatest, std::span<const AxisStep> steps, double heig
     return {height, step, divisions};
 }
 
-void DrawRisingAxis(PictureBox& frame, PictureBox& plot, const RisingAxis& axis)
+void DrawRisingAxis(PictureBox& frame, PictureBox& plot, const RisingAxis& axis, const GridEdge& edge)
 {
     const int every = LabelEvery(axis.height / axis.divisions, frame.TextHeight("0"));
     for (int division = 0; division <= axis.divisions; division += every) {
         const double value = division * axis.step, y = axis.Y(value);
-        plot.Line(0, y, plot.Width - kBoxMargin, y, kGridGrey);
+        plot.Line(0, y, edge.right, y, kGridGrey);
+        DrawTickLeft(frame, plot, y);
         PrintLeftOf(frame, plot, y, NumberText(value), kLabelGap);
     }
 }
 
-void DrawTick(PictureBox& frame, PictureBox& plot, double x, std::string_view label)
+void DrawTick(PictureBox& frame, PictureBox& plot, double x, std::string_view label, const GridEdge& edge)
 {
-    plot.Line(x, 0, x, plot.Height - kBoxMargin, kGridGrey);
+    plot.Line(x, 0, x, edge.bottom, kGridGrey);
+    DrawTickBelow(frame, plot, x, edge.bottom);
     PrintBelow(frame, plot, x, plot.Height, label, 0);
 }
 
 void DrawMark(DrawingSurface& surface, Mark mark, double x, double y)
 {
-    surface.ForeColor = kBlack;
+    const TextColour black(surface, kBlack);
+    const Stroke stroke(surface, plot_pen::kAxis);
     if (mark == Mark::Square) {
         surface.FilledBox(x - kHalfSquare, y - kHalfSquare, x + kHalfSquare, y + kHalfSquare, kWhite);
         surface.Box(x - kHalfSquare, y - kHalfSquare, x + kHalfSquare, y + kHalfSquare);
         return;
     }
-    surface.FillSolid = true;
-    surface.FillColor = mark == Mark::FilledCircle ? kBlack : kWhite;
+    const Filled filled(surface, mark == Mark::FilledCircle ? kBlack : kWhite);
     surface.Circle(x, y, kRadius);
-    surface.FillSolid = false;
 }
 
 void DrawKey(PictureBox& frame, double top, std::span<const KeyEntry> entries)
@@ -62,19 +63,22 @@ void DrawKey(PictureBox& frame, double top, std::span<const KeyEntry> entries)
     const double width = (frame.Width - 2 * kLabelGap) / static_cast<double>(entries.size());
     double left = kLabelGap;
     for (const KeyEntry& entry : entries) {
-        const double inset = (width - frame.TextWidth(entry.name) - 3 * kRadius) / 2;
-        DrawMark(frame, entry.mark, left + inset, top + line / 2);
-        PrintAt(frame, left + inset + 3 * kRadius, top, entry.name);
+        const double inset = (width - frame.TextWidth(entry.name) - kSample - kRadius) / 2, start = left + inset;
+        {
+            const Stroke stroke(frame, plot_pen::kCurve, entry.style);
+            frame.Line(start, top + line / 2, start + kSample, top + line / 2, kRed);
+        }
+        DrawMark(frame, entry.mark, start + kSample / 2, top + line / 2);
+        PrintAt(frame, start + kSample + kRadius, top, entry.name);
         left += width;
     }
 }
 
-void DrawGuides(DrawingSurface& plot, double x, double y, double bottom)
+void DrawGuides(DrawingSurface& plot, double x, double y, double bottom, int style)
 {
-    plot.DrawStyle = kDashed;
+    const Stroke stroke(plot, plot_pen::kAxis, style);
     plot.Line(x, bottom, x, y, kBlue);
     plot.Line(x, y, 0, y, kBlue);
-    plot.DrawStyle = 0;
 }
 
 }  // namespace terravane::cbr

@@ -5,10 +5,11 @@
 #include <string_view>
 
 #include "controls/picture_box.h"
+#include "sheets/pattern/plot.h"
 
 namespace terravane::cbr {
 
-inline constexpr double kTitleLeft = 60;  // of the turned axis title: the labels take the rest of the margin
+inline constexpr double kTitleLeft = 40;  // of the turned axis title: the labels take the rest of the margin
 
 /// A row of a step table: the first whose bound the greatest value stays below gives the step. The last bound is
 /// infinite.
@@ -49,23 +50,25 @@ struct DensityScale {
     double Y(double value) const { return ratio.Y(value); }
 };
 
-/// Grid lines of an axis on the plot with their labels at its left on the frame, as many as stand apart.
-void DrawRisingAxis(PictureBox& frame, PictureBox& plot, const RisingAxis& axis);
+/// Grid lines of an axis on the plot, as wide as the grid, with their labels at its left on the frame, as many as stand
+/// apart.
+void DrawRisingAxis(PictureBox& frame, PictureBox& plot, const RisingAxis& axis, const GridEdge& edge);
 
 /// A vertical grid line and its label below the plot.
-void DrawTick(PictureBox& frame, PictureBox& plot, double x, std::string_view label);
+void DrawTick(PictureBox& frame, PictureBox& plot, double x, std::string_view label, const GridEdge& edge);
 
 enum class Mark { OpenCircle, FilledCircle, Square };
 void DrawMark(DrawingSurface& surface, Mark mark, double x, double y);
 
-/// Marks and their names along the top of the frame.
+/// A curve's mark, the style of its line and its name, along the top of the frame.
 struct KeyEntry {
     Mark mark;
+    int style;
     std::string_view name;
 };
 void DrawKey(PictureBox& frame, double top, std::span<const KeyEntry> entries);
 
-/// Dashed lines from the bottom axis up to a point of the curve and across to the other axis.
-void DrawGuides(DrawingSurface& plot, double x, double y, double bottom);
+/// Lines of a style from the bottom axis up to a point of the curve and across to the other axis.
+void DrawGuides(DrawingSurface& plot, double x, double y, double bottom, int style);
 
 }  // namespace terravane::cbr

@@ -13,6 +13,7 @@
 #include "laboratory/bearing_ratio.h"
 #include "sheets/cbr/cbr_scales.h"
 #include "sheets/pattern/grids.h"
+#include "sheets/pattern/plot_labels.h"
 #include "sheets/pattern/test_sheet.h"
 
 namespace terravane {
@@ -43,6 +44,14 @@ constexpr StressPair PulledUp(double a, double b)
 {
     return a < 0 ? StressPair{0, b < 0 ? 0 : b} : StressPair{a, b};
 }
+
+/// Where the ratio is read and the stress of the standard stone there.
+struct Standard {
+    result::Row row;
+    double penetration;  // in
+    double stress;       // lb/in²
+    int column;          // of the labels of this depth on the plot
+};
 
 /// What the command for all molds and the label of each do differently.
 struct MoldTask {
@@ -208,14 +217,17 @@ struct frmCBR : TestSheet {
     void DrawEmptyLoadPlot();
     void DrawLoadAxes(const cbr::LoadScale& scale);
     void DrawPenetrationTicks(const cbr::LoadScale& scale);
-    void MarkReadings(const cbr::LoadScale& scale);
-    void DoMold(int mold, const cbr::MoldTask& task);
+    GridEdge GridOfLoads() const;
+    void MarkReadings(const cbr::LoadScale& scale, int mold);
+    void DrawMolds(const cbr::LoadScale& scale, int first, int last, const cbr::MoldTask& task);
+    void DoMold(const cbr::LoadScale& scale, int mold, const cbr::MoldTask& task);
     cbr::TangentPoint ScanCurve() const;
     void DrawCurve(const cbr::LoadScale& scale, const cbr::MoldTask& task);
     void ShiftZero(int mold, const cbr::TangentPoint& tangent);
     void DrawTangent(const cbr::LoadScale& scale, int mold, const cbr::TangentPoint& tangent);
     void ReadValues(const cbr::LoadScale& scale, int mold, const cbr::MoldTask& task);
-    void MarkStress(const cbr::LoadScale& scale, double penetration, double stress);
+    void MarkStress(const cbr::LoadScale& scale, const cbr::Standard& standard, double penetration, double stress);
+    void PrintStresses();
     void DrawLabelled(int mold, bool pullsCurveUp);
     void PostSingleMold();
 
@@ -225,11 +237,15 @@ struct frmCBR : TestSheet {
     void DrawEmptyDensityPlot();
     void DrawDensityAxes(const cbr::DensityScale& scale);
     void DrawDensityTicks(const cbr::DensityScale& scale);
+    void MarkRatios(const cbr::DensityScale& scale, cbr::result::Row row);
     void DrawRatios(const cbr::DensityScale& scale, cbr::result::Row row);
     void DrawOnly(cbr::result::Row row);
     void ReadDesignValue(const cbr::DensityScale& scale);
+    void MarkDesignValue(const cbr::DensityScale& scale, double density, double ratio);
 
-    int spareRow_ = 0;  // of MSHPenetrate1, appended by its editor; 0: none
+    std::vector<PlotLabel> stresses_;   // that stand on the plot of loads
+    std::vector<PlotLabel> unprinted_;  // read by the running command
+    int spareRow_ = 0;                  // of MSHPenetrate1, appended by its editor; 0: none
 };
 
 }  // namespace terravane

@@ -19,15 +19,9 @@ using namespace cbr;
 constexpr int kDegree = 5;
 constexpr double kScanEnd = 0.2;  // in, where the search for the tangent ends
 
-/// Where the ratio is read and the stress of the standard stone there.
-struct Standard {
-    result::Row row;
-    double penetration;  // in
-    double stress;       // lb/in²
-};
 constexpr std::array kStandards{
-    Standard{result::At01, 0.1, 1000},
-    Standard{result::At02, 0.2, 1500},
+    Standard{result::At01, 0.1, 1000, 1},
+    Standard{result::At02, 0.2, 1500, 2},
 };
 
 constexpr MoldTask kAllMolds{.pullsCurveUp = true, .alwaysShifts = false, .writesZero = false};
@@ -45,8 +39,8 @@ void frmCBR::cmdLPen_Click()
     DropSpareRow();
     const LoadScale scale = ScaleOfLoads();
     DrawLoadAxes(scale);
-    MarkReadings(scale);
-    for (int mold = 1; mold <= kMolds; ++mold) DoMold(mold, kAllMolds);
+    const AtEnd framed([this] { DrawPlotFrames(picGraph, picgraph1, GridOfLoads()); });
+    DrawMolds(scale, 1, kMolds, kAllMolds);
     const auto hasDensity = [this](int mold) { return !Trim(mshLPC(result::DryDensity, mold)).empty(); };
     if (hasDensity(2) && hasDensity(3)) SSTData.SetTabEnabled(kValueTab, true);
     if (!SSTData.TabEnabled(kValueTab)) PostSingleMold();
@@ -75,14 +69,23 @@ void frmCBR::DrawLabelled(int mold, bool pullsCurveUp)
 {
     const ShownAtEnd frameShown{picGraph}, plotShown{picgraph1};
     DropSpareRow();
-    DoMold(mold, {.pullsCurveUp = pullsCurveUp, .alwaysShifts = true, .writesZero = true});
+    DrawMolds(ScaleOfLoads(), mold, mold, {.pullsCurveUp = pullsCurveUp, .alwaysShifts = true, .writesZero = true});
 }
 
-void frmCBR::DoMold(int mold, const MoldTask& task)
+/// The curves of molds, and over them their marks and the stresses that were read, also of those before one that fails.
+void frmCBR::DrawMolds(const LoadScale& scale, int first, int last, const MoldTask& task)
+{
+    const AtEnd finished([&] {
+        for (int mold = first; mold <= last; ++mold) MarkReadings(scale, mold);
+        PrintStresses();
+    });
+    for (int mold = first; mold <= last; ++mold) DoMold(scale, mold, task);
+}
+
+void frmCBR::DoMold(const LoadScale& scale, int mold, const MoldTask& task)
 {
     FitMold = mold;
     FitPenetrationCurve();
-    const LoadScale scale = ScaleOfLoads();
     DrawCurve(scale, task);
     const TangentPoint tangent = ScanCurve();
     if (task.alwaysShifts || IsTicked(mold)) {
@@ -156,7 +159,7 @@ void frmCBR::ReadValues(const LoadScale& scale, int mold, const MoldTask& task)
         const double x = origin + standard.penetration;
         const double stress = Stress(x);
         if (stress == 0 && !task.writesZero) continue;
-        MarkStress(scale, x, stress);
+        MarkStress(scale, standard, x, stress);
         TrialCells(mshLPC, laboratory::kBearingRatios, mold).Show(standard.row, stress / standard.stress * 100);
     }
 }

@@ -2,7 +2,9 @@
 #include <algorithm>
 #include <array>
 #include <limits>
+#include <span>
 
+#include "drawing/scopes.h"
 #include "laboratory/masks.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
@@ -33,10 +35,22 @@ constexpr std::array kStressSteps{
 constexpr AxisTitles kAxes{"Penetration, in", "Resistance of Penetration, lb/in^2", kSmallAxisSize, kTitleLeft};
 
 constexpr std::array kKey{
-    KeyEntry{Mark::OpenCircle, kMoldNames[0]},
-    KeyEntry{Mark::FilledCircle, kMoldNames[1]},
-    KeyEntry{Mark::Square, kMoldNames[2]},
+    KeyEntry{Mark::OpenCircle, kSolid, kMoldNames[0]},
+    KeyEntry{Mark::FilledCircle, kDashed, kMoldNames[1]},
+    KeyEntry{Mark::Square, kDashDotted, kMoldNames[2]},
 };
+
+/// The stresses at 0.1 in stand left of their points or below, those at 0.2 in to the right: so they keep out of each
+/// other's way, and of the curves, which rise to the right.
+constexpr double kStressGap = 40;
+constexpr std::array kSidesAt01{Beside::Left, Beside::BelowRight, Beside::BelowLeft, Beside::AboveLeft};
+constexpr std::array kSidesAt02{Beside::Right, Beside::BelowRight, Beside::AboveRight};
+
+/// The guides of the two depths are told apart without their places, too.
+constexpr int GuideStyle(const Standard& standard)
+{
+    return standard.column == 1 ? kDashed : kDotted;
+}
 
 }  // namespace
 
@@ -55,17 +69,21 @@ LoadScale frmCBR::ScaleOfLoads() const
 
 void frmCBR::DrawEmptyLoadPlot()
 {
-    DrawEmptyPlot(picGraph, picgraph1, kAxes);
+    DrawEmptyPlot(picGraph, picgraph1, kAxes, GridOfLoads());
+}
+
+/// The axis of penetrations is as wide as the plot.
+GridEdge frmCBR::GridOfLoads() const
+{
+    return {picgraph1.Width, picgraph1.Height - kBoxMargin};
 }
 
 void frmCBR::DrawLoadAxes(const LoadScale& scale)
 {
-    picGraph.Cls();
-    picgraph1.Cls();
-    PrintAxisTitles(picGraph, picgraph1, kAxes);
-    DrawRisingAxis(picGraph, picgraph1, scale.stress);
+    ClearPlot(picGraph, picgraph1, kAxes);
+    stresses_.clear();
+    DrawRisingAxis(picGraph, picgraph1, scale.stress, GridOfLoads());
     DrawPenetrationTicks(scale);
-    DrawPlotBoxes(picGraph, picgraph1);
     DrawKey(picGraph, (picgraph1.Top - picGraph.TextHeight("M")) / 2, kKey);
 }
 
@@ -76,19 +94,17 @@ void frmCBR::DrawPenetrationTicks(const LoadScale& scale)
     const auto label = [](double tick) { return Format(tick * kTickDistance, kOneDecimal); };
     const int every = LabelEvery(scale.divisionWidth, picGraph.TextWidth(label(Int(scale.divisions))));
     for (int tick = 0; tick <= scale.divisions; tick += every)
-        DrawTick(picGraph, picgraph1, scale.X(tick * kTickDistance), label(tick));
+        DrawTick(picGraph, picgraph1, scale.X(tick * kTickDistance), label(tick), GridOfLoads());
 }
 
 /// A reading that was not taken has no mark.
-void frmCBR::MarkReadings(const LoadScale& scale)
+void frmCBR::MarkReadings(const LoadScale& scale, int mold)
 {
     for (int row = 0; row < MSHPenetrate1.Rows(); ++row) {
         const double x = scale.X(Val(MSHPenetrate1(row, penetration::Depth)));
-        for (int mold = 1; mold <= kMolds; ++mold) {
-            const auto stress = MSHPenetrate1(row, penetration::Stress(mold));
-            if (Trim(stress).empty()) continue;
-            DrawMark(picgraph1, kKey[static_cast<std::size_t>(mold - 1)].mark, x, scale.Y(Val(stress)));
-        }
+        const auto stress = MSHPenetrate1(row, penetration::Stress(mold));
+        if (Trim(stress).empty()) continue;
+        DrawMark(picgraph1, kKey[static_cast<std::size_t>(mold - 1)].mark, x, scale.Y(Val(stress)));
     }
 }
 
@@ -99,6 +115,7 @@ void frmCBR::DrawCurve(const LoadScale& scale, const MoldTask& task)
     const double steps = Int(LastPenetration() / kScanStep);
     RefuseEndless(steps);
     if (std::ranges::all_of(FitCoef, [](double coefficient) { return coefficient == 0; })) return;
+    const Stroke stroke(picgraph1, plot_pen::kCurve, kKey[static_cast<std::size_t>(FitMold - 1)].style);
     std::vector<DrawnPoint> run;
     for (int i = 3; i <= steps; ++i) {
         const double xa = (i - 1) * kScanStep, xb = i * kScanStep;
@@ -119,18 +136,34 @@ void frmCBR::DrawTangent(const LoadScale& scale, int mold, const TangentPoint& t
 {
     const double origin = ZeroShift[static_cast<std::size_t>(mold - 1)];
     const double rise = Divide(kTangentLength * tangent.y, tangent.x - origin);
+    const Stroke stroke(picgraph1, plot_pen::kAxis);
     picgraph1.Line(scale.X(origin), scale.Y(0), scale.X(origin + kTangentLength), scale.Y(rise), kTangentColour);
 }
 
-/// Guides, a small square on the curve and the stress beside it: below the point for the first mold, level with it for
-/// the second, above it for the third, since their curves run close together.
-void frmCBR::MarkStress(const LoadScale& scale, double penetration, double stress)
+/// Guides to a point of the curve; point and stress are printed over the curves. What stands there from an earlier
+/// command is not printed anew.
+void frmCBR::MarkStress(const LoadScale& scale, const Standard& standard, double penetration, double stress)
 {
     const double x = scale.X(penetration), y = scale.Y(stress);
-    DrawGuides(picgraph1, x, y, scale.Y(0));
-    picgraph1.FilledBox(x - kHalfPoint, y - kHalfPoint, x + kHalfPoint, y + kHalfPoint, kBlue);
-    const double lift = picgraph1.TextHeight("0") * (FitMold - 1) / 2;
-    PrintAt(picgraph1, x, y - lift, " " + Format(stress, kTwoDecimals));
+    DrawGuides(picgraph1, x, y, scale.Y(0), GuideStyle(standard));
+    const std::string text = " " + Format(stress, kTwoDecimals);
+    const std::span<const Beside> sides = standard.column == 1 ? std::span<const Beside>(kSidesAt01) : kSidesAt02;
+    const PlotLabel label{
+        text, {x, y}, PlacesBeside(picgraph1, text, {x, y}, kStressGap, sides), false, standard.column};
+    if (std::ranges::find(stresses_, label) == stresses_.end()) unprinted_.push_back(label);
+}
+
+/// A small square on the curve, and the stress beside it.
+void frmCBR::PrintStresses()
+{
+    for (const PlotLabel& label : unprinted_) {
+        const auto [x, y] = label.at;
+        picgraph1.FilledBox(x - kHalfPoint, y - kHalfPoint, x + kHalfPoint, y + kHalfPoint, kBlue);
+    }
+    const GridEdge grid = GridOfLoads();
+    PrintLabels(picgraph1, {0, 0, grid.right, grid.bottom}, unprinted_);
+    stresses_.insert(stresses_.end(), unprinted_.begin(), unprinted_.end());
+    unprinted_.clear();
 }
 
 }  // namespace terravane

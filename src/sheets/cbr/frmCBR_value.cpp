@@ -4,6 +4,7 @@
 #include <array>
 #include <limits>
 
+#include "drawing/scopes.h"
 #include "laboratory/masks.h"
 #include "numeric/polynomial_fit.h"
 #include "numeric/power_fit.h"
@@ -40,17 +41,26 @@ constexpr std::array kRatioSteps{
 struct RatioCurve {
     result::Row row;
     Mark mark;
+    int style;
     std::string_view name;
 };
 constexpr std::array kCurves{
-    RatioCurve{result::At01, Mark::OpenCircle, kRatioAt01},
-    RatioCurve{result::At02, Mark::FilledCircle, kRatioAt02},
+    RatioCurve{result::At01, Mark::OpenCircle, kDashed, kRatioAt01},
+    RatioCurve{result::At02, Mark::FilledCircle, kSolid, kRatioAt02},
 };
 constexpr AxisTitles kValueAxes{"Dry Density, g/cm^3", "California Bearing Ratio, %", kSmallAxisSize, kTitleLeft};
 constexpr std::array kValueKey{
-    KeyEntry{kCurves[0].mark, kCurves[0].name},
-    KeyEntry{kCurves[1].mark, kCurves[1].name},
+    KeyEntry{kCurves[0].mark, kCurves[0].style, kCurves[0].name},
+    KeyEntry{kCurves[1].mark, kCurves[1].style, kCurves[1].name},
 };
+
+/// The value's caption stands where neither curve nor point is, up at the left if it may.
+constexpr std::array kValueSides{Beside::AboveLeft, Beside::AboveRight, Beside::BelowRight, Beside::BelowLeft};
+
+const RatioCurve& CurveOfRow(result::Row row)
+{
+    return *std::ranges::find(kCurves, row, &RatioCurve::row);
+}
 
 /// A density cut to its first characters, so to one decimal.
 double Cut(double density)
@@ -60,6 +70,7 @@ double Cut(double density)
 
 void DrawTriangle(DrawingSurface& plot, double x, double y)
 {
+    const Stroke stroke(plot, plot_pen::kAxis);
     const std::array corners{DrawnPoint{x, y - kHalfMark}, DrawnPoint{x + kHalfMark, y + kHalfMark},
                              DrawnPoint{x - kHalfMark, y + kHalfMark}, DrawnPoint{x, y - kHalfMark}};
     plot.Polyline(corners, kBlue);
@@ -72,7 +83,13 @@ void frmCBR::cmdCBR_Click()
     const ShownAtEnd frameShown{picGraph2}, plotShown{picGraph3};
     const DensityScale scale = ScaleOfDensities();
     DrawDensityAxes(scale);
-    for (const RatioCurve& curve : kCurves) DrawRatios(scale, curve.row);
+    const AtEnd framed([this] { DrawPlotFrames(picGraph2, picGraph3, WithinMargins(picGraph3)); });
+    {
+        const AtEnd marked([&] {
+            for (const RatioCurve& curve : kCurves) MarkRatios(scale, curve.row);
+        });
+        for (const RatioCurve& curve : kCurves) DrawRatios(scale, curve.row);
+    }
     txtCBR.SetText("");
     if (!Trim(cboCBR.Text()).empty() && !Trim(txtMDD.Text()).empty()) ReadDesignValue(scale);
     Post({{"CBR", txtCBR.Text()}});
@@ -93,6 +110,10 @@ void frmCBR::DrawOnly(result::Row row)
     const ShownAtEnd frameShown{picGraph2}, plotShown{picGraph3};
     const DensityScale scale = ScaleOfDensities();
     DrawDensityAxes(scale);
+    const AtEnd finished([&] {
+        MarkRatios(scale, row);
+        DrawPlotFrames(picGraph2, picGraph3, WithinMargins(picGraph3));
+    });
     DrawRatios(scale, row);
 }
 
@@ -138,17 +159,14 @@ DensityScale frmCBR::ScaleOfDensities() const
 
 void frmCBR::DrawEmptyDensityPlot()
 {
-    DrawEmptyPlot(picGraph2, picGraph3, kValueAxes);
+    DrawEmptyPlot(picGraph2, picGraph3, kValueAxes, WithinMargins(picGraph3));
 }
 
 void frmCBR::DrawDensityAxes(const DensityScale& scale)
 {
-    picGraph2.Cls();
-    picGraph3.Cls();
-    PrintAxisTitles(picGraph2, picGraph3, kValueAxes);
-    DrawRisingAxis(picGraph2, picGraph3, scale.ratio);
+    ClearPlot(picGraph2, picGraph3, kValueAxes);
+    DrawRisingAxis(picGraph2, picGraph3, scale.ratio, WithinMargins(picGraph3));
     DrawDensityTicks(scale);
-    DrawPlotBoxes(picGraph2, picGraph3);
     DrawKey(picGraph2, (picGraph3.Top - picGraph2.TextHeight("M")) / 2, kValueKey);
 }
 
@@ -161,20 +179,25 @@ void frmCBR::DrawDensityTicks(const DensityScale& scale)
     const double every = Int(divisions / most) + 1;
     for (double tick = 0; tick <= divisions; tick += every) {
         const double density = scale.first + tick * kDensityTick;
-        DrawTick(picGraph2, picGraph3, scale.X(density), label(density));
+        DrawTick(picGraph2, picGraph3, scale.X(density), label(density), WithinMargins(picGraph3));
     }
 }
 
-/// The points of a row, none for a mold without a ratio, and the parabola through all three, from the first mold's
-/// density to the third's.
-void frmCBR::DrawRatios(const DensityScale& scale, result::Row row)
+/// The points of a row, none for a mold without a ratio.
+void frmCBR::MarkRatios(const DensityScale& scale, result::Row row)
 {
-    const auto curve = std::ranges::find(kCurves, row, &RatioCurve::row);
-    const auto density = [this](int mold) { return Val(mshLPC(result::DryDensity, mold)); };
     for (int mold = 1; mold <= kMolds; ++mold) {
         const auto ratio = mshLPC(row, mold);
-        if (!Trim(ratio).empty()) DrawMark(picGraph3, curve->mark, scale.X(density(mold)), scale.Y(Val(ratio)));
+        if (Trim(ratio).empty()) continue;
+        const double density = Val(mshLPC(result::DryDensity, mold));
+        DrawMark(picGraph3, CurveOfRow(row).mark, scale.X(density), scale.Y(Val(ratio)));
     }
+}
+
+/// The parabola through all three points of a row, from the first mold's density to the third's.
+void frmCBR::DrawRatios(const DensityScale& scale, result::Row row)
+{
+    const auto density = [this](int mold) { return Val(mshLPC(result::DryDensity, mold)); };
     row == result::At01 ? FitDensityCurve01() : FitDensityCurve02();
     const double steps = (density(kMolds) - density(1)) / kDensityStep;
     RefuseEndless(steps);
@@ -183,6 +206,7 @@ void frmCBR::DrawRatios(const DensityScale& scale, result::Row row)
         const double x = density(1) + k * kDensityStep;
         points.push_back({scale.X(x), scale.Y(RatioAt(x))});
     }
+    const Stroke stroke(picGraph3, plot_pen::kCurve, CurveOfRow(row).style);
     picGraph3.Polyline(points, kRed);
 }
 
@@ -192,12 +216,19 @@ void frmCBR::ReadDesignValue(const DensityScale& scale)
     const double density = Val(txtMDD.Text()) * Val(terravane::Left(cboCBR.Text(), kShareDigits)) / 100;
     const double ratio = RatioAt(density);
     txtCBR.SetText(Shown(laboratory::kBearingRatioBox.is, ratio));
+    MarkDesignValue(scale, density, ratio);
+}
+
+void frmCBR::MarkDesignValue(const DensityScale& scale, double density, double ratio)
+{
     const double x = scale.X(density), y = scale.Y(ratio);
-    DrawGuides(picGraph3, x, y, scale.Y(0));
+    DrawGuides(picGraph3, x, y, scale.Y(0), kDashed);
     DrawTriangle(picGraph3, x, y);
     const std::string caption = "CBR Value = " + txtCBR.Text() + "%";
-    PrintAt(picGraph3, std::max(x - picGraph3.TextWidth(caption) - kHalfMark, 0.0), y - picGraph3.TextHeight("C"),
-            caption);
+    const std::array label{
+        PlotLabel{caption, {x, y}, PlacesBeside(picGraph3, caption, {x, y}, kHalfMark, kValueSides)}};
+    const GridEdge grid = WithinMargins(picGraph3);
+    PrintLabels(picGraph3, {0, 0, grid.right, grid.bottom}, label);
 }
 
 }  // namespace terravane

@@ -139,7 +139,7 @@ struct frmCompaction : TestSheet {
     CompactionPeak DrawSpline(const CompactionScale& scale);
     CompactionPeak DrawFit(const CompactionScale& scale, const CompactionPoints& points);
     void MarkPoints(const CompactionScale& scale, const CompactionPoints& points);
-    void DrawGuides(const CompactionScale& scale, CompactionPeak peak);
+    void PrintPeak(const CompactionScale& scale, CompactionPeak peak);
     void DrawAirVoidLine(const CompactionScale& scale);
     void CaptionAirVoidLine();
     void PostPeak();

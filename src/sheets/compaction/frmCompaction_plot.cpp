@@ -1,8 +1,10 @@
 // Compaction Curve: the plot of the trials with the curve through them, its top and the air-void line, drawn
 // into the sheet's two picture boxes from where the report copies it.
 #include <algorithm>
+#include <array>
 #include <cmath>
 
+#include "drawing/scopes.h"
 #include "laboratory/masks.h"
 #include "numeric/polynomial_fit.h"
 #include "runtime/numbers.h"
@@ -10,6 +12,7 @@
 #include "runtime/text.h"
 #include "sheets/compaction/frmCompaction.h"
 #include "sheets/pattern/plot.h"
+#include "sheets/pattern/plot_labels.h"
 #include "sheets/pattern/trial_cells.h"
 
 namespace terravane {
@@ -19,7 +22,6 @@ namespace {
 constexpr int kTicks = 13;
 constexpr double kNothingYet = 9999;  // above every density and water content
 constexpr double kFitStep = 0.001;    // percent of water
-constexpr int kCurveWidth = 2;        // the curve is what the eye shall find first
 
 /// The digits of a step from its decimal point on; whole units are dropped.
 double StepOf(double rawStep)
@@ -34,6 +36,8 @@ int RuleEvery(double percents)
     if (percents > 20) return 4;
     return percents > 10 ? 2 : 1;
 }
+
+constexpr AxisTitles kAxes{"Water Content , %", "Dry Density , g/cm^3"};
 
 /// Each curve's top and the captions of the guide lines.
 struct PeakCaptions {
@@ -52,7 +56,8 @@ double CompactionScale::Y(double value) const
 void frmCompaction::cmdOMC_Click()
 {
     const ShownAtEnd frameShown{picgraph1}, plotShown{picGraph};
-    DrawAxes();
+    ClearPlot(picgraph1, picGraph, kAxes);
+    const AtEnd framed([this] { DrawPlotFrames(picgraph1, picGraph, WholeBox(picGraph)); });
     FillPoints();
     const CompactionPoints points = Points();
     const CompactionScale scale = ScaleOf(points);
@@ -61,8 +66,9 @@ void frmCompaction::cmdOMC_Click()
     const CompactionPeak peak = optInt.Value() ? DrawSpline(scale) : DrawFit(scale, points);
     txtOMC.SetText(Shown(laboratory::kOptimumMoisture.is, peak.water));
     txtDmax.SetText(Shown(laboratory::kMaximumDryDensity.is, peak.density));
+    DrawGuideLines(picGraph, scale.X(peak.water), scale.Y(peak.density), scale.height);
     MarkPoints(scale, points);
-    DrawGuides(scale, peak);
+    const AtEnd labelled([&] { PrintPeak(scale, peak); });
     if (chkSatLine.Value()) {
         DrawAirVoidLine(scale);
         CaptionAirVoidLine();
@@ -72,7 +78,7 @@ void frmCompaction::cmdOMC_Click()
 
 void frmCompaction::DrawAxes()
 {
-    DrawEmptyPlot(picgraph1, picGraph, {"Water Content , %", "Dry Density , g/cm^3"});
+    DrawEmptyPlot(picgraph1, picGraph, kAxes, WholeBox(picGraph));
 }
 
 CompactionScale frmCompaction::ScaleOf(const CompactionPoints& points) const
@@ -105,6 +111,7 @@ void frmCompaction::DrawTicks(const CompactionScale& scale)
         const double y = scale.height - tick * scale.tickHeight;
         picGraph.Line(0, y, scale.width, y, kGridGrey);
         const std::string label = Format(scale.TickDensity(tick), kTwoDecimals);
+        DrawTickRight(picgraph1, picGraph, y, scale.width);
         PrintAt(picgraph1, picgraph1.Width - 200 - picgraph1.TextWidth(label), top + y - lineHeight / 2, label);
     }
     DrawWaterTicks(scale);
@@ -120,16 +127,16 @@ void frmCompaction::DrawWaterTicks(const CompactionScale& scale)
     for (int percent = every; percent <= scale.percents; percent += every) {
         const double x = percent * scale.percentWidth;
         picGraph.Line(x, 0, x, scale.height, kGridGrey);
-        if (percent % labelled == 0)
-            PrintBelow(picgraph1, picGraph, x, scale.height, NumberText(scale.firstWater + percent));
+        if (percent % labelled != 0) continue;
+        DrawTickBelow(picgraph1, picGraph, x, scale.height);
+        PrintBelow(picgraph1, picGraph, x, scale.height, NumberText(scale.firstWater + percent));
     }
 }
 
 void frmCompaction::DrawCurve(const std::vector<DrawnPoint>& curve)
 {
-    picGraph.DrawWidth = kCurveWidth;
+    const Stroke stroke(picGraph, plot_pen::kCurve);
     picGraph.Polyline(curve, kBlue);
-    picGraph.DrawWidth = 1;
 }
 
 /// The highest row of the spline's table; of equal ones the last.
@@ -176,16 +183,20 @@ void frmCompaction::MarkPoints(const CompactionScale& scale, const CompactionPoi
     DrawMarks(picGraph, marks);
 }
 
-void frmCompaction::DrawGuides(const CompactionScale& scale, CompactionPeak peak)
+/// On the guides, over all else. A caption that would be cut at the plot's edge goes to the other side of its guide.
+void frmCompaction::PrintPeak(const CompactionScale& scale, CompactionPeak peak)
 {
     const double x = scale.X(peak.water), y = scale.Y(peak.density);
-    DrawGuideLines(picGraph, x, y, scale.height);
     const auto& captions = optInt.Value() ? kSplineCaptions : kFitCaptions;
-    const double lineHeight = picGraph.TextHeight("W");
-    PrintAt(picGraph, 30, y - lineHeight,
-            std::string(captions.density) + Shown(laboratory::kMaximumDryDensity.is, peak.density) + " g/cm^3");
-    PrintAt(picGraph, x + 30, scale.height - 30 - lineHeight,
-            std::string(captions.water) + Shown(laboratory::kOptimumMoisture.is, peak.water) + " %");
+    const std::string density =
+        std::string(captions.density) + Shown(laboratory::kMaximumDryDensity.is, peak.density) + " g/cm^3";
+    const std::string water = std::string(captions.water) + Shown(laboratory::kOptimumMoisture.is, peak.water) + " %";
+    const double lineHeight = picGraph.TextHeight("W"), low = scale.height - 30 - lineHeight;
+    const std::array captionsOnPlot{
+        PlotLabel{density, {30, y}, {{30, y - lineHeight}}, true},
+        PlotLabel{water, {x, low}, {{x + 30, low}, {x - 30 - picGraph.TextWidth(water), low}}, true},
+    };
+    PrintLabels(picGraph, {0, 0, scale.width, scale.height}, captionsOnPlot);
 }
 
 /// Where soil of this specific gravity would have the chosen air voids: a row of dots, close enough to read
@@ -199,6 +210,7 @@ void frmCompaction::DrawAirVoidLine(const CompactionScale& scale)
     const double saturation = (100 - Val(voids.substr(0, percentSign))) / 100;
     const double high = scale.TickDensity(kTicks), low = scale.TickDensity(1);
     const double dots = Int((high - low) / 0.0001);
+    const Stroke stroke(picGraph, plot_pen::kDots);
     for (int k = 1; k <= dots; ++k) {
         const double dryDensity = high - (high - low) * k / 1000;
         const double water = 100 * (Divide(saturation, dryDensity) - Divide(saturation, gravity));

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "drawing/scopes.h"
 #include "runtime/numbers.h"
 #include "runtime/runtime_error.h"
 
@@ -11,6 +12,15 @@ namespace terravane {
 namespace {
 
 constexpr double kMarkRadius = 40;
+constexpr double kTickLength = 30;
+
+/// A line in the plot's coordinates on the frame around it.
+void LineOnFrame(PictureBox& frame, const PictureBox& plot, const DrawnPoint& from, const DrawnPoint& to)
+{
+    const auto [left, top] = InsetOf(plot, frame);
+    const Stroke stroke(frame, plot_pen::kAxis);
+    frame.Line(left + from.x, top + from.y, left + to.x, top + to.y, kBlack);
+}
 
 }  // namespace
 
@@ -70,38 +80,77 @@ void PrintLeftOf(PictureBox& frame, const PictureBox& plot, double y, std::strin
 
 void DrawGuideLines(DrawingSurface& plot, double x, double y, double bottom)
 {
+    const Stroke stroke(plot, plot_pen::kAxis);
     plot.Line(x, y, x, bottom, kRed);
     plot.Line(x, y, 0, y, kRed);
 }
 
-void DrawPlotBoxes(PictureBox& frame, PictureBox& plot)
+GridEdge WholeBox(const PictureBox& plot)
 {
-    plot.DrawWidth = 1;
-    plot.ForeColor = kBlack;
-    plot.Box(0, 0, plot.Width - kBoxMargin, plot.Height - kBoxMargin);
-    frame.DrawWidth = 2;
-    frame.Box(10, 10, frame.Width - 80, frame.Height - 80);
-    frame.DrawWidth = 1;
+    return {plot.Width, plot.Height};
 }
 
-void DrawEmptyPlot(PictureBox& frame, PictureBox& plot, const AxisTitles& titles)
+GridEdge WithinMargins(const PictureBox& plot)
+{
+    return {plot.Width - kBoxMargin, plot.Height - kBoxMargin};
+}
+
+/// The outer line lies on the frame's very edge, as far inside as its own half weight.
+void DrawPlotFrames(PictureBox& frame, PictureBox& plot, const GridEdge& edge)
+{
+    constexpr double kHalfWeight = 5;
+    const auto [left, top] = InsetOf(plot, frame);
+    const Stroke onFrame(frame, plot_pen::kAxis), onPlot(plot, plot_pen::kAxis);
+    const TextColour blackFrame(frame, kBlack), blackPlot(plot, kBlack);
+    frame.Box(left, top, left + edge.right, top + edge.bottom);
+    plot.Box(0, 0, edge.right, edge.bottom);
+    frame.Box(kHalfWeight, kHalfWeight, frame.Width - kHalfWeight, frame.Height - kHalfWeight);
+}
+
+void ClearPlot(PictureBox& frame, PictureBox& plot, const AxisTitles& titles)
 {
     frame.Cls();
     plot.Cls();
     PrintAxisTitles(frame, plot, titles);
-    DrawPlotBoxes(frame, plot);
+}
+
+void DrawEmptyPlot(PictureBox& frame, PictureBox& plot, const AxisTitles& titles, const GridEdge& edge)
+{
+    ClearPlot(frame, plot, titles);
+    DrawPlotFrames(frame, plot, edge);
+}
+
+/// In the margin the tick lies on the plot.
+void DrawTickBelow(PictureBox& frame, PictureBox& plot, double x, double bottom)
+{
+    const DrawnPoint from{x, bottom}, to{x, bottom + kTickLength};
+    if (bottom >= plot.Height) {
+        LineOnFrame(frame, plot, from, to);
+        return;
+    }
+    const Stroke stroke(plot, plot_pen::kAxis);
+    plot.Line(from.x, from.y, to.x, to.y, kBlack);
+}
+
+void DrawTickLeft(PictureBox& frame, PictureBox& plot, double y)
+{
+    LineOnFrame(frame, plot, {-kTickLength, y}, {0, y});
+}
+
+void DrawTickRight(PictureBox& frame, PictureBox& plot, double y, double right)
+{
+    LineOnFrame(frame, plot, {right, y}, {right + kTickLength, y});
 }
 
 void DrawMarks(DrawingSurface& plot, std::span<const DrawnPoint> points)
 {
-    plot.ForeColor = kBlack;
-    plot.FillSolid = true;
-    plot.FillColor = kWhite;
+    const Stroke stroke(plot, plot_pen::kAxis);
+    const TextColour black(plot, kBlack);
+    const Filled filled(plot, kWhite);
     for (const DrawnPoint& point : points) {
         plot.PSet(point.x, point.y, kBlack);
         plot.Circle(point.x, point.y, kMarkRadius);
     }
-    plot.FillSolid = false;
 }
 
 void DrawOutline(PictureBox& frame, const PictureBox& plot)

@@ -5,6 +5,7 @@
 #include <optional>
 #include <span>
 #include <string_view>
+#include <utility>
 
 #include "controls/picture_box.h"
 
@@ -60,17 +61,45 @@ void PrintBelow(PictureBox& frame, const PictureBox& plot, double x, double bott
 /// A label on the frame, left of the plot and level with a line of it.
 void PrintLeftOf(PictureBox& frame, const PictureBox& plot, double y, std::string_view label, double room = kTickRoom);
 
+/// The weights of all plots, in draw widths of a quarter point. A printer of 300 dots to the inch with one ink shows
+/// the thinnest of them as a line of one dot.
+namespace plot_pen {
+inline constexpr int kGrid = 1;
+inline constexpr int kAxis = 2;  // frames, ticks, guides and the outlines of marks
+inline constexpr int kDots = 3;  // of a line made of dots
+inline constexpr int kCurve = 4;
+}  // namespace plot_pen
+
 /// Red lines from a point of the curve down to one axis and across to the other.
 void DrawGuideLines(DrawingSurface& plot, double x, double y, double bottom);
 
-/// Room that the box around a plot leaves at the plot's right and bottom.
+/// Room that some plots leave between their grid and their box, at the right or below.
 inline constexpr double kBoxMargin = 50;
 
-/// The boxes around plot and frame; the plot's is thin, the frame's thick.
-void DrawPlotBoxes(PictureBox& frame, PictureBox& plot);
+/// Where a plot's grid ends: a width and a height from its upper left corner.
+struct GridEdge {
+    double right, bottom;
+};
 
-/// What stands in the boxes before a curve is drawn: nothing but the boxes and the axis titles.
-void DrawEmptyPlot(PictureBox& frame, PictureBox& plot, const AxisTitles& titles);
+/// The whole box.
+GridEdge WholeBox(const PictureBox& plot);
+/// What the margins leave of it.
+GridEdge WithinMargins(const PictureBox& plot);
+
+/// The line around the grid and that around the frame, in one weight. The plot's lies half on the frame, where it
+/// stands on the plot's edge, and is drawn on both; so all its sides are equal.
+void DrawPlotFrames(PictureBox& frame, PictureBox& plot, const GridEdge& edge);
+
+/// Nothing but the axis titles, as what every plot begins with.
+void ClearPlot(PictureBox& frame, PictureBox& plot, const AxisTitles& titles);
+
+/// What stands in the boxes before a curve is drawn: nothing but the frames and the axis titles.
+void DrawEmptyPlot(PictureBox& frame, PictureBox& plot, const AxisTitles& titles, const GridEdge& edge);
+
+/// Short lines outside the plot's frame, on the frame or in the margin, where a label stands.
+void DrawTickBelow(PictureBox& frame, PictureBox& plot, double x, double bottom);
+void DrawTickLeft(PictureBox& frame, PictureBox& plot, double y);
+void DrawTickRight(PictureBox& frame, PictureBox& plot, double y, double right);
 
 /// A dot with a white circle around it at each point, black; what lies below is hidden.
 void DrawMarks(DrawingSurface& plot, std::span<const DrawnPoint> points);
@@ -80,6 +109,20 @@ void DrawOutline(PictureBox& frame, const PictureBox& plot);
 
 /// Error 7 for a curve or an axis of more than kMostSteps steps.
 void RefuseEndless(double steps);
+
+/// Does something when its scope ends, however it ends: what stands over the curves is drawn last, also where a command
+/// failed half way and shows what it came to.
+template <class Last>
+class [[nodiscard]] AtEnd {
+  public:
+    explicit AtEnd(Last last) : last_(std::move(last)) {}
+    ~AtEnd() { last_(); }
+    AtEnd(const AtEnd&) = delete;
+    AtEnd& operator=(const AtEnd&) = delete;
+
+  private:
+    Last last_;
+};
 
 /// Tells the views when the command ends, however it ends: a plot that failed shows what was drawn.
 struct ShownAtEnd {

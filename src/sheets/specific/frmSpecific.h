@@ -57,8 +57,8 @@ struct frmSpecific : TestSheet {
     TextBox txtFormula{*this, laboratory::kCalibrationFormula};
     TextBox txtR{*this, laboratory::kCalibrationRSquared};
 
-    PictureBox picGraph{*this, "picGraph", 60, 0, 5900, 4300};       // tick labels and axis titles
-    PictureBox picgraph1{*this, "picgraph1", 900, 300, 4750, 3200};  // the plot, standing in it
+    PictureBox picGraph{*this, "picGraph", 60, 0, 5900, 4300};        // tick labels and axis titles
+    PictureBox picgraph1{*this, "picgraph1", 1120, 300, 4530, 3200};  // the plot, standing in it
 
     void Form_Load() override;
 

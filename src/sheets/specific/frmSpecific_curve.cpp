@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "drawing/scopes.h"
 #include "runtime/numbers.h"
 #include "runtime/runtime_error.h"
 #include "sheets/pattern/plot.h"
@@ -22,6 +23,9 @@ constexpr double kEndRoom = 0.08;     // of the readings' range, at each end of 
 constexpr std::string_view kMassMask = "000.00";
 constexpr std::string_view kTemperatureMask = "#00.00";
 constexpr std::string_view kDeterminationMask = "#0.0000";
+
+constexpr AxisTitles kAxes{"Temperature (Degree Celsius)", "Weight of Water + Flask (g)", kSmallAxisSize,
+                           kTurnedTitleLeft};
 
 constexpr std::array kModels{CalibrationModel::Exponential, CalibrationModel::Linear, CalibrationModel::Polynomial};
 
@@ -70,7 +74,8 @@ void frmSpecific::cmdgraph_Click()
 void frmSpecific::PlotCalibration()
 {
     const ShownAtEnd frameShown{picGraph}, plotShown{picgraph1};
-    DrawAxes();
+    ClearPlot(picGraph, picgraph1, kAxes);
+    const AtEnd framed([this] { DrawPlotFrames(picGraph, picgraph1, WithinMargins(picgraph1)); });
     const CalibrationReadings readings = Readings();
     const CalibrationScale scale = ScaleOf(readings);
     DrawTemperatureTicks(scale);
@@ -127,8 +132,7 @@ CalibrationScale frmSpecific::ScaleOf(const CalibrationReadings& readings) const
 /// The title beside the mass axis stands at the frame's edge: the labels need the room next to the plot.
 void frmSpecific::DrawAxes()
 {
-    DrawEmptyPlot(picGraph, picgraph1,
-                  {"Temperature (Degree Celsius)", "Weight of Water + Flask (g)", kSmallAxisSize, kTurnedTitleLeft});
+    DrawEmptyPlot(picGraph, picgraph1, kAxes, WithinMargins(picgraph1));
 }
 
 /// A label at the axis's end is kept inside the frame; one that would stand on the label before it is left out.
@@ -143,6 +147,7 @@ void frmSpecific::DrawTemperatureTicks(const CalibrationScale& scale)
         const double width = picGraph.TextWidth(label), farthest = picGraph.Width - kFrameRoom - width;
         const double start = std::min(left + x - width / 2, farthest);
         if (start < lastEnd) continue;
+        DrawTickBelow(picGraph, picgraph1, x, scale.height);
         PrintAt(picGraph, start, top + scale.height + kTickRoom, label);
         lastEnd = start + width;
     }
@@ -153,6 +158,7 @@ void frmSpecific::DrawMassTicks(const CalibrationScale& scale)
     for (const double grams : scale.mass.Ticks()) {
         const double y = scale.Y(grams);
         picgraph1.Line(0, y, scale.width, y, kGridGrey);
+        DrawTickLeft(picGraph, picgraph1, y);
         PrintLeftOf(picGraph, picgraph1, y, Format(grams, kMassMask));
     }
 }
@@ -175,6 +181,7 @@ void frmSpecific::DrawCurve(const CalibrationScale& scale, const CalibrationRead
     const auto draw = [&](double celsius) { curve.push_back({scale.X(celsius), scale.Y(curve_.At(celsius))}); };
     for (int k = 0; k <= steps; ++k) draw(coldest + k * kCurveStep);
     if (coldest + steps * kCurveStep < warmest) draw(warmest);
+    const Stroke stroke(picgraph1, plot_pen::kCurve);
     picgraph1.Polyline(curve, kBlue);
 }
 

@@ -79,8 +79,8 @@ TEST_F(WrittenPdf, HasPagesOfTheirListsSizes)
     WritePdf(files_, PathOf("report.pdf"), Report(), "Test of Soil");
     const std::string info = Said("pdfinfo -f 1 -l 2 " + PathOf("report.pdf"));
     EXPECT_TRUE(Contains(info, "Pages:           2")) << info;
-    EXPECT_TRUE(Contains(info, "Page    1 size:  595 x 842 pts (A4)")) << info;
-    EXPECT_TRUE(Contains(info, "Page    2 size:  842 x 595 pts (A4)")) << info;
+    EXPECT_TRUE(Contains(info, "Page    1 size:  595.276 x 841.89 pts (A4)")) << info;
+    EXPECT_TRUE(Contains(info, "Page    2 size:  841.89 x 595.276 pts (A4)")) << info;
     EXPECT_TRUE(Contains(info, "Title:           Test of Soil")) << info;
     EXPECT_TRUE(Contains(info, "Creator:         Terravane")) << info;
 }

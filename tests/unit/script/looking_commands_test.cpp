@@ -93,7 +93,7 @@ TEST_F(LookingCommands, PreviewTellsItsPageAndIsRendered)
 
 TEST_F(LookingCommands, PictureBoxesTellTheirItems)
 {
-    EXPECT_EQ(RunOnSheet("picture picGraph\n").Text(), "{\"box\":[0,0,5400,3950],\"width\":1,\"colour\":\"#000000\"}\n")
+    EXPECT_EQ(RunOnSheet("picture picGraph\n").Text(), "{\"box\":[0,0,5450,4000],\"width\":2,\"colour\":\"#000000\"}\n")
         << "Before the curve stands the empty frame.";
     EXPECT_NE(RunOnSheet("click cmdCal\nclick cmdOMC\npicture picgraph1\n").Text().find("{\"text\":"),
               std::string::npos)

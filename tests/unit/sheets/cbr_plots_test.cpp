@@ -97,25 +97,59 @@ TEST_F(CbrPlots, TheRatioAxisHasTheStepOfItsGreatestRatio)
     }
 }
 
-// Curves of three molds run close together: the captions of the second stand half a line (97.35) higher beside their
-// points, those of the third a whole one (194.7).
-TEST_F(CbrPlots, StressCaptionsRiseFromMoldToMold)
+// Solid, dashed, dash and dot; the guides at 0.1 in are dashed, those at 0.2 in dotted.
+TEST_F(CbrPlots, CurvesAndGuidesAreToldApartWithoutColour)
+{
+    sheet.cmdPen.Press();
+    for (const int mold : {1, 2, 3}) Load(mold, std::to_string(4 + mold));
+    Draw();
+    std::vector<int> styles;
+    for (const PolylineItem& curve : ItemsOf<PolylineItem>(sheet.picgraph1.Items())) {
+        EXPECT_EQ(curve.pen.width, 4) << "A whole point.";
+        if (styles.empty() || styles.back() != curve.pen.style) styles.push_back(curve.pen.style);
+    }
+    EXPECT_EQ(styles, (std::vector{0, 1, 3}));
+    int dashed = 0, dotted = 0;
+    for (const LineItem& line : ItemsOf<LineItem>(sheet.picgraph1.Items())) {
+        dashed += line.pen.style == 1 ? 1 : 0;
+        dotted += line.pen.style == 2 ? 1 : 0;
+    }
+    EXPECT_EQ(dashed, 6);
+    EXPECT_EQ(dotted, 6);
+}
+
+TEST_F(CbrPlots, MarksStandOverTheirCurves)
 {
     sheet.cmdPen.Press();
     for (const int mold : {1, 2, 3}) Load(mold, "5");
     Draw();
-    const std::array labels{&sheet.lblMold1, &sheet.lblMold2, &sheet.lblMold3};
-    for (int mold = 1; mold <= 3; ++mold) {
-        sheet.picgraph1.Cls();
-        labels[static_cast<std::size_t>(mold) - 1]->Press();
-        const auto captions = ItemsOf<TextItem>(sheet.picgraph1.Items());
-        auto guides = ItemsOf<LineItem>(sheet.picgraph1.Items());
-        std::erase_if(guides, [](const LineItem& line) { return line.y1 != line.y2; });  // those across stay
-        ASSERT_EQ(captions.size(), 2U);
-        ASSERT_EQ(guides.size(), 2U);
-        for (std::size_t i = 0; i < 2; ++i)
-            EXPECT_NEAR(captions[i].y, guides[i].y1 - 97.35 * (mold - 1), 0.01) << "Mold " << mold;
-    }
+    const auto& items = sheet.picgraph1.Items();
+    const auto isCurve = [](const DrawnItem& item) { return std::holds_alternative<PolylineItem>(item); };
+    const auto isMark = [](const DrawnItem& item) { return std::holds_alternative<CircleItem>(item); };
+    const auto lastCurve = std::find_if(items.rbegin(), items.rend(), isCurve).base();
+    EXPECT_EQ(std::count_if(items.begin(), lastCurve, isMark), 0);
+    EXPECT_EQ(std::count_if(lastCurve, items.end(), isMark), 18) << "Nine of each of the first two molds.";
+}
+
+// No curve is drawn of a mold that can't be fitted, here one with fewer than five different penetrations.
+TEST_F(CbrPlots, MarksAndFrameStandAlsoWhereTheFitFails)
+{
+    sheet.txtK.Type("3");
+    TypePenetrations(sheet, {"0", "0.1", "0.2"});
+    TypeDials(sheet, 1, {"0", "10", "15"});
+    Draw();
+    EXPECT_EQ(lab.ask.errors.size(), 1U);
+    EXPECT_EQ(ItemsOf<CircleItem>(sheet.picgraph1.Items()).size(), 3U);
+    EXPECT_EQ(ItemsOf<BoxItem>(sheet.picgraph1.Items()).size(), 1U);
+}
+
+TEST_F(CbrPlots, AMoldsLabelPressedAgainPrintsNoStressTwice)
+{
+    TypeSingleMold(sheet, kSandyDials);
+    Draw();
+    const auto before = ItemsOf<TextItem>(sheet.picgraph1.Items()).size();
+    sheet.lblMold1.Press();
+    EXPECT_EQ(ItemsOf<TextItem>(sheet.picgraph1.Items()).size(), before);
 }
 
 TEST_F(CbrPlots, AMoldWithoutReadingsHasNoMarksNoCurveAndNoGuides)
@@ -127,8 +161,9 @@ TEST_F(CbrPlots, AMoldWithoutReadingsHasNoMarksNoCurveAndNoGuides)
     EXPECT_EQ(ItemsOf<CircleItem>(sheet.picgraph1.Items()).size(), 12U) << "The first mold's twelve readings.";
     EXPECT_EQ(ItemsOf<BoxItem>(sheet.picgraph1.Items()).size(), 1U) << "The plot's own; the third mold has squares.";
     EXPECT_EQ(ItemsOf<PolylineItem>(sheet.picgraph1.Items()).size(), 1U);
-    EXPECT_EQ(std::ranges::count(lines, 1, [](const LineItem& line) { return line.pen.style; }), 4)
-        << "Up and across at both depths.";
+    for (const int style : {1, 2})
+        EXPECT_EQ(std::ranges::count(lines, style, [](const LineItem& line) { return line.pen.style; }), 2)
+            << "Up and across at each depth.";
     EXPECT_EQ(RatiosOf(sheet, At01), "7.3|9.9|") << "Its cells stay as they are.";
 }
 

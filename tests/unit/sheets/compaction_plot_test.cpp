@@ -222,12 +222,12 @@ TEST_F(CompactionPlot, FramesBothPictures)
     const auto plot = ItemsOf<BoxItem>(sheet->picGraph);
     const auto frame = ItemsOf<BoxItem>(sheet->picgraph1);
     ASSERT_EQ(plot.size(), 1U);
-    ASSERT_EQ(frame.size(), 1U);
+    ASSERT_EQ(frame.size(), 2U);
     EXPECT_EQ((std::vector{plot[0].x1, plot[0].y1, plot[0].x2, plot[0].y2}),
-              (std::vector{0.0, 0.0, sheet->picGraph.Width - 50, sheet->picGraph.Height - 50}));
-    EXPECT_EQ((std::vector{frame[0].x1, frame[0].y1, frame[0].x2, frame[0].y2}),
-              (std::vector{10.0, 10.0, sheet->picgraph1.Width - 80, sheet->picgraph1.Height - 80}));
-    EXPECT_EQ(frame[0].pen.width, 2);
+              (std::vector{0.0, 0.0, sheet->picGraph.Width, sheet->picGraph.Height}));
+    EXPECT_EQ((std::vector{frame[1].x1, frame[1].y1, frame[1].x2, frame[1].y2}),
+              (std::vector{5.0, 5.0, sheet->picgraph1.Width - 5, sheet->picgraph1.Height - 5}));
+    for (const BoxItem& box : {plot[0], frame[0], frame[1]}) EXPECT_EQ(box.pen.width, 2);
 }
 
 TEST_F(CompactionPlot, DrawsTheSameTwice)
