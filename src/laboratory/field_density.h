@@ -202,12 +202,15 @@ inline constexpr Option kFieldCompactions[]{{"optStd", "Standard Compaction", "S
 inline constexpr std::string_view kFieldTabs[]{"Calibration of Sand", "Soil and Volume of Hole",
                                                "Water Content and Compaction"};
 
+inline constexpr std::string_view kFieldCommands[]{"cmdCal"};
+
 inline constexpr Sheet kFieldSheet{
     .form = "frmDensity",
     .caption = "Field Density Test",
     .tabs = kFieldTabs,
     .boxes = kFieldBoxes,
     .grids = kFieldGrids,
+    .commands = kFieldCommands,
     .choice = {{.kept = "comp", .place = 20}, kFieldCompactions},
     .closing = {.beforeFile = 4, .beforeSheet = 1},
 };

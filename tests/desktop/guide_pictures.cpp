@@ -16,6 +16,7 @@
 
 #include "desktop/desktop_fixture.h"
 #include "desktop/looks.h"
+#include "program/failure_notice.h"
 
 namespace {
 
@@ -227,7 +228,8 @@ class Guide {
 
     QWidget& Part(Form& form, const char* control)
     {
-        if (auto* part = desktop_->WindowOf(form)->findChild<QWidget*>(control)) return *part;
+        for (QWidget* window : {desktop_->WindowOf(form), &Window("mdiBack")})
+            if (auto* part = window->findChild<QWidget*>(control)) return *part;
         throw RuntimeError(error::kObjectRequired, form.Name() + " shows no " + control);
     }
 
@@ -292,11 +294,20 @@ class Guide {
         show();
     }
 
+    /// The bar with what a compaction calculation says that has no mould.
+    void Notice()
+    {
+        FormNamed("mdiBack").Get<Toolbar>("tbrLab").PressItem("mnuStd1");
+        program_.notices.Tell(
+            FailureNotice(program_, "frmCompaction.cmdCal_Click", RuntimeError(error::kDivisionByZero)));
+        Settle();
+        Keep(*Window("mdiBack").findChild<QWidget*>("noticeBar"), "notice-failure");
+        program_.notices.Settle("frmCompaction.cmdCal_Click");
+    }
+
     void Boxes()
     {
-        KeepBox("box-run-time-error", [this] {
-            surroundings_.QtSurroundings::Fail("frmCompaction.cmdCal_Click", RuntimeError(error::kDivisionByZero));
-        });
+        Notice();
         KeepBox("box-erase", [this] {
             surroundings_.QtSurroundings::Show(
                 {"คุณต้องการลบข้อมูลคอมลัมภ์นี้ใช่หรือไม่?", "ยืนยันการลบ", MessageStyle::Plain, MessageButtons::OkCancel});
