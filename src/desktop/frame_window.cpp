@@ -206,8 +206,7 @@ bool FrameWindow::eventFilter(QObject* watched, QEvent* event)
     constexpr int kChipRoom = 148;
     if (watched == area_ && event->type() == QEvent::Resize) {
         notices_->setGeometry(0, 0, area_->width() - kChipRoom, looks::kBannerHeight);
-        start_->adjustSize();
-        start_->move((area_->width() - start_->width()) / 2, (area_->height() - start_->height()) / 3);
+        start_->Settle();
     }
     return SettledWindow<QMainWindow>::eventFilter(watched, event);
 }
@@ -303,7 +302,7 @@ void SheetWindow::AddChip()
     row->addStretch();
     row->addWidget(chip);
     chip->setFrameShape(QFrame::Box);
-    chip->setContentsMargins(looks::kGap, 0, looks::kGap, 0);
+    chip->setContentsMargins(looks::kGap, 1, looks::kGap, 1);  // the frame is drawn inside them
     chip->setFixedHeight(looks::kBannerHeight - 12);
     bindings_.push_back(banner.Show([this, chip, view] {
         QTimer::singleShot(0, chip, [this, chip, view] {  // the banner is written before the material is chosen

@@ -13,6 +13,7 @@
 #include "desktop/looks.h"
 #include "desktop/qt_text.h"
 #include "runtime/machine.h"
+#include "runtime/text.h"
 
 namespace terravane {
 
@@ -63,6 +64,14 @@ StartPage::StartPage(Program& program, Form& frame, QWidget* parent) : QWidget(p
     bindings_.push_back(form_.Get<Toolbar>("tbrLab").Show([this] { Follow(); }));
 }
 
+void StartPage::Settle()
+{
+    layout()->activate();
+    adjustSize();
+    const QSize room = parentWidget()->size();
+    move((room.width() - width()) / 2, (room.height() - height()) / 3);
+}
+
 QPushButton* StartPage::Add(QVBoxLayout& column, const QString& name, const QString& text)
 {
     auto* button = new QPushButton(text, this);
@@ -79,8 +88,9 @@ void StartPage::AddRecent(QVBoxLayout& column)
     auto& command = form_.Get<MenuEntry>("mnuRecent");
     connect(recent_, &QPushButton::clicked, this, [&command] { command.Press(); });
     bindings_.push_back(command.Show([this, &command] {
-        recent_->setText(RecentWords(QFileInfo(ToQt(command.Caption()))));
+        recent_->setText(RecentWords(QFileInfo(ToQt(Printable(command.Caption())))));
         recent_->setVisible(command.Visible());
+        Settle();
     }));
 }
 

@@ -16,6 +16,9 @@ class StartPage : public QWidget {
   public:
     StartPage(Program& program, Form& frame, QWidget* parent);
 
+    /// Stands the page in the upper middle of its parent, as high as it has to be.
+    void Settle();
+
   private:
     QPushButton* Add(QVBoxLayout& column, const QString& name, const QString& text);
     void AddRecent(QVBoxLayout& column);

@@ -9,7 +9,6 @@
 #include "laboratory/tests.h"
 #include "program/cell_words.h"
 #include "program/next_command.h"
-#include "program/program.h"
 #include "runtime/numbers.h"
 
 namespace terravane {
@@ -22,19 +21,14 @@ using laboratory::Box;
 using laboratory::KeptColumn;
 using laboratory::Sheet;
 
-/// "frmCompaction.cmdCal_Click" in its parts; a command of no form has its words in front of the point alone.
-struct Event {
-    std::string_view form, control;
-
-    explicit Event(std::string_view event)
-    {
-        const auto point = event.find('.');
-        form = event.substr(0, point);
-        if (point == std::string_view::npos) return;
-        control = event.substr(point + 1);
-        control = control.substr(0, control.rfind('_'));
-    }
-};
+/// "cmdCal" of "frmCompaction.cmdCal_Click"; nothing of a command of no form.
+std::string_view ControlOf(std::string_view event)
+{
+    const auto point = event.find('.');
+    if (point == std::string_view::npos) return {};
+    const std::string_view handler = event.substr(point + 1);
+    return handler.substr(0, handler.rfind('_'));
+}
 
 /// What stands on the command, else what it is.
 std::string CommandWords(const Form* form, std::string_view control)
@@ -56,9 +50,9 @@ std::string_view Between(std::string_view text, char sign, bool last)
 }
 
 /// The column of the open sheet's table, or nullptr.
-const KeptColumn* ColumnOf(const Program& program, const Sheet& sheet, std::string_view name)
+const KeptColumn* ColumnOf(Test test, const Sheet& sheet, std::string_view name)
 {
-    const std::string_view prefix = laboratory::Describe(program.CurrentTest).prefix;
+    const std::string_view prefix = laboratory::Describe(test).prefix;
     if (!name.starts_with(prefix)) return nullptr;
     const auto columns = laboratory::TableColumns(sheet);
     const auto found = std::ranges::find(columns, name.substr(prefix.size()), &KeptColumn::suffix);
@@ -87,9 +81,10 @@ std::string PlaceWords(const Form& form, const NoticePlace& place)
 }
 
 /// A text that its column does not take: where it stands and how much there is room for.
-bool TellTooLong(const Program& program, const Form& form, const RuntimeError& error, Notice& notice)
+bool TellTooLong(const Failed& failed, Notice& notice)
 {
-    const std::string description = error.Description();
+    const Form& form = *failed.form;
+    const std::string description = failed.error.Description();
     const std::string_view name = Between(description, '\'', false);
     const auto job = std::ranges::find_if(laboratory::kJobBoxes, [name](const Box& box) {
         return name.ends_with("_" + std::string(box.is.kept)) && name.starts_with("project_");
@@ -99,9 +94,9 @@ bool TellTooLong(const Program& program, const Form& form, const RuntimeError& e
         notice.place = {form.Name(), std::string(job->control)};
         most = job->is.length;
     } else if (const Sheet* sheet = SheetOfForm(form.Name())) {
-        const KeptColumn* column = ColumnOf(program, *sheet, name);
+        const KeptColumn* column = ColumnOf(failed.test, *sheet, name);
         if (!column) return false;
-        notice.place = PlaceOf(*sheet, *column, static_cast<int>(Val(Between(program.CurrentSql, '\'', true))));
+        notice.place = PlaceOf(*sheet, *column, static_cast<int>(Val(Between(failed.statement, '\'', true))));
         most = column->length;
     }
     const std::string words = most > 0 ? PlaceWords(form, notice.place) : std::string();
@@ -158,28 +153,26 @@ void TellWhere(const Form& form, const RuntimeError& error, Notice& notice)
     if (ComesOfNothing(error)) TellEmptyBoxes(form, notice);
 }
 
-std::string Details(const Program& program, std::string_view event, const RuntimeError& error)
+std::string Details(const Failed& failed)
 {
-    std::string details =
-        "Run-time error " + std::to_string(error.Number()) + " in " + std::string(event) + ": " + error.Description();
-    const bool isStores = error.Number() < 0 || error.Number() >= kFirstOfStore;
-    if (isStores && !program.CurrentSql.empty()) details += "\n" + program.CurrentSql;
+    const int number = failed.error.Number();
+    std::string details = "Run-time error " + std::to_string(number) + " in " + std::string(failed.event) + ": " +
+                          failed.error.Description();
+    const bool isStores = number < 0 || number >= kFirstOfStore;
+    if (isStores && !failed.statement.empty()) details.append("\n").append(failed.statement);
     return details + "\nWhat you typed stays as it is, and so does what was saved before.";
 }
 
 }  // namespace
 
-Notice FailureNotice(const Program& program, std::string_view event, const RuntimeError& error)
+Notice FailureNotice(const Failed& failed)
 {
-    const Event failed(event);
-    const Form* form = program.Loaded(failed.form);
-    Notice notice{
-        .kind = NoticeKind::Failure, .details = Details(program, event, error), .subject = std::string(event)};
-    notice.sentence = CommandWords(form, failed.control) + " stopped: ";
-    if (!form)
-        notice.sentence += error.Description();
-    else if (!TellTooLong(program, *form, error, notice))
-        TellWhere(*form, error, notice);
+    Notice notice{.kind = NoticeKind::Failure, .details = Details(failed), .subject = std::string(failed.event)};
+    notice.sentence = CommandWords(failed.form, ControlOf(failed.event)) + " stopped: ";
+    if (!failed.form)
+        notice.sentence += failed.error.Description();
+    else if (!TellTooLong(failed, notice))
+        TellWhere(*failed.form, failed.error, notice);
     return notice;
 }
 

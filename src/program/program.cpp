@@ -119,7 +119,7 @@ bool Program::RunOutermost(const std::string& event, const std::function<void()>
     --depth_;
     if (!failure) return true;
     const auto unloaded = std::exchange(unloaded_, {});
-    notices.Tell(FailureNotice(*this, event, *failure));
+    notices.Tell(FailureNotice({event, *failure, Loaded(Failed::FormOf(event)), CurrentTest, CurrentSql}));
     surroundings_.Fail(event, *failure);
     return false;
 }

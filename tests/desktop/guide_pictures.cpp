@@ -4,6 +4,7 @@
 // pictures.
 #include <QApplication>
 #include <QLabel>
+#include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPainter>
@@ -298,8 +299,8 @@ class Guide {
     void Notice()
     {
         FormNamed("mdiBack").Get<Toolbar>("tbrLab").PressItem("mnuStd1");
-        program_.notices.Tell(
-            FailureNotice(program_, "frmCompaction.cmdCal_Click", RuntimeError(error::kDivisionByZero)));
+        program_.notices.Tell(FailureNotice({"frmCompaction.cmdCal_Click", RuntimeError(error::kDivisionByZero),
+                                             program_.Loaded("frmCompaction"), Test::StdSoil}));
         Settle();
         Keep(*Window("mdiBack").findChild<QWidget*>("noticeBar"), "notice-failure");
         program_.notices.Settle("frmCompaction.cmdCal_Click");
