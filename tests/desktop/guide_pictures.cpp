@@ -23,7 +23,7 @@ namespace {
 
 using namespace terravane;
 
-constexpr QSize kFrameSize{1120, 700};
+constexpr QSize kFrameSize{1280, 700};
 constexpr QSize kMenuSize{760, 250};  // what of the frame a menu's picture shows
 constexpr QSize kPreviewSize{900, 640};
 constexpr QSize kResultsSize{680, 780};
@@ -50,21 +50,21 @@ struct SheetPictures {
 const std::vector<SheetPictures> kSheets{
     {"mnuAtt1",
      "frmAtterberg",
-     1120,
+     1280,
      {{"atterberg-data", 0, 740, {"cmdCal"}}, {"atterberg-curve", 1, 700, {"cmdPlot"}}}},
     {"mnuSie1",
      "frmSieve",
-     1120,
+     1280,
      {{"sieve-masses", 0, 830, {"cmdCal"}},
       {"sieve-curve", 1, 700, {"cmdgraph"}},
       {"sieve-classes", 2, 700, {"cmdAtt", "cmdClass"}}}},
     {"mnuSpe1",
      "frmSpecific",
-     1120,
+     1280,
      {{"specific-curve", 0, 700, {"cmdgraph"}}, {"specific-trials", 1, 800, {"cmdCal"}}}},
     {"mnuStd1",
      "frmCompaction",
-     1120,
+     1280,
      {{"compaction-data", 0, 740, {"cmdCal"}}, {"compaction-curve", 1, 740, {"chkSatLine", "cmdOMC"}}}},
     {"mnuCBR1",
      "frmCBR",
@@ -299,6 +299,9 @@ class Guide {
     void Notice()
     {
         FormNamed("mdiBack").Get<Toolbar>("tbrLab").PressItem("mnuStd1");
+        Form& sheet = FormNamed("frmCompaction");
+        for (const char* box : {"txtDia", "txtHeight"}) sheet.Get<TextBox>(box).SetText("");
+        sheet.Get<TextGrid>("MSHDensity")(4, 1);  // the cell that the calculation comes to
         program_.notices.Tell(FailureNotice({"frmCompaction.cmdCal_Click", RuntimeError(error::kDivisionByZero),
                                              program_.Loaded("frmCompaction"), Test::StdSoil}));
         Settle();
