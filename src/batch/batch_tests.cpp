@@ -100,8 +100,8 @@ void PressBearing(Presser& presser, const Choices& choices, const ProjectTexts& 
     presser.Press("cmdCBR");
 }
 
-/// The tests on whose sheets something is chosen or typed between the commands; the description of each other one has
-/// its commands.
+/// The tests on whose sheets something is chosen or typed between the commands; of each other one the commands of its
+/// sheet are pressed in their order.
 struct TestCommands {
     Test test;
     void (*press)(Presser& presser, const Choices& choices, const ProjectTexts& saved);
@@ -123,8 +123,8 @@ void PressCommands(const Description& test, Presser& presser, const Choices& cho
 {
     const auto commands = std::ranges::find(kCommands, test.test, &TestCommands::test);
     if (commands != kCommands.end()) return commands->press(presser, choices, saved);
-    if (test.commands.empty()) throw RuntimeError(error::kInvalidProcedureCall, "No commands are known");
-    for (const std::string_view command : test.commands) presser.Press(command);
+    if (test.sheet.commands.empty()) throw RuntimeError(error::kInvalidProcedureCall, "No commands are known");
+    for (const std::string_view command : test.sheet.commands) presser.Press(command);
 }
 
 std::string TableName(const Description& test, Material material)

@@ -83,6 +83,15 @@ class Form {
     Control* ActiveControl() { return active_; }
     const Control* ActiveControl() const { return active_; }
 
+    /// The cell that a handler addressed last, to read or to write; no grid where there was none since ForgetAddressed.
+    /// Where a command failed it tells at which reading.
+    struct AddressedCell {
+        const Control* grid = nullptr;
+        int row = 0, column = 0;
+    };
+    const AddressedCell& LastAddressed() const { return addressed_; }
+    void ForgetAddressed() { addressed_ = {}; }
+
     /// Runs `view` after a change of the caption or of the control that has the focus.
     Subscription Show(std::function<void()> view);
 
@@ -95,6 +104,7 @@ class Form {
 
   private:
     friend class Control;
+    friend class TextGrid;  // tells what was addressed
     struct Member {
         std::string_view name;  // the control's own
         Control* control;
@@ -106,6 +116,7 @@ class Form {
     WindowKind window_;
     std::vector<Member> members_;
     Control* active_ = nullptr;
+    AddressedCell addressed_;
     Announcement changes_;
 };
 

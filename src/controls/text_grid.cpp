@@ -47,6 +47,7 @@ void TextGrid::SetRows(int rows)
 Cell TextGrid::operator()(int row, int column)
 {
     Index(row, column);
+    Owner().addressed_ = {this, row, column};
     return {*this, row, column};
 }
 

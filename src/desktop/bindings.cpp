@@ -161,7 +161,7 @@ QString PlainCaption(const Control& control)
 Subscription BindFurniture(Control& control, QWidget& view)
 {
     const QString caption = PlainCaption(control);
-    view.setAccessibleName(caption.isEmpty() ? ToQt(control.Name()) : caption);
+    view.setAccessibleName(caption);
     view.setObjectName(ToQt(control.Name()));
     return control.Show([&control, &view] {
         view.setEnabled(control.Enabled());
@@ -277,7 +277,7 @@ Subscription Bind(TabControl& tabs, QTabWidget& view)
 
 Subscription Bind(Toolbar& bar, QToolBar& view)
 {
-    view.setAccessibleName(ToQt(bar.Name()));
+    view.setAccessibleName(QObject::tr("Commands"));
     ShowPointer(bar, view);
     std::vector<QToolButton*> tools;
     for (int number = 1; number <= static_cast<int>(bar.Buttons().size()); ++number) {

@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <vector>
 
+#include "desktop/frame_window.h"
 #include "desktop/preview_window.h"
+#include "laboratory/tests.h"
 
 namespace terravane {
 
@@ -13,6 +15,7 @@ namespace {
 /// between nothing of the window may reach a control.
 void Dispose(QWidget& window)
 {
+    if (auto* sheet = dynamic_cast<SheetWindow*>(&window)) sheet->TakeBarAway();
     for (QObject* part : window.findChildren<QObject*>()) {
         part->blockSignals(true);
         if (auto* view = dynamic_cast<FormView*>(part)) view->Unbind();
@@ -27,11 +30,25 @@ void Dispose(QWidget& window)
 Desktop::Desktop(Program& program, QtSurroundings& surroundings)
     : program_(program), surroundings_(surroundings), following_(program.ShowForms([this] { Follow(); }))
 {
+    surroundings_.ProposedPdf = [this] { return ProposedPdf(); };
     Follow();
+}
+
+/// Beside the project file, under its name and what is in it: "TRVN_road compaction-soil.pdf".
+std::string Desktop::ProposedPdf() const
+{
+    std::string path = program_.CurrentProjectPath;
+    if (path.ends_with(".mdb")) path.resize(path.size() - 4);
+    if (program_.Loaded("frmSummary")) return path + " results.pdf";
+    if (program_.CurrentTest == Test::None) return path + ".pdf";
+    const auto& test = laboratory::Describe(program_.CurrentTest);
+    const auto& material = laboratory::Describe(program_.CurrentMaterial);
+    return path + " " + std::string(test.key) + "-" + std::string(material.key) + ".pdf";
 }
 
 Desktop::~Desktop()
 {
+    surroundings_.ProposedPdf = {};
     following_ = {};
     std::vector<QWidget*> tops;  // the others go with the window that they belong to
     for (const auto& [form, window] : windows_) {
@@ -86,6 +103,7 @@ QWidget* Desktop::MakeWindow(const Program::ShownForm& shown)
     Form& form = *shown.form;
     switch (form.Window()) {
         case WindowKind::Frame:
+            surroundings_.LeaveFailuresToNotices();
             return new FrameWindow(program_, form);
         case WindowKind::Splash:
             return new SplashWindow(form);

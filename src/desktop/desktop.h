@@ -11,6 +11,8 @@
 
 namespace terravane {
 
+class FrameWindow;
+
 class Desktop {
   public:
     Desktop(Program& program, QtSurroundings& surroundings);
@@ -20,6 +22,7 @@ class Desktop {
     QWidget* WindowOf(const Form& form) const;
 
   private:
+    std::string ProposedPdf() const;
     void Follow();
     void DisposeOfClosed();
     QWidget* Open(const Program::ShownForm& shown);

@@ -11,6 +11,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollArea>
 #include <QTabWidget>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -30,7 +31,9 @@
 #include "desktop/picture_view.h"
 #include "desktop/plot_view.h"
 #include "desktop/qt_text.h"
+#include "program/cell_words.h"
 #include "render/decoded_pictures.h"
+#include "runtime/text.h"
 
 namespace terravane {
 
@@ -96,6 +99,21 @@ class PairBox : public QWidget {
     QBoxLayout* box_;
 };
 
+void Collect(const Place& place, Place::Kind kind, std::vector<const Place*>& into)
+{
+    if (place.kind == kind) into.push_back(&place);
+    for (const Place& part : place.parts) Collect(part, kind, into);
+}
+
+/// The wheel turns what has the focus, and over all else the page below it.
+bool IsWheelOverAnother(const QObject& watched, const QEvent& event)
+{
+    if (event.type() != QEvent::Wheel) return false;
+    const auto* box = qobject_cast<const QWidget*>(&watched);
+    const bool turns = qobject_cast<const QComboBox*>(box) || qobject_cast<const QDateEdit*>(box);
+    return turns && !box->hasFocus();
+}
+
 QLabel* MakeCaption(const Control& control, QWidget* buddy, QWidget* parent)
 {
     auto* label = new QLabel(PlainCaption(control), parent);
@@ -108,13 +126,18 @@ QLabel* MakeCaption(const Control& control, QWidget* buddy, QWidget* parent)
 FormView::FormView(Form& form, const Place& layout, QWidget* parent) : QWidget(parent), form_(form)
 {
     auto* box = new QVBoxLayout(this);
-    box->setContentsMargins(looks::kMargin, looks::kMargin, looks::kMargin, looks::kMargin);
+    const bool hasBanner = !layout.parts.empty() && layout.parts.front().kind == Place::Kind::Banner;
+    if (hasBanner)
+        box->setContentsMargins(looks::kGap, 0, looks::kGap, 4);
+    else
+        box->setContentsMargins(looks::kMargin, looks::kMargin, looks::kMargin, looks::kMargin);
     box->setSpacing(looks::kGap);
     box->addWidget(Make(layout, *this), 1);
     for (Timer* timer : ControlsOf<Timer>(form)) {
         bindings_.push_back(Bind(*timer, *new QTimer(this)));
         timer->Tick();  // the clock is right from the start
     }
+    placed_ = PlacedControls(layout);
     bindings_.push_back(form.Show([this] { FollowFocus(); }));
 }
 
@@ -157,8 +180,11 @@ QWidget* FormView::Make(const Place& place, QWidget& parent)
             return MakePlot(place, parent);
         case Place::Kind::Picture:
             return MakePicture(place, parent);
-        case Place::Kind::Control:
-            return MakeControl(form_.Get<Control>(place.control), parent);
+        case Place::Kind::Control: {
+            QWidget* view = MakeControl(form_.Get<Control>(place.control), parent);
+            if (!place.text.empty()) view->setAccessibleName(ToQt(place.text));
+            return view;
+        }
         case Place::Kind::Space:
             break;
     }
@@ -168,7 +194,9 @@ QWidget* FormView::Make(const Place& place, QWidget& parent)
 void FormView::Add(QBoxLayout& box, const Place& place)
 {
     if (place.kind == Place::Kind::Space) return box.addStretch(place.stretch);
-    box.addWidget(Make(place, *box.parentWidget()), place.stretch);
+    QWidget* part = Make(place, *box.parentWidget());
+    const auto* grid = dynamic_cast<GridView*>(part);
+    box.addWidget(part, place.stretch, grid && grid->IsWhole() ? Qt::AlignTop | Qt::AlignLeft : Qt::Alignment());
 }
 
 void FormView::AddAll(QBoxLayout& box, const std::vector<Place>& parts)
@@ -224,6 +252,10 @@ QWidget* FormView::MakeGroup(const Place& place, QWidget& parent)
     AddAll(*box, place.parts);
     box->setContentsMargins(looks::kGap, looks::kGap, looks::kGap, looks::kGap);
     bindings_.push_back(BindFurniture(frame, *group));
+    const QString caption = PlainCaption(frame);
+    if (caption.isEmpty()) group->setAccessibleName(tr("Group"));
+    for (auto* list : group->findChildren<QAbstractItemView*>())
+        if (!caption.isEmpty()) list->setAccessibleName(caption);
     bindings_.push_back(frame.Show([&frame, group] { group->setTitle(PlainCaption(frame)); }));
     views_[&frame] = group;
     if (frame.Click) {
@@ -238,13 +270,22 @@ QWidget* FormView::MakeTabs(const Place& place, QWidget& parent)
     auto& control = form_.Get<TabControl>(place.control);
     auto* tabs = new QTabWidget(&parent);
     for (std::size_t i = 0; i < place.parts.size(); ++i) {
-        auto* page = new QWidget(tabs);
-        tabs->addTab(page, QString::fromStdString(control.TabCaption(static_cast<int>(i))));
+        auto* room = new QScrollArea(tabs);  // what a small screen has no room for scrolls
+        room->setFrameShape(QFrame::NoFrame);
+        room->setWidgetResizable(true);
+        room->viewport()->setAutoFillBackground(false);
+        room->setFocusPolicy(Qt::NoFocus);
+        tabs->addTab(room, QString::fromStdString(control.TabCaption(static_cast<int>(i))));
+        auto* page = new QWidget(room);
+        page->setAutoFillBackground(false);
+        room->setWidget(page);
         auto* box = new QVBoxLayout(page);
-        box->setContentsMargins(looks::kMargin, looks::kMargin, looks::kMargin, looks::kMargin);
+        box->setContentsMargins(looks::kGap, looks::kGap, looks::kGap, looks::kGap);
         box->addWidget(Make(place.parts[i], *page));
+        NamePlots(place.parts[i]);
     }
     bindings_.push_back(BindFurniture(control, *tabs));
+    tabs->setAccessibleName(tr("Tabs"));
     bindings_.push_back(Bind(control, *tabs));
     Watch(control, *tabs);
     return tabs;
@@ -285,19 +326,45 @@ QWidget* FormView::MakeResult(const Place& place, QWidget& parent)
     return widget;
 }
 
-/// The test's Thai and English names in white on the material's colour.
+/// The test's Thai and English names in white on the material's colour, on one line.
 QWidget* FormView::MakeBanner(const Place& place, QWidget& parent)
 {
     auto& box = form_.Get<TextBox>(place.control);
     auto* banner = new QLabel(&parent);
     banner->setAlignment(Qt::AlignCenter);
     banner->setFont(looks::Scaled(banner->font(), looks::kBannerSize, true));
-    banner->setContentsMargins(looks::kMargin, 6, looks::kMargin, 6);
-    banner->setMinimumHeight(2 * QFontMetrics(banner->font()).lineSpacing() + 20);
+    banner->setMinimumHeight(looks::kBannerHeight);
+    banner->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     bindings_.push_back(BindFurniture(box, *banner));
-    bindings_.push_back(box.Show([&box, banner] { banner->setText(QString::fromStdString(box.Text()).remove('\r')); }));
+    bindings_.push_back(box.Show([&box, banner] {
+        const QString lines = QString::fromStdString(box.Text()).remove('\r');
+        banner->setText(QString(lines).replace('\n', "   "));
+        banner->setAccessibleName(banner->text());
+    }));
     views_[&box] = banner;
     return banner;
+}
+
+/// Ears hear a curve by the results that stand beside it: "Curve: OMC 11.2 %, MDD 2.01 g/cm^3".
+void FormView::NamePlots(const Place& page)
+{
+    std::vector<const Place*> plots, results;
+    Collect(page, Place::Kind::Plot, plots);
+    Collect(page, Place::Kind::Result, results);
+    const auto name = [this, plots, results] {
+        QStringList words;
+        for (const Place* result : results) {
+            const auto& box = form_.Get<TextBox>(result->control);
+            const QString text = ToQt(box.Text()).trimmed();
+            if (!text.isEmpty()) words << (PlainCaption(box) + " " + text + " " + ToQt(result->text)).trimmed();
+        }
+        for (const Place* plot : plots)
+            if (QWidget* view = ViewOf(form_.Get<Control>(plot->control)))
+                view->setAccessibleName(words.isEmpty() ? tr("Curve, no result yet")
+                                                        : tr("Curve: ") + words.join(", "));
+    };
+    for (const Place* result : results) bindings_.push_back(form_.Get<TextBox>(result->control).Show(name));
+    name();
 }
 
 QWidget* FormView::MakePlot(const Place& place, QWidget& parent)
@@ -327,6 +394,7 @@ QWidget* FormView::MakeImage(Image& image, QWidget& parent)
                                  : QPixmap::fromImage(own.scaled(kImageSide, kImageSide, Qt::KeepAspectRatio,
                                                                  Qt::SmoothTransformation)));
     bindings_.push_back(BindFurniture(image, *view));
+    view->setAccessibleName(tr("Picture"));
     views_[&image] = view;
     return view;
 }
@@ -352,7 +420,14 @@ struct FormView::WidgetMaker {
         return form.MakeBound<QComboBox>(static_cast<ComboBox&>(combo), parent);
     }
     QWidget* operator()(DatePicker& picker) const { return form.MakeBound<QDateEdit>(picker, parent); }
-    QWidget* operator()(CommandButton& button) const { return form.MakeBound<QPushButton>(button, parent); }
+    QWidget* operator()(CommandButton& button) const
+    {
+        QWidget* view = form.MakeBound<QPushButton>(button, parent);
+        QObject::connect(static_cast<QPushButton*>(view), &QPushButton::clicked, &form, [&form = form, &button] {
+            if (form.CommandPressed && !form.views_.empty()) form.CommandPressed(button);
+        });
+        return view;
+    }
     QWidget* operator()(OptionButton& option) const { return form.MakeBound<QRadioButton>(option, parent); }
     QWidget* operator()(CheckBox& check) const { return form.MakeBound<QCheckBox>(check, parent); }
     QWidget* operator()(ListBox& list) const
@@ -382,6 +457,9 @@ QWidget* FormView::MakeGrid(TextGrid& grid, QWidget& parent)
 {
     auto* view = new GridView(grid, &parent);
     bindings_.push_back(BindFurniture(grid, *view));
+    QStringList heads;  // of a grid that no frame names
+    for (int column = 0; column < grid.Columns(); ++column) heads << ToQt(ColumnWords(grid, column));
+    view->setAccessibleName(heads.join(", "));
     Watch(grid, *view);
     if (view->EditorBox()) Watch(*view->Editor(), *view->EditorBox());
     if (view->EditorList()) Watch(*view->ListEditor(), *view->EditorList());
@@ -399,10 +477,47 @@ void FormView::Watch(Control& control, QWidget& view)
     controls_[&view] = &control;
     view.installEventFilter(this);
     view.setMouseTracking(true);
+    ListenForTyping(control, view);
+    if (view.focusPolicy() == Qt::WheelFocus) view.setFocusPolicy(Qt::StrongFocus);
+}
+
+void FormView::ListenForTyping(const Control& control, QWidget& view)
+{
+    const auto tell = [this, &control] {
+        if (TypedIn) TypedIn(control);
+    };
+    for (auto* box : view.findChildren<QLineEdit*>(Qt::FindDirectChildrenOnly))
+        connect(box, &QLineEdit::textEdited, this, tell);
+    if (auto* box = qobject_cast<QLineEdit*>(&view)) connect(box, &QLineEdit::textEdited, this, tell);
+    if (auto* combo = qobject_cast<QComboBox*>(&view)) connect(combo, &QComboBox::activated, this, tell);
+    if (auto* date = qobject_cast<QDateEdit*>(&view)) connect(date, &QDateEdit::userDateChanged, this, tell);
+    auto* button = qobject_cast<QAbstractButton*>(&view);
+    if (button && button->isCheckable()) connect(button, &QAbstractButton::clicked, this, tell);
+}
+
+/// What the shell makes of a key before the form is asked: Enter presses a button, Tab leads through a grid and out of
+/// it.
+bool FormView::TakesKey(QObject& watched, Control& control, QKeyEvent& press)
+{
+    const bool isEnter = press.key() == Qt::Key_Return || press.key() == Qt::Key_Enter;
+    if (auto* button = qobject_cast<QPushButton*>(&watched); button && isEnter) {
+        button->click();
+        return true;
+    }
+    const bool isBack = press.key() == Qt::Key_Backtab;
+    if (press.key() != Qt::Key_Tab && !isBack) return false;
+    auto* grid = qobject_cast<QWidget*>(&watched);
+    while (grid && !dynamic_cast<GridView*>(grid)) grid = grid->parentWidget();
+    auto* view = dynamic_cast<GridView*>(grid);
+    return view && &control != &view->Grid() && view->WalkByTab(isBack);
 }
 
 bool FormView::eventFilter(QObject* watched, QEvent* event)
 {
+    if (IsWheelOverAnother(*watched, *event)) {
+        event->ignore();
+        return true;
+    }
     if (event->type() == QEvent::MouseButtonPress) PressFrame(*watched);
     const auto found = controls_.find(watched);
     if (found == controls_.end()) return false;
@@ -411,7 +526,8 @@ bool FormView::eventFilter(QObject* watched, QEvent* event)
     if (event->type() == QEvent::Enter && control.MouseMove) control.MouseMove();
     if (event->type() == QEvent::Leave && control.MouseMove && control.MouseLeave) control.MouseLeave();
     if (event->type() != QEvent::KeyPress) return false;
-    const auto* press = static_cast<QKeyEvent*>(event);
+    auto* press = static_cast<QKeyEvent*>(event);
+    if (TakesKey(*watched, control, *press)) return true;
     const bool isShortcut = press->modifiers() & (Qt::ControlModifier | Qt::AltModifier);
     const auto key = isShortcut ? std::nullopt : KeyOf(press->key());
     return key && control.PressKey(*key);
@@ -421,6 +537,55 @@ bool FormView::eventFilter(QObject* watched, QEvent* event)
 void FormView::PressFrame(const QObject& watched)
 {
     if (const auto found = frames_.find(&watched); found != frames_.end()) found->second->Press();
+}
+
+void FormView::BringToFront(const Control& control)
+{
+    QWidget* view = ViewOf(control);
+    for (TabControl* tabs : ControlsOf<TabControl>(form_)) {
+        auto* pages = view ? dynamic_cast<QTabWidget*>(ViewOf(*tabs)) : nullptr;
+        for (int tab = 0; pages && tab < pages->count(); ++tab)
+            if (pages->widget(tab)->isAncestorOf(view) && tabs->TabEnabled(tab)) tabs->SetTab(tab);
+    }
+}
+
+void FormView::LeadTo(const NoticePlace& place)
+{
+    Control* control = form_.Find(place.control);
+    if (!control) return;
+    BringToFront(*control);
+    QWidget* view = ViewOf(*control);
+    if (!view) return;
+    window()->activateWindow();
+    if (auto* grid = dynamic_cast<GridView*>(view); grid && place.IsCell())
+        return grid->ShowCell(place.row, place.column);
+    view->setFocus(Qt::OtherFocusReason);
+    if (auto* box = qobject_cast<QLineEdit*>(view)) box->selectAll();
+}
+
+bool FormView::IsInFront(const Control& control) const
+{
+    const QWidget* view = ViewOf(control);
+    return view && view->isVisible() && view->isEnabled() && control.Visible() && control.Enabled();
+}
+
+bool FormView::FocusIfEmpty(Control& control)
+{
+    if (!IsInFront(control)) return false;
+    if (auto* grid = dynamic_cast<GridView*>(ViewOf(control))) return grid->OpenFirstEmpty();
+    auto* box = dynamic_cast<TextControl*>(&control);
+    const bool isBanner = qobject_cast<QLabel*>(ViewOf(control)) != nullptr;
+    if (!box || box->Locked() || isBanner || !Trim(box->Text()).empty()) return false;
+    ViewOf(control)->setFocus(Qt::OtherFocusReason);
+    return true;
+}
+
+void FormView::FocusFirstEmpty()
+{
+    for (const std::string& name : placed_) {
+        Control* control = form_.Find(name);
+        if (control && FocusIfEmpty(*control)) return;
+    }
 }
 
 void FormView::FollowFocus()

@@ -2,11 +2,13 @@
 #pragma once
 
 #include <QWidget>
+#include <functional>
 #include <unordered_map>
 
 #include "controls/form.h"
 #include "desktop/bindings.h"
 #include "desktop/layout.h"
+#include "program/notices.h"
 
 class QBoxLayout;
 class QFormLayout;
@@ -21,6 +23,17 @@ class FormView : public QWidget {
     Form& Shown() const { return form_; }
     /// Ends all traffic with the form, which may go away from now on.
     void Unbind();
+
+    /// What the user types or chooses in a control, and a command that was pressed with mouse or key.
+    std::function<void(const Control& control)> TypedIn;
+    std::function<void(Control& command)> CommandPressed;
+
+    /// Shows the tab that a control stands on.
+    void BringToFront(const Control& control);
+    /// Brings the place to the front and stands the focus there; a cell that is typed is opened.
+    void LeadTo(const NoticePlace& place);
+    /// Stands the focus in the first typed place that is empty, in the order of the layout; of a grid trial by trial.
+    void FocusFirstEmpty();
 
     /// The widget of a control; nullptr where it has no place.
     QWidget* ViewOf(const Control& control) const;
@@ -40,6 +53,7 @@ class FormView : public QWidget {
     QWidget* MakeField(const Place& place, QWidget& parent);
     QWidget* MakeResult(const Place& place, QWidget& parent);
     QWidget* MakeBanner(const Place& place, QWidget& parent);
+    void NamePlots(const Place& page);
     QWidget* MakePlot(const Place& place, QWidget& parent);
     QWidget* MakePicture(const Place& place, QWidget& parent);
     QWidget* MakeGrid(class TextGrid& grid, QWidget& parent);
@@ -52,6 +66,10 @@ class FormView : public QWidget {
     QWidget* MakeBound(Kind& control, QWidget& parent);
 
     void Watch(Control& control, QWidget& view);
+    void ListenForTyping(const Control& control, QWidget& view);
+    bool FocusIfEmpty(Control& control);
+    bool IsInFront(const Control& control) const;
+    bool TakesKey(QObject& watched, Control& control, class QKeyEvent& press);
     void PressFrame(const QObject& watched);
     void FollowFocus();
 
@@ -59,6 +77,7 @@ class FormView : public QWidget {
     std::unordered_map<const Control*, QWidget*> views_;
     std::unordered_map<const QObject*, Control*> controls_;
     std::unordered_map<const QObject*, Frame*> frames_;  // that hear a press
+    std::vector<std::string> placed_;                    // in the order of the layout
     Bindings bindings_;
 };
 

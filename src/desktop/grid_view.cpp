@@ -2,7 +2,9 @@
 
 #include <QAbstractTableModel>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
@@ -12,15 +14,19 @@
 
 #include "controls/visit_control.h"
 #include "desktop/looks.h"
+#include "desktop/qt_text.h"
+#include "program/cell_words.h"
 
 namespace terravane {
 
 namespace {
 
-constexpr int kLeastRowsShown = 4;
-constexpr int kMostRowsUnscrolled = 12;
+constexpr int kLeastRowsShown = 12;
+constexpr int kMostRowsUnscrolled = 20;
 constexpr int kLeastColumnWidth = 56;
-constexpr int kUnbroken = 4000;  // room for any title in one line
+constexpr int kMostColumnWidth = 110;
+constexpr double kHeadTint = 0.06, kWorkedOutTint = 0.03, kHairline = 0.16;  // of the ink in the ground
+constexpr int kUnbroken = 4000;                                              // room for any title in one line
 
 bool IsMerged(const TextGrid& grid, int column)
 {
@@ -32,12 +38,23 @@ bool HoldsTitles(const TextGrid& grid, int column)
     return (column == 0 && grid.TitleColumns() > 0) || IsMerged(grid, column);
 }
 
-/// The titles of merged groups are as quiet as calculated cells: there are two columns of them.
-QPalette::ColorRole GroundOf(const TextGrid& grid, int row, int column)
+/// So much of the ink in the ground.
+QColor Tinted(const QPalette& palette, double part)
 {
-    if (row < grid.HeadRows()) return QPalette::Midlight;
-    if (grid.IsCalculated(row, column) || IsMerged(grid, column)) return QPalette::Button;
-    return HoldsTitles(grid, column) ? QPalette::Midlight : QPalette::Base;
+    const QColor ground = palette.color(QPalette::Base), ink = palette.color(QPalette::Text);
+    const auto mix = [part](float under, float over) {
+        return static_cast<float>(under + (over - under) * static_cast<float>(part));
+    };
+    return QColor::fromRgbF(mix(ground.redF(), ink.redF()), mix(ground.greenF(), ink.greenF()),
+                            mix(ground.blueF(), ink.blueF()));
+}
+
+/// The titles of merged groups are as quiet as calculated cells: there are two columns of them.
+QColor GroundOf(const TextGrid& grid, int row, int column, const QPalette& palette)
+{
+    if (row < grid.HeadRows()) return Tinted(palette, kHeadTint);
+    if (grid.IsCalculated(row, column) || IsMerged(grid, column)) return Tinted(palette, kWorkedOutTint);
+    return HoldsTitles(grid, column) ? Tinted(palette, kHeadTint) : palette.color(QPalette::Base);
 }
 
 /// Whether a row is the first of those that the first column tells as one.
@@ -55,34 +72,53 @@ Editor* EditorOver(TextGrid& grid)
     return found == editors.end() ? nullptr : *found;
 }
 
-/// Heads in the palette's mid-light, calculated cells in the button face with quieter ink, thin lines.
+/// Heads, worked out and typed cells by three tints of one ground, hairlines, a coloured edge around the current cell
+/// where the grid has the focus.
 class CellPainter : public QStyledItemDelegate {
   public:
-    CellPainter(const TextGrid& grid, QObject* parent) : QStyledItemDelegate(parent), grid_(grid) {}
+    CellPainter(const TextGrid& grid, const QAbstractItemView& view, QObject* parent)
+        : QStyledItemDelegate(parent), grid_(grid), view_(view)
+    {}
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
     {
         const QPalette& palette = option.palette;
-        const bool head = index.row() < grid_.HeadRows() || HoldsTitles(grid_, index.column());
-        const bool calculated = grid_.IsCalculated(index.row(), index.column());
-        painter->fillRect(option.rect, palette.color(GroundOf(grid_, index.row(), index.column())));
-        QColor ink = palette.color(QPalette::Active, head || calculated ? QPalette::ButtonText : QPalette::Text);
-        if (calculated) ink.setAlphaF(0.85F);
-        painter->setPen(ink);
-        const bool isTitle = index.column() == 0 && grid_.TitleColumns() > 0 && !IsMerged(grid_, 0);
-        const int side = isTitle ? Qt::AlignLeft : Qt::AlignHCenter;
-        const int margin = isTitle ? 6 : 2;
-        const int wrap = head && !isTitle ? Qt::TextWordWrap : 0;
-        painter->drawText(option.rect.adjusted(margin, 0, -margin, 0), side | Qt::AlignVCenter | wrap,
-                          index.data().toString());
-        if (BeginsGroup(grid_, index.row())) {
-            const QRect top(option.rect.topLeft(), QSize(option.rect.width(), 1));
-            painter->fillRect(top, palette.color(QPalette::Mid));
+        painter->fillRect(option.rect, GroundOf(grid_, index.row(), index.column(), palette));
+        PaintText(*painter, option.rect, palette, index);
+        const QColor line = Tinted(palette, kHairline);
+        const QRect& cell = option.rect;
+        painter->fillRect(cell.left(), cell.bottom(), cell.width(), 1, line);
+        painter->fillRect(cell.right(), cell.top(), 1, cell.height(), line);
+        if (BeginsGroup(grid_, index.row()))
+            painter->fillRect(cell.left(), cell.top(), cell.width(), 1, palette.color(QPalette::Mid));
+        if (IsCurrent(index)) {
+            painter->setPen(QPen(palette.color(QPalette::Highlight), 2));
+            painter->drawRect(cell.adjusted(1, 1, -1, -1));
         }
     }
 
   private:
+    bool IsCurrent(const QModelIndex& index) const
+    {
+        return view_.hasFocus() && index.row() == grid_.Row() && index.column() == grid_.Column() &&
+               index.row() >= grid_.HeadRows();
+    }
+
+    void PaintText(QPainter& painter, const QRect& cell, const QPalette& palette, const QModelIndex& index) const
+    {
+        const bool head = index.row() < grid_.HeadRows() || HoldsTitles(grid_, index.column());
+        QColor ink = palette.color(QPalette::Active, QPalette::Text);
+        if (grid_.IsCalculated(index.row(), index.column())) ink.setAlphaF(0.85F);
+        painter.setPen(ink);
+        const bool isTitle = index.column() == 0 && grid_.TitleColumns() > 0 && !IsMerged(grid_, 0);
+        const int side = isTitle ? Qt::AlignLeft : Qt::AlignHCenter;
+        const int margin = isTitle ? 6 : 2;
+        const int wrap = head && !isTitle ? Qt::TextWordWrap : 0;
+        painter.drawText(cell.adjusted(margin, 0, -margin, 0), side | Qt::AlignVCenter | wrap, index.data().toString());
+    }
+
     const TextGrid& grid_;
+    const QAbstractItemView& view_;
 };
 
 }  // namespace
@@ -99,8 +135,17 @@ class GridModel : public QAbstractTableModel {
     {
         if (!index.isValid() || index.row() >= grid_.Rows()) return {};
         const std::string& text = std::as_const(grid_)(index.row(), index.column());
-        if (role == Qt::DisplayRole || role == Qt::AccessibleTextRole) return QString::fromStdString(text).trimmed();
+        if (role == Qt::DisplayRole) return QString::fromStdString(text).trimmed();
+        if (role == Qt::AccessibleTextRole) return Spoken(index.row(), index.column(), text);
+        if (role == Qt::AccessibleDescriptionRole) return KindWords(index.row(), index.column());
         return {};
+    }
+
+    /// What ears hear of a row and of a column.
+    QVariant headerData(int section, Qt::Orientation across, int role) const override
+    {
+        if (role != Qt::DisplayRole && role != Qt::AccessibleTextRole) return {};
+        return ToQt(across == Qt::Horizontal ? ColumnWords(grid_, section) : RowWords(grid_, section));
     }
 
     Qt::ItemFlags flags(const QModelIndex&) const override { return Qt::ItemIsEnabled; }
@@ -119,6 +164,20 @@ class GridModel : public QAbstractTableModel {
     }
 
   private:
+    /// Title, column and text of a cell; a title as it stands.
+    QString Spoken(int row, int column, const std::string& text) const
+    {
+        const QString plain = ToQt(PlainWords(text));
+        if (row < grid_.HeadRows() || HoldsTitles(grid_, column)) return plain;
+        return ToQt(CellWords(grid_, row, column)) + ": " + (plain.isEmpty() ? QObject::tr("empty") : plain);
+    }
+
+    QString KindWords(int row, int column) const
+    {
+        if (row < grid_.HeadRows() || HoldsTitles(grid_, column)) return QObject::tr("title");
+        return grid_.IsCalculated(row, column) ? QObject::tr("worked out") : QObject::tr("typed");
+    }
+
     TextGrid& grid_;
     int rows_;
 };
@@ -137,6 +196,7 @@ GridView::GridView(TextGrid& grid, QWidget* parent)
     setSelectionMode(NoSelection);
     setTabKeyNavigation(false);
     setFrameShape(QFrame::StyledPanel);
+    setShowGrid(false);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollMode(ScrollPerItem);  // a grid never shows half a row
     if (editor_) MakeEditorBox();
@@ -168,7 +228,8 @@ void GridView::MakeEditorBox()
     box_->setAlignment(Qt::AlignHCenter);
     KeepAlignedToBaseline(*box_);
     box_->setStyleSheet("QLineEdit { border: 2px solid palette(highlight); padding: 0px; }");
-    box_->setAccessibleName(QObject::tr("Cell"));
+    box_->setObjectName(QString::fromStdString(editor_->Name()));
+    box_->setProperty("isEditor", true);  // named when it stands over a cell
     box_->hide();
     connect(box_, &QLineEdit::textEdited, this, [this](const QString& text) { editor_->Type(text.toStdString()); });
     bindings_.push_back(editor_->Show([this] { ShowEditors(); }));
@@ -180,9 +241,19 @@ void GridView::MakeEditorList()
     list_->hide();
     bindings_.push_back(Bind(*listEditor_, *list_));
     list_->lineEdit()->setAlignment(Qt::AlignHCenter);
-    list_->setAccessibleName(QObject::tr("Cell"));
+    list_->setProperty("isEditor", true);
     list_->setObjectName(QString::fromStdString(listEditor_->Name()));
     bindings_.push_back(listEditor_->Show([this] { ShowEditors(); }));
+}
+
+/// An editor is called what its cell is called.
+void GridView::NameEditors()
+{
+    if (grid_.Row() >= grid_.Rows()) return;
+    const QString words = ToQt(CellWords(grid_, grid_.Row(), grid_.Column()));
+    for (QWidget* editor : {static_cast<QWidget*>(box_), static_cast<QWidget*>(list_)})
+        if (editor && editor->accessibleName() != words) editor->setAccessibleName(words);
+    if (list_) list_->lineEdit()->setAccessibleName(words);
 }
 
 /// Over the current cell, or hidden; false where it is hidden.
@@ -206,6 +277,7 @@ bool GridView::PlaceEditor(QWidget& view, const Control& editor)
 /// The list's text is its binding's.
 void GridView::ShowEditors()
 {
+    NameEditors();
     if (list_) PlaceEditor(*list_, *listEditor_);
     if (!box_ || !PlaceEditor(*box_, *editor_)) return;
     ShowText(*box_, editor_->Text());
@@ -240,24 +312,45 @@ int GridView::MinimumRowHeight(int row) const
     return height;
 }
 
-QSize GridView::SizeFor(int mostRows) const
+bool GridView::IsWhole() const
+{
+    if (grid_.MergeCells != Merging::Never) return false;
+    for (int column = 0; column < grid_.Columns(); ++column)
+        if (grid_.ColumnWidth(column) == 0) return true;
+    return false;
+}
+
+/// The titles' own width, and how many columns share the rest.
+int GridView::TitlesWidth() const
+{
+    int width = 0;
+    for (int column = 0; column < grid_.Columns(); ++column)
+        if (HoldsTitles(grid_, column)) width += std::max(kLeastColumnWidth, TitleWidth(column));
+    return width;
+}
+
+QSize GridView::SizeFor(int mostRows, int columnWidth) const
 {
     int height = 2 * frameWidth();
     for (int row = 0; row < std::min(grid_.Rows(), mostRows); ++row) height += MinimumRowHeight(row);
-    return {kLeastColumnWidth * grid_.Columns() + (grid_.TitleColumns() > 0 ? 2 * kLeastColumnWidth : 0), height};
+    int figures = 0;
+    for (int column = 0; column < grid_.Columns(); ++column) figures += HoldsTitles(grid_, column) ? 0 : 1;
+    const bool isList = grid_.Rows() > mostRows;
+    const int bar = isList ? verticalScrollBar()->sizeHint().width() : 0;
+    return {TitlesWidth() + figures * columnWidth + 2 * frameWidth() + bar, height};
 }
 
 QSize GridView::minimumSizeHint() const
 {
-    return SizeFor(kLeastRowsShown);
+    return IsWhole() ? SizeFor(kLeastRowsShown, kLeastColumnWidth) : SizeFor(4, kLeastColumnWidth);
 }
 
 QSize GridView::sizeHint() const
 {
-    if (grid_.MergeCells == Merging::Never) return SizeFor(kMostRowsUnscrolled);
+    if (IsWhole()) return SizeFor(kMostRowsUnscrolled, kMostColumnWidth);
     double width = 0;
     for (int column = 0; column < grid_.Columns(); ++column) width += grid_.ColumnWidth(column) / looks::kTwipsPerPixel;
-    return SizeFor(grid_.Rows()).expandedTo({static_cast<int>(width), 0});
+    return SizeFor(grid_.Rows(), kLeastColumnWidth).expandedTo({static_cast<int>(width), 0});
 }
 
 void GridView::changeEvent(QEvent* event)
@@ -270,7 +363,7 @@ void GridView::changeEvent(QEvent* event)
 void GridView::AttachModel()
 {
     setModel(model_);
-    setItemDelegate(new CellPainter(grid_, this));
+    setItemDelegate(new CellPainter(grid_, *this, this));
     ShowMerged();
     executeDelayedItemsLayout();  // else a timer does it after the first painting, which then comes twice
 }
@@ -323,32 +416,26 @@ void GridView::DistributeRoom()
 /// Titles as wide as they need, the other columns share the rest; rows of equal height fill the view.
 void GridView::DistributeWidth()
 {
-    const int rows = grid_.Rows();
     int left = viewport()->width();
     for (int column = 0; column < grid_.Columns(); ++column) {
         const int asked = HoldsTitles(grid_, column) ? TitleWidth(column) : ColumnShare(column, left);
-        const int width = std::max(kLeastColumnWidth, asked);
+        const int most = IsWhole() && !HoldsTitles(grid_, column) ? kMostColumnWidth : asked;
+        const int width = std::max(kLeastColumnWidth, std::min(asked, most));
         setColumnWidth(column, width);
         left -= width;
     }
-    int least = 0;
-    for (int row = 0; row < rows; ++row) least += MinimumRowHeight(row);
-    const bool headsAlone = grid_.HeadRows() == rows;  // are never scrolled; rows may come later
-    setMinimumHeight(headsAlone ? least + 2 * frameWidth() : 0);
-    setMaximumHeight(headsAlone ? least + 2 * frameWidth() : QWIDGETSIZE_MAX);
+    updateGeometry();  // titles may have become longer
 }
 
-/// The rows that have room share what is left of it, so that none stands there by half.
+/// Rows are as high as they ask for, side by side in all grids. Where grids fill their place, the rows that have room
+/// share what is left of it, so that none stands there by half.
 void GridView::DistributeHeight()
 {
     const int rows = grid_.Rows();
     int spare = viewport()->height(), shown = 0;
     while (shown < rows && spare >= MinimumRowHeight(shown)) spare -= MinimumRowHeight(shown++);
-    const int even = spare / std::max(1, shown), most = looks::kGridRowHeight / 2;
-    for (int row = 0; row < rows; ++row) {
-        const bool takesRest = even < most && row < spare - even * shown;  // the pixels that do not divide
-        setRowHeight(row, MinimumRowHeight(row) + std::min(even, most) + (takesRest ? 1 : 0));
-    }
+    const int even = IsWhole() ? 0 : std::min(spare / std::max(1, shown), looks::kGridRowHeight / 2);
+    for (int row = 0; row < rows; ++row) setRowHeight(row, MinimumRowHeight(row) + even);
 }
 
 void GridView::mousePressEvent(QMouseEvent* event)
@@ -359,14 +446,124 @@ void GridView::mousePressEvent(QMouseEvent* event)
     if (event->button() == Qt::RightButton) grid_.PressMouse(MouseButton::Right, cell.row(), cell.column());
 }
 
-/// The Tab key enters a grid as a press on its first cell would.
+/// The Tab key enters a grid as a press on its first cell would, Shift+Tab as one on its last.
 void GridView::focusInEvent(QFocusEvent* event)
 {
     QTableView::focusInEvent(event);
-    const bool byKey = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
-    if (!byKey || !editor_) return;
+    viewport()->update();
+    if (!editor_) return;
     const CellRange range = editor_->Range();
-    grid_.PressMouse(MouseButton::Left, range.firstRow, range.firstColumn);
+    if (event->reason() == Qt::TabFocusReason) grid_.PressMouse(MouseButton::Left, range.firstRow, range.firstColumn);
+    if (event->reason() == Qt::BacktabFocusReason) ShowCell(range.lastRow, range.lastColumn);
+}
+
+void GridView::focusOutEvent(QFocusEvent* event)
+{
+    QTableView::focusOutEvent(event);
+    viewport()->update();
+}
+
+bool GridView::IsTyped(int row, int column) const
+{
+    const auto holds = [&](const auto* editor) { return editor && editor->Range().Holds(row, column); };
+    return (holds(editor_) || holds(listEditor_)) && !grid_.IsCalculated(row, column);
+}
+
+void GridView::ShowCell(int row, int column)
+{
+    if (row < 0 || row >= grid_.Rows() || column < 0 || column >= grid_.Columns()) return;
+    if (IsTyped(row, column)) return grid_.PressMouse(MouseButton::Left, row, column);
+    if (editor_) editor_->Hide();
+    grid_.Select(row, column);
+    setFocus(Qt::OtherFocusReason);
+    if (model()) scrollTo(model_->index(row, column));
+    viewport()->update();
+}
+
+bool GridView::OpenFirstEmpty()
+{
+    if (!editor_) return false;
+    const CellRange range = editor_->Range();
+    for (int column = range.firstColumn; column <= range.lastColumn; ++column) {
+        for (int row = range.firstRow; row <= range.lastRow; ++row) {
+            const std::string& text = std::as_const(grid_)(row, column);
+            if (!IsTyped(row, column) || !QString::fromStdString(text).trimmed().isEmpty()) continue;
+            grid_.PressMouse(MouseButton::Left, row, column);
+            return true;
+        }
+    }
+    return false;
+}
+
+/// Back is the way that Tab came, over what is worked out.
+bool GridView::WalkByTab(bool isBack)
+{
+    if (!editor_ || !editor_->Visible()) return false;
+    const int row = grid_.Row(), column = grid_.Column();
+    if (!isBack) {
+        editor_->PressKey(Key::Tab);
+    } else {
+        const CellRange range = editor_->Range();
+        int backRow = row, backColumn = column;
+        do {
+            if (--backColumn < range.firstColumn) {
+                backColumn = range.lastColumn;
+                --backRow;
+            }
+        } while (backRow >= range.firstRow && grid_.IsCalculated(backRow, backColumn));
+        if (backRow >= range.firstRow) grid_.PressMouse(MouseButton::Left, backRow, backColumn);
+    }
+    if (grid_.Row() != row || grid_.Column() != column) return true;
+    editor_->Hide();
+    return focusNextPrevChild(!isBack);
+}
+
+bool GridView::OpenCurrent()
+{
+    if (!IsTyped(grid_.Row(), grid_.Column())) return false;
+    grid_.PressMouse(MouseButton::Left, grid_.Row(), grid_.Column());
+    return true;
+}
+
+/// To the next typed cell that way.
+void GridView::MoveCurrent(int down, int right)
+{
+    int row = grid_.Row() + down, column = grid_.Column() + right;
+    while (row >= 0 && row < grid_.Rows() && column >= 0 && column < grid_.Columns() && !IsTyped(row, column)) {
+        row += down;
+        column += right;
+    }
+    if (row < 0 || row >= grid_.Rows() || column < 0 || column >= grid_.Columns()) return;
+    grid_.Select(row, column);
+    scrollTo(model_->index(row, column));
+    viewport()->update();
+}
+
+/// With the grid's own focus, after Esc: arrows move the edge, what types a text or F2 or Enter opens the cell.
+void GridView::keyPressEvent(QKeyEvent* event)
+{
+    switch (event->key()) {
+        case Qt::Key_Up:
+            return MoveCurrent(-1, 0);
+        case Qt::Key_Down:
+            return MoveCurrent(1, 0);
+        case Qt::Key_Left:
+            return MoveCurrent(0, -1);
+        case Qt::Key_Right:
+            return MoveCurrent(0, 1);
+        case Qt::Key_F2:
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            OpenCurrent();
+            return;
+        default:
+            break;
+    }
+    const bool isText = !event->text().isEmpty() && event->text().front().isPrint() &&
+                        !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier));
+    if (!isText || !OpenCurrent()) return event->ignore();
+    if (QWidget* box = box_ && box_->isVisible() ? static_cast<QWidget*>(box_) : list_)
+        QCoreApplication::sendEvent(box, event);  // the text is selected whole: the key takes its place
 }
 
 void GridView::scrollContentsBy(int dx, int dy)

@@ -31,8 +31,19 @@ class GridView : public QTableView {
     ListCellEditor* ListEditor() const { return listEditor_; }
     QComboBox* EditorList() const { return list_; }
 
-    /// A few rows at the least; all of them, up to a dozen, where there is room. A grid with merged cells is
-    /// a whole, as wide as its form says.
+    /// Tab and Shift+Tab in the editor: the next cell that way; false behind the last and before the first, where the
+    /// editor is hidden and the key leads out of the grid.
+    bool WalkByTab(bool isBack);
+    /// Opens a cell that is typed; another is shown with the coloured edge.
+    void ShowCell(int row, int column);
+    /// Opens the first typed cell that is empty, trial by trial; false where there is none.
+    bool OpenFirstEmpty();
+    /// Whether the grid shows rows of its own height and nothing behind them; a grid with merged cells, and one whose
+    /// form says how wide each column is, fills its place.
+    bool IsWhole() const;
+
+    /// All rows, of a long list a dozen at the least and twenty where there is room, and columns that can be read; no
+    /// column is asked to be wider than a figure needs. A grid with merged cells is as wide as its form says.
     QSize minimumSizeHint() const override;
     QSize sizeHint() const override;
 
@@ -44,10 +55,17 @@ class GridView : public QTableView {
     void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
     void contextMenuEvent(QContextMenuEvent*) override {}
     void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void scrollContentsBy(int dx, int dy) override;
 
   private:
-    QSize SizeFor(int mostRows) const;
+    bool IsTyped(int row, int column) const;
+    bool OpenCurrent();
+    void MoveCurrent(int down, int right);
+    void NameEditors();
+    int TitlesWidth() const;
+    QSize SizeFor(int mostRows, int columnWidth) const;
     void AttachModel();
     void DistributeRoom();
     void DistributeWidth();

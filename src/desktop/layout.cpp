@@ -88,13 +88,15 @@ Place Space()
     return {Place::Kind::Space, {}, {}, {}, 1};
 }
 
+/// Two rows of four fields; with a field of the sheet's own three of three.
 Place GeneralData(std::string_view ownField)
 {
-    std::vector<std::string_view> job{"txtClient", "txtProject", "txtLocation"};
-    if (!ownField.empty()) job.push_back(ownField);
-    return Group(
-        "fraGeneral",
-        {Row({Fields(job, 5), Fields({"txtID", "txtSoil", "DTPDate"}, 3), Fields({"cboTest", "cboCheck"}, 4)})});
+    if (!ownField.empty())
+        return Group("fraGeneral",
+                     {Row({Fields({"txtClient", "txtProject", "txtLocation"}, 5),
+                           Fields({"txtID", "txtSoil", "DTPDate"}, 3), Fields({"cboTest", "cboCheck", ownField}, 4)})});
+    return Group("fraGeneral", {Row({Fields({"txtClient", "txtProject"}, 4), Fields({"txtLocation", "DTPDate"}, 4),
+                                     Fields({"txtID", "txtSoil"}, 3), Fields({"cboTest", "cboCheck"}, 4)})});
 }
 
 }  // namespace layout

@@ -43,7 +43,8 @@ Place One(std::string_view control, int stretch = 0);
 Place Field(std::string_view control, int stretch = 0);
 /// The same with the unit behind it.
 Place Measured(std::string_view control, std::string_view unit);
-/// The control under a caption of the window's own, for one that has none.
+/// The control under a caption of the window's own, for one that has none; outside of fields the caption is heard, not
+/// seen.
 Place Named(std::string_view control, std::string_view caption);
 /// Fields under each other with captions of the window's own.
 Place NamedFields(std::vector<Place> fields, int stretch = 0);

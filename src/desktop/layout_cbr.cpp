@@ -30,8 +30,8 @@ Place CurvesTab()
     return Row({
         Plot("picGraph", "picgraph1", 2),
         Column({One("mshLPC", 1),
-                Group("fraCorrection", {Row({One("chkMold1"), One("lblMold1"), One("chkMold2"), One("lblMold2"),
-                                             One("chkMold3"), One("lblMold3"), Space()})}),
+                Group("fraCorrection", {Row({Named("chkMold1", "Mold 1"), One("lblMold1"), Named("chkMold2", "Mold 2"),
+                                             One("lblMold2"), Named("chkMold3", "Mold 3"), One("lblMold3"), Space()})}),
                 Row({Space(), One("cmdLPen")})},
                3),
     });

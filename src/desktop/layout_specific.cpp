@@ -13,7 +13,7 @@ Place CalibrationTab()
         Group("fraCalibration", {One("MSHCalibration", 1)}, 2),
         Plot("picGraph", "picgraph1", 3),
         Column({One("optAut"), One("optExp"), One("optLin"), One("optPol"), Space(), One("lblEquation"),
-                One("txtFormula"), Field("txtR"), One("cmdgraph")},
+                Named("txtFormula", "Equation of Curve"), Field("txtR"), One("cmdgraph")},
                2),
     });
 }

@@ -19,6 +19,8 @@ inline constexpr int kMargin = 12;
 inline constexpr int kGap = 8;
 inline constexpr int kWideGap = 16;
 inline constexpr int kGridRowHeight = 28;
+inline constexpr int kBannerHeight = 40;
+inline constexpr int kStripHeight = 4;
 inline constexpr double kTwipsPerPixel = 15;
 
 inline constexpr double kBannerSize = 1.3;

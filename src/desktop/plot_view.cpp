@@ -13,7 +13,7 @@ PlotView::PlotView(PictureBox& frame, PictureBox* plot, QWidget* parent) : QWidg
     bindings_.push_back(frame.Show([this] { update(); }));
     if (plot) bindings_.push_back(plot->Show([this] { update(); }));
     setObjectName(QString::fromStdString((plot ? plot : &frame)->Name()));
-    setAccessibleName(tr("Curve"));
+    setAccessibleName(tr("Curve, no result yet"));
 }
 
 QSize PlotView::sizeHint() const

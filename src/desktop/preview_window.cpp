@@ -15,8 +15,11 @@
 #include <algorithm>
 
 #include "controls/form.h"
+#include "desktop/keys.h"
 #include "desktop/looks.h"
+#include "desktop/notice_bar.h"
 #include "desktop/qt_surroundings.h"
+#include "desktop/window_places.h"
 #include "desktop/windows.h"
 #include "render/painter.h"
 
@@ -104,6 +107,10 @@ PreviewWindow::PreviewWindow(Program& program, QtSurroundings& surroundings, For
     auto* bar = new QToolBar(this);
     BuildBar(*bar);
     column->addWidget(bar);
+    column->addWidget(new NoticeBar(
+        program.notices, [this](const NoticePlace& place) { LeadTo(program_, place); }, this));
+    BindKey(*this, Shortcut::Save, [this] { SaveAsPdf(); });
+    BindKey(*this, Shortcut::Preview, [this] { form_.Get<Toolbar>("Toolbar1").Press(kPrintButton); });
     auto* pages = new QGridLayout;
     pages->setSpacing(0);
     auto* across = new QScrollBar(Qt::Horizontal, this);
@@ -115,6 +122,7 @@ PreviewWindow::PreviewWindow(Program& program, QtSurroundings& surroundings, For
     bindings_.push_back(Bind(preview.Get<ScrollBar>("HScroll1"), *across));
     bindings_.push_back(Bind(preview.Get<ScrollBar>("VScroll1"), *down));
     resize(1000, 680);
+    RestorePlace(program, preview, *this);
 }
 
 void PreviewWindow::BuildBar(QToolBar& bar)
@@ -165,6 +173,7 @@ void PreviewWindow::SaveAsPdf()
 
 void PreviewWindow::reject()
 {
+    KeepPlace(program_, form_, *this);
     CloseForm(program_, form_);
 }
 

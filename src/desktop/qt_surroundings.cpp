@@ -97,7 +97,8 @@ std::optional<std::string> QtSurroundings::AskFile(const FileQuestion& question)
 
 std::optional<PrintTarget> QtSurroundings::AskPdfFile()
 {
-    QString path = QFileDialog::getSaveFileName(Above(), QObject::tr("Save as PDF"), {}, "PDF (*.pdf)");
+    QString path = QFileDialog::getSaveFileName(Above(), QObject::tr("Save as PDF"),
+                                                ProposedPdf ? ToQt(ProposedPdf()) : QString(), "PDF (*.pdf)");
     if (path.isEmpty()) return std::nullopt;
     if (QFileInfo(path).suffix().isEmpty()) path += ".pdf";
     return [this, path = FullPath(path.toStdString())](std::span<const DisplayList> pages, const std::string& title) {
@@ -136,6 +137,7 @@ void QtSurroundings::OpenDocument(const std::string& path)
 
 void QtSurroundings::Fail(const std::string& event, const RuntimeError& error)
 {
+    if (failuresAreNotices_) return;
     QMessageBox box(QMessageBox::Critical, QObject::tr("Run-time error %1").arg(error.Number()),
                     ToQt(error.Description()), QMessageBox::Ok, Above());
     box.setTextFormat(Qt::PlainText);

@@ -1,40 +1,32 @@
 #include "desktop/windows.h"
 
-#include <QCloseEvent>
-#include <QCursor>
+#include <QApplication>
 #include <QImage>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QMdiArea>
-#include <QMenuBar>
 #include <QPainter>
 #include <QPushButton>
 #include <QScreen>
-#include <QStatusBar>
 #include <QTimer>
 #include <QToolBar>
-#include <QToolButton>
 #include <QVBoxLayout>
 #include <algorithm>
-#include <chrono>
 
 #include "controls/visit_control.h"
 #include "desktop/layouts.h"
 #include "desktop/looks.h"
+#include "desktop/notice_bar.h"
 #include "desktop/qt_text.h"
 #include "render/painter.h"
-#include "runtime/text.h"
 
 namespace terravane {
 
 namespace {
 
-constexpr std::chrono::milliseconds kFrameSeen{200};
 constexpr int kSplashPicture = 240;  // pixels, both ways
 
-/// Where words end in Thai Qt looks up in a dictionary, which it reads with the first text of such letters; and each
-/// letter's shape is made for its first text. That takes some milliseconds: better before a sheet is opened than while
-/// it is.
+}  // namespace
+
 void PreloadGlyphs(const QFont& font)
 {
     QString letters;
@@ -58,126 +50,19 @@ QToolBar* MakeBar(QWidget* parent)
     return bar;
 }
 
-}  // namespace
-
 void CloseForm(Program& program, const Form& form)
 {
     program.Run(form.Name() + ".Close", [&program, name = form.Name()] { program.Unload(name); });
 }
 
-FrameWindow::FrameWindow(Program& program, Form& frame) : program_(program), form_(frame), area_(new QMdiArea(this))
+void LeadTo(const Program& program, const NoticePlace& place)
 {
-    setWindowTitle(ToQt(frame.Caption()));
-    setWindowIcon(looks::ProgramIcon());
-    setAttribute(Qt::WA_DeleteOnClose, false);
-    setMinimumSize(1024, 680);
-    resize(1280, 720);
-    area_->setBackground(palette().brush(QPalette::Mid));
-    area_->setAccessibleName(tr("Test sheets"));
-    setCentralWidget(area_);
-    BuildMenu();
-    BuildBands();
-    connect(this, &QWidget::windowTitleChanged, this, [this] { KeepTitle(); });
-    QTimer::singleShot(kFrameSeen, this, [this] { PreloadGlyphs(font()); });
-}
-
-/// Qt would write the title of a sheet that fills the frame behind the frame's own.
-void FrameWindow::KeepTitle()
-{
-    setWindowTitle(ToQt(form_.Caption()));
-}
-
-void FrameWindow::BuildMenu()
-{
-    std::unordered_map<std::string, QMenu*> menus;
-    for (MenuEntry* entry : ControlsOf<MenuEntry>(form_)) {
-        if (entry->Parent().empty()) {
-            menus[entry->Name()] = menuBar()->addMenu(ToQt(entry->Caption()));
-            continue;
-        }
-        QAction* action = menus.at(entry->Parent())->addAction(ToQt(entry->Caption()));
-        action->setSeparator(entry->IsSeparator());
-        action->setObjectName(ToQt(entry->Name()));
-        connect(action, &QAction::triggered, this, [entry] { entry->Press(); });
-        bindings_.push_back(entry->Show([entry, action] {
-            action->setText(entry->IsSeparator() ? QString() : ToQt(Printable(entry->Caption())));
-            action->setVisible(entry->Visible() && !entry->Caption().empty());
-            action->setEnabled(entry->Enabled());
-        }));
+    const Form* form = program.Loaded(place.form);
+    if (!form) return;
+    for (QWidget* widget : QApplication::allWidgets()) {
+        auto* view = dynamic_cast<FormView*>(widget);
+        if (view && &view->Shown() == form && view->isVisible()) return view->LeadTo(place);
     }
-}
-
-/// The coloured strip above the buttons of the tests, as two bands.
-void FrameWindow::BuildBands()
-{
-    auto& strip = form_.Get<StatusBar>("StatusBar1");
-    auto* stripView = new QLabel(this);
-    stripView->setFixedHeight(10);
-    bindings_.push_back(BindFurniture(strip, *stripView));
-    bindings_.push_back(strip.Show([&strip, stripView] {
-        stripView->setToolTip(ToQt(strip.ToolTip()));
-        stripView->setAccessibleName(ToQt(strip.ToolTip()));
-    }));
-    auto* band = MakeBar(this);
-    stripView->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    band->addWidget(stripView);
-    addToolBar(Qt::TopToolBarArea, band);
-    addToolBarBreak(Qt::TopToolBarArea);
-    auto* tests = MakeBar(this);
-    tests->setObjectName("tbrLab");
-    bindings_.push_back(Bind(form_.Get<Toolbar>("tbrLab"), *tests));
-    addToolBar(Qt::TopToolBarArea, tests);
-}
-
-QWidget* FrameWindow::ShowSheet(Form& sheet)
-{
-    auto* window = new SheetWindow(program_, sheet);
-    window->setWindowIcon(windowIcon());
-    area_->addSubWindow(window);
-    window->Fill();
-    window->resize(window->sizeHint().boundedTo(area_->viewport()->size()).expandedTo(window->minimumSizeHint()));
-    window->move(static_cast<int>(sheet.Left / looks::kTwipsPerPixel),
-                 static_cast<int>(sheet.Top / looks::kTwipsPerPixel));
-    window->widget()->hide();  // Qt shows a window in its own size before it fills the area: laid out once is enough
-    window->showMaximized();
-    window->widget()->show();
-    window->resize(window->size().expandedTo(window->minimumSizeHint()));
-    return window;
-}
-
-void FrameWindow::closeEvent(QCloseEvent* event)
-{
-    event->ignore();
-    CloseForm(program_, form_);
-}
-
-SheetWindow::SheetWindow(Program& program, Form& sheet) : program_(program), form_(sheet)
-{
-    setWindowTitle(ToQt(sheet.Caption()));
-}
-
-void SheetWindow::Fill()
-{
-    auto* content = new QWidget(this);
-    auto* column = new QVBoxLayout(content);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(0);
-    auto* bar = MakeBar(content);
-    bar->setObjectName("tblMenu");
-    bindings_.push_back(Bind(form_.Get<Toolbar>("tblMenu"), *bar));
-    column->addWidget(bar);
-    column->addWidget(new FormView(form_, LayoutOf(form_.Name()), content), 1);
-    auto* status = new QStatusBar(content);
-    status->setObjectName("stbDes");
-    bindings_.push_back(Bind(form_.Get<StatusBar>("stbDes"), *status));
-    column->addWidget(status);
-    setWidget(content);
-}
-
-void SheetWindow::closeEvent(QCloseEvent* event)
-{
-    event->ignore();
-    CloseForm(program_, form_);
 }
 
 DialogWindow::DialogWindow(Program& program, Form& form, Modality modality, QWidget* parent)
@@ -187,6 +72,9 @@ DialogWindow::DialogWindow(Program& program, Form& form, Modality modality, QWid
     if (modality == Modality::Modal) setWindowModality(Qt::ApplicationModal);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(new NoticeBar(
+        program.notices, [this](const NoticePlace& place) { LeadTo(program_, place); }, this));
     column->addWidget(new FormView(form, LayoutOf(form.Name()), this));
     const QSize asked(static_cast<int>(form.Width / looks::kTwipsPerPixel),
                       static_cast<int>(form.Height / looks::kTwipsPerPixel));

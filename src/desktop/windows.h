@@ -1,21 +1,30 @@
-/// The windows around the forms' views: the frame with its area of sheets, sheets, dialogs, the splash.
+/// The windows around the forms' views but for the frame: dialogs, the splash, and what all windows share.
 #pragma once
 
 #include <QCoreApplication>
 #include <QDialog>
 #include <QEvent>
-#include <QMainWindow>
-#include <QMdiSubWindow>
 
 #include "desktop/form_view.h"
 #include "program/program.h"
 
-class QMdiArea;
+class QToolBar;
 
 namespace terravane {
 
 /// Asks the program to take a form away, as the form's title bar does.
 void CloseForm(Program& program, const Form& form);
+
+/// Shows what a notice leads to: the tab, the box with the focus, the cell with its editor.
+void LeadTo(const Program& program, const NoticePlace& place);
+
+/// A bar that stays where it is.
+QToolBar* MakeBar(QWidget* parent);
+
+/// Where words end in Thai Qt looks up in a dictionary, which it reads with the first text of such letters; and each
+/// letter's shape is made for its first text. That takes some milliseconds: better before a sheet is opened than while
+/// it is.
+void PreloadGlyphs(const QFont& font);
 
 /// A window that is painted when its layouts have settled. A change is told from layout to layout, outwards, an event a
 /// step, and Qt would paint the steps.
@@ -35,46 +44,6 @@ class SettledWindow : public Window {
         }
         return Window::event(event);
     }
-};
-
-/// The main window: menu, the two bands, the area of sheets.
-class FrameWindow : public SettledWindow<QMainWindow> {
-  public:
-    FrameWindow(Program& program, Form& frame);
-
-    /// Puts a sheet into the area.
-    QWidget* ShowSheet(Form& sheet);
-
-  protected:
-    void closeEvent(QCloseEvent* event) override;
-
-  private:
-    void KeepTitle();
-    void BuildMenu();
-    void BuildBands();
-
-    Program& program_;
-    Form& form_;
-    QMdiArea* area_;
-    Bindings bindings_;
-};
-
-/// A test sheet: its toolbar, its view, its status bar.
-class SheetWindow : public QMdiSubWindow {
-  public:
-    SheetWindow(Program& program, Form& sheet);
-
-    /// Makes what stands in the window. It waits until the window stands in its area: moved there full, all of it would
-    /// be styled twice.
-    void Fill();
-
-  protected:
-    void closeEvent(QCloseEvent* event) override;
-
-  private:
-    Program& program_;
-    Form& form_;
-    Bindings bindings_;
 };
 
 /// A form of its own above the frame.

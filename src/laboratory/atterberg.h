@@ -136,12 +136,15 @@ inline constexpr const Box& kFlowIndexBox = kAtterbergResults[3];
 
 inline constexpr std::string_view kAtterbergTabs[]{"Data Monitor Determination", "Flow Curve"};
 
+inline constexpr std::string_view kAtterbergCommands[]{"cmdCal", "cmdPlot"};
+
 inline constexpr Sheet kAtterbergSheet{
     .form = "frmAtterberg",
     .caption = "Atterberg Limits Test",
     .tabs = kAtterbergTabs,
     .grids = kAtterbergGrids,
     .results = kAtterbergResults,
+    .commands = kAtterbergCommands,
     .closing = {.beforeFile = 1, .beforeSheet = 6},
 };
 
@@ -158,8 +161,6 @@ inline constexpr Posted kAtterbergPosts[]{
      .control = "txtFI",
      .place = 15},
 };
-
-inline constexpr std::string_view kAtterbergCommands[]{"cmdCal", "cmdPlot"};
 
 inline constexpr Description kAtterberg{
     .test = Test::AttSoil,
@@ -179,7 +180,6 @@ inline constexpr Description kAtterberg{
     .rows = kLimitTrials,
     .workOrder = 1,
     .posts = kAtterbergPosts,
-    .commands = kAtterbergCommands,
 };
 
 }  // namespace laboratory

@@ -239,6 +239,8 @@ inline constexpr Option kConditions[]{
 inline constexpr std::string_view kBearingTabs[]{"Water Content and Density", "Swelling and Penetration",
                                                  "Load-Penetration Curve", "CBR Value Determination"};
 
+inline constexpr std::string_view kBearingCommands[]{"cmdCal", "cmdLPen", "cmdCBR"};
+
 inline constexpr Sheet kBearingSheet{
     .form = "frmCBR",
     .caption = "California Bearing Ratio Test",
@@ -246,6 +248,7 @@ inline constexpr Sheet kBearingSheet{
     .boxes = kBearingBoxes,
     .grids = kBearingGrids,
     .results = kBearingResults,
+    .commands = kBearingCommands,
     .choice = {{.kept = "typ"}, kConditions},
     .closing = {.beforeFile = 2, .beforeSheet = 3},
 };

@@ -146,6 +146,8 @@ inline constexpr const Box& kAirVoidGravity = kCompactionResults[2];
 inline constexpr std::string_view kCompactionTabs[]{"Data Monitor Determination",
                                                     "Compaction Parameters Determination"};
 
+inline constexpr std::string_view kCompactionCommands[]{"cmdCal", "cmdOMC"};
+
 inline constexpr Sheet kCompactionSheet{
     .form = "frmCompaction",
     .caption = "Compaction Test",
@@ -153,6 +155,7 @@ inline constexpr Sheet kCompactionSheet{
     .boxes = kCompactionBoxes,
     .grids = kCompactionGrids,
     .results = kCompactionResults,
+    .commands = kCompactionCommands,
     .trimsLists = true,
     .closing = {.beforeFile = 3, .beforeSheet = 2},
 };

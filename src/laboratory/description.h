@@ -144,6 +144,8 @@ struct ClosingOrder {
 /// A form that serves one test, or several that differ in their tables alone.
 /// boxes       typed, before the grids in the order of the table
 /// results     boxes whose columns stand behind the grids': worked out, or taken from another test
+/// commands    in the order in which the method presses them; Print Preview comes behind them. What only prepares the
+///             typing, such as the list of sieves, is none
 /// trimsLists  whether the texts of its grids lose the blanks at their ends when they are loaded
 struct Sheet {
     std::string_view form, caption;
@@ -151,6 +153,7 @@ struct Sheet {
     std::span<const Box> boxes;
     std::span<const Grid> grids;
     std::span<const Box> results = {};
+    std::span<const std::string_view> commands = {};
     Choice choice = {};
     bool trimsLists = false;
     ClosingOrder closing = {};
@@ -222,7 +225,6 @@ struct Table {
 /// prefix      of its columns
 /// rows        of each of its tables
 /// workOrder   when it is worked: a test stands behind those whose results it takes
-/// commands    of its sheet, in the order of the method, where nothing has to be chosen or typed between them
 /// needs       tests whose results its commands read
 struct Description {
     Test test;
@@ -235,7 +237,6 @@ struct Description {
     std::span<const Posted> posts;
     std::span<const Taken> takes = {};
     std::span<const Test> needs = {};
-    std::span<const std::string_view> commands = {};
 
     constexpr const Table& TableFor(Material material) const
     {

@@ -202,12 +202,15 @@ inline constexpr Option kFieldCompactions[]{{"optStd", "Standard Compaction", "S
 inline constexpr std::string_view kFieldTabs[]{"Calibration of Sand", "Soil and Volume of Hole",
                                                "Water Content and Compaction"};
 
+inline constexpr std::string_view kFieldCommands[]{"cmdCal"};
+
 inline constexpr Sheet kFieldSheet{
     .form = "frmDensity",
     .caption = "Field Density Test",
     .tabs = kFieldTabs,
     .boxes = kFieldBoxes,
     .grids = kFieldGrids,
+    .commands = kFieldCommands,
     .choice = {{.kept = "comp", .place = 20}, kFieldCompactions},
     .closing = {.beforeFile = 4, .beforeSheet = 1},
 };
@@ -222,8 +225,6 @@ inline constexpr Posted kFieldPosts[]{
 
 inline constexpr Taken kFieldTakes[]{{"mdd", "MDD", Test::None, "mdd", false}};
 inline constexpr Test kFieldNeeds[]{Test::StdSoil, Test::ModSoil};
-
-inline constexpr std::string_view kFieldCommands[]{"cmdCal"};
 
 inline constexpr Description kFieldDensity{
     .test = Test::DenSoil,
@@ -246,7 +247,6 @@ inline constexpr Description kFieldDensity{
     .posts = kFieldPosts,
     .takes = kFieldTakes,
     .needs = kFieldNeeds,
-    .commands = kFieldCommands,
 };
 
 }  // namespace laboratory

@@ -14,5 +14,6 @@ inline constexpr std::string_view kSevenDecimals = "##0.0#####0";
 
 inline constexpr std::string_view kLongDate = "dd mmmm yyyy";
 inline constexpr std::string_view kClock = "hh : mm : ss";
+inline constexpr std::string_view kTimeOfDay = "hh:mm";
 
 }  // namespace terravane

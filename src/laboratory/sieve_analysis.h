@@ -103,6 +103,8 @@ inline constexpr Option kSieving[]{{"optNo", "Dry", "0"}, {"optYes", "Wet", "1"}
 
 inline constexpr std::string_view kSieveTabs[]{"Sieve Analysis", "Particle Size Distribution", "Soil Classification"};
 
+inline constexpr std::string_view kSieveCommands[]{"cmdCal", "cmdgraph", "cmdAtt", "cmdClass"};
+
 inline constexpr Sheet kSieveSheet{
     .form = "frmSieve",
     .caption = "Sieve Analysis",
@@ -110,6 +112,7 @@ inline constexpr Sheet kSieveSheet{
     .boxes = kSieveBoxes,
     .grids = kSieveGrids,
     .results = kSieveResults,
+    .commands = kSieveCommands,
     .choice = {{.kept = "pwash"}, kSieving},
     .closing = {.beforeFile = 5, .beforeSheet = 4},
 };

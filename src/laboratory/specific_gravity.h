@@ -113,12 +113,15 @@ inline constexpr const Box& kCalibrationRSquared = kSpecificGravityResults[1];
 
 inline constexpr std::string_view kSpecificGravityTabs[]{"Flask Calibration", "Specific Gravity Determination"};
 
+inline constexpr std::string_view kSpecificGravityCommands[]{"cmdgraph", "cmdCal"};
+
 inline constexpr Sheet kSpecificGravitySheet{
     .form = "frmSpecific",
     .caption = "Specific Gravity Test",
     .tabs = kSpecificGravityTabs,
     .grids = kSpecificGravityGrids,
     .results = kSpecificGravityResults,
+    .commands = kSpecificGravityCommands,
     .closing = {.beforeFile = 6, .beforeSheet = 5},
 };
 

@@ -6,12 +6,14 @@
 #include <ranges>
 #include <utility>
 
+#include "program/failure_notice.h"
 #include "runtime/text.h"
 
 namespace terravane {
 
 Program::Program(Surroundings& surroundings, FileSystem& files, std::string applicationPath, std::string brandPath)
-    : surroundings_(surroundings),
+    : notices([&surroundings] { return surroundings.Now(); }),
+      surroundings_(surroundings),
       files_(files),
       applicationPath_(std::move(applicationPath)),
       brandPath_(std::move(brandPath))
@@ -71,6 +73,7 @@ void Program::Unload(std::string_view name)
     Form& form = *unloaded_.back();
     std::erase_if(shown_, [&form](const ShownForm& shown) { return shown.form == &form; });
     form.Form_Unload();
+    notices.SettleForm(form.Name());
     formsChanged_.Announce();
     if (depth_ == 0) unloaded_.clear();
 }
@@ -91,14 +94,18 @@ void Program::Run(std::string_view event, const std::function<void()>& handler)
 {
     if (depth_ > 0) return handler();
     const std::string name(event);
-    RunOutermost(name, handler);
-    RunOutermost(name, [this] { FlushStores(); });
+    for (const auto& form : loaded_) form->ForgetAddressed();
+    notices.Settle(name);  // tried again: what was said of it before is moot
+    notices.Hold();
+    const bool hasRun = RunOutermost(name, handler);
+    const bool isKept = RunOutermost(name, [this] { FlushStores(); });
+    notices.Release(hasRun && isKept);
     unloaded_.clear();
 }
 
-/// Telling may wait for a person, and meanwhile other commands may run, such as a clock's: each is an outermost one,
-/// and what the failed command unloaded lives on until it was told.
-void Program::RunOutermost(const std::string& event, const std::function<void()>& step)
+/// False where it failed. Telling may wait for a person, and meanwhile other commands may run, such as a clock's: each
+/// is an outermost one, and what the failed command unloaded lives on until it was told.
+bool Program::RunOutermost(const std::string& event, const std::function<void()>& step)
 {
     std::optional<RuntimeError> failure;
     ++depth_;
@@ -110,9 +117,11 @@ void Program::RunOutermost(const std::string& event, const std::function<void()>
         failure = RuntimeError(error::kInternal, unexpected.what());
     }
     --depth_;
-    if (!failure) return;
+    if (!failure) return true;
     const auto unloaded = std::exchange(unloaded_, {});
+    notices.Tell(FailureNotice({event, *failure, Loaded(Failed::FormOf(event)), CurrentTest, CurrentSql}));
     surroundings_.Fail(event, *failure);
+    return false;
 }
 
 namespace {

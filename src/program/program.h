@@ -15,6 +15,7 @@
 #include "jet/recordset.h"
 #include "laboratory/current_test.h"
 #include "program/folders.h"
+#include "program/notices.h"
 #include "program/printer.h"
 #include "program/surroundings.h"
 #include "runtime/file_system.h"
@@ -49,6 +50,9 @@ class Program : public EventBoundary {
     std::string ApproverName;         // found last; stays where a later search finds none
     Printer printer;
 
+    /// What is said without a box. What a command tells stands here when it has ended.
+    Notices notices;
+
     const std::string& ApplicationPath() const { return applicationPath_; }
     /// The brand store's folder, worked out from the application path.
     std::string BrandFolderNow() const;
@@ -77,17 +81,20 @@ class Program : public EventBoundary {
         Modality modality;
     };
     const std::vector<ShownForm>& ShownForms() const { return shown_; }
+    /// Whether a command runs now.
+    bool IsRunning() const { return depth_ > 0; }
     /// Runs the listener when a form was loaded, shown or unloaded.
     Subscription ShowForms(std::function<void()> listener);
 
-    /// The event boundary: runs a command, sends the stores' changes to their files, shows what failed.
+    /// The event boundary: runs a command, sends the stores' changes to their files, tells what failed, in a notice and
+    /// to the surroundings.
     void Run(std::string_view event, const std::function<void()>& handler) override;
     /// Sends the stores' changes to their files now. Run does it at the end of every command, also a failed
     /// one.
     void FlushStores();
 
   private:
-    void RunOutermost(const std::string& event, const std::function<void()>& step);
+    bool RunOutermost(const std::string& event, const std::function<void()>& step);
     [[noreturn]] static void FailMissing(std::string_view name);
 
     Surroundings& surroundings_;

@@ -57,6 +57,42 @@ void RunForms(Session& session, Words)
     session.answers.Write({{"forms", std::move(names)}});
 }
 
+std::string_view KindWords(NoticeKind kind)
+{
+    switch (kind) {
+        case NoticeKind::Information:
+            return "information";
+        case NoticeKind::Attention:
+            return "attention";
+        case NoticeKind::Failure:
+            break;
+    }
+    return "failure";
+}
+
+Json NoticeAnswer(const Notice& notice)
+{
+    Json answer{{"notice", notice.sentence}, {"kind", KindWords(notice.kind)}};
+    const NoticePlace& place = notice.place;
+    if (place.IsGiven()) {
+        const std::string cell = " " + std::to_string(place.row) + " " + std::to_string(place.column);
+        answer["at"] = place.form + "." + place.control + (place.IsCell() ? cell : std::string());
+    }
+    return answer;
+}
+
+/// Those that are open, the oldest first, and how many.
+void RunNotices(Session& session, Words)
+{
+    int open = 0;
+    for (const Notice& notice : session.program.notices.Told()) {
+        if (!notice.isOpen) continue;
+        ++open;
+        session.answers.Write(NoticeAnswer(notice));
+    }
+    session.answers.Write({{"notices", open}});
+}
+
 void RunPicture(Session& session, Words words)
 {
     const auto& box = ControlFor(&ControlUses::drawing, session.program, words[0], "be looked at as a picture");
@@ -108,6 +144,7 @@ void RunRender(Session& session, Words words)
 constexpr std::array kLookingCommands{
     Command{"get", 1, 3, RunGet},         Command{"dump", 1, 1, RunDump}, Command{"forms", 0, 0, RunForms},
     Command{"picture", 1, 1, RunPicture}, Command{"page", 1, 2, RunPage}, Command{"render", 2, 3, RunRender},
+    Command{"notices", 0, 0, RunNotices},
 };
 
 }  // namespace

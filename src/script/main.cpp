@@ -36,6 +36,7 @@ constexpr auto kLines =
     "  get CONTROL[.PROPERTY [N]]      a text or a state\n"
     "  get GRID ROW COL, dump GRID     a cell, all rows\n"
     "  forms                           the forms that are loaded\n"
+    "  notices                         what was said without a box and is not settled\n"
     "  sql TEXT, brandsql TEXT         a statement on the project file, on the brand store\n"
     "  picture CONTROL                 what is drawn in a picture box\n"
     "  page preview, page print N      what is drawn on a page of the open report\n"

@@ -5,6 +5,7 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenuBar>
+#include <QPushButton>
 #include <QToolBar>
 #include <QToolButton>
 #include <algorithm>
@@ -29,8 +30,9 @@ QColor StripColour(DesktopFixture& running)
 bool TestsCanBeOpened(DesktopFixture& running)
 {
     const auto buttons = running.Widget<QToolBar>("mdiBack", "tbrLab")->findChildren<QToolButton*>();
-    return std::ranges::all_of(buttons,
-                               [](const QToolButton* button) { return !button->menu() || button->isEnabled(); });
+    return std::ranges::all_of(buttons, [](const QToolButton* button) {
+        return button->isHidden() || !button->menu() || button->isEnabled();
+    });
 }
 
 TEST(FrameWindow, BeginsRedWithoutATestToOpen)
@@ -40,6 +42,23 @@ TEST(FrameWindow, BeginsRedWithoutATestToOpen)
     EXPECT_FALSE(TestsCanBeOpened(running));
     EXPECT_EQ(running.Window("mdiBack")->windowTitle(),
               "Terravane Program : Version 1.0 -  [Materials for Road Construction]");
+}
+
+TEST(FrameWindow, BeforeAProjectIsOpenItOffersNewAndOpenAndTheRecentFile)
+{
+    DesktopFixture running;
+    const auto shown = [&running](const char* name) {
+        auto* part = running.Widget("mdiBack", name);
+        return part && part->isVisible();
+    };
+    EXPECT_TRUE(shown("start_mnuOpen"));
+    EXPECT_FALSE(shown("start_mnuRecent")) << "There is none yet.";
+    running.surroundings.files.push_back(running.PathOf("road.mdb"));
+    running.Widget<QPushButton>("mdiBack", "start_mnuNew")->click();
+    ASSERT_TRUE(running.program.Loaded("frmProject"));
+    EXPECT_TRUE(shown("start_mnuRecent"));
+    running.FormNamed("frmProject").Get<CommandButton>("cmdOK").Press();
+    EXPECT_FALSE(shown("startPage")) << "Now the tests are what comes next.";
 }
 
 TEST(FrameWindow, TurnsGreenWhenGeneralDataIsAccepted)
@@ -75,7 +94,7 @@ TEST(FrameWindow, ASecondSheetTakesThePlaceOfTheFirst)
     auto* area = running.Window("mdiBack")->findChild<QMdiArea*>();
     EXPECT_EQ(area->subWindowList().size(), 1);
     const auto* banner = running.Widget<QLabel>("frmCompaction", "txtLabName");
-    EXPECT_EQ(banner->text(), "การทดสอบการบดอัดแบบสูงกว่ามาตรฐาน\nModified Compaction Test");
+    EXPECT_EQ(banner->text(), "การทดสอบการบดอัดแบบสูงกว่ามาตรฐาน   Modified Compaction Test");
     EXPECT_EQ(banner->palette().color(QPalette::Window), QColor(128, 0, 128)) << "Crushed rock is purple.";
 }
 
@@ -201,9 +220,10 @@ TEST(Pointer, IsAHandOverTheCommandsThatTakeIt)
     const auto shape = [&](const char* form, const char* control) {
         return running.Widget(form, control)->cursor().shape();
     };
-    for (const char* command : {"cmdCal", "cmdView", "cmdOMC", "tblMenu"})
+    for (const char* command : {"cmdCal", "cmdView", "cmdOMC"})
         EXPECT_EQ(shape("frmCompaction", command), Qt::PointingHandCursor) << command;
-    EXPECT_EQ(running.Widget("frmCompaction", "tblMenu")->findChild<QToolButton*>()->cursor().shape(),
+    EXPECT_EQ(shape("mdiBack", "tblMenu"), Qt::PointingHandCursor);
+    EXPECT_EQ(running.Widget("mdiBack", "tblMenu")->findChild<QToolButton*>()->cursor().shape(),
               Qt::PointingHandCursor);
     EXPECT_EQ(shape("frmCompaction", "Command5"), Qt::ArrowCursor);
     running.FormNamed("frmCompaction").Get<CommandButton>("cmdView").Press();

@@ -4,6 +4,7 @@
 // pictures.
 #include <QApplication>
 #include <QLabel>
+#include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPainter>
@@ -16,12 +17,13 @@
 
 #include "desktop/desktop_fixture.h"
 #include "desktop/looks.h"
+#include "program/failure_notice.h"
 
 namespace {
 
 using namespace terravane;
 
-constexpr QSize kFrameSize{1120, 700};
+constexpr QSize kFrameSize{1280, 700};
 constexpr QSize kMenuSize{760, 250};  // what of the frame a menu's picture shows
 constexpr QSize kPreviewSize{900, 640};
 constexpr QSize kResultsSize{680, 780};
@@ -48,21 +50,21 @@ struct SheetPictures {
 const std::vector<SheetPictures> kSheets{
     {"mnuAtt1",
      "frmAtterberg",
-     1120,
+     1280,
      {{"atterberg-data", 0, 740, {"cmdCal"}}, {"atterberg-curve", 1, 700, {"cmdPlot"}}}},
     {"mnuSie1",
      "frmSieve",
-     1120,
+     1280,
      {{"sieve-masses", 0, 830, {"cmdCal"}},
       {"sieve-curve", 1, 700, {"cmdgraph"}},
       {"sieve-classes", 2, 700, {"cmdAtt", "cmdClass"}}}},
     {"mnuSpe1",
      "frmSpecific",
-     1120,
+     1280,
      {{"specific-curve", 0, 700, {"cmdgraph"}}, {"specific-trials", 1, 800, {"cmdCal"}}}},
     {"mnuStd1",
      "frmCompaction",
-     1120,
+     1280,
      {{"compaction-data", 0, 740, {"cmdCal"}}, {"compaction-curve", 1, 740, {"chkSatLine", "cmdOMC"}}}},
     {"mnuCBR1",
      "frmCBR",
@@ -227,7 +229,8 @@ class Guide {
 
     QWidget& Part(Form& form, const char* control)
     {
-        if (auto* part = desktop_->WindowOf(form)->findChild<QWidget*>(control)) return *part;
+        for (QWidget* window : {desktop_->WindowOf(form), &Window("mdiBack")})
+            if (auto* part = window->findChild<QWidget*>(control)) return *part;
         throw RuntimeError(error::kObjectRequired, form.Name() + " shows no " + control);
     }
 
@@ -292,11 +295,23 @@ class Guide {
         show();
     }
 
+    /// The bar with what a compaction calculation says that has no mould.
+    void Notice()
+    {
+        FormNamed("mdiBack").Get<Toolbar>("tbrLab").PressItem("mnuStd1");
+        Form& sheet = FormNamed("frmCompaction");
+        for (const char* box : {"txtDia", "txtHeight"}) sheet.Get<TextBox>(box).SetText("");
+        sheet.Get<TextGrid>("MSHDensity")(4, 1);  // the cell that the calculation comes to
+        program_.notices.Tell(FailureNotice({"frmCompaction.cmdCal_Click", RuntimeError(error::kDivisionByZero),
+                                             program_.Loaded("frmCompaction"), Test::StdSoil}));
+        Settle();
+        Keep(*Window("mdiBack").findChild<QWidget*>("noticeBar"), "notice-failure");
+        program_.notices.Settle("frmCompaction.cmdCal_Click");
+    }
+
     void Boxes()
     {
-        KeepBox("box-run-time-error", [this] {
-            surroundings_.QtSurroundings::Fail("frmCompaction.cmdCal_Click", RuntimeError(error::kDivisionByZero));
-        });
+        Notice();
         KeepBox("box-erase", [this] {
             surroundings_.QtSurroundings::Show(
                 {"คุณต้องการลบข้อมูลคอมลัมภ์นี้ใช่หรือไม่?", "ยืนยันการลบ", MessageStyle::Plain, MessageButtons::OkCancel});

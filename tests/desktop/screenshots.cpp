@@ -1,7 +1,8 @@
 // Pictures of every window in its states, to be looked at: screenshots FOLDER. The size of the screen and the scale are
 // the platform's (Xvfb, QT_SCALE_FACTOR); tools/screenshots runs it at each.
+#include <QPushButton>
 #include <QScreen>
-#include <QTimer>
+#include <QToolButton>
 #include <cstdio>
 #include <utility>
 
@@ -122,14 +123,19 @@ void EmptySheetPictures(DesktopFixture& running, const QString& folder)
     }
 }
 
-/// The box that a failing command shows, over the sheet that keeps what was typed.
+/// The bar after a command that failed, over the sheet that keeps what was typed.
 void ErrorPicture(DesktopFixture& running, const QString& folder)
 {
-    QTimer::singleShot(300, [&folder] {
-        Keep(folder, "error_shown");
-        QApplication::activeModalWidget()->close();
-    });
-    running.surroundings.QtSurroundings::Fail("frmCompaction.cmdCal_Click", RuntimeError(error::kDivisionByZero));
+    Form& sheet = running.FormNamed("frmCompaction");
+    sheet.Get<TabControl>("SSTData").SetTab(0);
+    sheet.Get<TextBox>("txtDia").Type("");
+    sheet.Get<CommandButton>("cmdCal").Press();
+    Keep(folder, "error_shown");
+    running.Window("mdiBack")->findChild<QPushButton*>("noticeDetails")->click();
+    Keep(folder, "error_details");
+    if (QWidget* leaf = QApplication::activePopupWidget()) leaf->close();
+    running.Window("mdiBack")->findChild<QToolButton*>("noticeClose")->click();
+    sheet.Get<TextBox>("txtDia").Type("10.16");
 }
 
 }  // namespace

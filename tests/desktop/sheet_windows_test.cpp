@@ -192,6 +192,7 @@ TEST(TextBoxes, ThaiStandsOnTheLineOfLatin)
     running.MakeProject();
     running.OpenSheet("mnuStd1");
     auto* box = running.Widget<QLineEdit>("frmCompaction", "txtSoil");
+    running.Widget("frmCompaction", "txtDia")->setFocus();  // a cursor in the box would count as ink
     box->setText("n");
     const int latin = LowestInk(*box);
     box->setText("\u0e01");

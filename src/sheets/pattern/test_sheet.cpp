@@ -47,8 +47,18 @@ void TestSheet::cmdView_Click()
 
 void TestSheet::tblMenu_ButtonClick(int number)
 {
-    if (number == 1) SaveTestSheet(*this);
+    if (number == 1) {
+        SaveTestSheet(*this);
+        TellSaved();
+    }
     if (number == 2) program.Unload(Name());
+}
+
+/// Told when the file has taken it, which is at the end of the command.
+void TestSheet::TellSaved() const
+{
+    program.notices.Tell({.sentence = "Saved at " + Format(program.Ask().Now(), kTimeOfDay) + ".",
+                          .subject = Name() + ".tblMenu_ButtonClick"});
 }
 
 void TestSheet::SSTData_Click(int)
@@ -98,6 +108,11 @@ void TestSheet::Post(const std::vector<PostedText>& results)
 
 void TestSheet::Tell(std::string sentence)
 {
+    const std::string subject = Name() + ".Tell";
+    if (sentence.empty())
+        program.notices.Settle(subject);
+    else
+        program.notices.Tell({.kind = NoticeKind::Attention, .sentence = sentence, .subject = subject});
     stbDes.SetPanel(kNoticePanel, std::move(sentence));
 }
 

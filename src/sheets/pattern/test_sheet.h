@@ -97,6 +97,7 @@ struct TestSheet : Form {
     void Timer1_Timer();
 
     void RestoreCommandColours();
+    void TellSaved() const;
     /// The mouse over the sheet itself.
     void Form_MouseMove() { RestoreCommandColours(); }
 
@@ -110,7 +111,8 @@ struct TestSheet : Form {
     bool AsksToErase(std::string_view what) const;
     /// Posts results of the current material into the summary. An empty one that takes the place of a value is told.
     void Post(const std::vector<PostedText>& results);
-    /// A sentence that asks nothing of the user, in place of the one before; an empty one takes it away.
+    /// A sentence that asks nothing of the user, in the status line and among the notices, in place of the one before;
+    /// an empty one takes it away.
     void Tell(std::string sentence);
     /// What Save stored with a test of the current material.
     StoredResults ResultsOf(Test test) const;
