@@ -295,7 +295,7 @@ class Guide {
         show();
     }
 
-    /// The bar with what a compaction calculation says that has no mould.
+    /// The bar with what a compaction calculation says that has no mold.
     void Notice()
     {
         FormNamed("mdiBack").Get<Toolbar>("tbrLab").PressItem("mnuStd1");

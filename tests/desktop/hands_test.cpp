@@ -72,7 +72,7 @@ struct Hands : testing::Test {
     }
 };
 
-// Three weighings and a can number a trial, the moulds, the boxes: 35 readings want 35 Enters, all else is 20 keys.
+// Three weighings and a can number a trial, the molds, the boxes: 35 readings want 35 Enters, all else is 20 keys.
 TEST_F(Hands, ACompactionReportTakesAtMost75ControlKeys)
 {
     running.Window("mdiBack")->activateWindow();
