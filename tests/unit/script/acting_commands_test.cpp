@@ -9,8 +9,8 @@ class ActingCommands : public ScriptBench {};
 TEST_F(ActingCommands, DialogsAnswerBeforeTheCommandThatShowedThem)
 {
     const auto run = Run("answer " + Folder() + "road.mdb\nmenu mnuNew\nforms\n");
-    EXPECT_EQ(run.Text(), "{\"dialog\":\"New File\",\"kind\":\"save\",\"answer\":\"" + Folder() +
-                              "road.mdb\"}\n{\"forms\":[\"mdiBack\",\"frmProject\"]}\n");
+    EXPECT_EQ(run.Text(), "{\"dialog\":\"New File\",\"kind\":\"save\",\"answer\":" + Json(Folder() + "road.mdb") +
+                              "}\n{\"forms\":[\"mdiBack\",\"frmProject\"]}\n");
     EXPECT_TRUE(std::filesystem::exists(Folder() + "TRVN_road.mdb"));
 }
 
@@ -55,8 +55,7 @@ TEST_F(ActingCommands, QuestionTakesItsQueuedAnswer)
 TEST_F(ActingCommands, RelativePathsCountFromTheWorkingFolder)
 {
     const auto run = Run("answer some/../road.mdb\nmenu mnuOpen\nget mnuRecent\n");
-    EXPECT_EQ(run.Last(),
-              "{\"get\":\"mnuRecent\",\"text\":\"" + (std::filesystem::current_path() / "road.mdb").string() + "\"}");
+    EXPECT_EQ(run.Last(), "{\"get\":\"mnuRecent\",\"text\":" + Json(FullPath("road.mdb")) + "}");
 }
 
 TEST_F(ActingCommands, TypedCellTakesWhatTheCommitRulesMakeOfIt)
@@ -274,7 +273,8 @@ TEST_F(ActingCommands, PrintDialogTakesThePdf)
     const auto run =
         RunOnSheet("click cmdView\ntool Toolbar1 mn2\nanswer " + Folder() + "report.pdf\ntool Toolbar1 mn2\n");
     EXPECT_EQ(run.answers.at(0), R"({"dialog":"Print","kind":"print","answer":"cancel"})");
-    EXPECT_EQ(run.answers.at(1), "{\"dialog\":\"Print\",\"kind\":\"print\",\"answer\":\"" + Folder() + "report.pdf\"}");
+    EXPECT_EQ(run.answers.at(1),
+              "{\"dialog\":\"Print\",\"kind\":\"print\",\"answer\":" + Json(Folder() + "report.pdf") + "}");
     EXPECT_EQ(Read("report.pdf").substr(0, 5), "%PDF-");
 }
 

@@ -1,6 +1,4 @@
 // What a PDF file says of itself and of its texts, as readers that are independent of us find it: qpdf, poppler, mupdf.
-#include "render/pdf_archive.h"
-
 #include <array>
 #include <cstdio>
 #include <filesystem>
@@ -17,6 +15,7 @@
 #include "drawing/drawing_surface.h"
 #include "render/gui_application.h"
 #include "render/pdf.h"
+#include "render/pdf_archive.h"
 #include "runtime/text.h"
 #include "source_folder.h"
 
