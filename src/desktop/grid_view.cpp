@@ -413,7 +413,7 @@ void GridView::DistributeRoom()
     viewport()->update();
 }
 
-/// Titles as wide as they need, the other columns share the rest; rows of equal height fill the view.
+/// Titles as wide as they need, the other columns share the rest.
 void GridView::DistributeWidth()
 {
     int left = viewport()->width();
@@ -427,14 +427,14 @@ void GridView::DistributeWidth()
     updateGeometry();  // titles may have become longer
 }
 
-/// Rows are as high as they ask for, side by side in all grids. Where grids fill their place, the rows that have room
-/// share what is left of it, so that none stands there by half.
+/// Rows are as high as they ask for, side by side in all grids. Where a list has more rows than room, those that are
+/// seen share what is left of it, so that none stands there by half.
 void GridView::DistributeHeight()
 {
     const int rows = grid_.Rows();
     int spare = viewport()->height(), shown = 0;
     while (shown < rows && spare >= MinimumRowHeight(shown)) spare -= MinimumRowHeight(shown++);
-    const int even = IsWhole() ? 0 : std::min(spare / std::max(1, shown), looks::kGridRowHeight / 2);
+    const int even = IsWhole() || shown == rows ? 0 : std::min(spare / std::max(1, shown), looks::kGridRowHeight / 2);
     for (int row = 0; row < rows; ++row) setRowHeight(row, MinimumRowHeight(row) + even);
 }
 
