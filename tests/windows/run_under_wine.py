@@ -24,8 +24,7 @@ UNIT_SECONDS = 300
 CALL_SECONDS = 60
 MANY = 2000  # projects of the large folder
 KILLS = 20
-ATTERBERG = ("50", "75")  # the toolbar's first button, in the frame's window
-COLOURS = 20  # in a picture of a window with something on it
+COLOURS = 100  # in a picture of a sheet; the empty frame has fewer
 DOTS, LINE, FOOT = 100, 22, 0.9  # dots an inch; the height of a line; where the foot of a page begins
 
 settings = argparse.Namespace()
@@ -293,7 +292,8 @@ def desktop(home):
         else:
             raise Failed("no window of the desktop came up")
         time.sleep(2)
-        xdotool("mousemove", "--window", windows[0], *ATTERBERG, "click", "1")
+        xdotool("mousemove", "--window", windows[0], "600", "400", "click", "1")
+        xdotool("key", "alt+a")  # the Atterberg limits
         time.sleep(1)
         xdotool("key", "Down", "Return")
         time.sleep(3)
