@@ -1,11 +1,11 @@
 // What a PDF file says of itself and of its texts, as readers that are independent of us find it: qpdf, poppler, mupdf.
+#include <QRegularExpression>
 #include <array>
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <memory>
 #include <random>
-#include <regex>
 #include <set>
 #include <sstream>
 
@@ -154,14 +154,16 @@ TEST_F(ArchivedPdf, BringsAProfileWhosePrimariesMakeItsWhite)
 std::set<std::string> ThaiTextsOfTheProgram()
 {
     std::set<std::string> texts;
-    const std::regex quoted("\"([^\"\\\\]*)\"");
+    const QRegularExpression quoted("\"([^\"\\\\]*)\"");
     for (const auto& file : std::filesystem::recursive_directory_iterator(std::string(kSourceFolder) + "/src")) {
         if (!file.is_regular_file()) continue;
         std::ostringstream source;
         source << std::ifstream(file.path()).rdbuf();
         const std::string content = source.str();
-        for (std::sregex_iterator at(content.begin(), content.end(), quoted), end; at != end; ++at)
-            if (Holds((*at)[1], "\xE0\xB8") || Holds((*at)[1], "\xE0\xB9")) texts.insert((*at)[1]);
+        for (const QRegularExpressionMatch& found : quoted.globalMatch(QString::fromStdString(content))) {
+            const std::string text = found.captured(1).toStdString();
+            if (Holds(text, "\xE0\xB8") || Holds(text, "\xE0\xB9")) texts.insert(text);
+        }
     }
     return texts;
 }
@@ -188,7 +190,8 @@ std::string RandomThai(std::mt19937& random)
 /// clear an ascender, and takes the step from a mark over the tallest letter for a blank.
 bool IsBeyondMupdf(const std::string& text)
 {
-    return std::regex_search(text, std::regex("(ป|ฝ|ฟ|ฬ)(่|้|๊|๋)?ำ|ฬ(ิ|ี|ึ|ื|ั|็|์|่|้|๊|๋|ุ|ู)"));
+    static const QRegularExpression beyond("(ป|ฝ|ฟ|ฬ)(่|้|๊|๋)?ำ|ฬ(ิ|ี|ึ|ื|ั|็|์|่|้|๊|๋|ุ|ู)");
+    return beyond.match(QString::fromStdString(text)).hasMatch();
 }
 
 // Today's readers search in what they extract. A line a text, so that none reads as the next one's beginning.
