@@ -10,6 +10,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QScreen>
 #include <QStatusBar>
 #include <QTimer>
 #include <QToolBar>
@@ -35,6 +36,7 @@ namespace terravane {
 
 namespace {
 
+constexpr int kTitleBar = 24;  // a window manager's, which nobody can ask before the window stands
 constexpr std::chrono::milliseconds kFrameSeen{200};
 constexpr int kSaveButton = 1;
 
@@ -55,7 +57,7 @@ FrameWindow::FrameWindow(Program& program, Form& frame) : program_(program), for
     setWindowIcon(looks::ProgramIcon());
     setAttribute(Qt::WA_DeleteOnClose, false);
     setMinimumSize(1024, 680);
-    resize(1280, 720);
+    resize(1280, std::min(720, screen()->availableSize().height() - kTitleBar));  // the status line stays on the screen
     auto* content = new QWidget(this);
     auto* column = new QVBoxLayout(content);
     column->setContentsMargins(0, 0, 0, 0);
