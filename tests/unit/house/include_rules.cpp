@@ -357,7 +357,8 @@ std::vector<IncludeLine> IncludeLinesOf(const std::string& file, const std::stri
     for (const std::string& line : LinesOf(text)) {
         ++number;
         std::smatch found;
-        if (std::regex_search(line, found, include)) lines.push_back({file, number, found[1] == "\"", found[2]});
+        if (line.find("include") != std::string::npos && std::regex_search(line, found, include))
+            lines.push_back({file, number, found[1] == "\"", found[2]});
     }
     return lines;
 }
