@@ -28,7 +28,10 @@ void Dispose(QWidget& window)
 }  // namespace
 
 Desktop::Desktop(Program& program, QtSurroundings& surroundings)
-    : program_(program), surroundings_(surroundings), following_(program.ShowForms([this] { Follow(); }))
+    : program_(program),
+      surroundings_(surroundings),
+      journal_(program),
+      following_(program.ShowForms([this] { Follow(); }))
 {
     surroundings_.ProposedPdf = [this] { return ProposedPdf(); };
     Follow();
@@ -104,7 +107,7 @@ QWidget* Desktop::MakeWindow(const Program::ShownForm& shown)
     switch (form.Window()) {
         case WindowKind::Frame:
             surroundings_.LeaveFailuresToNotices();
-            return new FrameWindow(program_, form);
+            return new FrameWindow(program_, journal_, form);
         case WindowKind::Splash:
             return new SplashWindow(form);
         case WindowKind::Preview:

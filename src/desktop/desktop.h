@@ -7,6 +7,7 @@
 
 #include "desktop/qt_surroundings.h"
 #include "desktop/windows.h"
+#include "journal/journal.h"
 #include "program/program.h"
 
 namespace terravane {
@@ -31,6 +32,7 @@ class Desktop {
 
     Program& program_;
     QtSurroundings& surroundings_;
+    Journal journal_;
     std::map<const Form*, QPointer<QWidget>> windows_;
     Subscription following_;
 };

@@ -22,6 +22,7 @@
 #include "controls/choice_controls.h"
 #include "controls/furniture.h"
 #include "controls/visit_control.h"
+#include "desktop/edit_menu.h"
 #include "desktop/keys.h"
 #include "desktop/layouts.h"
 #include "desktop/looks.h"
@@ -51,7 +52,7 @@ QFrame* MakeRule(QWidget* parent)
 
 }  // namespace
 
-FrameWindow::FrameWindow(Program& program, Form& frame) : program_(program), form_(frame)
+FrameWindow::FrameWindow(Program& program, Journal& journal, Form& frame) : program_(program), form_(frame)
 {
     setWindowTitle(ToQt(frame.Caption()));
     setWindowIcon(looks::ProgramIcon());
@@ -63,6 +64,9 @@ FrameWindow::FrameWindow(Program& program, Form& frame) : program_(program), for
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     BuildMenu();
+    new EditMenu(*this, journal, [this](const Control& control) {
+        if (SheetWindow* sheet = OpenSheet()) sheet->Restored(control);
+    });
     BuildViewMenu();
     BuildTools(*content);
     BuildStrip(*content);

@@ -28,6 +28,8 @@ constexpr std::array kShortcuts{
     KeyRow{"F5", "presses the next command, the one with the coloured edge"},
     KeyRow{"Ctrl+P", "shows the report; in the preview, prints it"},
     KeyRow{"F10", "goes to the menu"},
+    KeyRow{"Ctrl+Z", "takes back what was typed, chosen, pasted or erased last"},
+    KeyRow{"Ctrl+Shift+Z", "does again what was taken back"},
     KeyRow{"Ctrl+PgDown", "shows the next tab"},
     KeyRow{"Ctrl+PgUp", "shows the tab before"},
     KeyRow{"Ctrl+W", "closes the sheet, unless something typed is not saved"},
@@ -53,10 +55,14 @@ QString Spelled(const KeyRow& row)
 
 }  // namespace
 
+QKeySequence KeysOf(Shortcut key)
+{
+    return QKeySequence(QString::fromLatin1(kShortcuts[static_cast<std::size_t>(key)].keys));
+}
+
 void BindKey(QWidget& window, Shortcut key, std::function<void()> act)
 {
-    const KeyRow& row = kShortcuts[static_cast<std::size_t>(key)];
-    auto* shortcut = new QShortcut(QKeySequence(QString::fromLatin1(row.keys)), &window);
+    auto* shortcut = new QShortcut(KeysOf(key), &window);
     QObject::connect(shortcut, &QShortcut::activated, &window, std::move(act));
 }
 

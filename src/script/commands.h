@@ -4,6 +4,7 @@
 #include <span>
 #include <string_view>
 
+#include "journal/journal.h"
 #include "program/program.h"
 #include "script/answers.h"
 #include "script/script_line.h"
@@ -16,6 +17,7 @@ struct Session {
     Program& program;
     ScriptSurroundings& surroundings;
     AnswerWriter& answers;
+    Journal& journal;
     bool hasQuit = false;
 };
 
@@ -31,9 +33,10 @@ struct Command {
 /// few or too many words.
 void RunCommand(Session& session, Words line);
 
-/// The tables: what a person does, what is looked at, and the script's own.
+/// The tables: what a person does, what is looked at, the journal's, and the script's own.
 std::span<const Command> ActingCommands();
 std::span<const Command> LookingCommands();
+std::span<const Command> JournalCommands();
 std::span<const Command> RunCommands();
 
 }  // namespace terravane

@@ -32,6 +32,7 @@ constexpr auto kLines =
     "  key CONTROL KEY                 Enter, Esc, Up, Down, Left, Right or Tab\n"
     "  mouse GRID left|right ROW COL   presses a mouse button on a cell\n"
     "  tab CONTROL N                   shows tab N, from 0\n"
+    "  undo, redo                      the last step back, and forth again\n"
     "  close                           closes the form shown last\n"
     "  get CONTROL[.PROPERTY [N]]      a text or a state\n"
     "  get GRID ROW COL, dump GRID     a cell, all rows\n"
