@@ -1,6 +1,7 @@
 #include "desktop/desktop.h"
 
 #include <algorithm>
+#include <chrono>
 #include <vector>
 
 #include "desktop/frame_window.h"
@@ -33,8 +34,17 @@ Desktop::Desktop(Program& program, QtSurroundings& surroundings)
       journal_(program),
       following_(program.ShowForms([this] { Follow(); }))
 {
+    journal_.KeepHistory();
     surroundings_.ProposedPdf = [this] { return ProposedPdf(); };
     Follow();
+}
+
+void Desktop::KeepDrafts(const std::string& folder)
+{
+    constexpr std::chrono::milliseconds kBetweenSyncs{500};
+    journal_.KeepDrafts(WithMark(folder));
+    QObject::connect(&syncing_, &QTimer::timeout, &syncing_, [this] { journal_.SyncDraft(); });
+    syncing_.start(kBetweenSyncs);
 }
 
 /// Beside the project file, under its name and what is in it: "TRVN_road compaction-soil.pdf".

@@ -5,9 +5,11 @@
 #include <functional>
 
 #include "controls/control.h"
+#include "desktop/cell_blocks.h"
 #include "journal/journal.h"
 
 class QAction;
+class QKeyEvent;
 class QMainWindow;
 
 namespace terravane {
@@ -22,13 +24,16 @@ class EditMenu : public QObject {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
+    bool TakesOver(const QKeyEvent& key) const;
     void Walk(std::optional<TextPlace> (Journal::*way)());
     void Follow();
 
     Journal& journal_;
     std::function<void(const Control&)> restored_;
+    CellBlocks* blocks_;
     QAction* undo_;
     QAction* redo_;
+    QAction* paste_;
     Subscription following_;
 };
 

@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <array>
 #include <iterator>
+#include <string_view>
 #include <utility>
 
 namespace terravane {
@@ -43,14 +44,17 @@ constexpr std::array kInPlaces{
     KeyRow{"digit, letter, F2, Enter", "opens the cell with the coloured edge"},
     KeyRow{"Tab", "in a cell: goes to the right; behind the last cell it leaves the grid"},
     KeyRow{"Shift+Tab", "goes back the same way"},
+    KeyRow{"Shift+arrows, mouse",
+           "marks a block of cells; Ctrl+C, Ctrl+X, Ctrl+V and Del copy, cut, paste and erase it"},
     KeyRow{"Alt and a letter", "presses the button or opens the menu with that letter underlined"},
 };
 
 QString Spelled(const KeyRow& row)
 {
     const QKeySequence keys(QString::fromLatin1(row.keys));
-    return row.keys[0] == 'd' || row.keys[0] == 'A' ? QString::fromLatin1(row.keys)
-                                                    : keys.toString(QKeySequence::NativeText);
+    return row.keys[0] == 'd' || row.keys[0] == 'A' || std::string_view(row.keys).ends_with("mouse")
+               ? QString::fromLatin1(row.keys)
+               : keys.toString(QKeySequence::NativeText);
 }
 
 }  // namespace

@@ -6,6 +6,8 @@
 #include "controls/cell_editor.h"
 #include "controls/visit_control.h"
 #include "program/next_command.h"
+#include "program/version.h"
+#include "runtime/machine.h"
 
 namespace terravane {
 
@@ -20,9 +22,22 @@ void RefreshEditors(Form& form)
     }
 }
 
+constexpr std::string_view kSheetBar = "tblMenu";  // Save, and Exit, which leaves no sheet
+
+/// Whether what is done so is a person's: typed, or put back.
+bool IsKept(std::optional<Actor> actor)
+{
+    return actor == Actor::Person || actor == Actor::Journal;
+}
+
+std::string Counted(int count, std::string_view what)
+{
+    return std::to_string(count) + " " + std::string(what) + (count == 1 ? "" : "s");
+}
+
 }  // namespace
 
-Journal::Journal(Program& program) : program_(program)
+Journal::Journal(Program& program) : program_(program), history_(program.Files())
 {
     program_.Listen(*this);
     for (Form* form : program_.LoadedForms()) FormOpened(*form);
@@ -54,6 +69,7 @@ void Journal::LeaveSheet()
     if (sheet_) sheet_->StopListening(*this);
     sheet_ = nullptr;
     actor_.reset();
+    if (drafts_) drafts_->Leave();
     step_ = {};
     steps_.Clear();
     actedOn_ = lastActedOn_ = nullptr;
@@ -67,10 +83,14 @@ void Journal::CommandBegan(std::string_view event)
     actedOn_ = ControlOf(event, *sheet_);
 }
 
-void Journal::CommandEnded(std::string_view, bool)
+void Journal::CommandEnded(std::string_view event, bool hasSucceeded)
 {
     const auto actor = std::exchange(actor_, std::nullopt);
     if (!sheet_ || !actor || *actor == Actor::Timer) return;
+    step_.Tidy();
+    KeepDraft();
+    if (*actor == Actor::Load) OpenDraft();
+    if (drafts_ && hasSucceeded && ControlOf(event, *sheet_) == sheet_->Find(kSheetBar)) drafts_->Saved();
     if (*actor == Actor::Person) KeepStep();
     lastActedOn_ = *actor == Actor::Person ? actedOn_ : nullptr;
     step_ = {};
@@ -78,7 +98,6 @@ void Journal::CommandEnded(std::string_view, bool)
 
 void Journal::KeepStep()
 {
-    step_.Tidy();
     if (step_.IsEmpty()) return;
     steps_.Add(std::move(step_), actedOn_ == lastActedOn_);
     changes_.Announce();
@@ -86,13 +105,13 @@ void Journal::KeepStep()
 
 void Journal::TextChanged(const TextChange& change)
 {
-    if (actor_ != Actor::Person || !HoldsTypedText(change.control)) return;
+    if (!IsKept(actor_) || !HoldsTypedText(change.control)) return;
     step_.Add({&change.control, change.row, change.column}, change.before, change.after);
 }
 
 void Journal::RowsChanged(Control& control, int before, int after)
 {
-    if (actor_ == Actor::Person) step_.AddRows(dynamic_cast<TextGrid&>(control), before, after);
+    if (IsKept(actor_)) step_.AddRows(dynamic_cast<TextGrid&>(control), before, after);
 }
 
 bool Journal::HoldsUncommitted() const
@@ -104,11 +123,96 @@ bool Journal::HoldsUncommitted() const
     });
 }
 
+Writer Journal::WriterNow() const
+{
+    return {TimeText(program_.Ask().Now()), LoginName(), TERRAVANE_VERSION};
+}
+
+/// A save stands whatever becomes of its history.
+template <class Write>
+void Journal::WriteHistory(std::string_view project, Write write)
+{
+    if (!keepsHistory_) return;
+    const std::string subject = "History of " + std::string(project);
+    try {
+        write();
+        program_.notices.Settle(subject);
+    } catch (const RuntimeError& error) {
+        program_.notices.Tell({.kind = NoticeKind::Attention,
+                               .sentence = "The project is saved, but its history could not be written.",
+                               .details = error.Description(),
+                               .subject = subject});
+    }
+}
+
+void Journal::ProjectSaved(const jet::SavedFile& saved)
+{
+    WriteHistory(saved.path, [&] { history_.Save(saved, WriterNow()); });
+}
+
+void Journal::ProjectMade(std::string_view path, std::string_view source)
+{
+    WriteHistory(path, [&] { history_.Begin(std::string(path), std::string(source), WriterNow()); });
+}
+
 /// Not while a preview or a dialog stands over it.
 bool Journal::IsInFront() const
 {
     const auto& shown = program_.ShownForms();
     return !shown.empty() && shown.back().form == sheet_;
+}
+
+/// As if the act that runs had never been.
+void Journal::TakeStepBack()
+{
+    step_.Tidy();
+    std::exchange(step_, {}).Undo();
+    step_ = {};
+}
+
+template <class Put>
+PutBlock Journal::PutAsOneStep(TextGrid& grid, std::string_view event, Put put)
+{
+    PutBlock done;
+    program_.Run(grid.Owner().Name() + "." + grid.Name() + "_" + std::string(event), [&] {
+        done = put();
+        if (!done.misfit.empty()) TakeStepBack();
+        RefreshEditors(grid.Owner());
+    });
+    return done;
+}
+
+PutBlock Journal::Paste(TextGrid& grid, int row, int column, std::string_view lines)
+{
+    return PutAsOneStep(grid, "Paste", [&] {
+        const PutBlock put = PutCells(grid, row, column, lines);
+        TellOfPaste(grid, put);
+        return put;
+    });
+}
+
+PutBlock Journal::Erase(TextGrid& grid, const CellBlock& block)
+{
+    return PutAsOneStep(grid, "Erase", [&] { return EraseCells(grid, block); });
+}
+
+void Journal::TellOfPaste(const TextGrid& grid, const PutBlock& put)
+{
+    const std::string subject = grid.Owner().Name() + ".Paste";
+    if (!put.misfit.empty()) {
+        return program_.notices.Tell({.kind = NoticeKind::Attention,
+                                      .sentence = "Nothing was pasted. " + put.misfit,
+                                      .place = {grid.Owner().Name(), grid.Name()},
+                                      .subject = subject});
+    }
+    std::string sentence = "Pasted into " + Counted(put.cells, "cell") + ".";
+    if (put.passedOver > 0)
+        sentence += " " + Counted(put.passedOver, "cell") + " not typed but worked out or a title " +
+                    (put.passedOver == 1 ? "was" : "were") + " passed over.";
+    if (put.plain > 0)
+        sentence +=
+            " Written with plain digits and without thousands separators: " + Counted(put.plain, "number") + ".";
+    program_.notices.Tell({.sentence = sentence, .subject = subject});
 }
 
 std::optional<TextPlace> Journal::Walk(const Step* (Steps::*way)())

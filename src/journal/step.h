@@ -52,6 +52,7 @@ class Step {
 
     bool IsEmpty() const { return changes_.empty() && rows_.empty(); }
     const std::vector<Change>& Changes() const { return changes_; }
+    const std::vector<Rows>& ChangedRows() const { return rows_; }
     /// The first text that it changed, in the order of the changes.
     TextPlace Place() const;
 

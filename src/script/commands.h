@@ -21,6 +21,9 @@ struct Session {
     bool hasQuit = false;
 };
 
+/// Where a run keeps its drafts: in its home.
+std::string DraftsFolder(const Program& program);
+
 /// fewest, most  words behind the command's name
 /// run           throws LineFault for words that mean nothing and RuntimeError for what the program refuses
 struct Command {

@@ -33,6 +33,10 @@ int RunScripts(const ScriptOptions& options, std::istream& input, std::ostream& 
     Program program(surroundings, files, home.Path(), BrandFolder(options.brand));
     AddForms(program);
     Journal journal(program);
+    if (!options.home.empty()) {
+        journal.KeepHistory();
+        journal.KeepDrafts(DraftsFolder(program));
+    }
     program.Run("mdiBack.Form_Load", [&] { program.Show(kFrameName); });
 
     Session session{program, surroundings, writer, journal};
