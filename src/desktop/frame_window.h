@@ -41,6 +41,7 @@ class FrameWindow : public SettledWindow<QMainWindow> {
     void KeepTitle();
     void BuildMenu();
     void BuildViewMenu();
+    void AddHistoryPanel(Journal& journal);
     void BuildTools(QWidget& content);
     void BuildStrip(QWidget& content);
     void BuildKeys();

@@ -18,7 +18,7 @@ namespace {
 
 using DraftJson = nlohmann::ordered_json;
 
-constexpr std::string_view kExtension = ".draft";
+constexpr std::string_view kDraftExtension = ".draft";
 constexpr std::uint64_t kLargestDraft = 64 << 20;  // bytes
 
 std::string LineText(const DraftJson& json)
@@ -116,7 +116,7 @@ void DraftKeeper::Begin()
     std::string path;
     do
         path = folder_ + Sha256(of_.project).substr(0, 16) + "-" + of_.test + "-" + of_.material + "-" +
-               std::to_string(ProcessNumber()) + "-" + std::to_string(++count) + std::string(kExtension);
+               std::to_string(ProcessNumber()) + "-" + std::to_string(++count) + std::string(kDraftExtension);
     while (files_.Exists(path));
     AppendText(files_, path, LineText({{"project", of_.project}, {"test", of_.test}, {"material", of_.material}}));
     lock_ = files_.Lock(path);
@@ -143,7 +143,7 @@ std::vector<Draft> DraftKeeper::ReadAll() const
     std::vector<Draft> drafts;
     if (!files_.IsFolder(folder_)) return drafts;
     for (const std::string& name : files_.Names(folder_)) {
-        if (!name.ends_with(kExtension) || files_.IsLocked(folder_ + name)) continue;
+        if (!name.ends_with(kDraftExtension) || files_.IsLocked(folder_ + name)) continue;
         if (auto draft = ReadDraft(files_, folder_ + name)) drafts.push_back(std::move(*draft));
     }
     std::ranges::sort(drafts, std::greater(), [](const Draft& draft) { return std::tie(draft.at, draft.path); });

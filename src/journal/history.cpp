@@ -6,7 +6,7 @@ namespace terravane {
 
 namespace {
 
-constexpr std::string_view kExtension = ".mdb", kHistory = ".history";
+constexpr std::string_view kProjectExtension = ".mdb", kHistory = ".history";
 constexpr std::uint64_t kLargestHistory = 1ULL << 30;  // bytes; a line is some four hundred
 
 HistoryLine LineBy(const Writer& writer, LineKind kind)
@@ -37,8 +37,8 @@ HistoryLine Beginning(const Writer& writer, const std::string& source, FileTexts
 
 std::string HistoryPath(const std::string& project)
 {
-    const bool isUsual = project.ends_with(kExtension);
-    return project.substr(0, project.size() - (isUsual ? kExtension.size() : 0)).append(kHistory);
+    const bool isUsual = project.ends_with(kProjectExtension);
+    return project.substr(0, project.size() - (isUsual ? kProjectExtension.size() : 0)).append(kHistory);
 }
 
 ReadHistory LoadHistory(const FileSystem& files, const std::string& project)

@@ -37,7 +37,7 @@ std::string Counted(int count, std::string_view what)
 
 }  // namespace
 
-Journal::Journal(Program& program) : program_(program), history_(program.Files())
+Journal::Journal(Program& program) : program_(program), history_(program.Files()), others_(program.Files())
 {
     program_.Listen(*this);
     for (Form* form : program_.LoadedForms()) FormOpened(*form);
@@ -70,6 +70,7 @@ void Journal::LeaveSheet()
     sheet_ = nullptr;
     actor_.reset();
     if (drafts_) drafts_->Leave();
+    others_.End();
     step_ = {};
     steps_.Clear();
     actedOn_ = lastActedOn_ = nullptr;
@@ -86,12 +87,15 @@ void Journal::CommandBegan(std::string_view event)
 void Journal::CommandEnded(std::string_view event, bool hasSucceeded)
 {
     const auto actor = std::exchange(actor_, std::nullopt);
+    if (sheet_ && actor == Actor::Load && keepsHistory_) others_.Begin(program_.CurrentProjectPath);
+    LookForOthers();
     if (!sheet_ || !actor || *actor == Actor::Timer) return;
     step_.Tidy();
     KeepDraft();
     if (*actor == Actor::Load) OpenDraft();
     if (drafts_ && hasSucceeded && ControlOf(event, *sheet_) == sheet_->Find(kSheetBar)) drafts_->Saved();
     if (*actor == Actor::Person) KeepStep();
+    if (std::exchange(hasSaved_, false)) changes_.Announce();
     lastActedOn_ = *actor == Actor::Person ? actedOn_ : nullptr;
     step_ = {};
 }
@@ -147,7 +151,11 @@ void Journal::WriteHistory(std::string_view project, Write write)
 
 void Journal::ProjectSaved(const jet::SavedFile& saved)
 {
-    WriteHistory(saved.path, [&] { history_.Save(saved, WriterNow()); });
+    WriteHistory(saved.path, [&] {
+        if (sheet_) TellReplaced(others_.Saved(saved));
+        history_.Save(saved, WriterNow());
+    });
+    hasSaved_ = true;
 }
 
 void Journal::ProjectMade(std::string_view path, std::string_view source)

@@ -15,6 +15,7 @@
 #include "journal/cells.h"
 #include "journal/drafts.h"
 #include "journal/history.h"
+#include "journal/others.h"
 #include "journal/steps.h"
 #include "program/program.h"
 
@@ -31,6 +32,9 @@ class Journal : private ProgramListener, private ControlListener {
     Journal(const Journal&) = delete;
     Journal& operator=(const Journal&) = delete;
 
+    /// Tells whether another window, or another machine, has saved the open test since; costs next to nothing where
+    /// nobody has. Asked after every act and every second by itself.
+    void LookForOthers();
     /// From here on what is typed has a draft in that folder, with a mark at its end.
     void KeepDrafts(const std::string& folder);
     /// Those of the open project that wait, the latest first.
@@ -66,7 +70,7 @@ class Journal : private ProgramListener, private ControlListener {
     /// Puts nothing into the typed cells of a block, as one step.
     PutBlock Erase(TextGrid& grid, const CellBlock& block);
 
-    /// Runs the listener when there may be other steps to undo.
+    /// Runs the listener when there may be other steps to undo, or another line in the history.
     Subscription Show(std::function<void()> listener) { return changes_.Listen(std::move(listener)); }
 
   private:
@@ -91,6 +95,9 @@ class Journal : private ProgramListener, private ControlListener {
     void KeepStep();
     void KeepDraft();
     void OpenDraft();
+    bool ShowsTableOf(const StoredPlace& place) const;
+    void LoadAnew();
+    void TellReplaced(const std::vector<TextDifference>& replaced);
     void OfferDraft();
     void TellDraftFailure(const RuntimeError& error);
     std::vector<TextPlace> Differing(const Draft& draft) const;
@@ -104,7 +111,8 @@ class Journal : private ProgramListener, private ControlListener {
     const Control* actedOn_ = nullptr;      // by the act that runs
     const Control* lastActedOn_ = nullptr;  // by the one before: typing goes on in one box
     HistoryKeeper history_;
-    bool keepsHistory_ = false;
+    OthersWatch others_;
+    bool keepsHistory_ = false, hasSaved_ = false;
     std::unique_ptr<DraftKeeper> drafts_;
     std::chrono::steady_clock::time_point lastSync_{};
     Announcement changes_;

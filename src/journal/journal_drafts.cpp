@@ -9,7 +9,7 @@ namespace terravane {
 
 namespace {
 
-constexpr std::string_view kSubject = "Draft";
+constexpr std::string_view kDraftSubject = "Draft";
 constexpr std::chrono::milliseconds kBetweenSyncs{900};
 
 /// "14:02" of today, else the day before it.
@@ -110,7 +110,7 @@ void Journal::OfferDraft()
         {.kind = NoticeKind::Attention,
          .sentence = "Readings of " + ShownTime(draft->at, program_.Ask().Now()) + " were typed here and not saved.",
          .place = {sheet_->Name()},
-         .subject = std::string(kSubject),
+         .subject = std::string(kDraftSubject),
          .actions = {{"Take back", [this, draft] { Take(*draft); }}, {"Show", show}, {"Forget", [this, draft] {
                                                                                           Forget(*draft);
                                                                                       }}}});
@@ -119,7 +119,7 @@ void Journal::OfferDraft()
 void Journal::Forget(const Draft& draft)
 {
     if (drafts_) drafts_->Forget(draft);
-    program_.notices.Settle(kSubject);
+    program_.notices.Settle(kDraftSubject);
 }
 
 /// The texts are in this window's own draft before the old one goes.

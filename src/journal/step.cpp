@@ -34,7 +34,7 @@ struct IsTypedKind {
     }
 };
 
-bool IsIn(const TextGrid& grid, const TextPlace& place)
+bool IsWithin(const TextGrid& grid, const TextPlace& place)
 {
     return place.row >= 0 && place.row < grid.Rows() && place.column >= 0 && place.column < grid.Columns();
 }
@@ -44,7 +44,7 @@ struct TextIn {
 
     std::string operator()(const TextGrid& grid) const
     {
-        return IsIn(grid, place) ? grid(place.row, place.column) : std::string();
+        return IsWithin(grid, place) ? grid(place.row, place.column) : std::string();
     }
     std::string operator()(const OneOf<OptionButton, CheckBox> auto& of) const
     {
@@ -64,7 +64,7 @@ struct PutInto {
     void operator()(OneOf<TextBox, ComboBox, DatePicker> auto& box) const { box.SetText(text); }
     void operator()(TextGrid& grid) const
     {
-        if (IsIn(grid, place)) grid(place.row, place.column) = text;
+        if (IsWithin(grid, place)) grid(place.row, place.column) = text;
     }
     void operator()(OptionButton& option) const { text == kOn ? option.Choose() : option.Release(); }
     void operator()(CheckBox& box) const { box.SetValue(text == kOn); }

@@ -136,16 +136,36 @@ TEST(History, MendsATornLineAndTheLinesThatAreMissing)
     bench.Save();
     const std::string whole = bench.Text();
     const auto last = whole.rfind('\n', whole.size() - 2) + 1;
-    for (const std::size_t length : {whole.size() - 1, last + 30, last + 1, last}) {
+    for (std::size_t length = whole.size() - 1; length >= last; --length) {
         bench.Write(whole.substr(0, length));
         bench.Start();
         bench.journal->KeepHistory();
         bench.Open();
-        bench.Type("MSHWt", 2, 1, "87." + std::to_string(length % 90 + 10));
+        bench.Type("MSHWt", 2, 1, "1" + std::to_string(length));
         bench.Save();
-        EXPECT_EQ(bench.Read().faults, Told{}) << length << "\n" << bench.Text();
+        ASSERT_EQ(bench.Read().faults, Told{}) << length << "\n" << bench.Text();
         const auto lines = bench.Read().lines;
-        EXPECT_EQ(StateAfter(lines, lines.size()), TextsOf(bench.files.Content(bench.kProject))) << length;
+        ASSERT_EQ(StateAfter(lines, lines.size()), TextsOf(bench.files.Content(bench.kProject))) << length;
+    }
+}
+
+// Whatever step of a save and of its history fails, the next save leaves both whole and in step.
+TEST(History, OutlivesEveryStepThatFails)
+{
+    for (int step = 1; step <= 7; ++step) {
+        HistoryBench bench;
+        bench.Open();
+        bench.Type("MSHWt", 2, 1, "85.3");
+        bench.Save();
+        bench.Type("MSHWt", 2, 1, "86");
+        bench.files.FailAtStep(step, error::kDiskFull);
+        bench.Save();
+        bench.Type("txtDia", "10.16");
+        bench.Save();
+        const ReadHistory history = bench.Read();
+        EXPECT_EQ(history.faults, Told{}) << step;
+        EXPECT_EQ(StateAfter(history.lines, history.lines.size()), TextsOf(bench.files.Content(bench.kProject)))
+            << step;
     }
 }
 
