@@ -142,6 +142,7 @@ try {
     dialog.ShowSave();
     program.CurrentProjectPath = ProjectPathFor(dialog.FileName, dialog.FileTitle);
     CreateProjectFile(program.Files(), program.CurrentProjectPath);
+    program.TellProjectMade(program.CurrentProjectPath);
     program.Show("frmProject");
     ShowRecentEntry();
     UnloadAllSheets();
@@ -266,6 +267,7 @@ std::string mdiBack::CopyProject(const std::string& dialogTitle) const
     dialog.ShowSave();
     std::string target = ProjectPathFor(dialog.FileName, dialog.FileTitle);
     program.Files().Copy(program.CurrentProjectPath, target);
+    program.TellProjectMade(target, program.CurrentProjectPath);
     return target;
 }
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "batch/sha256.h"
+#include "journal/sha256.h"
 #include "program/version.h"
 
 namespace terravane {

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "batch/sha256.h"
+#include "journal/sha256.h"
 #include "program/folders.h"
 #include "store/new_stores.h"
 

@@ -9,6 +9,7 @@
 
 #include "batch/batch_run.h"
 #include "batch/batch_tests.h"
+#include "batch/history_report.h"
 #include "batch/terminal.h"
 #include "runtime/machine.h"
 #include "runtime/runtime_error.h"
@@ -35,6 +36,10 @@ constexpr std::string_view kDay = "yyyy-mm-dd";
 struct Typed {
     std::string curve, today, brand, worker;
     std::vector<int> corrects;
+    std::string history, format = "text";
+    std::vector<std::string> diff;
+
+    bool Lists() const { return !history.empty() || !diff.empty(); }
 };
 
 /// The brand folder that the desktop program of this installation uses; empty where it never ran.
@@ -78,8 +83,11 @@ void TakeChoices(BatchOptions& options, const Typed& typed)
     for (const int mold : typed.corrects) options.given.corrects->at(static_cast<std::size_t>(mold - 1)) = true;
 }
 
-void Check(const BatchOptions& options)
+void Check(const BatchOptions& options, const Typed& typed)
 {
+    if (typed.Lists() && !options.arguments.empty())
+        throw CLI::ValidationError(options.arguments.front(), "--history and --diff list, and print no project.");
+    if (!typed.Lists() && options.arguments.empty()) throw CLI::RequiredError("PROJECT.mdb|FOLDER");
     if (options.checks && options.isAsSaved)
         throw CLI::ValidationError("--check", "works sheets anew, --as-saved does not.");
     if (options.checks && options.posts) throw CLI::ValidationError("--check", "writes nothing; leave --post away.");
@@ -105,7 +113,7 @@ std::string TestsHelp()
 
 void AddOptions(CLI::App& app, BatchOptions& options, Typed& typed)
 {
-    app.add_option("PROJECT.mdb|FOLDER", options.arguments, "Project files, and folders of them")->required();
+    app.add_option("PROJECT.mdb|FOLDER", options.arguments, "Project files, and folders of them");
     app.add_option("-o", options.outputFolder, "Where the PDFs go, in a folder's subfolders; else beside each project")
         ->option_text("DIR");
     app.add_option("--tests", options.tests, TestsHelp())
@@ -148,6 +156,15 @@ void AddOptions(CLI::App& app, BatchOptions& options, Typed& typed)
         ->option_text("DIR");
     app.add_option("--today", typed.today, "The date that the sheets and the PDFs see; else the machine's")
         ->option_text("YYYY-MM-DD");
+    app.add_option("--history", typed.history, "List every change of a project that a Save made")
+        ->option_text("PROJECT");
+    app.add_option("--diff", typed.diff, "List what is different in two projects, or two states: road.mdb@2026-11-21")
+        ->expected(2)
+        ->excludes("--history")
+        ->option_text("A B");
+    app.add_option("--format", typed.format, "Of these lists: text (else), csv, json")
+        ->check(CLI::IsMember({"text", "csv", "json"}))
+        ->option_text("FORMAT");
     app.add_option("--worker", typed.worker)->group("");  // of this program's own; nobody is told of it
 }
 
@@ -176,6 +193,19 @@ try {
     return exit_status::kUsage;
 }
 
+int List(const Typed& typed)
+try {
+    const DiskFileSystem disk;
+    const ListFormat format = typed.format == "csv"    ? ListFormat::Csv
+                              : typed.format == "json" ? ListFormat::Json
+                                                       : ListFormat::Text;
+    if (!typed.history.empty()) return ListHistory(disk, FullPath(typed.history), format, std::cout, std::cerr);
+    return ListDifferences(disk, FullPath(typed.diff.at(0)), FullPath(typed.diff.at(1)), format, std::cout);
+} catch (const RuntimeError& error) {
+    std::cerr << kProgram << error.Description() << '\n';
+    return exit_status::kUsage;
+}
+
 }  // namespace
 
 int main(int argc, char** argv)
@@ -195,7 +225,7 @@ int main(int argc, char** argv)
         TakeDate(options, typed.today, typed.worker);
         TakeBrand(options, typed.brand);
         TakeChoices(options, typed);
-        Check(options);
+        Check(options, typed);
     });
     std::vector<std::string> arguments = Arguments(argc, argv);
     options.workerArguments = arguments;
@@ -206,5 +236,5 @@ int main(int argc, char** argv)
     } catch (const CLI::ParseError& error) {
         return app.exit(error) == 0 ? exit_status::kDone : exit_status::kUsage;
     }
-    return Run(options, !typed.worker.empty());
+    return typed.Lists() ? List(typed) : Run(options, !typed.worker.empty());
 }

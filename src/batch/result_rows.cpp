@@ -2,6 +2,7 @@
 
 #include <initializer_list>
 
+#include "batch/csv_line.h"
 #include "batch/entry_json.h"
 #include "batch/journal.h"
 #include "store/schema.h"
@@ -9,40 +10,6 @@
 namespace terravane {
 
 namespace {
-
-bool IsNumber(std::string_view text)
-{
-    constexpr std::string_view kDigits = "0123456789.";
-    if (!text.empty() && (text[0] == '-' || text[0] == '+')) text.remove_prefix(1);
-    return !text.empty() && text.find_first_not_of(kDigits) == std::string_view::npos;
-}
-
-/// With an apostrophe before a text that a spreadsheet would take for a formula, and before one that begins with an
-/// apostrophe, so that the first one of a cell can always be taken away again.
-std::string Harmless(const std::string& field)
-{
-    constexpr std::string_view kRisky = "=+-@\t\r\n'";
-    const bool isRisky = !field.empty() && kRisky.find(field[0]) != std::string_view::npos && !IsNumber(field);
-    return isRisky ? "'" + field : field;
-}
-
-std::string Quoted(const std::string& field)
-{
-    if (field.find_first_of("\",\r\n") == std::string::npos) return field;
-    std::string quoted = "\"";
-    for (const char character : field) {
-        if (character == '"') quoted += '"';
-        quoted += character;
-    }
-    return quoted + '"';
-}
-
-std::string Line(const std::vector<std::string>& fields)
-{
-    std::string line;
-    for (const std::string& field : fields) line += (line.empty() ? "" : ",") + Quoted(Harmless(field));
-    return line + '\n';
-}
 
 /// The row of a table by column names.
 Json Row(const ProjectTexts& texts, const TableSchema& table, int row)
@@ -107,7 +74,7 @@ std::string CsvHead()
     std::vector<std::string> fields{"project", "material"};
     for (const ColumnSchema& column : SummaryTable().columns)
         fields.push_back(SummaryTable().ColumnName(column.suffix));
-    return Line(fields);
+    return CsvLine(fields);
 }
 
 std::string CsvRows(const std::string& project, const ProjectTexts& texts, const BatchOptions& options)
@@ -120,7 +87,7 @@ std::string CsvRows(const std::string& project, const ProjectTexts& texts, const
             fields.push_back(
                 texts.Trimmed(SummaryTable().name, SummaryTable().ColumnName(column.suffix), material.summaryRow));
         }
-        rows += Line(fields);
+        rows += CsvLine(fields);
     }
     return rows;
 }
@@ -143,14 +110,15 @@ std::string JsonFailure(const std::string& project, const std::string& failure)
 
 std::string ManifestHead()
 {
-    return Line({"output", "pages", "bytes", "sha256", "project"});
+    return CsvLine({"output", "pages", "bytes", "sha256", "project"});
 }
 
 std::string ManifestRows(const std::string& project, const JournalEntry& entry)
 {
     std::string rows;
     for (const Output& output : entry.outputs) {
-        rows += Line({output.path, std::to_string(output.pages), std::to_string(output.bytes), output.sha256, project});
+        rows +=
+            CsvLine({output.path, std::to_string(output.pages), std::to_string(output.bytes), output.sha256, project});
     }
     return rows;
 }

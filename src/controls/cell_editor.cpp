@@ -39,11 +39,11 @@ bool CellEditor::OpenAt(int row, int column)
     return true;
 }
 
-void CellEditor::Commit()
+void CellEditor::CommitAt(int row, int column, std::string_view text)
 {
-    const int row = grid_.Row(), column = grid_.Column();
-    const std::string text(Trim(text_));
-    grid_(row, column) = commit_ ? commit_(row, column, text) : text;
+    const std::string trimmed(Trim(text));
+    const std::string taken = commit_ ? commit_(row, column, trimmed) : trimmed;
+    grid_(row, column) = taken;
 }
 
 bool CellEditor::PressKey(Key key)

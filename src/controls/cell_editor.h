@@ -51,7 +51,9 @@ class CellEditor : public ControlKind<CellEditor, TextControl> {
     /// the range: then the editor is hidden.
     bool OpenAt(int row, int column);
     /// Puts the trimmed text into the current cell by the commit rule.
-    void Commit();
+    void Commit() { CommitAt(grid_.Row(), grid_.Column(), text_); }
+    /// The same for any text and cell of the range; the editor stays where it stands.
+    void CommitAt(int row, int column, std::string_view text);
     void Hide() { SetVisible(false); }
 
     bool PressKey(Key key) override;

@@ -35,32 +35,37 @@ OptionButton::OptionButton(Form& owner, const Naming& naming, std::string group,
 void OptionButton::Press()
 {
     if (!Enabled()) return;
-    if (!value_) TakeChoice();
-    Raise("Click", Click);
+    RaiseWith(
+        "Click", [this] { TakeChoice(); }, Click);
 }
 
 void OptionButton::Choose()
 {
     if (value_) return;
-    TakeChoice();
-    Raise("Click", Click);
+    RaiseWith(
+        "Click", [this] { TakeChoice(); }, Click);
 }
 
 /// The others of the group go off.
 void OptionButton::TakeChoice()
 {
+    if (value_) return;
     for (OptionButton* other : ControlsOf<OptionButton>(Owner())) {
         if (other->group_ == group_) other->Release();
     }
-    value_ = true;
+    SetValue(true);
+}
+
+void OptionButton::SetValue(bool value)
+{
+    value_ = value;
+    TellText(OnOrOffText(!value), OnOrOffText(value));
     Changed();
 }
 
 void OptionButton::Release()
 {
-    if (!value_) return;
-    value_ = false;
-    Changed();
+    if (value_) SetValue(false);
 }
 
 CheckBox::CheckBox(Form& owner, std::string_view name, std::string_view caption, ClickEvent events)
@@ -70,9 +75,12 @@ CheckBox::CheckBox(Form& owner, std::string_view name, std::string_view caption,
 void CheckBox::SetValue(bool value)
 {
     if (value_ == value) return;
-    value_ = value;
-    Changed();
-    Raise("Click", Click);
+    const auto change = [&] {
+        value_ = value;
+        TellText(OnOrOffText(!value), OnOrOffText(value));
+        Changed();
+    };
+    RaiseWith("Click", change, Click);
 }
 
 ListBox::ListBox(Form& owner, std::string_view name, std::vector<std::string> list, ClickEvent events)
@@ -82,9 +90,12 @@ ListBox::ListBox(Form& owner, std::string_view name, std::vector<std::string> li
 void ListBox::SetSelected(std::size_t index, bool selected)
 {
     if (selected_.at(index) == selected) return;
-    selected_[index] = selected;
-    Changed();
-    Raise("Click", Click);
+    const auto change = [&] {
+        selected_[index] = selected;
+        TellText(OnOrOffText(!selected), OnOrOffText(selected), static_cast<int>(index), 0);
+        Changed();
+    };
+    RaiseWith("Click", change, Click);
 }
 
 }  // namespace terravane

@@ -46,6 +46,7 @@ class OptionButton : public ControlKind<OptionButton> {
 
   private:
     void TakeChoice();
+    void SetValue(bool value);
 
     std::string group_;
     bool value_;

@@ -97,4 +97,34 @@ void Control::Raise(std::string_view event, const Handler& handler)
     if (handler) owner_.RunEvent(name_ + "_" + std::string(event), handler);
 }
 
+void Control::RaiseWith(std::string_view event, const Handler& change, const Handler& handler)
+{
+    Raise(event, [&] {
+        change();
+        if (handler) handler();
+    });
+}
+
+void Control::Replace(std::string& text, std::string_view after, int row, int column)
+{
+    if (text == after) return;
+    if (!owner_.HasTextListeners()) {
+        text = after;
+    } else {
+        const std::string before = std::exchange(text, std::string(after));
+        TellText(before, text, row, column);
+    }
+    Changed();
+}
+
+void Control::TellText(std::string_view before, std::string_view after, int row, int column)
+{
+    for (ControlListener* listener : owner_.textListeners_) listener->TextChanged({*this, row, column, before, after});
+}
+
+void Control::TellRows(int before, int after)
+{
+    for (ControlListener* listener : owner_.textListeners_) listener->RowsChanged(*this, before, after);
+}
+
 }  // namespace terravane

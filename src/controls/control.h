@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "controls/changes.h"
 #include "controls/control_kinds.h"
 #include "controls/form.h"
 #include "controls/subscription.h"
@@ -109,6 +110,15 @@ class Control {
   protected:
     /// Runs a handler inside the program's event boundary under the name "control_Event".
     void Raise(std::string_view event, const Handler& handler);
+    /// The same for what a person does to the control: the change of its own state, and then the event.
+    void RaiseWith(std::string_view event, const Handler& change, const Handler& handler);
+
+    /// Puts another text in the place of one that the control holds, and tells listeners and views; nothing happens
+    /// where they are alike.
+    void Replace(std::string& text, std::string_view after, int row = -1, int column = -1);
+    /// Tells the form's listeners.
+    void TellText(std::string_view before, std::string_view after, int row = -1, int column = -1);
+    void TellRows(int before, int after);
 
   private:
     Form& owner_;

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "controls/changes.h"
 #include "controls/subscription.h"
 
 namespace terravane {
@@ -92,6 +93,11 @@ class Form {
     const AddressedCell& LastAddressed() const { return addressed_; }
     void ForgetAddressed() { addressed_ = {}; }
 
+    /// From here on the listener is told of every change of the form's texts, until it is taken off; it outlives that.
+    void ListenToTexts(ControlListener& listener) { textListeners_.push_back(&listener); }
+    void StopListening(const ControlListener& listener) { std::erase(textListeners_, &listener); }
+    bool HasTextListeners() const { return !textListeners_.empty(); }
+
     /// Runs `view` after a change of the caption or of the control that has the focus.
     Subscription Show(std::function<void()> view);
 
@@ -117,6 +123,7 @@ class Form {
     std::vector<Member> members_;
     Control* active_ = nullptr;
     AddressedCell addressed_;
+    std::vector<ControlListener*> textListeners_;
     Announcement changes_;
 };
 

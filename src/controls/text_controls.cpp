@@ -42,9 +42,7 @@ TextBox::TextBox(Form& owner, const Naming& naming, TextEvents events)
 
 void TextBox::SetText(std::string_view text)
 {
-    if (text_ == text) return;
-    text_ = text;
-    Changed();
+    Replace(text_, text);
 }
 
 ComboBox::ComboBox(Form& owner, std::string_view name, std::string_view caption, std::vector<std::string> list,
@@ -67,9 +65,7 @@ ComboBox::ComboBox(Form& owner, const Naming& naming, std::vector<std::string> l
 
 void ComboBox::SetText(std::string_view text)
 {
-    if (text_ == text) return;
-    text_ = text;
-    Changed();
+    Replace(text_, text);
 }
 
 void ComboBox::AddItem(std::string item)
@@ -81,15 +77,15 @@ void ComboBox::AddItem(std::string item)
 void ComboBox::Clear()
 {
     list_.clear();
-    text_.clear();
+    Replace(text_, "");
     Changed();
 }
 
 void ComboBox::Choose(std::size_t index)
 {
     if (index >= list_.size()) throw RuntimeError(error::kInvalidProcedureCall);
-    SetText(list_[index]);
-    Raise("Click", Click);
+    RaiseWith(
+        "Click", [&] { SetText(list_[index]); }, Click);
 }
 
 DatePicker::DatePicker(Form& owner, std::string_view name, std::string_view caption, TextEvents events)
@@ -109,7 +105,8 @@ void DatePicker::SetText(std::string_view text)
 {
     const Moment value = ParseDate(text);
     if (value == value_) return;
-    value_ = value;
+    const Moment before = std::exchange(value_, value);
+    if (Owner().HasTextListeners()) TellText(ShortDate(before), ShortDate(value));
     Changed();
 }
 

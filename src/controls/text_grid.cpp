@@ -37,11 +37,22 @@ TextGrid::TextGrid(Form& owner, std::string_view name, int rows, int columns, Gr
 
 void TextGrid::SetRows(int rows)
 {
+    const int before = rows_;
+    EmptyRowsFrom(rows);
     rows_ = rows;
     cells_.resize(static_cast<std::size_t>(rows * columns_));
     calculated_.resize(cells_.size(), false);
     if (row_ >= rows) row_ = 0;
+    if (rows != before) TellRows(before, rows);
     Changed();
+}
+
+/// So that whoever listens knows what goes away.
+void TextGrid::EmptyRowsFrom(int row)
+{
+    if (!Owner().HasTextListeners()) return;
+    for (; row < rows_; ++row)
+        for (int column = 0; column < columns_; ++column) Set(row, column, "");
 }
 
 Cell TextGrid::operator()(int row, int column)
@@ -63,7 +74,18 @@ void TextGrid::AppendRow(std::vector<std::string> cells)
     for (auto& cell : cells) cells_.push_back(std::move(cell));
     ++rows_;
     calculated_.resize(cells_.size(), false);
+    if (Owner().HasTextListeners()) TellNewRow();
     Changed();
+}
+
+void TextGrid::TellNewRow()
+{
+    const int row = rows_ - 1;
+    TellRows(row, rows_);
+    for (int column = 0; column < columns_; ++column) {
+        const std::string& text = cells_[Index(row, column)];
+        if (!text.empty()) TellText("", text, row, column);
+    }
 }
 
 void TextGrid::SetRowTitles(const std::vector<std::string_view>& titles)
@@ -151,10 +173,7 @@ std::size_t TextGrid::Index(int row, int column) const
 
 void TextGrid::Set(int row, int column, std::string_view text)
 {
-    auto& cell = cells_[Index(row, column)];
-    if (cell == text) return;
-    cell = text;
-    Changed();
+    Replace(cells_[Index(row, column)], text, row, column);
 }
 
 }  // namespace terravane

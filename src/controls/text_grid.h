@@ -114,6 +114,8 @@ class TextGrid : public ControlKind<TextGrid> {
     Run RunAcross(int row, int column) const;
     std::size_t Index(int row, int column) const;
     void Set(int row, int column, std::string_view text);
+    void EmptyRowsFrom(int row);
+    void TellNewRow();
 
     int rows_, columns_, headRows_ = 1, titleColumns_ = 1;
     int row_ = 0, column_ = 0;

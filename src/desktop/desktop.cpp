@@ -1,6 +1,7 @@
 #include "desktop/desktop.h"
 
 #include <algorithm>
+#include <chrono>
 #include <vector>
 
 #include "desktop/frame_window.h"
@@ -28,10 +29,22 @@ void Dispose(QWidget& window)
 }  // namespace
 
 Desktop::Desktop(Program& program, QtSurroundings& surroundings)
-    : program_(program), surroundings_(surroundings), following_(program.ShowForms([this] { Follow(); }))
+    : program_(program),
+      surroundings_(surroundings),
+      journal_(program),
+      following_(program.ShowForms([this] { Follow(); }))
 {
+    journal_.KeepHistory();
     surroundings_.ProposedPdf = [this] { return ProposedPdf(); };
     Follow();
+}
+
+void Desktop::KeepDrafts(const std::string& folder)
+{
+    constexpr std::chrono::milliseconds kBetweenSyncs{500};
+    journal_.KeepDrafts(WithMark(folder));
+    QObject::connect(&syncing_, &QTimer::timeout, &syncing_, [this] { journal_.SyncDraft(); });
+    syncing_.start(kBetweenSyncs);
 }
 
 /// Beside the project file, under its name and what is in it: "TRVN_road compaction-soil.pdf".
@@ -104,7 +117,7 @@ QWidget* Desktop::MakeWindow(const Program::ShownForm& shown)
     switch (form.Window()) {
         case WindowKind::Frame:
             surroundings_.LeaveFailuresToNotices();
-            return new FrameWindow(program_, form);
+            return new FrameWindow(program_, journal_, form);
         case WindowKind::Splash:
             return new SplashWindow(form);
         case WindowKind::Preview:

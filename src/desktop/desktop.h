@@ -2,11 +2,13 @@
 #pragma once
 
 #include <QPointer>
+#include <QTimer>
 #include <QWidget>
 #include <map>
 
 #include "desktop/qt_surroundings.h"
 #include "desktop/windows.h"
+#include "journal/journal.h"
 #include "program/program.h"
 
 namespace terravane {
@@ -17,6 +19,10 @@ class Desktop {
   public:
     Desktop(Program& program, QtSurroundings& surroundings);
     ~Desktop();
+
+    /// Keeps what is typed and not saved in that folder of the user's own, and offers it when its sheet is opened
+    /// again.
+    void KeepDrafts(const std::string& folder);
 
     /// The window of a shown form; nullptr where it has none, or has lost it with the frame that it belongs to.
     QWidget* WindowOf(const Form& form) const;
@@ -31,6 +37,8 @@ class Desktop {
 
     Program& program_;
     QtSurroundings& surroundings_;
+    Journal journal_;
+    QTimer syncing_;
     std::map<const Form*, QPointer<QWidget>> windows_;
     Subscription following_;
 };

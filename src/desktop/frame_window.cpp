@@ -22,6 +22,8 @@
 #include "controls/choice_controls.h"
 #include "controls/furniture.h"
 #include "controls/visit_control.h"
+#include "desktop/edit_menu.h"
+#include "desktop/history_panel.h"
 #include "desktop/keys.h"
 #include "desktop/layouts.h"
 #include "desktop/looks.h"
@@ -51,7 +53,7 @@ QFrame* MakeRule(QWidget* parent)
 
 }  // namespace
 
-FrameWindow::FrameWindow(Program& program, Form& frame) : program_(program), form_(frame)
+FrameWindow::FrameWindow(Program& program, Journal& journal, Form& frame) : program_(program), form_(frame)
 {
     setWindowTitle(ToQt(frame.Caption()));
     setWindowIcon(looks::ProgramIcon());
@@ -63,7 +65,11 @@ FrameWindow::FrameWindow(Program& program, Form& frame) : program_(program), for
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     BuildMenu();
+    new EditMenu(*this, journal, [this](const Control& control) {
+        if (SheetWindow* sheet = OpenSheet()) sheet->Restored(control);
+    });
     BuildViewMenu();
+    AddHistoryPanel(journal);
     BuildTools(*content);
     BuildStrip(*content);
     area_ = new QMdiArea(content);
@@ -115,6 +121,17 @@ void FrameWindow::BuildViewMenu()
     view->setObjectName("view");
     view->addAction(tr("&Notices"), this, [this] { ShowToldNotices(program_.notices, this); });
     view->addAction(tr("&Keys"), this, [this] { ShowKeys(this); });
+}
+
+void FrameWindow::AddHistoryPanel(Journal& journal)
+{
+    auto* panel = new HistoryPanel(this, program_, journal);
+    addDockWidget(Qt::RightDockWidgetArea, panel);
+    panel->hide();
+    menuBar()->findChild<QMenu*>("view")->addAction(panel->toggleViewAction());
+    journal.ShowDraft = [this, &journal](const Draft& draft) {
+        if (journal.Sheet()) ShowDraftTexts(this, *journal.Sheet(), draft);
+    };
 }
 
 /// One row: the tests, the project's name, behind a thin rule what the open sheet has.

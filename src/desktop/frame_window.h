@@ -18,13 +18,14 @@ class QToolBar;
 
 namespace terravane {
 
+class Journal;
 class NoticeBar;
 class SheetWindow;
 class StartPage;
 
 class FrameWindow : public SettledWindow<QMainWindow> {
   public:
-    FrameWindow(Program& program, Form& frame);
+    FrameWindow(Program& program, Journal& journal, Form& frame);
 
     /// Puts a sheet into the area.
     QWidget* ShowSheet(Form& sheet);
@@ -40,6 +41,7 @@ class FrameWindow : public SettledWindow<QMainWindow> {
     void KeepTitle();
     void BuildMenu();
     void BuildViewMenu();
+    void AddHistoryPanel(Journal& journal);
     void BuildTools(QWidget& content);
     void BuildStrip(QWidget& content);
     void BuildKeys();
@@ -76,6 +78,8 @@ class SheetWindow : public QMdiSubWindow {
     void TurnTab(int by);
     /// Closes the sheet where nothing would be lost; else says so.
     void CloseUnlessUnsaved();
+    /// A text was put back, or brought again.
+    void Restored(const Control& control) { Typed(control); }
     /// Stands the focus where typing goes on.
     void FocusFirstEmpty();
 

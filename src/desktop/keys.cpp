@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <array>
 #include <iterator>
+#include <string_view>
 #include <utility>
 
 namespace terravane {
@@ -28,6 +29,8 @@ constexpr std::array kShortcuts{
     KeyRow{"F5", "presses the next command, the one with the coloured edge"},
     KeyRow{"Ctrl+P", "shows the report; in the preview, prints it"},
     KeyRow{"F10", "goes to the menu"},
+    KeyRow{"Ctrl+Z", "takes back what was typed, chosen, pasted or erased last"},
+    KeyRow{"Ctrl+Shift+Z", "does again what was taken back"},
     KeyRow{"Ctrl+PgDown", "shows the next tab"},
     KeyRow{"Ctrl+PgUp", "shows the tab before"},
     KeyRow{"Ctrl+W", "closes the sheet, unless something typed is not saved"},
@@ -41,22 +44,29 @@ constexpr std::array kInPlaces{
     KeyRow{"digit, letter, F2, Enter", "opens the cell with the coloured edge"},
     KeyRow{"Tab", "in a cell: goes to the right; behind the last cell it leaves the grid"},
     KeyRow{"Shift+Tab", "goes back the same way"},
+    KeyRow{"Shift+arrows, mouse",
+           "marks a block of cells; Ctrl+C, Ctrl+X, Ctrl+V and Del copy, cut, paste and erase it"},
     KeyRow{"Alt and a letter", "presses the button or opens the menu with that letter underlined"},
 };
 
 QString Spelled(const KeyRow& row)
 {
     const QKeySequence keys(QString::fromLatin1(row.keys));
-    return row.keys[0] == 'd' || row.keys[0] == 'A' ? QString::fromLatin1(row.keys)
-                                                    : keys.toString(QKeySequence::NativeText);
+    return row.keys[0] == 'd' || row.keys[0] == 'A' || std::string_view(row.keys).ends_with("mouse")
+               ? QString::fromLatin1(row.keys)
+               : keys.toString(QKeySequence::NativeText);
 }
 
 }  // namespace
 
+QKeySequence KeysOf(Shortcut key)
+{
+    return QKeySequence(QString::fromLatin1(kShortcuts[static_cast<std::size_t>(key)].keys));
+}
+
 void BindKey(QWidget& window, Shortcut key, std::function<void()> act)
 {
-    const KeyRow& row = kShortcuts[static_cast<std::size_t>(key)];
-    auto* shortcut = new QShortcut(QKeySequence(QString::fromLatin1(row.keys)), &window);
+    auto* shortcut = new QShortcut(KeysOf(key), &window);
     QObject::connect(shortcut, &QShortcut::activated, &window, std::move(act));
 }
 

@@ -1,6 +1,7 @@
 /// The keys of the shell: one table that binds them and that the window "Keys" shows.
 #pragma once
 
+#include <QKeySequence>
 #include <QSet>
 #include <QString>
 #include <functional>
@@ -10,7 +11,9 @@ class QWidget;
 
 namespace terravane {
 
-enum class Shortcut { Save, NextCommand, Preview, Menu, NextTab, TabBefore, Close, Keys };
+enum class Shortcut { Save, NextCommand, Preview, Menu, Undo, Redo, NextTab, TabBefore, Close, Keys };
+
+QKeySequence KeysOf(Shortcut key);
 
 /// Runs `act` where the key is pressed anywhere in the window.
 void BindKey(QWidget& window, Shortcut key, std::function<void()> act);

@@ -53,6 +53,7 @@ int main(int argc, char** argv)
         WriteGuide(files, ShareFolder().append(kGuideFile), program.BrandFolderNow());
     });
     Desktop desktop(program, surroundings);
+    desktop.KeepDrafts(WithMark(DataFolder()) + "Drafts");
     program.Run("Start", [&] { ShowFirstForm(program, QCoreApplication::arguments()); });
     return QApplication::exec();
 }

@@ -63,13 +63,14 @@ Fingerprint Fingerprint::Of(ByteView bytes)
     return {bytes.size(), std::hash<std::string_view>{}(characters)};
 }
 
-void Connection::Open(FileSystem& files, const std::string& path)
+void Connection::Open(FileSystem& files, const std::string& path, SaveListener* listener)
 {
     FlushOrClose();
     if (!files.Exists(path)) throw RuntimeError(engine::kFile, "Could not find file " + Quoted(path) + ".");
     Bytes bytes = files.ReadAtMost(path, kLargestFile);
     database_.emplace(OpenBytes(std::move(bytes), path));
     files_ = &files;
+    listener_ = listener;
     path_ = path;
     unsaved_.clear();
 }
@@ -116,14 +117,15 @@ try {
                   error.Description());
 }
 
-void Connection::ReadOthersChanges()
+Bytes Connection::ReadOthersChanges()
 {
     Bytes bytes = files_->ReadAtMost(path_, kLargestFile);
     const Fingerprint found = Fingerprint::Of(bytes);
     // Our own bytes are there already when the folder could not be synced behind the last writing.
-    if (found == onDisk_ || found == Fingerprint::Of(database_->Content())) return;
-    database_ = ReplayUnsavedOn(std::move(bytes));
+    if (found == onDisk_ || found == Fingerprint::Of(database_->Content())) return bytes;
+    database_ = ReplayUnsavedOn(bytes);
     onDisk_ = found;
+    return bytes;
 }
 
 void Connection::Flush()
@@ -132,10 +134,12 @@ void Connection::Flush()
     if (!files_->Exists(path_)) throw Refused("Could not find file " + Quoted(path_) + "; nothing was saved.");
     const auto lock = files_->Lock(path_);
     CheckNotOpenElsewhere();
-    ReadOthersChanges();
-    if (HasChanges()) files_->ReplaceWhole(path_, database_->Content());
+    const Bytes found = ReadOthersChanges();
+    const bool isReplaced = HasChanges();
+    if (isReplaced) files_->ReplaceWhole(path_, database_->Content());
     database_->MarkSaved();
     unsaved_.clear();
+    if (isReplaced && listener_) listener_->FileSaved({path_, found, database_->Content()});
 }
 
 NewDatabase::NewDatabase(FileSystem& files, std::string path, double created)

@@ -24,6 +24,20 @@ struct Fingerprint {
     friend bool operator==(const Fingerprint&, const Fingerprint&) = default;
 };
 
+/// A file that a flush has replaced: its path, what stood there just before, also where another instance wrote that,
+/// and what stands there now. The bytes live as long as the call.
+struct SavedFile {
+    const std::string& path;
+    ByteView before, after;
+};
+
+/// Told of every file that a connection replaces, while it is still locked. Must not throw.
+class SaveListener {
+  public:
+    virtual ~SaveListener() = default;
+    virtual void FileSaved(const SavedFile& saved) = 0;
+};
+
 /// One open database file. Statements are applied in memory and stay there until Flush; one that fails
 /// changes nothing, those before it stay.
 class Connection {
@@ -35,7 +49,8 @@ class Connection {
     /// can't be written any more, that error is thrown and its changes are given up, so that the next Open
     /// goes through. Errors engine::kFile: "Could not find file 'path'.", "Unrecognized database format
     /// 'path'.", a damaged file; the file system's own numbers for what can't be read.
-    void Open(FileSystem& files, const std::string& path);
+    /// listener  hears of the saves of this file; nullptr: nobody does
+    void Open(FileSystem& files, const std::string& path, SaveListener* listener = nullptr);
 
     bool IsOpen() const { return database_.has_value(); }
     const std::string& Path() const { return path_; }
@@ -56,11 +71,13 @@ class Connection {
     /// Of the file that was open: closed without what it can't save, so that the next one opens all the same.
     void FlushOrClose();
     void CheckNotOpenElsewhere() const;
-    /// Where another instance has saved since the file was read: its file with our unsaved statements.
-    void ReadOthersChanges();
+    /// Where another instance has saved since the file was read: its file with our unsaved statements. Returns the file
+    /// as it was found.
+    Bytes ReadOthersChanges();
     Database ReplayUnsavedOn(Bytes found) const;
 
     FileSystem* files_ = nullptr;
+    SaveListener* listener_ = nullptr;
     std::string path_;
     std::optional<Database> database_;
     Fingerprint onDisk_;

@@ -38,6 +38,7 @@ Form& Program::Load(std::string_view name)
     if (maker == makers_.end()) FailMissing(name);
     loaded_.push_back(maker->second(*this));
     Form& form = *loaded_.back();
+    for (ProgramListener* listener : listeners_) listener->FormOpened(form);
     try {
         form.Form_Load();
     } catch (...) {
@@ -73,6 +74,7 @@ void Program::Unload(std::string_view name)
     Form& form = *unloaded_.back();
     std::erase_if(shown_, [&form](const ShownForm& shown) { return shown.form == &form; });
     form.Form_Unload();
+    for (ProgramListener* listener : listeners_) listener->FormClosed(form);
     notices.SettleForm(form.Name());
     formsChanged_.Announce();
     if (depth_ == 0) unloaded_.clear();
@@ -97,10 +99,22 @@ void Program::Run(std::string_view event, const std::function<void()>& handler)
     for (const auto& form : loaded_) form->ForgetAddressed();
     notices.Settle(name);  // tried again: what was said of it before is moot
     notices.Hold();
+    for (ProgramListener* listener : listeners_) listener->CommandBegan(name);
     const bool hasRun = RunOutermost(name, handler);
     const bool isKept = RunOutermost(name, [this] { FlushStores(); });
+    for (ProgramListener* listener : listeners_) listener->CommandEnded(name, hasRun && isKept);
     notices.Release(hasRun && isKept);
     unloaded_.clear();
+}
+
+void Program::FileSaved(const jet::SavedFile& saved)
+{
+    for (ProgramListener* listener : listeners_) listener->ProjectSaved(saved);
+}
+
+void Program::TellProjectMade(std::string_view path, std::string_view source) const
+{
+    for (ProgramListener* listener : listeners_) listener->ProjectMade(path, source);
 }
 
 /// False where it failed. Telling may wait for a person, and meanwhile other commands may run, such as a clock's: each

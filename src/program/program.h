@@ -15,6 +15,7 @@
 #include "jet/recordset.h"
 #include "laboratory/current_test.h"
 #include "program/folders.h"
+#include "program/listener.h"
 #include "program/notices.h"
 #include "program/printer.h"
 #include "program/surroundings.h"
@@ -27,7 +28,7 @@ using FormMaker = std::function<std::unique_ptr<Form>(Program&)>;
 
 enum class Modality { Modeless, Modal };
 
-class Program : public EventBoundary {
+class Program : public EventBoundary, private jet::SaveListener {
   public:
     /// applicationPath  the folder of the program's own files, as the system names it
     /// brandPath        another folder for the brand store, with its mark at the end; empty: that in the program's
@@ -83,6 +84,14 @@ class Program : public EventBoundary {
     const std::vector<ShownForm>& ShownForms() const { return shown_; }
     /// Whether a command runs now.
     bool IsRunning() const { return depth_ > 0; }
+    /// From here on the listener hears what the program announces, until it is taken off; it outlives that.
+    void Listen(ProgramListener& listener) { listeners_.push_back(&listener); }
+    void StopListening(const ProgramListener& listener) { std::erase(listeners_, &listener); }
+    /// Who is to hear of the saves of a project that is opened; nullptr where nobody listens.
+    jet::SaveListener* ListenerOfSaves() { return listeners_.empty() ? nullptr : this; }
+    /// To be told by whoever makes project files.
+    void TellProjectMade(std::string_view path, std::string_view source = {}) const;
+
     /// Runs the listener when a form was loaded, shown or unloaded.
     Subscription ShowForms(std::function<void()> listener);
 
@@ -94,6 +103,7 @@ class Program : public EventBoundary {
     void FlushStores();
 
   private:
+    void FileSaved(const jet::SavedFile& saved) override;
     bool RunOutermost(const std::string& event, const std::function<void()>& step);
     [[noreturn]] static void FailMissing(std::string_view name);
 
@@ -105,6 +115,7 @@ class Program : public EventBoundary {
     std::vector<std::unique_ptr<Form>> unloaded_;  // until the running command has ended
     std::vector<ShownForm> shown_;
     Announcement formsChanged_;
+    std::vector<ProgramListener*> listeners_;
     int depth_ = 0;
 };
 

@@ -291,6 +291,36 @@ void DiskFileSystem::WriteNew(const std::string& path, std::span<const std::uint
     WriteAll(file, content, path);
 }
 
+/// No link is followed: what stands beside a project may have been put there by a stranger.
+void DiskFileSystem::Append(const std::string& path, std::span<const std::uint8_t> content)
+{
+    const Handle file(path, O_WRONLY | O_CREAT | O_APPEND | O_NOFOLLOW | O_NONBLOCK, kNewFile);
+    if (!file.IsOpen()) ThrowMaking(errno, path);
+    Status status{};
+    if (fstat(file.Number(), &status) != 0) ThrowSystem(errno, path);
+    if (!S_ISREG(status.st_mode)) Throw(kNotAFile, path);
+    WriteAll(file, content, path);
+}
+
+bool DiskFileSystem::IsLocked(const std::string& path) const
+{
+    const DiskLock tried(path);
+    return tried.File().IsOpen() && Try(tried.File(), path) == Taken::Later;
+}
+
+/// A save puts another file there, whose number in the file system is another one, too.
+std::uint64_t DiskFileSystem::Stamp(const std::string& path) const
+{
+    const auto status = StatusOf(path);
+    if (!status) return 0;
+    std::uint64_t stamp = 1;
+    for (const auto part :
+         {static_cast<std::uint64_t>(status->st_ino), static_cast<std::uint64_t>(status->st_size),
+          static_cast<std::uint64_t>(status->st_mtim.tv_sec), static_cast<std::uint64_t>(status->st_mtim.tv_nsec)})
+        stamp = stamp * 1'000'003 + part;
+    return stamp;
+}
+
 void DiskFileSystem::SyncFile(const std::string& path)
 {
     const Handle file(path, O_RDONLY);

@@ -345,6 +345,32 @@ void DiskFileSystem::WriteNew(const std::string& path, std::span<const std::uint
     WriteAll(file, content, path);
 }
 
+void DiskFileSystem::Append(const std::string& path, std::span<const std::uint8_t> content)
+{
+    const Handle file(path, FILE_APPEND_DATA | SYNCHRONIZE, kShareAll, OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL);
+    if (!file.IsOpen()) ThrowSystem(file.Failure(), path);
+    if (GetFileType(file.Get()) != FILE_TYPE_DISK) Throw(kNotAFile, path);
+    WriteAll(file, content, path);
+}
+
+bool DiskFileSystem::IsLocked(const std::string& path) const
+{
+    if (!Exists(path)) return false;
+    const DiskLock tried(path);
+    return !tried.IsTaken() && tried.Failure() == ERROR_SHARING_VIOLATION;
+}
+
+std::uint64_t DiskFileSystem::Stamp(const std::string& path) const
+{
+    WIN32_FILE_ATTRIBUTE_DATA found{};
+    if (!GetFileAttributesExW(Long(path).c_str(), GetFileExInfoStandard, &found)) return 0;
+    std::uint64_t stamp = 1;
+    for (const DWORD part : {found.nFileSizeHigh, found.nFileSizeLow, found.ftLastWriteTime.dwHighDateTime,
+                             found.ftLastWriteTime.dwLowDateTime})
+        stamp = stamp * 1'000'003 + part;
+    return stamp;
+}
+
 void DiskFileSystem::SyncFile(const std::string& path)
 {
     const Handle file(path, GENERIC_WRITE, kShareAll, OPEN_EXISTING);

@@ -115,6 +115,12 @@ void FileSystem::RenameToFree(const std::string& from, const std::string& to)
     Rename(from, to);
 }
 
+void FileSystem::MakeSure(const std::string& path)
+{
+    SyncFile(path);
+    SyncFolder(FolderOf(path));
+}
+
 /// The lock comes before the reading, since the two may be one file.
 void FileSystem::Copy(const std::string& source, const std::string& target)
 {

@@ -64,6 +64,19 @@ class FileSystem {
     /// The same for a file that is not there yet; error 75, and it stays as it is, where another one came first.
     void CreateWhole(const std::string& path, std::span<const std::uint8_t> content);
 
+    /// Puts `content` behind what the file holds, in one write where the system takes it so; a file that is not there
+    /// is made. On the disk for sure after MakeSure.
+    virtual void Append(const std::string& path, std::span<const std::uint8_t> content) = 0;
+    /// What was appended outlives a power cut from here on, the file's name too.
+    void MakeSure(const std::string& path);
+    /// Takes a file away; one that is not there, or can't be taken away, stays as it is.
+    void TakeAway(const std::string& path) noexcept { Remove(path); }
+    /// Whether somebody holds the file's lock now, also this process.
+    virtual bool IsLocked(const std::string&) const { return false; }
+    /// A number that is another one when the file was written or replaced since; 0 where it is not there. Asks for
+    /// nothing that the file holds.
+    virtual std::uint64_t Stamp(const std::string& path) const = 0;
+
     /// Copies a whole file over the target, by ReplaceWhole, with the target locked.
     void Copy(const std::string& source, const std::string& target);
 
@@ -100,6 +113,9 @@ class DiskFileSystem : public FileSystem {
     void MakeFolders(const std::string& path) override;
     Bytes Read(const std::string& path) const override;
     bool IsOpenElsewhere(const std::string& path) const override;
+    void Append(const std::string& path, std::span<const std::uint8_t> content) override;
+    bool IsLocked(const std::string& path) const override;
+    std::uint64_t Stamp(const std::string& path) const override;
 
   protected:
     std::uint64_t SizeOf(const std::string& path) const override;

@@ -14,6 +14,10 @@ unsigned long ProcessNumber();
 /// The date and time on the wall, to the second.
 Moment LocalNow();
 
+/// The name under which the person is logged in, as the system knows it; a name, and no proof of who sits there. Empty
+/// where the system has none.
+std::string LoginName();
+
 /// What the person typed behind the program's name, in UTF-8. The two parameters are main's.
 std::vector<std::string> Arguments(int count, const char* const* texts);
 

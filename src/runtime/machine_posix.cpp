@@ -3,6 +3,7 @@
 #include <ctime>
 #include <filesystem>
 
+#include <pwd.h>
 #include <stdlib.h>
 #include <unistd.h>
 
@@ -27,6 +28,12 @@ Moment LocalNow()
     localtime_r(&now, &local);
     return MakeMoment(local.tm_year + 1900, local.tm_mon + 1, local.tm_mday, local.tm_hour, local.tm_min,
                       std::min(local.tm_sec, kLastSecond));
+}
+
+std::string LoginName()
+{
+    const passwd* const entry = getpwuid(geteuid());
+    return entry ? entry->pw_name : std::string();
 }
 
 std::vector<std::string> Arguments(int count, const char* const* texts)

@@ -31,6 +31,15 @@ Moment LocalNow()
 }
 
 /// The texts that main is given went through the system's old code page; the command line itself did not.
+std::string LoginName()
+{
+    std::wstring name(257, L'\0');  // UNLEN and its end
+    DWORD size = static_cast<DWORD>(name.size());
+    if (!GetUserNameW(name.data(), &size)) return {};
+    name.resize(size - 1);
+    return ToText(std::filesystem::path(name));
+}
+
 std::vector<std::string> Arguments(int, const char* const*)
 {
     int count = 0;

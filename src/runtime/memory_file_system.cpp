@@ -24,11 +24,14 @@ std::shared_ptr<const Bytes> Kept(std::span<const std::uint8_t> content)
 /// Counts itself as long as it lives.
 class HeldLock : public FileLock {
   public:
-    explicit HeldLock(std::shared_ptr<int> held) : held_(std::move(held)) { ++*held_; }
-    ~HeldLock() override { --*held_; }
+    using Held = std::shared_ptr<std::multiset<std::string>>;
+
+    HeldLock(Held held, std::string path) : held_(std::move(held)), path_(std::move(path)) { held_->insert(path_); }
+    ~HeldLock() override { held_->erase(held_->find(path_)); }
 
   private:
-    std::shared_ptr<int> held_;
+    Held held_;
+    std::string path_;
 };
 
 }  // namespace
@@ -37,6 +40,42 @@ void MemoryFileSystem::Put(const std::string& path, Bytes content)
 {
     MakeFolders(FolderOf(path));
     files_[path] = std::make_shared<const Bytes>(std::move(content));
+    Changed(path);
+}
+
+void MemoryFileSystem::Append(const std::string& path, std::span<const std::uint8_t> content)
+{
+    const auto add = [&](std::span<const std::uint8_t> added) {
+        Bytes whole = Content(path);
+        whole.insert(whole.end(), added.begin(), added.end());
+        files_[path] = std::make_shared<const Bytes>(std::move(whole));
+        Changed(path);
+    };
+    if (!IsFolder(FolderOf(path)))
+        throw RuntimeError(error::kPathNotFound, "Could not find the folder of '" + Printable(path) + "'.");
+    try {
+        Take({SaveStep::Kind::Append, path, {}, content});
+    } catch (...) {
+        add(content.first(content.size() / 2));
+        throw;
+    }
+    add(content);
+}
+
+bool MemoryFileSystem::IsLocked(const std::string& path) const
+{
+    return lockedElsewhere_.contains(path) || locks_.held->contains(path);
+}
+
+std::uint64_t MemoryFileSystem::Stamp(const std::string& path) const
+{
+    const auto found = stamps_.find(path);
+    return files_.contains(path) && found != stamps_.end() ? found->second : 0;
+}
+
+void MemoryFileSystem::Remove(const std::string& path) noexcept
+{
+    files_.erase(path);
 }
 
 const Bytes& MemoryFileSystem::Content(const std::string& path) const
@@ -101,7 +140,7 @@ std::unique_ptr<FileLock> MemoryFileSystem::TakeLock(const std::string& path)
         throw RuntimeError(error::kPermissionDenied,
                            "Could not save '" + Printable(path) + "': another program is saving it; try again.");
     }
-    auto lock = std::make_unique<HeldLock>(locks_.held);
+    auto lock = std::make_unique<HeldLock>(locks_.held, path);
     if (whenLocked) whenLocked();
     return lock;
 }
@@ -116,6 +155,7 @@ void MemoryFileSystem::WriteNew(const std::string& path, std::span<const std::ui
 try {
     Take({SaveStep::Kind::Write, path, {}, content});
     files_[path] = Kept(content);
+    Changed(path);
 } catch (...) {
     files_[path] = Kept(content.first(content.size() / 2));
     throw;
@@ -132,6 +172,7 @@ void MemoryFileSystem::Rename(const std::string& from, const std::string& to)
     Known(from);
     files_[to] = std::move(files_[from]);
     files_.erase(from);
+    Changed(to);
 }
 
 void MemoryFileSystem::SyncFolder(const std::string& folder)

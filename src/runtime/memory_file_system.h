@@ -16,9 +16,10 @@
 
 namespace terravane {
 
-/// A step of a save. A save makes one of each kind, in this order.
+/// A step of a save. A save makes one of each kind, in this order; what is appended makes an Append, and to make it
+/// sure takes the two syncs.
 struct SaveStep {
-    enum class Kind { Write, SyncFile, Rename, SyncFolder };
+    enum class Kind { Write, SyncFile, Rename, SyncFolder, Append };
 
     Kind kind;
     std::string_view path;                       // of the file or folder
@@ -33,10 +34,9 @@ class MemoryFileSystem : public FileSystem {
   public:
     // --- what is on it
 
-    /// A file put there or taken away by "another program": no step.
+    /// A file put there by "another program": no step. TakeAway is none either.
     void Put(const std::string& path, Bytes content);
     void Put(const std::string& path, std::string_view content) { Put(path, Bytes(content.begin(), content.end())); }
-    void TakeAway(const std::string& path) { files_.erase(path); }
 
     /// A file's bytes, until it is saved or taken away; none where there is no such file.
     const Bytes& Content(const std::string& path) const;
@@ -64,7 +64,7 @@ class MemoryFileSystem : public FileSystem {
 
     int Steps() const { return steps_; }
     int Reads() const { return reads_; }
-    int LocksHeld() const { return *locks_.held; }
+    int LocksHeld() const { return static_cast<int>(locks_.held->size()); }
 
     bool Exists(const std::string& path) const override { return files_.contains(path) || IsFolder(path); }
     bool IsFolder(const std::string& path) const override;
@@ -74,6 +74,9 @@ class MemoryFileSystem : public FileSystem {
     void MakeFolders(const std::string& path) override;
     Bytes Read(const std::string& path) const override;
     bool IsOpenElsewhere(const std::string& path) const override { return openElsewhere_.contains(path); }
+    void Append(const std::string& path, std::span<const std::uint8_t> content) override;
+    bool IsLocked(const std::string& path) const override;
+    std::uint64_t Stamp(const std::string& path) const override;
 
   protected:
     std::uint64_t SizeOf(const std::string& path) const override { return Known(path).size(); }
@@ -82,17 +85,18 @@ class MemoryFileSystem : public FileSystem {
     void SyncFile(const std::string& path) override;
     void Rename(const std::string& from, const std::string& to) override;
     void SyncFolder(const std::string& folder) override;
-    void Remove(const std::string& path) noexcept override { files_.erase(path); }
+    void Remove(const std::string& path) noexcept override;
 
   private:
-    /// How many locks of this disk are held; they may outlive it. A copy of the disk holds none.
+    /// The locks of this disk that are held, by their files; they may outlive it. A copy of the disk holds none.
     struct Locks {
         Locks() = default;
         Locks(const Locks&) {}
         Locks& operator=(const Locks&) { return *this; }
 
-        std::shared_ptr<int> held = std::make_shared<int>(0);
+        std::shared_ptr<std::multiset<std::string>> held = std::make_shared<std::multiset<std::string>>();
     };
+    void Changed(const std::string& path) { stamps_[path] = ++lastStamp_; }
 
     const Bytes& Known(const std::string& path) const;
     void Take(const SaveStep& step);
@@ -103,6 +107,8 @@ class MemoryFileSystem : public FileSystem {
     Locks locks_;
     int steps_ = 0, failAt_ = 0, failWith_ = 0;
     mutable int reads_ = 0;
+    std::map<std::string, std::uint64_t> stamps_;
+    std::uint64_t lastStamp_ = 0;
 };
 
 }  // namespace terravane

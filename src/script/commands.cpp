@@ -59,7 +59,7 @@ constexpr std::array kRunCommands{
 
 const Command& CommandNamed(const std::string& name)
 {
-    for (const auto table : {ActingCommands(), LookingCommands(), RunCommands()}) {
+    for (const auto table : {ActingCommands(), LookingCommands(), JournalCommands(), RunCommands()}) {
         const auto found = std::ranges::find(table, name, &Command::name);
         if (found != table.end()) return *found;
     }

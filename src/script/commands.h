@@ -4,6 +4,7 @@
 #include <span>
 #include <string_view>
 
+#include "journal/journal.h"
 #include "program/program.h"
 #include "script/answers.h"
 #include "script/script_line.h"
@@ -16,8 +17,12 @@ struct Session {
     Program& program;
     ScriptSurroundings& surroundings;
     AnswerWriter& answers;
+    Journal& journal;
     bool hasQuit = false;
 };
+
+/// Where a run keeps its drafts: in its home.
+std::string DraftsFolder(const Program& program);
 
 /// fewest, most  words behind the command's name
 /// run           throws LineFault for words that mean nothing and RuntimeError for what the program refuses
@@ -31,9 +36,10 @@ struct Command {
 /// few or too many words.
 void RunCommand(Session& session, Words line);
 
-/// The tables: what a person does, what is looked at, and the script's own.
+/// The tables: what a person does, what is looked at, the journal's, and the script's own.
 std::span<const Command> ActingCommands();
 std::span<const Command> LookingCommands();
+std::span<const Command> JournalCommands();
 std::span<const Command> RunCommands();
 
 }  // namespace terravane

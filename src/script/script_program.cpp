@@ -32,9 +32,14 @@ int RunScripts(const ScriptOptions& options, std::istream& input, std::ostream& 
     ScriptSurroundings surroundings(files, writer, options.now);
     Program program(surroundings, files, home.Path(), BrandFolder(options.brand));
     AddForms(program);
+    Journal journal(program);
+    if (!options.home.empty()) {
+        journal.KeepHistory();
+        journal.KeepDrafts(DraftsFolder(program));
+    }
     program.Run("mdiBack.Form_Load", [&] { program.Show(kFrameName); });
 
-    Session session{program, surroundings, writer};
+    Session session{program, surroundings, writer, journal};
     ScriptRun run(session, complaints, options.isStrict);
     RunAll(run, options.files, input);
     return run.ExitStatus();

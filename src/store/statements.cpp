@@ -48,7 +48,7 @@ std::string UpdateRow(const TableSchema& table, const std::vector<Assignment>& a
 
 void OpenProjectConnection(Program& program)
 {
-    program.ProjectConnection.Open(program.Files(), program.CurrentProjectPath);
+    program.ProjectConnection.Open(program.Files(), program.CurrentProjectPath, program.ListenerOfSaves());
 }
 
 void OpenBrandConnection(Program& program)

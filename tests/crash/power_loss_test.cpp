@@ -6,6 +6,7 @@
 #include <map>
 #include <set>
 #include <span>
+#include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
@@ -63,6 +64,8 @@ class PowerCuts {
         switch (step.kind) {
             case SaveStep::Kind::Write:
                 return Write(std::string(step.path), step.content);
+            case SaveStep::Kind::Append:
+                throw std::logic_error("a save appends nothing");
             case SaveStep::Kind::SyncFile:
                 contents_.at(names_.find(step.path)->second).synced = true;
                 return;

@@ -77,7 +77,8 @@ class Hands {
         : running_(running),
           writer_(told_),
           asked_(running.disk, writer_, {}),
-          session_{running.program, asked_, writer_}
+          journal_(running.program),
+          session_{running.program, asked_, writer_, journal_}
     {}
 
     void Do(std::string_view line) { RunCommand(session_, SplitLine(line)); }
@@ -119,6 +120,7 @@ class Hands {
     std::ostringstream told_;
     AnswerWriter writer_;
     ScriptSurroundings asked_;
+    Journal journal_;
     Session session_;
 };
 

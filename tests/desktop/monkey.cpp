@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QAction>
+#include <QClipboard>
 #include <QInputMethodEvent>
 #include <QMainWindow>
 #include <QMdiSubWindow>
@@ -49,7 +50,12 @@ constexpr std::array kShortcuts{
     Shortcut{Qt::Key_D, Qt::AltModifier},       Shortcut{Qt::Key_S, Qt::AltModifier},
     Shortcut{Qt::Key_Down, Qt::AltModifier},    Shortcut{Qt::Key_Space, Qt::AltModifier},
     Shortcut{Qt::Key_Left, Qt::ShiftModifier},  Shortcut{Qt::Key_Home, Qt::ShiftModifier},
+    Shortcut{Qt::Key_Down, Qt::ShiftModifier},  Shortcut{Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier},
 };
+
+/// What a spreadsheet leaves on the clipboard.
+constexpr std::array kBlocks{"85.3\t86.5\n1,030\t31\n", "1\n2\n3\n4\n5\n6\n7\n8\n9\n10\n11\n12\n", "๑๒.๕\t\t", "\"a\tb",
+                             ""};
 
 /// No apostrophe in most of them: with one nothing is saved.
 constexpr std::array kTexts{"ดินลูกรัง",  "25.4", "-3",  "0",          "1e9", "0.0000001", "ก้ำ", "A/B",
@@ -109,6 +115,7 @@ MonkeyDesk::MonkeyDesk(DiskFileSystem& disk, const std::string& folder)
     AddForms(program);
     program.Run("Start", [&] { WriteFirstContent(disk, program.BrandFolderNow()); });
     desktop = std::make_unique<Desktop>(program, surroundings);
+    desktop->KeepDrafts(WithMark(program.ApplicationPath()) + "Drafts");
     program.Run("Start", [this] { program.Show("frmTitle"); });
 }
 
@@ -307,6 +314,9 @@ void Monkey::PressKey()
 void Monkey::PressShortcut()
 {
     const Shortcut& shortcut = kShortcuts[static_cast<std::size_t>(Pick(static_cast<int>(kShortcuts.size())))];
+    if (Pick(4) == 0)
+        QGuiApplication::clipboard()->setText(
+            QString::fromUtf8(kBlocks[static_cast<std::size_t>(Pick(static_cast<int>(kBlocks.size())))]));
     if (QWindow* window = KeyWindow()) Strike(window, shortcut.key, shortcut.with);
 }
 

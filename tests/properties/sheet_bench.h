@@ -52,6 +52,7 @@ class SheetBench {
     void Reopen();
 
     TestSheet& Sheet() const { return *sheet_; }
+    Program& TheProgram() const { return *program_; }
     const SheetUnderTest& Table() const { return *case_.sheet; }
     const MaterialUnderTest& TheMaterial() const { return *case_.material; }
 

@@ -71,7 +71,8 @@ class RoadProject {
     AnswerWriter writer_{answers_};
     ScriptSurroundings surroundings_{files_, writer_, MakeMoment(2026, 11, 21, 12)};
     Program program_{surroundings_, files_, "/lab"};
-    Session session_{program_, surroundings_, writer_};
+    Journal journal_{program_};
+    Session session_{program_, surroundings_, writer_, journal_};
 };
 
 }  // namespace terravane::support

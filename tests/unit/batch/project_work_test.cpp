@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "batch/pressing.h"
-#include "batch/sha256.h"
 #include "batch_bench.h"
+#include "journal/sha256.h"
 
 namespace terravane {
 namespace {

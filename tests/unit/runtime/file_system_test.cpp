@@ -41,6 +41,37 @@ TEST_F(Disk, CopiesAWholeFile)
     EXPECT_EQ(TextOf(files_.Read(Path("b"))), "content");
 }
 
+TEST_F(Disk, AppendsBehindWhatIsThere)
+{
+    files_.Append(Path("a"), BytesOf("first "));
+    files_.Append(Path("a"), BytesOf("second"));
+    files_.MakeSure(Path("a"));
+    EXPECT_EQ(TextOf(files_.Read(Path("a"))), "first second");
+    EXPECT_EQ(ErrorOf([&] { files_.Append(Path("none/a"), BytesOf("x")); }), error::kPathNotFound);
+}
+
+TEST_F(Disk, HasAnotherStampWhenAFileWasWritten)
+{
+    EXPECT_EQ(files_.Stamp(Path("a")), 0U);
+    files_.ReplaceWhole(Path("a"), BytesOf("first"));
+    const auto first = files_.Stamp(Path("a"));
+    EXPECT_NE(first, 0U);
+    EXPECT_EQ(files_.Stamp(Path("a")), first);
+    files_.ReplaceWhole(Path("a"), BytesOf("other"));
+    EXPECT_NE(files_.Stamp(Path("a")), first) << "as long, and in the same moment";
+}
+
+TEST_F(Disk, TellsWhetherAFileIsLocked)
+{
+    files_.Append(Path("a"), BytesOf("text"));
+    EXPECT_FALSE(files_.IsLocked(Path("a")));
+    auto lock = files_.Lock(Path("a"));
+    EXPECT_TRUE(files_.IsLocked(Path("a")));
+    lock.reset();
+    EXPECT_FALSE(files_.IsLocked(Path("a")));
+    EXPECT_FALSE(files_.IsLocked(Path("none")));
+}
+
 // The folder would allow the rename; the file's own mode says no, and for the administrator too.
 TEST_F(Disk, RefusesAReadOnlyFile)
 {

@@ -81,6 +81,29 @@ TEST(MemoryFileSystem, WriteThatFailsLeavesTheHalfOfItsBytes)
     EXPECT_EQ(disk.Content(disk.Paths().front()), Bytes(3, 'n'));
 }
 
+TEST(MemoryFileSystem, AppendsAndKeepsTheHalfOfWhatFailed)
+{
+    MemoryFileSystem disk = DiskWithFile();
+    const auto stamp = disk.Stamp(kFile);
+    disk.Append(kFile, kNew);
+    EXPECT_EQ(disk.Content(kFile).size(), kOld.size() + kNew.size());
+    EXPECT_NE(disk.Stamp(kFile), stamp);
+    disk.FailAtStep(1, error::kDiskFull);
+    EXPECT_EQ(ErrorOf([&] { disk.Append(kFile, kNew); }), error::kDiskFull);
+    EXPECT_EQ(disk.Content(kFile).size(), kOld.size() + kNew.size() + kNew.size() / 2);
+}
+
+TEST(MemoryFileSystem, TellsWhetherAFileIsLocked)
+{
+    MemoryFileSystem disk = DiskWithFile();
+    auto lock = disk.Lock(kFile);
+    EXPECT_TRUE(disk.IsLocked(kFile));
+    lock.reset();
+    EXPECT_FALSE(disk.IsLocked(kFile));
+    disk.LockElsewhere(kFile);
+    EXPECT_TRUE(disk.IsLocked(kFile));
+}
+
 TEST(MemoryFileSystem, ShowsTheStepsOfASaveInTheirOrder)
 {
     MemoryFileSystem disk = DiskWithFile();

@@ -1,4 +1,4 @@
-#include "batch/sha256.h"
+#include "journal/sha256.h"
 
 #include <array>
 
