@@ -10,7 +10,6 @@
 #include "batch/batch_tests.h"
 #include "batch/brand_folder.h"
 #include "batch/choices.h"
-#include "batch/project_texts.h"
 #include "drawing/display_list.h"
 #include "laboratory/current_test.h"
 #include "laboratory/description.h"
@@ -19,6 +18,7 @@
 #include "runtime/file_system.h"
 #include "runtime/memory_file_system.h"
 #include "sheets/pattern/test_sheet.h"
+#include "store/project_texts.h"
 
 namespace terravane {
 

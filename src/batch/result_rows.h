@@ -8,8 +8,8 @@
 #include "batch/journal.h"
 #include "batch/journal_entry.h"
 #include "batch/pressing.h"
-#include "batch/project_texts.h"
 #include "batch/stale.h"
+#include "store/project_texts.h"
 
 namespace terravane {
 
