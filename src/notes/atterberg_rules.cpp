@@ -1,6 +1,7 @@
 // What an experienced eye looks for on a sheet of Atterberg limits.
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 #include "laboratory/atterberg.h"
 #include "notes/figures.h"
@@ -62,8 +63,9 @@ void BlowsOnOneSide(const SheetReadings& read, Findings& found)
                   {Whole(fewest.value), Whole(most.value), Plain(found.Limit())});
 }
 
-/// Water contents over the logarithms of blows.
+/// Water contents, %, over the logarithms of blows.
 struct FlowLine {
+    std::vector<int> trials;
     std::vector<double> blows, water;
 
     bool IsLine() const { return blows.size() > 1 && std::ranges::max(blows) > std::ranges::min(blows); }
@@ -76,6 +78,7 @@ FlowLine FlowLineOf(const SheetReadings& read)
     for (const Reading& blows : BlowsOf(read)) {
         const auto water = read.Number(kLiquidLimit, ll::WaterContent, blows.trial);
         if (!water) continue;
+        line.trials.push_back(blows.trial);
         line.blows.push_back(Log(blows.value));
         line.water.push_back(*water);
     }
@@ -88,14 +91,21 @@ void FlowLineRises(const SheetReadings& read, Findings& found)
     if (line.IsLine() && line.Fit().slope >= 0) found.Add(SheetReadings::At(laboratory::kFlowIndexBox), {});
 }
 
+/// A flat line explains little of any scatter: what counts is that a trial lies away from it, too.
 void FlowLineScatters(const SheetReadings& read, Findings& found)
 {
     const FlowLine line = FlowLineOf(read);
     if (!line.IsLine() || line.blows.size() < 3) return;
     const StraightLine fit = line.Fit();
     const double explained = Determination(line.blows, line.water, std::array{fit.intercept, fit.slope});
-    if (explained < found.Limit())
-        found.Add(SheetReadings::At(laboratory::kFlowIndexBox), {Hundredths(explained), Plain(found.Limit())});
+    std::size_t farthest = 0;
+    const auto away = [&](std::size_t i) { return std::abs(line.water[i] - fit.At(line.blows[i])); };
+    for (std::size_t i = 1; i < line.blows.size(); ++i)
+        if (away(i) > away(farthest)) farthest = i;
+    if (explained < found.Limit(0) && away(farthest) > found.Limit(1))
+        found.Add(SheetReadings::At(kLiquidLimit, ll::WaterContent, line.trials[farthest]),
+                  {Hundredths(explained), Plain(found.Limit(0)), Whole(line.trials[farthest]),
+                   Hundredths(away(farthest)), Plain(found.Limit(1))});
 }
 
 void AboveULine(const SheetReadings& read, Findings& found)
@@ -188,12 +198,13 @@ constexpr Rule kRules[]{
     {"atterberg.flow-line-scatters",
      Doubtful,
      "Scatter about the flow line",
-     1,
-     {0.95},
-     "R-squared",
+     2,
+     {0.95, 0.5},
+     "R-squared and points of water",
      "the flow line is straight",
-     "The trials scatter about the flow line, R-squared {} (limit {}): one of them is wrong.",
-     "Weigh the can that lies farthest from the line again.",
+     "The trials scatter about the flow line, R-squared {} (limit {}); trial {} lies farthest, {} points away (limit "
+     "{}).",
+     "Weigh the can of that trial again.",
      FlowLineScatters},
     {"atterberg.above-u-line",
      Doubtful,

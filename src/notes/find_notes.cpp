@@ -4,8 +4,9 @@
 #include <array>
 #include <ranges>
 
+#include "controls/text_grid.h"
+#include "program/cell_words.h"
 #include "program/next_command.h"
-#include "runtime/paths.h"
 #include "runtime/runtime_error.h"
 
 namespace terravane::notes {
@@ -69,6 +70,18 @@ std::vector<Note> NotesOn(const Form& sheet, const laboratory::Description& test
     return notes;
 }
 
+std::string PlaceWords(const Form& sheet, const laboratory::Description& test, const Place& at)
+{
+    if (at.control.empty()) return {};
+    if (at.IsCell()) return CellWords(sheet.Get<TextGrid>(at.control), at.row, at.column);
+    for (const std::span<const laboratory::Box> boxes :
+         {std::span<const laboratory::Box>(laboratory::kGeneralBoxes), test.sheet.boxes, test.sheet.results}) {
+        const auto found = std::ranges::find(boxes, at.control, &laboratory::Box::control);
+        if (found != boxes.end()) return PlainWords(found->caption);
+    }
+    return std::string(at.control);
+}
+
 const Form* OpenSheet(const Program& program)
 {
     for (const auto& shown : program.ShownForms() | std::views::reverse)
@@ -77,7 +90,7 @@ const Form* OpenSheet(const Program& program)
 }
 
 Checker::Checker(const Program& program)
-    : program_(program), settings_(Settings::InFolder(program.Files(), FolderOf(WithoutMark(program.BrandFolderNow()))))
+    : program_(program), settings_(Settings::Beside(program.Files(), program.BrandFolderNow()))
 {}
 
 std::vector<Note> Checker::NotesNow()
@@ -85,6 +98,16 @@ std::vector<Note> Checker::NotesNow()
     const Form* sheet = OpenSheet(program_);
     if (!sheet || program_.CurrentTest == Test::None) return {};
     return NotesOn(*sheet, laboratory::Describe(program_.CurrentTest), program_.CurrentMaterial, Job(), settings_);
+}
+
+std::vector<SaidNote> Checker::Said()
+{
+    std::vector<SaidNote> said;
+    for (Note& note : NotesNow()) {
+        std::string place = PlaceWords(*OpenSheet(program_), laboratory::Describe(program_.CurrentTest), note.at);
+        said.push_back({std::move(note), std::move(place)});
+    }
+    return said;
 }
 
 const ProjectTexts* Checker::Job()

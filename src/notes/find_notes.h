@@ -22,6 +22,12 @@ namespace terravane::notes {
 std::vector<Note> NotesOn(const Form& sheet, const laboratory::Description& test, Material material,
                           const ProjectTexts* job, const Settings& settings);
 
+/// A note with its place as a technician calls it: "Dry Density, (g/cm^3), trial 3".
+struct SaidNote {
+    Note note;
+    std::string place;
+};
+
 /// The notes of the program's open sheet, as often as somebody asks. The project file is taken apart again only where
 /// it has changed; one that can't be read is none.
 class Checker {
@@ -31,6 +37,7 @@ class Checker {
 
     /// None where no sheet is open.
     std::vector<Note> NotesNow();
+    std::vector<SaidNote> Said();
     const Settings& TheSettings() const { return settings_; }
 
   private:
@@ -41,6 +48,9 @@ class Checker {
     Bytes content_;
     std::optional<ProjectTexts> job_;
 };
+
+/// What a technician calls a place of the sheet; empty for none.
+std::string PlaceWords(const Form& sheet, const laboratory::Description& test, const Place& at);
 
 /// The sheet that is open, the one shown last; nullptr where there is none.
 const Form* OpenSheet(const Program& program);

@@ -65,9 +65,14 @@ Settings Settings::FromText(std::string_view text)
     return settings;
 }
 
-Settings Settings::InFolder(const FileSystem& files, const std::string& folder)
+std::string SettingsPath(const std::string& brandFolder)
 {
-    const std::string path = WithMark(folder) + std::string(kSettingsFile);
+    return FolderOf(WithoutMark(brandFolder)) + std::string(kSettingsFile);
+}
+
+Settings Settings::Beside(const FileSystem& files, const std::string& brandFolder)
+{
+    const std::string path = SettingsPath(brandFolder);
     if (!files.Exists(path)) return {};
     try {
         const Bytes content = files.Read(path);

@@ -13,6 +13,7 @@ namespace terravane::notes {
 
 /// In the folder that holds the brand store's folder.
 inline constexpr std::string_view kSettingsFile = "notes.conf";
+std::string SettingsPath(const std::string& brandFolder);
 
 /// One line a note: "compaction.water-steps = off", "compaction.water-steps = 3.5", "atterberg.blows = 10 40". Empty
 /// lines and those that begin with "#" say nothing.
@@ -23,8 +24,9 @@ class Settings {
 
     /// Reads a file's text; nothing of a bad line is taken.
     static Settings FromText(std::string_view text);
-    /// Of the file in that folder; as the rules stand where there is none. A file that can't be read is a complaint.
-    static Settings InFolder(const FileSystem& files, const std::string& folder);
+    /// Of the file beside the brand folder; as the rules stand where there is none. A file that can't be read is a
+    /// complaint.
+    static Settings Beside(const FileSystem& files, const std::string& brandFolder);
 
     bool IsOn(const Rule& rule) const;
     LimitValues LimitsOf(const Rule& rule) const;

@@ -24,7 +24,8 @@ std::vector<Note> NotesWith(const NoteCase& of, std::string_view text, const not
     for (const auto& [place, reading] : of.readings) open.Put(place, reading);
     if (of.place != "sql") open.Put(of.place, text);
     const ProjectTexts job = open.Job();
-    return notes::NotesOn(open.Sheet(), laboratory::Describe(of.test), open.TheProgram().CurrentMaterial, &job, settings);
+    return notes::NotesOn(open.Sheet(), laboratory::Describe(of.test), open.TheProgram().CurrentMaterial, &job,
+                          settings);
 }
 
 auto Find(const std::vector<Note>& found, std::string_view key)
@@ -104,7 +105,8 @@ TEST(NotesOnASheet, NameTheFiguresOfThePoint)
     open.Put("txtGs", "2.65");
     open.Put("MSHDensity 3 3", "12.00");
     open.Put("MSHDensity 6 3", "2.05");
-    const auto found = notes::NotesOn(open.Sheet(), laboratory::Describe(terravane::Test::StdSoil), Material::Soil, nullptr, {});
+    const auto found =
+        notes::NotesOn(open.Sheet(), laboratory::Describe(terravane::Test::StdSoil), Material::Soil, nullptr, {});
     ASSERT_EQ(found.size(), 1u);
     // 12 * 2.05 * 2.65 / (2.65 - 2.05) = 108.65
     EXPECT_EQ(found.front().sentence,
@@ -126,7 +128,8 @@ TEST(NotesOnASheet, CorrectTheMaximumDensityForOversize)
     project.Execute("UPDATE SUMMARY Set sum_gravel=' 20' Where sum_ID=' 1'");
     project.Flush();
     const ProjectTexts job = open.Job();
-    const auto found = notes::NotesOn(open.Sheet(), laboratory::Describe(terravane::Test::StdSoil), Material::Soil, &job, {});
+    const auto found =
+        notes::NotesOn(open.Sheet(), laboratory::Describe(terravane::Test::StdSoil), Material::Soil, &job, {});
     const auto note = Find(found, "compaction.oversize");
     ASSERT_NE(note, found.end());
     // 1 / (0.8 / 2.00 + 0.2 / 2.60) = 2.0968

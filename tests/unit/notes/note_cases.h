@@ -120,13 +120,20 @@ inline std::vector<NoteCase> NoteCases()
          "MSHLL 7 2",
          "40.01",
          "40"},
-        // Three points: log 33, 25, 18 and 38, x, 42; the middle one on the line at 39.83.
+        // Three points: log 33, 25, 18 and 38, x, 42; R-squared is 0.952 or 0.940.
         {"atterberg.flow-line-scatters",
          AttSoil,
          {{"MSHLL 1 1", "33"}, {"MSHLL 7 1", "38"}, {"MSHLL 1 2", "25"}, {"MSHLL 1 3", "18"}, {"MSHLL 7 3", "42"}},
          "MSHLL 7 2",
-         "40.50",
-         "41"},
+         "40.60",
+         "40.70"},
+        // A flat line: R-squared is small, the middle trial 0.49 or 0.51 points away.
+        {"atterberg.flow-line-scatters",
+         AttSoil,
+         {{"MSHLL 1 1", "33"}, {"MSHLL 7 1", "38"}, {"MSHLL 1 2", "25"}, {"MSHLL 1 3", "18"}, {"MSHLL 7 3", "39"}},
+         "MSHLL 7 2",
+         "39.20",
+         "39.22"},
         // 0.9 (50 - 8) = 37.8
         {"atterberg.above-u-line", AttSoil, {{"txtLL", "50"}}, "txtPI", "37.8", "37.81"},
         {"atterberg.not-plastic", AttSoil, {{"txtLL", "20"}}, "txtPL", "19.99", "20"},
