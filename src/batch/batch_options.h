@@ -27,7 +27,8 @@ struct BatchOptions {
     std::vector<std::string> materials;  // keys; none: both
     bool wantsSummary = false;
     bool isOneFile = false;
-    std::string csv, json, manifest;  // paths; empty: none
+    std::string csv, json, manifest, notes;  // paths; empty: none
+    bool hasStrictNotes = false;             // a note that is more than information counts as a stale result
     bool isAsSaved = false;
     bool posts = false;
     bool checks = false;
@@ -42,6 +43,7 @@ struct BatchOptions {
 
     bool Wants(std::string_view test) const;
     bool WantsMaterial(std::string_view material) const;
+    bool WantsNotes() const { return hasStrictNotes || !notes.empty(); }
     /// The choices that the sheets' commands are pressed with.
     Choices PressedChoices() const;
     /// What makes two runs give the same outputs, as one text.

@@ -12,6 +12,7 @@
 #include "batch/result_rows.h"
 #include "batch/terminal.h"
 #include "batch/worker_pool.h"
+#include "notes/settings.h"
 #include "runtime/text.h"
 
 namespace terravane {
@@ -26,8 +27,9 @@ constexpr std::string_view kClearLine = "\r\x1b[K";
 class ResultFiles {
   public:
     explicit ResultFiles(const BatchOptions& options)
-        : csv_(options.csv), json_(options.json), manifest_(options.manifest)
+        : csv_(options.csv), json_(options.json), manifest_(options.manifest), notes_(options.notes)
     {
+        notes_.Add(NotesHead());
         csv_.Add(CsvHead());
         json_.Add("[");
         manifest_.Add(ManifestHead());
@@ -38,16 +40,17 @@ class ResultFiles {
         csv_.Add(answer.csvRows);
         if (!answer.json.empty()) json_.Add((std::exchange(isFirst_, false) ? "\n" : ",\n") + answer.json);
         manifest_.Add(ManifestRows(project.path, answer.entry));
+        notes_.Add(answer.noteRows);
     }
 
     void Finish()
     {
         json_.Add("\n]\n");
-        for (GrowingFile* file : {&csv_, &json_, &manifest_}) file->Finish();
+        for (GrowingFile* file : {&csv_, &json_, &manifest_, &notes_}) file->Finish();
     }
 
   private:
-    GrowingFile csv_, json_, manifest_;
+    GrowingFile csv_, json_, manifest_, notes_;
     bool isFirst_ = true;
 };
 
@@ -84,6 +87,7 @@ class BatchRun {
 
     int Run()
     {
+        TellBadSettings();
         RunInWorkers(projects_.size(), static_cast<std::size_t>(std::max(1, options_.jobs)),
                      {[this](std::size_t project) { return RequestOf(project); },
                       [this](const std::string& request) { return worker_.Answer(request); }, options_.workerArguments,
@@ -106,6 +110,14 @@ class BatchRun {
         if (const auto earlier = journal_.find(request.project.stem); earlier != journal_.end())
             request.earlier = earlier->second;
         return ToText(request);
+    }
+
+    /// Once a run, not once a project.
+    void TellBadSettings()
+    {
+        if (!options_.WantsNotes() || options_.brand.empty()) return;
+        const auto settings = notes::Settings::Beside(DiskFileSystem(), options_.brand);
+        for (const std::string& complaint : settings.Complaints()) listeners_.complains << complaint << '\n';
     }
 
     /// Projects whose outputs would overwrite those of an earlier one.
@@ -134,6 +146,7 @@ class BatchRun {
             AddToJournal(DiskFileSystem(), project, answer.entry);
         if (!answer.failure.empty()) failures_.emplace(number, answer.failure);
         if (!answer.stale.empty()) ++stale_;
+        if (answer.hasDoubts) ++doubtful_;
         waiting_.emplace(number, std::move(answer));
         for (auto next = waiting_.find(told_); next != waiting_.end(); next = waiting_.find(++told_)) {
             Tell(projects_[told_], next->second);
@@ -178,7 +191,7 @@ class BatchRun {
 
     int Status() const
     {
-        if (stale_ > 0) return exit_status::kStale;
+        if (stale_ > 0 || (options_.hasStrictNotes && doubtful_ > 0)) return exit_status::kStale;
         const bool isWhole = progress_.Count() == projects_.size();
         return failures_.empty() && isWhole ? exit_status::kDone : exit_status::kSomeFailed;
     }
@@ -193,7 +206,7 @@ class BatchRun {
     std::map<std::size_t, std::size_t> clashes_;
     std::map<std::size_t, ProjectAnswer> waiting_;  // until those before them are told
     std::map<std::size_t, std::string> failures_;
-    std::size_t told_ = 0, stale_ = 0;
+    std::size_t told_ = 0, stale_ = 0, doubtful_ = 0;
     Clock::time_point began_ = Clock::now();
 };
 

@@ -9,10 +9,10 @@
 
 #include "batch/choices.h"
 #include "batch/presser.h"
-#include "batch/project_texts.h"
 #include "laboratory/current_test.h"
 #include "laboratory/description.h"
 #include "laboratory/tests.h"
+#include "store/project_texts.h"
 
 namespace terravane {
 

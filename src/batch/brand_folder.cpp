@@ -3,7 +3,9 @@
 #include <utility>
 
 #include "journal/sha256.h"
+#include "notes/settings.h"
 #include "program/folders.h"
+#include "runtime/paths.h"
 #include "store/new_stores.h"
 
 namespace terravane {
@@ -17,6 +19,8 @@ Brand ReadBrand(const FileSystem& disk, std::string folder)
     }
     for (const std::string& path : brand.disk.Paths())
         brand.digest += NameOf(path) + ' ' + Sha256(brand.disk.Content(path)) + ' ';
+    const std::string settings = notes::SettingsPath(brand.folder);  // no page depends on it
+    if (IsFile(settings)) brand.disk.Put(settings, disk.Read(settings));
     return brand;
 }
 

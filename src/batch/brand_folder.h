@@ -10,7 +10,7 @@ namespace terravane {
 
 /// The names, persons and pictures that head the reports.
 /// folder  with a mark at its end
-/// disk    holds its files and nothing else: what a project's program starts with
+/// disk    holds its files, the settings beside it and nothing else: what a project's program starts with
 /// digest  the same for the same content
 struct Brand {
     std::string folder;

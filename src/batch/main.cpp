@@ -147,6 +147,10 @@ void AddOptions(CLI::App& app, BatchOptions& options, Typed& typed)
                  "No PDFs: list what stands in SUMMARY or in another test but no longer follows from the readings");
     app.add_option("--manifest", options.manifest, "Each output with pages, bytes and SHA-256, as CSV")
         ->option_text("FILE");
+    app.add_option("--notes", options.notes, "What an experienced eye would say of each sheet, one row a note, as CSV")
+        ->option_text("FILE");
+    app.add_flag("--strict-notes", options.hasStrictNotes,
+                 "Exit status 3 where a note is doubtful or impossible, as for a stale result");
     app.add_option("--jobs", options.jobs, "How many projects at a time; else as many as the machine has processors")
         ->check(CLI::Range(1, 1024))
         ->option_text("N");

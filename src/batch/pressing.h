@@ -9,9 +9,9 @@
 #include "batch/batch_options.h"
 #include "batch/batch_tests.h"
 #include "batch/project_session.h"
-#include "batch/project_texts.h"
 #include "laboratory/current_test.h"
 #include "laboratory/description.h"
+#include "store/project_texts.h"
 
 namespace terravane {
 

@@ -7,8 +7,9 @@ namespace terravane {
 /// CBOR takes any bytes, also of a path that is no UTF-8.
 std::string ToText(const ProjectAnswer& answer)
 {
-    const Json json{{"failure", answer.failure}, {"entry", answer.entry},     {"wasThere", answer.wasThere},
-                    {"stale", answer.stale},     {"csvRows", answer.csvRows}, {"json", answer.json}};
+    const Json json{{"failure", answer.failure},   {"entry", answer.entry},        {"wasThere", answer.wasThere},
+                    {"stale", answer.stale},       {"csvRows", answer.csvRows},    {"json", answer.json},
+                    {"noteRows", answer.noteRows}, {"hasDoubts", answer.hasDoubts}};
     const auto bytes = Json::to_cbor(json);
     return {bytes.begin(), bytes.end()};
 }
@@ -23,6 +24,8 @@ ProjectAnswer ReadAnswer(const std::string& text)
     json.at("stale").get_to(answer.stale);
     json.at("csvRows").get_to(answer.csvRows);
     json.at("json").get_to(answer.json);
+    json.at("noteRows").get_to(answer.noteRows);
+    json.at("hasDoubts").get_to(answer.hasDoubts);
     return answer;
 }
 

@@ -13,12 +13,14 @@ namespace terravane {
 ///   entry     what the journal keeps of it: its outputs; wasThere: they were made by an earlier run
 ///   stale     under a check
 ///   csvRows   lines with their ends; json: one object on one line; empty where not asked for or not to be had
+///   noteRows  of the notes, as csvRows; hasDoubts: one of them is more than information
 struct ProjectAnswer {
     std::string failure;
     JournalEntry entry;
     bool wasThere = false;
     std::vector<std::string> stale;
-    std::string csvRows, json;
+    std::string csvRows, json, noteRows;
+    bool hasDoubts = false;
 };
 
 /// For the way from a worker process to the one that started it.

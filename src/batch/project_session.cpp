@@ -71,6 +71,12 @@ std::string ProjectSession::ReportTitle() const
     return JobTitle(program_);
 }
 
+std::vector<notes::SaidNote> ProjectSession::Notes()
+{
+    if (!checker_) checker_.emplace(program_);
+    return checker_->Said();
+}
+
 std::vector<DisplayList> ProjectSession::ResultsPages()
 {
     heard_.During("Overall Results");

@@ -2,6 +2,7 @@
 /// toolbar, commands pressed as by hand, pages drawn as they would be printed.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -10,15 +11,16 @@
 #include "batch/batch_tests.h"
 #include "batch/brand_folder.h"
 #include "batch/choices.h"
-#include "batch/project_texts.h"
 #include "drawing/display_list.h"
 #include "laboratory/current_test.h"
 #include "laboratory/description.h"
+#include "notes/find_notes.h"
 #include "program/program.h"
 #include "runtime/dates.h"
 #include "runtime/file_system.h"
 #include "runtime/memory_file_system.h"
 #include "sheets/pattern/test_sheet.h"
+#include "store/project_texts.h"
 
 namespace terravane {
 
@@ -41,6 +43,9 @@ class ProjectSession {
     /// The page of the overall results; none, with a trouble heard, where it can't be drawn.
     std::vector<DisplayList> ResultsPages();
 
+    /// What an experienced eye would say of the open sheet.
+    std::vector<notes::SaidNote> Notes();
+
     /// The copy's texts now, of one table or of all.
     ProjectTexts Texts(std::string_view only = {}) const { return ProjectTexts(disk_.Content(path_), only); }
 
@@ -49,6 +54,7 @@ class ProjectSession {
     MemoryFileSystem disk_;
     BatchSurroundings heard_;
     Program program_;
+    std::optional<notes::Checker> checker_;  // from the first question on
 };
 
 }  // namespace terravane

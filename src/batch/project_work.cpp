@@ -46,7 +46,7 @@ class ProjectWork {
             answer_.entry = *earlier;
             answer_.wasThere = true;
         }
-        if (!answer_.wasThere || WantsRows()) WorkSession();
+        if (!answer_.wasThere || WantsRows() || options_.WantsNotes()) WorkSession();
         return std::move(answer_);
     }
 
@@ -71,6 +71,7 @@ class ProjectWork {
         ProjectSession session(brand_, FullPath(project_.path), content_, options_.today);
         const auto outcomes = WorkSheets(session, saved, options_, [&](const TestOutcome& outcome) {
             if (MakesPages()) AddReportPages(session, outcome);
+            if (options_.WantsNotes()) AddNotes(session, outcome);
         });
         if (MakesPages() && options_.wantsSummary) AddResultsPages(session);
         if (!options_.checks) AddTroubles(outcomes);
@@ -88,6 +89,14 @@ class ProjectWork {
         parts_.push_back({std::string(outcome.test->key) + "_" + std::string(material.key),
                           std::string(outcome.test->names.title) + ", " + std::string(material.title),
                           session.ReportTitle(), std::move(pages)});
+    }
+
+    void AddNotes(ProjectSession& session, const TestOutcome& outcome)
+    {
+        const auto said = session.Notes();
+        answer_.hasDoubts |= std::ranges::any_of(
+            said, [](const notes::SaidNote& one) { return one.note.level != notes::Level::Information; });
+        if (!options_.notes.empty()) answer_.noteRows += NoteRows(project_.path, outcome, said);
     }
 
     void AddResultsPages(ProjectSession& session)

@@ -108,6 +108,22 @@ std::string JsonFailure(const std::string& project, const std::string& failure)
     return OneLine({{"project", project}, {"failure", failure}});
 }
 
+std::string NotesHead()
+{
+    return Line({"project", "material", "test", "note", "level", "place", "text", "source"});
+}
+
+std::string NoteRows(const std::string& project, const TestOutcome& outcome, const std::vector<notes::SaidNote>& said)
+{
+    std::string rows;
+    for (const auto& [note, place] : said) {
+        rows += Line({project, std::string(laboratory::Describe(outcome.material).key), std::string(outcome.test->key),
+                      std::string(note.key), std::string(notes::Words(note.level)), place, note.sentence,
+                      std::string(note.source)});
+    }
+    return rows;
+}
+
 std::string ManifestHead()
 {
     return CsvLine({"output", "pages", "bytes", "sha256", "project"});

@@ -8,8 +8,9 @@
 #include "batch/journal.h"
 #include "batch/journal_entry.h"
 #include "batch/pressing.h"
-#include "batch/project_texts.h"
 #include "batch/stale.h"
+#include "notes/find_notes.h"
+#include "store/project_texts.h"
 
 namespace terravane {
 
@@ -24,6 +25,10 @@ std::string JsonObject(const std::string& project, const ProjectTexts& texts, co
                        const std::vector<TestOutcome>& outcomes, const std::vector<StaleResult>& stale);
 /// What stands in its place for a project that could not be read.
 std::string JsonFailure(const std::string& project, const std::string& failure);
+
+/// "project,material,test,note,level,place,text,source", and a line a note.
+std::string NotesHead();
+std::string NoteRows(const std::string& project, const TestOutcome& outcome, const std::vector<notes::SaidNote>& said);
 
 /// "output,pages,bytes,sha256,project".
 std::string ManifestHead();

@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "batch/pressing.h"
-#include "batch/project_texts.h"
 #include "laboratory/current_test.h"
+#include "store/project_texts.h"
 
 namespace terravane {
 

@@ -4,6 +4,7 @@
 
 #include "controls/picture_box.h"
 #include "controls/text_grid.h"
+#include "notes/find_notes.h"
 #include "render/png.h"
 #include "reports/print_report.h"
 #include "results/frmSummary.h"
@@ -93,6 +94,29 @@ void RunNotices(Session& session, Words)
     session.answers.Write({{"notices", open}});
 }
 
+std::string PlaceWords(const notes::Place& at)
+{
+    std::string place(at.control);
+    if (at.IsCell()) place += " " + std::to_string(at.row) + " " + std::to_string(at.column);
+    return place;
+}
+
+/// What an experienced eye would say of the open sheet, and how many notes that are. Bad lines of the laboratory's
+/// settings come first.
+void RunNotes(Session& session, Words)
+{
+    notes::Checker checker(session.program);
+    for (const std::string& complaint : checker.TheSettings().Complaints())
+        session.answers.Write({{"settings", complaint}});
+    const auto found = checker.NotesNow();
+    for (const notes::Note& note : found) {
+        Json answer{{"note", note.key}, {"level", notes::Words(note.level)}, {"text", note.sentence}};
+        if (!note.at.control.empty()) answer["at"] = PlaceWords(note.at);
+        session.answers.Write(answer);
+    }
+    session.answers.Write({{"notes", found.size()}});
+}
+
 void RunPicture(Session& session, Words words)
 {
     const auto& box = ControlFor(&ControlUses::drawing, session.program, words[0], "be looked at as a picture");
@@ -142,9 +166,9 @@ void RunRender(Session& session, Words words)
 }
 
 constexpr std::array kLookingCommands{
-    Command{"get", 1, 3, RunGet},         Command{"dump", 1, 1, RunDump}, Command{"forms", 0, 0, RunForms},
-    Command{"picture", 1, 1, RunPicture}, Command{"page", 1, 2, RunPage}, Command{"render", 2, 3, RunRender},
-    Command{"notices", 0, 0, RunNotices},
+    Command{"get", 1, 3, RunGet},         Command{"dump", 1, 1, RunDump},   Command{"forms", 0, 0, RunForms},
+    Command{"picture", 1, 1, RunPicture}, Command{"page", 1, 2, RunPage},   Command{"render", 2, 3, RunRender},
+    Command{"notices", 0, 0, RunNotices}, Command{"notes", 0, 0, RunNotes},
 };
 
 }  // namespace

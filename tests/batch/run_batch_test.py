@@ -235,6 +235,52 @@ class Stale(Batch):
         self.assertEqual(len(digests(self.folder / "out")), 2)
 
 
+class Notes(Batch):
+    """What an experienced eye says of the sheets, beside everything else and changing none of it."""
+
+    def notes(self, *arguments, **how):
+        report("--notes", self.folder / "notes.csv", *arguments, **how)
+        return rows(self.folder / "notes.csv")
+
+    def test_notes_name_test_place_and_source(self):
+        notes = self.notes("--check", "--tests", "sie", self.road)
+        crushed = [note for note in notes if note["material"] == "crush" and note["note"] == "sieve.loss"]
+        self.assertEqual([(note["level"], note["place"]) for note in crushed], [("doubtful", "Pecent of Mass Loss")])
+        self.assertIn("0.47 %", crushed[0]["text"])
+        self.assertIn("ASTM C136", crushed[0]["source"])
+        self.assertEqual({note["test"] for note in notes}, {"sie"})
+
+    def test_nothing_else_differs(self):
+        report("-o", self.folder / "without", "--csv", self.folder / "without.csv", self.road)
+        self.notes("-o", self.folder / "with", "--csv", self.folder / "with.csv", self.road)
+        self.assertEqual(digests(self.folder / "with"), digests(self.folder / "without"))
+        self.assertEqual((self.folder / "with.csv").read_bytes(), (self.folder / "without.csv").read_bytes())
+
+    def test_any_number_of_jobs_gives_the_same_rows(self):
+        jobs = self.copies(6, self.road)
+        one = self.notes("--check", "--jobs", 1, jobs)
+        self.assertEqual(self.notes("--check", "--jobs", 3, jobs), one)
+        self.assertEqual(len(one) % 6, 0)
+
+    def test_strict_notes_end_with_the_status_of_a_stale_result(self):
+        report("--check", "--strict-notes", "--tests", "sie", self.road, status=3)
+        report("--check", "--strict-notes", "--tests", "att", self.road)
+        report("--check", "--notes", self.folder / "notes.csv", "--tests", "sie", self.road)
+
+    def test_a_laboratory_has_limits_of_its_own(self):
+        (self.folder / "empty.trv").write_text("quit\n", encoding="utf-8")
+        run("terravane-script", "--home", self.folder / "lab", self.folder / "empty.trv")
+        brand = self.folder / "lab" / "BrandList"
+        (self.folder / "lab" / "notes.conf").write_text("sieve.loss = 2 1\nsieve.lost = 3\n", encoding="utf-8")
+        said = run("terravane-report", "--check", "--brand", brand, "--notes", self.folder / "notes.csv", self.road)
+        self.assertNotIn("sieve.loss", {note["note"] for note in rows(self.folder / "notes.csv")})
+        self.assertEqual(said.count('notes.conf, line 2: there is no note "sieve.lost".'), 1)
+
+    def test_a_finished_project_has_its_notes_again(self):
+        first = self.notes("--resume", "-o", self.folder / "out", self.road)
+        self.assertEqual(self.notes("--resume", "-o", self.folder / "out", self.road), first)
+
+
 class Long(Batch):
     def start(self, *arguments, terminal=None):
         command = [str(settings.programs / "terravane-report"), "--today", TODAY, *map(str, arguments)]

@@ -3,7 +3,7 @@
 //   === table_general
 //   | | | unit | ...
 //
-// tools/build-guide puts each where a chapter says {{table_general}}.
+// tools/build-guide puts each, and the checker's notes from their rules, where a chapter says {{table_general}}.
 #include <algorithm>
 #include <cctype>
 #include <iostream>
@@ -14,6 +14,8 @@
 #include "laboratory/all_tests.h"
 #include "laboratory/general_data.h"
 #include "laboratory/tests.h"
+#include "notes/rule.h"
+#include "runtime/numbers.h"
 #include "runtime/text.h"
 
 namespace {
@@ -138,6 +140,35 @@ void PrintLengths()
     std::cout << "| all other texts and readings | " << kReadingLength << " |\n";
 }
 
+/// The sentence with "…" where a figure is put in.
+std::string Sentence(std::string_view sentence)
+{
+    std::string text(sentence);
+    for (std::size_t at = 0; (at = text.find("{}", at)) != std::string::npos;) text.replace(at, 2, "…");
+    return text;
+}
+
+std::string LimitsOf(const notes::Rule& rule)
+{
+    std::string limits;
+    for (std::size_t i = 0; i < rule.limits; ++i) limits += (i == 0 ? "" : " and ") + NumberText(rule.limit[i]);
+    return rule.unit.empty() ? limits : limits + " " + std::string(rule.unit);
+}
+
+/// A section a group of the checker's notes.
+void PrintNotes()
+{
+    std::cout << "=== table_notes\n";
+    for (const notes::RuleGroup& group : notes::RuleGroups()) {
+        std::cout << "## " << group.title << "\n\n| note | limit | what is said, and what to do |\n|---|---|---|\n";
+        for (const notes::Rule& rule : group.rules) {
+            std::cout << "| `" << rule.key << "`, " << notes::Words(rule.level) << " | " << LimitsOf(rule) << " | "
+                      << Sentence(rule.sentence) << " *" << rule.advice << "* Source: " << rule.source << ". |\n";
+        }
+        std::cout << "\n";
+    }
+}
+
 void PrintMenuKeys()
 {
     std::cout << "=== menu_keys\n";
@@ -162,6 +193,7 @@ int main()
     PrintGeneral();
     PrintSheets();
     PrintLengths();
+    PrintNotes();
     PrintMenuKeys();
     PrintKeys();
     return 0;

@@ -3,6 +3,7 @@
 foreach(layer runtime laboratory numeric drawing controls jet program store sheets reports results app script batch render)
   terravane_tests(${layer}_tests unit/${layer} LINKS terravane_${layer})
 endforeach()
+terravane_tests(notes_tests unit/notes LINKS terravane_notes terravane_script)
 terravane_tests(page_tests pages LINKS terravane_script)
 terravane_tests(property_tests properties LINKS terravane_app)
 

@@ -7,11 +7,11 @@
 #include <vector>
 
 #include "batch/brand_folder.h"
-#include "batch/project_texts.h"
 #include "batch/project_work.h"
 #include "jet/connection.h"
 #include "runtime/memory_file_system.h"
 #include "store/new_stores.h"
+#include "store/project_texts.h"
 #include "store/schema.h"
 
 namespace terravane::support {

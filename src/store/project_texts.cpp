@@ -1,4 +1,4 @@
-#include "batch/project_texts.h"
+#include "store/project_texts.h"
 
 #include <algorithm>
 
