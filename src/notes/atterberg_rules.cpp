@@ -11,6 +11,8 @@
 
 namespace terravane::notes {
 
+namespace on_limits {
+
 namespace {
 
 using laboratory::kLiquidLimit;
@@ -250,9 +252,11 @@ constexpr Rule kRules[]{
 
 }  // namespace
 
+}  // namespace on_limits
+
 std::span<const Rule> AtterbergRules()
 {
-    return kRules;
+    return on_limits::kRules;
 }
 
 }  // namespace terravane::notes

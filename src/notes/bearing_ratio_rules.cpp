@@ -9,6 +9,8 @@
 
 namespace terravane::notes {
 
+namespace on_bearing {
+
 namespace {
 
 using namespace cbr;
@@ -389,9 +391,11 @@ constexpr Rule kRules[]{
 
 }  // namespace
 
+}  // namespace on_bearing
+
 std::span<const Rule> BearingRatioRules()
 {
-    return kRules;
+    return on_bearing::kRules;
 }
 
 }  // namespace terravane::notes

@@ -11,6 +11,8 @@
 
 namespace terravane::notes {
 
+namespace on_compaction {
+
 namespace {
 
 using namespace compaction;
@@ -400,9 +402,11 @@ constexpr Rule kRules[]{
 
 }  // namespace
 
+}  // namespace on_compaction
+
 std::span<const Rule> CompactionRules()
 {
-    return kRules;
+    return on_compaction::kRules;
 }
 
 }  // namespace terravane::notes

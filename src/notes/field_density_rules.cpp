@@ -11,6 +11,8 @@
 
 namespace terravane::notes {
 
+namespace in_the_field {
+
 namespace {
 
 using namespace field;
@@ -225,9 +227,11 @@ constexpr Rule kRules[]{
 
 }  // namespace
 
+}  // namespace in_the_field
+
 std::span<const Rule> FieldDensityRules()
 {
-    return kRules;
+    return in_the_field::kRules;
 }
 
 }  // namespace terravane::notes

@@ -9,6 +9,8 @@
 
 namespace terravane::notes {
 
+namespace on_jobs {
+
 namespace {
 
 std::optional<Moment> DateIn(const std::string& text)
@@ -78,9 +80,11 @@ constexpr Rule kRules[]{
 
 }  // namespace
 
+}  // namespace on_jobs
+
 std::span<const Rule> JobRules()
 {
-    return kRules;
+    return on_jobs::kRules;
 }
 
 }  // namespace terravane::notes

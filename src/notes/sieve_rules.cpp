@@ -9,6 +9,8 @@
 
 namespace terravane::notes {
 
+namespace on_sieves {
+
 namespace {
 
 using laboratory::kSieveStack;
@@ -271,9 +273,11 @@ constexpr Rule kRules[]{
 
 }  // namespace
 
+}  // namespace on_sieves
+
 std::span<const Rule> SieveRules()
 {
-    return kRules;
+    return on_sieves::kRules;
 }
 
 }  // namespace terravane::notes

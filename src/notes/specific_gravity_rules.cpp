@@ -8,6 +8,8 @@
 
 namespace terravane::notes {
 
+namespace on_gravity {
+
 namespace {
 
 using laboratory::kCalibration;
@@ -171,9 +173,11 @@ constexpr Rule kRules[]{
 
 }  // namespace
 
+}  // namespace on_gravity
+
 std::span<const Rule> SpecificGravityRules()
 {
-    return kRules;
+    return on_gravity::kRules;
 }
 
 }  // namespace terravane::notes

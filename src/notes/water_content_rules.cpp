@@ -8,6 +8,8 @@
 
 namespace terravane::notes {
 
+namespace on_cans {
+
 namespace {
 
 constexpr int kNone = -1;
@@ -171,9 +173,11 @@ constexpr Rule kRules[]{
 
 }  // namespace
 
+}  // namespace on_cans
+
 std::span<const Rule> WaterContentRules()
 {
-    return kRules;
+    return on_cans::kRules;
 }
 
 }  // namespace terravane::notes

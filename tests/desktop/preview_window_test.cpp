@@ -3,6 +3,7 @@
 
 #include <QComboBox>
 #include <QFile>
+#include <QScrollBar>
 #include <QToolButton>
 #include <QWheelEvent>
 
@@ -66,6 +67,24 @@ TEST(PreviewWindow, ScrollingMovesThePageUp)
     ASSERT_GT(bar.Maximum(), 0) << "A page at full size is higher than the window.";
     bar.SetValue(1500);
     EXPECT_EQ(running.Page().Top, -1500);
+}
+
+TEST(PreviewWindow, APressBesideTheScrollBarsThumbTurnsMostOfAScreen)
+{
+    PreviewFixture running;
+    auto& view = *running.Window("frmPreview")->findChild<QScrollBar*>("VScroll1");
+    view.triggerAction(QAbstractSlider::SliderPageStepAdd);
+    EXPECT_EQ(running.Page().Top, -std::min(3000, running.Preview().Get<ScrollBar>("VScroll1").Maximum()));
+}
+
+TEST(PreviewWindow, AScrollBarWithNothingToScrollIsGrey)
+{
+    PreviewFixture running;
+    auto& bar = running.Preview().Get<ScrollBar>("VScroll1");
+    const auto& view = *running.Window("frmPreview")->findChild<QScrollBar*>("VScroll1");
+    EXPECT_TRUE(view.isEnabled());
+    bar.SetMaximum(0);
+    EXPECT_FALSE(view.isEnabled());
 }
 
 TEST(PreviewWindow, ACancelledPrintDialogPrintsNothing)

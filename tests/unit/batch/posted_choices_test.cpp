@@ -1,5 +1,7 @@
 #include "batch/posted_choices.h"
 
+#include <set>
+
 #include <gtest/gtest.h>
 
 namespace terravane {
@@ -35,6 +37,15 @@ TEST(PossibleChoices, AreAllThatATechnicianCouldHaveMadeUnderACheck)
     EXPECT_EQ(Tried("sie", options).size(), 2U);
     EXPECT_EQ(Tried("spc", options).size(), 4U);
     EXPECT_EQ(Tried("cbr", options).size(), 65U);
+}
+
+TEST(PossibleChoices, HaveEveryShareThatTheSheetOffers)
+{
+    BatchOptions options;
+    options.checks = true;
+    std::set<std::string_view> shares;
+    for (const Choices& choices : Tried("cbr", options)) shares.insert(choices.share);
+    EXPECT_EQ(shares, (std::set<std::string_view>{"90%", "95%", "98%", "100%"}));
 }
 
 TEST(PossibleChoices, AreFixedByOptions)

@@ -136,6 +136,20 @@ TEST(Stale, WhatWasTypedForWantOfATestIsNotStale)
     EXPECT_EQ(job.Stale(), Sentences());
 }
 
+TEST(Stale, ATypedResultOfATestWithoutReadingsIsNotStale)
+{
+    BatchBench bench;
+    bench.PutAll("SPCSOIL", "spc_gs", "2.70");
+    EXPECT_EQ(bench.Stale(), Sentences());
+}
+
+TEST(Stale, RowsOfOneTextAreToldTogether)
+{
+    StaleJob job;
+    for (const int row : {1, 3}) job.Put("DENSOIL", "den_mdd", row, "1.90");
+    EXPECT_EQ(job.Stale().at(0), "soil: DENSOIL den_mdd 1.90 in rows 1, 3: the standard compaction's MDD is 2.00 now");
+}
+
 TEST(Stale, AnMddOfATestWithoutOneIsTold)
 {
     BatchBench bench;

@@ -91,6 +91,30 @@ TEST_F(LookingCommands, PreviewTellsItsPageAndIsRendered)
     EXPECT_EQ(RunOnSheet("page preview\n").Last().find("{\"error\":424,"), 0U);
 }
 
+/// What the head of a picture says, in dots.
+int WidthOf(const std::string& png)
+{
+    const auto byte = [&png](std::size_t at) { return static_cast<int>(static_cast<unsigned char>(png.at(at))); };
+    return byte(18) * 256 + byte(19);
+}
+
+TEST_F(LookingCommands, RenderedPageIsAsLargeAsAskedFor)
+{
+    const std::string render = "render preview " + Folder();
+    RunOnSheet("click cmdView\n" + render + "whole.png\n" + render + "half.png 50\n");
+    EXPECT_EQ(WidthOf(Read("whole.png")), 794) << "210 mm at 96 dots an inch.";
+    EXPECT_EQ(WidthOf(Read("half.png")), 397);
+}
+
+// Overall results and Preferences both have a button cmdClose.
+TEST_F(LookingCommands, NameIsThatOfTheFormShownLast)
+{
+    const auto run = RunOnSheet("menu mnuSum\nmenu mnuLogoT\nclick cmdClose\nforms\nclick cmdClose\nforms\n");
+    EXPECT_NE(run.Text().find(R"({"forms":["mdiBack","frmCompaction","frmSummary"]})"), std::string::npos)
+        << run.Text();
+    EXPECT_EQ(run.Last(), R"({"forms":["mdiBack","frmCompaction"]})");
+}
+
 TEST_F(LookingCommands, PictureBoxesTellTheirItems)
 {
     EXPECT_EQ(RunOnSheet("picture picGraph\n").Text(), "{\"box\":[0,0,5450,4000],\"width\":2,\"colour\":\"#000000\"}\n")
