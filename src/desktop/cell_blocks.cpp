@@ -124,8 +124,8 @@ std::optional<CellBlocks::Marked> CellBlocks::Meant() const
     auto* view = GridOf(QApplication::focusWidget());
     if (!view || &view->Grid().Owner() != journal_.Sheet() || !view->Grid().Enabled()) return std::nullopt;
     if (view == view_ && end_.isValid()) {
-        const auto [top, bottom] = std::minmax(anchor_.row(), end_.row());
-        const auto [left, right] = std::minmax(anchor_.column(), end_.column());
+        const auto [top, bottom] = std::minmax({anchor_.row(), end_.row()});
+        const auto [left, right] = std::minmax({anchor_.column(), end_.column()});
         return Marked{view, {top, left, bottom, right}};
     }
     const int row = view->Grid().Row(), column = view->Grid().Column();

@@ -9,7 +9,7 @@ namespace terravane {
 
 namespace {
 
-constexpr std::string_view kOthersSubject = "Another hand";
+constexpr std::string_view kOthersSubject = "Another hand", kReplacedSubject = "Saved over another hand";
 constexpr std::size_t kMostNamed = 3;
 
 std::string ChangeWords(const TextDifference& change)
@@ -65,7 +65,7 @@ void Journal::TellReplaced(const std::vector<TextDifference>& replaced)
                            .sentence = sentence + ".",
                            .details = details,
                            .place = {sheet_->Name()},
-                           .subject = "Saved over another hand"});
+                           .subject = std::string(kReplacedSubject)});
 }
 
 }  // namespace terravane
