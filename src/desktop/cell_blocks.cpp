@@ -35,6 +35,7 @@ CellBlocks::CellBlocks(QObject* parent, Journal& journal, std::function<void(con
 bool CellBlocks::eventFilter(QObject* watched, QEvent* event)
 {
     const auto type = event->type();
+    if (type == QEvent::Resize && view_ && watched == view_->viewport()) Clear();  // its cells stand elsewhere
     const bool isMouse = type == QEvent::MouseButtonPress || type == QEvent::MouseMove;
     if (!isMouse && type != QEvent::KeyPress) return false;
     GridView* view = watched->isWidgetType() ? GridOf(watched) : nullptr;

@@ -32,6 +32,7 @@ void Journal::LookForOthers()
 {
     if (!keepsHistory_ || !sheet_ || program_.CurrentTest == Test::None) return;
     const auto changed = others_.Look();
+    if (!changed.empty()) changes_.Announce();
     if (std::ranges::none_of(changed, [this](const TextDifference& of) { return ShowsTableOf(of.place); })) return;
     program_.notices.Tell(
         {.kind = NoticeKind::Attention,
