@@ -110,16 +110,16 @@ std::string JsonFailure(const std::string& project, const std::string& failure)
 
 std::string NotesHead()
 {
-    return Line({"project", "material", "test", "note", "level", "place", "text", "source"});
+    return CsvLine({"project", "material", "test", "note", "level", "place", "text", "source"});
 }
 
 std::string NoteRows(const std::string& project, const TestOutcome& outcome, const std::vector<notes::SaidNote>& said)
 {
     std::string rows;
     for (const auto& [note, place] : said) {
-        rows += Line({project, std::string(laboratory::Describe(outcome.material).key), std::string(outcome.test->key),
-                      std::string(note.key), std::string(notes::Words(note.level)), place, note.sentence,
-                      std::string(note.source)});
+        rows += CsvLine({project, std::string(laboratory::Describe(outcome.material).key),
+                         std::string(outcome.test->key), std::string(note.key), std::string(notes::Words(note.level)),
+                         place, note.sentence, std::string(note.source)});
     }
     return rows;
 }

@@ -35,6 +35,7 @@ CellBlocks::CellBlocks(QObject* parent, Journal& journal, std::function<void(con
 bool CellBlocks::eventFilter(QObject* watched, QEvent* event)
 {
     const auto type = event->type();
+    if (type == QEvent::Resize && view_ && watched == view_->viewport()) Clear();  // its cells stand elsewhere
     const bool isMouse = type == QEvent::MouseButtonPress || type == QEvent::MouseMove;
     if (!isMouse && type != QEvent::KeyPress) return false;
     GridView* view = watched->isWidgetType() ? GridOf(watched) : nullptr;
@@ -124,8 +125,8 @@ std::optional<CellBlocks::Marked> CellBlocks::Meant() const
     auto* view = GridOf(QApplication::focusWidget());
     if (!view || &view->Grid().Owner() != journal_.Sheet() || !view->Grid().Enabled()) return std::nullopt;
     if (view == view_ && end_.isValid()) {
-        const auto [top, bottom] = std::minmax(anchor_.row(), end_.row());
-        const auto [left, right] = std::minmax(anchor_.column(), end_.column());
+        const auto [top, bottom] = std::minmax({anchor_.row(), end_.row()});
+        const auto [left, right] = std::minmax({anchor_.column(), end_.column()});
         return Marked{view, {top, left, bottom, right}};
     }
     const int row = view->Grid().Row(), column = view->Grid().Column();

@@ -66,12 +66,12 @@ void AddLine(QTreeWidget& list, const HistoryLine& line, std::size_t number)
 {
     const QString words = ToQt(Printable(WordsOf(line.place).words));
     const QString change = ToQt("\"" + Printable(line.before) + "\" > \"" + Printable(line.now) + "\"");
-    auto* item = new QTreeWidgetItem(&list, {Shown(line.at), words, change, ToQt(Printable(line.login))});
+    const QString login = ToQt(Printable(line.login));
+    auto* item = new QTreeWidgetItem(&list, {words + '\n' + change, Shown(line.at).replace(' ', '\n') + ' ' + login});
     item->setData(0, Qt::UserRole, static_cast<qulonglong>(number + 1));
     const QString found = line.kind == LineKind::Found ? QObject::tr("found changed, ") : QString();
     for (int column = 0; column < list.columnCount(); ++column)
-        item->setToolTip(column,
-                         found + words + ": " + change + ", " + Shown(line.at) + ", " + ToQt(Printable(line.login)));
+        item->setToolTip(column, found + words + ": " + change + ", " + Shown(line.at) + ", " + login);
 }
 
 }  // namespace
@@ -89,8 +89,11 @@ HistoryPanel::HistoryPanel(QWidget* parent, Program& program, Journal& journal)
     about_ = new QLabel(content);
     about_->setWordWrap(true);
     list_ = new QTreeWidget(content);
-    list_->setHeaderLabels({tr("Saved"), tr("What"), tr("From, to"), tr("By")});
+    list_->setHeaderLabels({tr("What, from and to"), tr("When, by whom")});
     list_->setRootIsDecorated(false);
+    list_->header()->setStretchLastSection(false);
+    list_->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    list_->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
     list_->setAccessibleName(tr("Changes of this test"));
     asItStood_ = new QPushButton(tr("The Sheet As It &Stood"), content);
     column->addWidget(about_);
@@ -123,7 +126,6 @@ void HistoryPanel::Refresh()
     }
     for (std::size_t number = lines_.size(); number-- > 0;)
         if (lines_[number].IsChange() && IsOf(lines_[number], program_)) AddLine(*list_, lines_[number], number);
-    for (int column = 0; column < 3; ++column) list_->resizeColumnToContents(column);
     const QString said = list_->topLevelItemCount() == 0 ? tr("No Save has changed this test yet.")
                                                          : tr("The latest change stands first.");
     about_->setText(faults.empty() ? said : said + " " + ToQt(faults.front()));

@@ -111,7 +111,7 @@ QString Mnemonics::Mark(const QString& text)
 void MarkTools(QToolBar& bar)
 {
     Mnemonics letters;
-    for (const char taken : {'F', 'S', 'H', 'V'}) letters.Take(QLatin1Char(taken));  // the menus'
+    for (const char taken : {'F', 'S', 'H', 'E', 'V'}) letters.Take(QLatin1Char(taken));  // the menus'
     for (auto* button : bar.findChildren<QToolButton*>()) {
         if (button->text().isEmpty()) continue;
         const QString name = button->text();

@@ -130,13 +130,14 @@ void NoticeBar::Present(const Notice& notice)
         old->widget()->deleteLater();  // it may be the one that is pressed
         delete old;
     }
+    const std::size_t room = kMostButtons - (notice.details.empty() ? 0 : 1);
     std::size_t count = 0;
     if (notice.place.IsGiven()) {
         ++count;
         AddButton("noticeLead", tr("Show the place"), [this, place = notice.place] { lead_(place); });
     }
     for (const NoticeAction& action : notice.actions) {
-        if (++count >= kMostButtons) break;
+        if (++count > room) break;
         AddButton("noticeAction", ToQt(action.caption), [this, act = action.act, number = notice.number] {
             notices_.Answer(number);
             act();

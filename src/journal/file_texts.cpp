@@ -144,7 +144,7 @@ void TakeTable(FileTexts& texts, const jet::Database& database, const std::strin
     }
 }
 
-std::string TextIn(const FileTexts& texts, const StoredPlace& place)
+std::string StoredText(const FileTexts& texts, const StoredPlace& place)
 {
     const auto found = texts.find(place);
     return found == texts.end() ? std::string() : found->second;
@@ -164,7 +164,7 @@ std::vector<TextDifference> Differences(const FileTexts& before, const FileTexts
 {
     std::vector<TextDifference> found;
     for (const auto& [place, text] : before) {
-        const std::string now = TextIn(after, place);
+        const std::string now = StoredText(after, place);
         if (Trim(now) != Trim(text)) found.push_back({place, text, now});
     }
     for (const auto& [place, text] : after)

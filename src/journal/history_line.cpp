@@ -6,6 +6,7 @@
 #include <nlohmann/json.hpp>
 
 #include "journal/sha256.h"
+#include "runtime/runtime_error.h"
 
 namespace terravane {
 
@@ -57,12 +58,13 @@ LineJson JsonOf(const HistoryLine& line)
     return json;
 }
 
-/// Throws LineJson::exception where a key is missing or of another kind.
+/// Throws LineJson::exception where a key is missing or of another kind, RuntimeError for a kind of line that is none.
 HistoryLine LineOf(const LineJson& json)
 {
     HistoryLine line;
     line.at = json.at("at");
     const auto kind = std::ranges::find(kKinds, json.at("kind").get<std::string>());
+    if (kind == kKinds.end()) throw RuntimeError(error::kTypeMismatch);
     line.kind = static_cast<LineKind>(kind - kKinds.begin());
     line.login = json.at("login");
     line.version = json.at("version");
@@ -131,6 +133,8 @@ class Reader {
             Take(json, body, sum);
         } catch (const LineJson::exception&) {
             Fault(number_, "is no line of a history.");
+        } catch (const RuntimeError&) {
+            Fault(number_, "is of a kind that this version does not know.");
         }
     }
 

@@ -215,8 +215,8 @@ void Journal::TellOfPaste(const TextGrid& grid, const PutBlock& put)
     }
     std::string sentence = "Pasted into " + Counted(put.cells, "cell") + ".";
     if (put.passedOver > 0)
-        sentence += " " + Counted(put.passedOver, "cell") + " not typed but worked out or a title " +
-                    (put.passedOver == 1 ? "was" : "were") + " passed over.";
+        sentence += " " + Counted(put.passedOver, "cell") + " that " + (put.passedOver == 1 ? "is" : "are") +
+                    " not typed passed over.";
     if (put.plain > 0)
         sentence +=
             " Written with plain digits and without thousands separators: " + Counted(put.plain, "number") + ".";

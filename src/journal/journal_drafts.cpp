@@ -9,7 +9,7 @@ namespace terravane {
 
 namespace {
 
-constexpr std::string_view kDraftSubject = "Draft";
+constexpr std::string_view kDraftSubject = "Draft", kDraftFailed = "Draft failure";
 constexpr std::chrono::milliseconds kBetweenSyncs{900};
 
 /// "14:02" of today, else the day before it.
@@ -51,7 +51,7 @@ void Journal::TellDraftFailure(const RuntimeError& error)
     program_.notices.Tell({.kind = NoticeKind::Attention,
                            .sentence = "What is typed here is not kept as a draft: it is safe when it is saved.",
                            .details = error.Description(),
-                           .subject = "Draft failure"});
+                           .subject = std::string(kDraftFailed)});
 }
 
 void Journal::KeepDraft()

@@ -9,7 +9,7 @@ namespace terravane {
 
 namespace {
 
-constexpr std::string_view kOthersSubject = "Another hand";
+constexpr std::string_view kOthersSubject = "Another hand", kReplacedSubject = "Saved over another hand";
 constexpr std::size_t kMostNamed = 3;
 
 std::string ChangeWords(const TextDifference& change)
@@ -32,6 +32,7 @@ void Journal::LookForOthers()
 {
     if (!keepsHistory_ || !sheet_ || program_.CurrentTest == Test::None) return;
     const auto changed = others_.Look();
+    if (!changed.empty()) changes_.Announce();
     if (std::ranges::none_of(changed, [this](const TextDifference& of) { return ShowsTableOf(of.place); })) return;
     program_.notices.Tell(
         {.kind = NoticeKind::Attention,
@@ -65,7 +66,7 @@ void Journal::TellReplaced(const std::vector<TextDifference>& replaced)
                            .sentence = sentence + ".",
                            .details = details,
                            .place = {sheet_->Name()},
-                           .subject = "Saved over another hand"});
+                           .subject = std::string(kReplacedSubject)});
 }
 
 }  // namespace terravane

@@ -26,14 +26,14 @@ void RunRedo(Session& session, Words)
     Walk(session, "redo", place, session.journal.Redoable());
 }
 
-TextGrid& GridNamed(Session& session, const std::string& name)
+TextGrid& BlockGrid(Session& session, const std::string& name)
 {
     return ControlFor(&ControlUses::cells, session.program, name, "hold a block of cells");
 }
 
 void RunPaste(Session& session, Words words)
 {
-    TextGrid& grid = GridNamed(session, words[0]);
+    TextGrid& grid = BlockGrid(session, words[0]);
     const int row = WholeNumber(words[1], "a row"), column = WholeNumber(words[2], "a column");
     if (const auto why = WhyUnusable(grid)) return session.answers.Write(RefusedAnswer(words[0], *why));
     const PutBlock put = session.journal.Paste(grid, row, column, words[3]);
@@ -43,7 +43,7 @@ void RunPaste(Session& session, Words words)
 
 void RunCopy(Session& session, Words words)
 {
-    const TextGrid& grid = GridNamed(session, words[0]);
+    const TextGrid& grid = BlockGrid(session, words[0]);
     const int row = WholeNumber(words[1], "a row"), column = WholeNumber(words[2], "a column");
     const CellBlock block{row, column, WholeNumber(words[3], "a row"), WholeNumber(words[4], "a column")};
     session.answers.Write({{"copy", words[0]}, {"text", CopyCells(grid, block)}});

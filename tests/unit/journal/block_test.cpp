@@ -48,7 +48,7 @@ TEST(Paste, GoesThroughTheRuleOfEveryCellAndPassesOverWhatIsWorkedOut)
     EXPECT_EQ(bench.journal->Undoable(), 1u) << "one step";
     ASSERT_NE(bench.program->notices.Current(), nullptr);
     EXPECT_EQ(bench.program->notices.Current()->sentence,
-              "Pasted into 6 cells. 2 cells not typed but worked out or a title were passed over. Written with plain "
+              "Pasted into 6 cells. 2 cells that are not typed passed over. Written with plain "
               "digits and without thousands separators: 2 numbers.");
     bench.journal->Undo();
     EXPECT_NE(bench.Cell("MSHWt", 2, 1), "85.30");
