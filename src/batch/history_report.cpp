@@ -149,7 +149,7 @@ int ListHistory(const FileSystem& files, const std::string& project, ListFormat 
 {
     const ReadHistory history = KnownHistory(files, project);
     if (format == ListFormat::Csv) WriteCsv(out, AllFields(history.lines), FieldsOf(HistoryLine{}));
-    if (format == ListFormat::Json) WriteJson(out, AllFields(history.lines));
+    if (format == ListFormat::JsonLines) WriteJson(out, AllFields(history.lines));
     for (const HistoryLine& line : history.lines)
         if (format == ListFormat::Text) WriteText(out, line);
     for (const std::string& fault : history.faults) complaints << fault << '\n';
@@ -162,7 +162,7 @@ int ListDifferences(const FileSystem& files, const std::string& before, const st
 {
     const auto differences = Differences(TextsOfState(files, before), TextsOfState(files, after));
     if (format == ListFormat::Csv) WriteCsv(out, AllFields(differences), FieldsOf(TextDifference{}));
-    if (format == ListFormat::Json) WriteJson(out, AllFields(differences));
+    if (format == ListFormat::JsonLines) WriteJson(out, AllFields(differences));
     if (format == ListFormat::Text) WriteText(out, differences);
     return 0;
 }

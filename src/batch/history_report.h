@@ -9,7 +9,7 @@
 
 namespace terravane {
 
-enum class ListFormat { Text, Csv, Json };
+enum class ListFormat { Text, Csv, JsonLines };
 
 /// A line a change, oldest first. Returns the exit status: 1 where a line does not fit, each of them told on
 /// `complaints`. RuntimeError where there is no history or it can't be read.

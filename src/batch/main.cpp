@@ -201,7 +201,7 @@ int List(const Typed& typed)
 try {
     const DiskFileSystem disk;
     const ListFormat format = typed.format == "csv"    ? ListFormat::Csv
-                              : typed.format == "json" ? ListFormat::Json
+                              : typed.format == "json" ? ListFormat::JsonLines
                                                        : ListFormat::Text;
     if (!typed.history.empty()) return ListHistory(disk, FullPath(typed.history), format, std::cout, std::cerr);
     return ListDifferences(disk, FullPath(typed.diff.at(0)), FullPath(typed.diff.at(1)), format, std::cout);

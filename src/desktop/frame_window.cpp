@@ -27,6 +27,7 @@
 #include "desktop/keys.h"
 #include "desktop/layouts.h"
 #include "desktop/looks.h"
+#include "desktop/notes_panel.h"
 #include "desktop/notice_bar.h"
 #include "desktop/qt_text.h"
 #include "desktop/start_page.h"
@@ -53,7 +54,8 @@ QFrame* MakeRule(QWidget* parent)
 
 }  // namespace
 
-FrameWindow::FrameWindow(Program& program, Journal& journal, Form& frame) : program_(program), form_(frame)
+FrameWindow::FrameWindow(Program& program, Journal& journal, Form& frame)
+    : program_(program), form_(frame), watch_(program)
 {
     setWindowTitle(ToQt(frame.Caption()));
     setWindowIcon(looks::ProgramIcon());
@@ -70,6 +72,7 @@ FrameWindow::FrameWindow(Program& program, Journal& journal, Form& frame) : prog
     });
     BuildViewMenu();
     AddHistoryPanel(journal);
+    AddNotesPanel();
     BuildTools(*content);
     BuildStrip(*content);
     area_ = new QMdiArea(content);
@@ -132,6 +135,19 @@ void FrameWindow::AddHistoryPanel(Journal& journal)
     journal.ShowDraft = [this, &journal](const Draft& draft) {
         if (journal.Sheet()) ShowDraftTexts(this, *journal.Sheet(), draft);
     };
+}
+
+/// Beside the history, so that one of them is in sight. Marks follow the notes to pages that are made later, too.
+void FrameWindow::AddNotesPanel()
+{
+    auto* panel = new NotesPanel(this, program_, watch_);
+    addDockWidget(Qt::RightDockWidgetArea, panel);
+    tabifyDockWidget(findChild<QDockWidget*>("history"), panel);
+    panel->hide();
+    menuBar()->findChild<QMenu*>("view")->addAction(panel->toggleViewAction());
+    bindings_.push_back(watch_.Show([this] {
+        if (SheetWindow* sheet = OpenSheet()) MarkNotes(*sheet, watch_);
+    }));
 }
 
 /// One row: the tests, the project's name, behind a thin rule what the open sheet has.

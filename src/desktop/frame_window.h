@@ -7,6 +7,7 @@
 
 #include "desktop/form_view.h"
 #include "desktop/windows.h"
+#include "notes/notes_watch.h"
 #include "program/next_command.h"
 #include "program/program.h"
 
@@ -42,6 +43,7 @@ class FrameWindow : public SettledWindow<QMainWindow> {
     void BuildMenu();
     void BuildViewMenu();
     void AddHistoryPanel(Journal& journal);
+    void AddNotesPanel();
     void BuildTools(QWidget& content);
     void BuildStrip(QWidget& content);
     void BuildKeys();
@@ -49,6 +51,7 @@ class FrameWindow : public SettledWindow<QMainWindow> {
 
     Program& program_;
     Form& form_;
+    notes::NotesWatch watch_;
     QMdiArea* area_;
     QHBoxLayout* tools_ = nullptr;
     QLabel* project_ = nullptr;

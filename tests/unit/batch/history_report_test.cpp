@@ -81,7 +81,7 @@ TEST_F(HistoryReport, IsATableForSpreadsheetsWithoutFormulas)
 
 TEST_F(HistoryReport, IsAListForPrograms)
 {
-    const std::string list = History(ListFormat::Json);
+    const std::string list = History(ListFormat::JsonLines);
     EXPECT_NE(list.find("\"cell\": \"MSHWt 2 1\""), std::string::npos) << list;
 }
 
