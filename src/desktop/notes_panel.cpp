@@ -1,12 +1,11 @@
 #include "desktop/notes_panel.h"
 
 #include <QEvent>
-#include <QHeaderView>
 #include <QHelpEvent>
 #include <QLabel>
+#include <QListWidget>
 #include <QPainter>
 #include <QToolTip>
-#include <QTreeWidget>
 #include <QVBoxLayout>
 
 #include "desktop/grid_view.h"
@@ -107,17 +106,19 @@ NotesPanel::NotesPanel(QWidget* parent, Program& program, notes::NotesWatch& wat
     column->setContentsMargins(looks::kMargin, looks::kGap, looks::kMargin, looks::kMargin);
     about_ = new QLabel(content);
     about_->setWordWrap(true);
-    list_ = new QTreeWidget(content);
-    list_->setHeaderHidden(true);
-    list_->setRootIsDecorated(false);
+    list_ = new QListWidget(content);
     list_->setWordWrap(true);
+    list_->setResizeMode(QListView::Adjust);
+    list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    list_->setSpacing(looks::kGap / 4);
+    list_->setAlternatingRowColors(true);
     list_->setAccessibleName(tr("Notes on this sheet"));
     column->addWidget(about_);
     column->addWidget(list_, 1);
     setWidget(content);
     hide();
-    connect(list_, &QTreeWidget::itemActivated, this, [this] { LeadToChosen(); });
-    connect(list_, &QTreeWidget::itemClicked, this, [this] { LeadToChosen(); });
+    connect(list_, &QListWidget::itemActivated, this, [this] { LeadToChosen(); });
+    connect(list_, &QListWidget::itemClicked, this, [this] { LeadToChosen(); });
     following_ = watch.Show([this] { Refresh(); });
     Refresh();
 }
@@ -137,15 +138,15 @@ void NotesPanel::Refresh()
     for (const notes::SaidNote& said : found) {
         const QString level = LevelWords(said.note.level);
         const QString sentence = ToQt(Printable(said.note.sentence));
-        auto* item = new QTreeWidgetItem(list_, {level + ": " + sentence});
-        item->setToolTip(0, ToQt(Printable(said.place)) + "\n" + sentence + "\n" +
-                                tr("Source: %1").arg(ToQt(std::string(said.note.source))));
+        auto* item = new QListWidgetItem(level + ": " + sentence, list_);
+        item->setToolTip(ToQt(Printable(said.place)) + "\n" +
+                         tr("Source: %1").arg(ToQt(std::string(said.note.source))));
     }
 }
 
 void NotesPanel::LeadToChosen()
 {
-    const int chosen = list_->indexOfTopLevelItem(list_->currentItem());
+    const int chosen = list_->currentRow();
     const Form* sheet = notes::OpenSheet(program_);
     if (chosen < 0 || !sheet) return;
     const notes::Place& at = watch_.Notes().at(static_cast<std::size_t>(chosen)).note.at;

@@ -8,7 +8,7 @@
 #include "notes/notes_watch.h"
 
 class QLabel;
-class QTreeWidget;
+class QListWidget;
 
 namespace terravane {
 
@@ -24,7 +24,7 @@ class NotesPanel : public QDockWidget {
     Program& program_;
     notes::NotesWatch& watch_;
     QLabel* about_;
-    QTreeWidget* list_;
+    QListWidget* list_;
     Subscription following_;
 };
 

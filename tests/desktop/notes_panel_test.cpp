@@ -3,8 +3,8 @@
 
 #include <QAction>
 #include <QDockWidget>
+#include <QListWidget>
 #include <QMenu>
-#include <QTreeWidget>
 
 #include <gtest/gtest.h>
 
@@ -24,7 +24,7 @@ struct NotesFixture : DesktopFixture {
     }
     Form& Sheet() const { return FormNamed("frmCompaction"); }
     QDockWidget& Panel() const { return *Window("mdiBack")->findChild<QDockWidget*>("notes"); }
-    QTreeWidget& List() const { return *Panel().findChild<QTreeWidget*>(); }
+    QListWidget& List() const { return *Panel().findChild<QListWidget*>(); }
     GridView& Grid() const
     {
         for (GridView* grid : Window("frmCompaction")->findChildren<GridView*>())
@@ -49,8 +49,8 @@ TEST(NotesPanelTest, ListsTheNotesAndCountsThemInItsTitle)
     EXPECT_FALSE(running.Panel().isVisible()) << "Closed until somebody opens it.";
     running.PutSwappedCan();
     EXPECT_EQ(running.Panel().windowTitle(), "Notes (1)");
-    ASSERT_EQ(running.List().topLevelItemCount(), 1);
-    EXPECT_EQ(running.List().topLevelItem(0)->text(0),
+    ASSERT_EQ(running.List().count(), 1);
+    EXPECT_EQ(running.List().item(0)->text(),
               "impossible: Trial 2: the can with dry soil, 42 g, is not lighter than with wet soil, 40 g.");
 }
 
@@ -69,8 +69,8 @@ TEST(NotesPanelTest, ANoteLeadsToItsCell)
     NotesFixture running;
     running.PutSwappedCan();
     running.Panel().toggleViewAction()->trigger();
-    running.List().setCurrentItem(running.List().topLevelItem(0));
-    emit running.List().itemActivated(running.List().topLevelItem(0), 0);
+    running.List().setCurrentRow(0);
+    emit running.List().itemActivated(running.List().item(0));
     QCoreApplication::processEvents();
     const auto& grid = running.Sheet().Get<TextGrid>("MSHWt");
     EXPECT_EQ(grid.Row(), 3);
