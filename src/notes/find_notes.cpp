@@ -29,6 +29,7 @@ bool IsAny(const laboratory::Description&)
 std::span<const RuleGroup> RuleGroups()
 {
     static const std::array kGroups{
+        RuleGroup{"Every sheet", IsAny, TextRules()},
         RuleGroup{"Every test with cans", IsAny, WaterContentRules()},
         RuleGroup{"Dates", IsAny, JobRules()},
         RuleGroup{"Compaction", IsOneOf<Test::StdSoil, Test::ModSoil>, CompactionRules()},

@@ -77,5 +77,6 @@ std::span<const Rule> BearingRatioRules();
 std::span<const Rule> FieldDensityRules();
 std::span<const Rule> WaterContentRules();
 std::span<const Rule> JobRules();
+std::span<const Rule> TextRules();
 
 }  // namespace terravane::notes

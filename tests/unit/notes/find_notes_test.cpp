@@ -99,6 +99,21 @@ TEST(NotesOnASheet, AreNoneOfAnEmptyOne)
     }
 }
 
+TEST(NotesOnASheet, TakeBlowsOverLayersHammersAndNamesForWhatTheyAre)
+{
+    OpenSheet bearing(terravane::Test::CBRSoil);
+    bearing.Put("MSHCompaction 2 1", "56/5");
+    bearing.Put("MSHWater 1 1", "A-7");
+    EXPECT_TRUE(
+        notes::NotesOn(bearing.Sheet(), laboratory::Describe(terravane::Test::CBRSoil), Material::Soil, nullptr, {})
+            .empty());
+    OpenSheet compaction(terravane::Test::StdSoil);
+    compaction.Put("cboWt", "2.5 kg");
+    EXPECT_TRUE(
+        notes::NotesOn(compaction.Sheet(), laboratory::Describe(terravane::Test::StdSoil), Material::Soil, nullptr, {})
+            .empty());
+}
+
 TEST(NotesOnASheet, NameTheFiguresOfThePoint)
 {
     OpenSheet open(terravane::Test::StdSoil);

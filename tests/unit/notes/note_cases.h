@@ -360,6 +360,11 @@ inline std::vector<NoteCase> NoteCases()
          "UPDATE CBRSOIL Set cbr_mcan='A1',cbr_wcan='20.05' Where cbr_ID=' 2'",
          "UPDATE CBRSOIL Set cbr_mcan='A1',cbr_wcan='20.06' Where cbr_ID=' 2'"},
 
+        {"text.read-otherwise", StdSoil, {}, "MSHWt 2 1", "45.5", "45,5"},
+        {"text.read-otherwise", AttSoil, {}, "MSHLL 1 2", " 25 ", "๒๕"},
+        {"text.read-otherwise", SieSoil, {}, "txtGsoil", "1250", "1 250"},
+        {"text.read-otherwise", CBRSoil, {}, "MSHPenetrate1 0 1", "0.5", "O.5"},
+
         {"dates.before-its-compaction",
          DenSoil,
          {{"DTPDate", "20/11/2026"}},
