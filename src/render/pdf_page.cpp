@@ -1,6 +1,7 @@
 // The operators used: q Q keep and restore, cm placing, w d J j width, dash, cap and join, RG rg ink and filling,
 // m l c re h paths, S f B their ink, W n clip, BT ET text, Do picture. All of a page is in points, y downwards: a
-// reader that draws with one ink takes wide lines in smaller units for hairlines.
+// reader that draws with one ink takes wide lines in smaller units for hairlines. BMC BDC EMC stand around what is one
+// to somebody who reads the page.
 #include "render/pdf_page.h"
 
 #include <algorithm>
@@ -76,10 +77,16 @@ class PageWriter {
   public:
     explicit PageWriter(Resources& resources) : resources_(resources) {}
 
-    std::string Write(const DisplayList& page)
+    std::string Write(const DisplayList& page, PageStructure& structure)
     {
         Numbers({1, 0, 0, -1, 0, PaperPoints(page.height)}, "cm");
-        Draw(page);
+        width_ = page.width;
+        height_ = page.height;
+        for (std::size_t first = 0, last = 0; first < page.items.size(); first = last) {
+            const int element = structure.ElementOf(first);
+            while (last < page.items.size() && structure.ElementOf(last) == element) ++last;
+            WriteStretch(std::span(page.items).subspan(first, last - first), structure, element);
+        }
         return std::move(out_);
     }
 
@@ -174,6 +181,18 @@ class PageWriter {
         std::optional<Colour> fill;
         double scale;
     };
+
+    /// Items of one element, marked so; nothing where none of them is seen.
+    void WriteStretch(std::span<const DrawnItem> items, PageStructure& structure, int element)
+    {
+        const std::size_t before = out_.size();
+        out_ += structure.Begin(element);
+        const std::size_t begun = out_.size();
+        for (const DrawnItem& item : items) std::visit(*this, item);
+        if (out_.size() == begun) return out_.resize(before);
+        structure.Keep(element);
+        out_ += " EMC";
+    }
 
     void Draw(const DisplayList& list)
     {
@@ -385,9 +404,9 @@ double PaperPoints(double twips)
     return twips * kPointsPerTwip;
 }
 
-std::string PageContent(const DisplayList& page, Resources& resources)
+std::string PageContent(const DisplayList& page, Resources& resources, PageStructure& structure)
 {
-    return PageWriter(resources).Write(page);
+    return PageWriter(resources).Write(page, structure);
 }
 
 }  // namespace terravane::pdf

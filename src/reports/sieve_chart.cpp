@@ -118,6 +118,7 @@ struct ChartPage : Printing {
 
 void PrintFooter(const ChartPage& of)
 {
+    const AsFurniture furniture(of.page);
     const TextSize size(of.page, kFooterSize);
     of.page.CurrentY = of.page.Height - 1000;
     PrintFrom(of.page, 1000, of.sheet.stbDes.Panel(1));
@@ -200,6 +201,7 @@ void PrintTitles(const ChartPage& of)
     const double middle = (of.left + of.right) / 2;
     const Bold bold(of.page);
     of.PrintOver(middle, of.bottom + 2 * LineHeight(of.page), "Grain Size(mm)");
+    const AsTitle title(of.page);
     of.PrintOver(middle, 700, "PATICLE SIZE DISTRIBUTION CURVE");
 }
 
@@ -237,6 +239,16 @@ void DrawCurve(const ChartPage& of)
     of.page.Polyline(curve, kBlue);
 }
 
+std::string CurveShown(const ChartPage& of)
+{
+    const auto size = [&](std::string_view control) {
+        return std::string(Trim(BehindEquals(TextOf(of.sheet, control))));
+    };
+    const std::string smallest = size("txtD10");
+    return Shows("Particle size distribution", smallest,
+                 "D10 " + smallest + " mm, D30 " + size("txtD30") + " mm, D60 " + size("txtD60") + " mm");
+}
+
 }  // namespace
 
 void DrawSieveChart(const Printing& printing)
@@ -244,6 +256,7 @@ void DrawSieveChart(const Printing& printing)
     const ChartPage of(printing);
     SetReportFont(of.page);
     PrintFooter(of);
+    const AsFigure figure(of.page, CurveShown(of));
     const TextSize size(of.page, kChartSize);
     DrawSizeGrid(of);
     DrawPercentGrid(of);
