@@ -18,7 +18,7 @@ constexpr double kHair = 15;           // twips: what the eye takes for touching
 constexpr std::size_t kMostTold = 40;  // characters of a text
 
 /// A text with ink, and the part of the page that it belongs to.
-struct Stretch {
+struct PrintedText {
     const TextItem* item;
     const PagePart* part;
     double left, right, top, bottom;
@@ -32,14 +32,14 @@ std::string_view TrimmedLeft(std::string_view text)
 }
 
 /// A turned text belongs to a figure, and is none of ours.
-std::optional<Stretch> StretchOf(const DrawnItem& drawn, const PagePart* part)
+std::optional<PrintedText> PrintedTextOf(const DrawnItem& drawn, const PagePart* part)
 {
     const auto* item = std::get_if<TextItem>(&drawn);
     if (!item || item->angle != 0 || Trim(item->text).empty()) return std::nullopt;
     if (part && part->kind == PartKind::Figure) return std::nullopt;
     const std::string_view begun = TrimmedLeft(item->text);
     const double left = item->x + TextWidth(item->font, item->text) - TextWidth(item->font, begun);
-    return Stretch{
+    return PrintedText{
         item, part, left, left + TextWidth(item->font, Trim(item->text)), item->y, item->y + TextHeight(item->font)};
 }
 
@@ -51,31 +51,31 @@ const PagePart* PartOf(const DisplayList& page, std::size_t item)
     return part == page.parts.end() ? nullptr : &*part;
 }
 
-std::vector<Stretch> StretchesOf(const DisplayList& page)
+std::vector<PrintedText> PrintedTextsOf(const DisplayList& page)
 {
-    std::vector<Stretch> stretches;
+    std::vector<PrintedText> texts;
     for (std::size_t item = 0; item < page.items.size(); ++item)
-        if (const auto stretch = StretchOf(page.items[item], PartOf(page, item))) stretches.push_back(*stretch);
-    return stretches;
+        if (const auto text = PrintedTextOf(page.items[item], PartOf(page, item))) texts.push_back(*text);
+    return texts;
 }
 
-bool LeavesPaper(const Stretch& stretch, const DisplayList& page)
+bool LeavesPaper(const PrintedText& text, const DisplayList& page)
 {
-    return stretch.left < 0 || stretch.right > page.width || stretch.top < 0 || stretch.bottom > page.height;
+    return text.left < 0 || text.right > page.width || text.top < 0 || text.bottom > page.height;
 }
 
-bool IsWiderThanCell(const Stretch& stretch)
+bool IsWiderThanCell(const PrintedText& text)
 {
-    if (!stretch.part || stretch.part->kind != PartKind::Table) return false;
-    const TableShape& table = stretch.part->table;
-    const int row = SpaceAt(table.rows, stretch.Middle());
-    const int column = SpaceAt(table.columns, (stretch.left + stretch.right) / 2);
+    if (!text.part || text.part->kind != PartKind::Table) return false;
+    const TableShape& table = text.part->table;
+    const int row = SpaceAt(table.rows, text.Middle());
+    const int column = SpaceAt(table.columns, (text.left + text.right) / 2);
     const MergedCells cell = CellOf(table, row, column);
     const auto edge = [&](int at) { return table.columns[static_cast<std::size_t>(at)]; };
-    return stretch.left < edge(cell.column) - kHair || stretch.right > edge(cell.column + cell.columns) + kHair;
+    return text.left < edge(cell.column) - kHair || text.right > edge(cell.column + cell.columns) + kHair;
 }
 
-bool RunsOver(const Stretch& one, const Stretch& other)
+bool RunsOver(const PrintedText& one, const PrintedText& other)
 {
     const double line = std::min(one.bottom - one.top, other.bottom - other.top);
     return std::abs(one.Middle() - other.Middle()) < line / 2 && one.left < other.right - kHair &&
@@ -92,9 +92,9 @@ std::string CaptionOf(const DisplayList& page, const PagePart& part)
     return caption ? std::string(Trim(caption->text)) : std::string();
 }
 
-std::optional<Overrun> OverrunOf(const DisplayList& page, std::span<const Stretch> stretches, std::size_t at)
+std::optional<Overrun> OverrunOf(const DisplayList& page, std::span<const PrintedText> texts, std::size_t at)
 {
-    const Stretch& own = stretches[at];
+    const PrintedText& own = texts[at];
     Overrun overrun{.text = std::string(Trim(own.item->text))};
     if (LeavesPaper(own, page)) return overrun;
     if (IsWiderThanCell(own)) {
@@ -102,8 +102,8 @@ std::optional<Overrun> OverrunOf(const DisplayList& page, std::span<const Stretc
         overrun.place = CaptionOf(page, *own.part);
         return overrun;
     }
-    const auto later = stretches.subspan(at + 1);
-    const auto other = std::ranges::find_if(later, [&](const Stretch& second) { return RunsOver(own, second); });
+    const auto later = texts.subspan(at + 1);
+    const auto other = std::ranges::find_if(later, [&](const PrintedText& second) { return RunsOver(own, second); });
     if (other == later.end()) return std::nullopt;
     overrun.kind = OverrunKind::RunsOverText;
     overrun.place = Trim(other->item->text);
@@ -122,10 +122,10 @@ std::string Quoted(const std::string& text)
 
 std::vector<Overrun> OverrunsOf(const DisplayList& page, std::size_t number)
 {
-    const auto stretches = StretchesOf(page);
+    const auto texts = PrintedTextsOf(page);
     std::vector<Overrun> overruns;
-    for (std::size_t at = 0; at < stretches.size(); ++at) {
-        auto overrun = OverrunOf(page, stretches, at);
+    for (std::size_t at = 0; at < texts.size(); ++at) {
+        auto overrun = OverrunOf(page, texts, at);
         if (!overrun) continue;
         overrun->page = number;
         const bool isKnown = std::ranges::any_of(

@@ -18,7 +18,8 @@ namespace {
 constexpr std::int64_t kParts = 1000;  // of a unit, in numbers
 constexpr double kFarOff = 1e9;        // beyond every page; a curve that failed may go there
 constexpr int kSmall = 6;              // zlib's levels
-constexpr int kQuick = 5;
+constexpr int kFair = 4;
+constexpr int kQuick = 2;
 constexpr std::size_t kMostTogether = 500;  // objects in a stream: a reader unpacks all of it for one
 constexpr std::size_t kPlaceBytes = 4;      // of an entry of the cross-reference
 constexpr std::size_t kEntryBytes = 1 + kPlaceBytes + 2;
@@ -29,7 +30,20 @@ QByteArray View(std::string_view text)
     return QByteArray::fromRawData(text.data(), static_cast<qsizetype>(text.size()));
 }
 
-void AppendBytes(std::string& out, std::size_t number, std::size_t bytes)
+int LevelOf(Packing packing)
+{
+    switch (packing) {
+        case Packing::Small:
+            return kSmall;
+        case Packing::Fair:
+            return kFair;
+        case Packing::Quick:
+            return kQuick;
+    }
+    return kSmall;
+}
+
+void AppendBigEndian(std::string& out, std::size_t number, std::size_t bytes)
 {
     while (bytes-- > 0) out += static_cast<char>(number >> (8 * bytes) & 0xFFU);
 }
@@ -115,9 +129,18 @@ void AppendNumber(std::string& out, double value)
     out.append(text.data(), at);
 }
 
+void AppendBytes(std::string& out, std::uint16_t unit)
+{
+    for (const int shift : {8, 0}) {
+        const char byte = static_cast<char>(unsigned{unit} >> shift & 0xFFU);
+        if (byte == '(' || byte == ')' || byte == '\\' || byte == '\r') out += '\\';
+        out += byte == '\r' ? 'r' : byte;  // a reader takes a bare one for the end of a line
+    }
+}
+
 std::string Deflated(std::string_view content, Packing packing)
 {
-    const QByteArray packed = qCompress(View(content), packing == Packing::Small ? kSmall : kQuick);
+    const QByteArray packed = qCompress(View(content), LevelOf(packing));
     return packed.mid(kLengthInFront).toStdString();
 }
 
@@ -192,7 +215,7 @@ void Objects::PutTogether(std::span<const Waiting> objects, std::size_t end)
     content.append(bodies_, begin, end - begin);
     AddStream("/Type /ObjStm /N " + std::to_string(objects.size()) + " /First " + std::to_string(first) +
                   " /Filter /FlateDecode",
-              Deflated(content, Packing::Quick));
+              Deflated(content, Packing::Fair));
 }
 
 /// An entry an object: its kind (1 in the file, 2 in a stream), then its place or its stream and its number in it.
@@ -200,9 +223,9 @@ std::string Objects::CrossReference() const
 {
     std::string entries;
     const auto append = [&](std::size_t kind, std::size_t place, std::size_t number) {
-        AppendBytes(entries, kind, 1);
-        AppendBytes(entries, place, kPlaceBytes);
-        AppendBytes(entries, number, 2);
+        AppendBigEndian(entries, kind, 1);
+        AppendBigEndian(entries, place, kPlaceBytes);
+        AppendBigEndian(entries, number, 2);
     };
     append(0, 0, 0xFFFF);
     for (const Place& place : places_) {

@@ -54,15 +54,15 @@ class GlyphString {
             startX_ = glyph.x;
             startY_ = glyph.y;
         }
-        if (!isOpen_) out_ += " <";
+        if (!isOpen_) out_ += '(';
         isOpen_ = true;
-        AppendHexadecimal(out_, glyph.glyph);
+        AppendBytes(out_, glyph.glyph);
         nextX_ = glyph.x + glyph.step;
     }
 
     void Close()
     {
-        if (isOpen_) out_ += "> Tj";
+        if (isOpen_) out_ += ")Tj";
         isOpen_ = false;
     }
 
@@ -179,6 +179,8 @@ class PageWriter {
     struct State {
         std::optional<Stroke> stroke;
         std::optional<Colour> fill;
+        const Face* face;
+        double size;
         double scale;
     };
 
@@ -265,8 +267,14 @@ class PageWriter {
         const ShapedText glyphs = face.Shape(run.text);
         const double size = SubstituteFor(item.font.name).unitsPerPoint * item.font.size;
         FillWith(item.colour);
-        out_ += " BT " + resources_.NameOf(face, *glyphs);
-        Lengths({size}, "Tf");
+        const std::string& name = resources_.NameOf(face, *glyphs);
+        out_ += " BT";
+        if (face_ != &face || size_ != size) {
+            face_ = &face;
+            size_ = size;
+            out_ += name;
+            Lengths({size}, "Tf");
+        }
         PlaceText(item, x);
         WriteGlyphs(*glyphs, size * kPointsPerTwip);
         out_ += " ET";
@@ -303,7 +311,7 @@ class PageWriter {
     void WriteLetter(GlyphString& string, std::span<const PlacedGlyph> letter, double size)
     {
         string.Close();
-        out_ += " /Span << /ActualText " + TextString(letter.front().letter) + " >> BDC";
+        out_ += "/Span<</ActualText" + TextString(letter.front().letter) + ">>BDC";
         for (const PlacedGlyph& glyph : letter.first(letter.size() - 1)) string.Add(glyph);
         const PlacedGlyph& last = letter.back();
         double end = last.x + last.step;
@@ -331,7 +339,7 @@ class PageWriter {
         if (drawing.width <= 0 || drawing.height <= 0 || item.width <= 0 || item.height <= 0) return;
         const double right = std::ceil(item.x + item.width);
         const double bottom = std::ceil(item.y + item.height);
-        const State outside{stroke_, fill_, scale_};
+        const State outside{stroke_, fill_, face_, size_, scale_};
         const double sx = item.width / drawing.width;
         const double sy = item.height / drawing.height;
         out_ += " q";
@@ -346,6 +354,8 @@ class PageWriter {
         out_ += " Q";
         stroke_ = outside.stroke;
         fill_ = outside.fill;
+        face_ = outside.face;
+        size_ = outside.size;
         scale_ = outside.scale;
     }
 
@@ -353,6 +363,8 @@ class PageWriter {
     Resources& resources_;
     std::optional<Stroke> stroke_;
     std::optional<Colour> fill_;
+    const Face* face_ = nullptr;
+    double size_ = 0;                // of its letters, twips
     double scale_ = 1;               // twips of the page to one of the drawing, across
     double width_ = 0, height_ = 0;  // of the page or drawing being written
 };

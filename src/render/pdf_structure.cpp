@@ -156,7 +156,7 @@ std::string KidsOf(const Element& element, int own)
     for (const int stretch : element.stretches) kids += std::to_string(stretch) + " ";
     if (kids.empty()) return kids;
     kids.pop_back();
-    return element.stretches.size() == 1 && element.kids.empty() ? " /K " + kids : " /K [" + kids + "]";
+    return element.stretches.size() == 1 && element.kids.empty() ? "/K " + kids : "/K[" + kids + "]";
 }
 
 }  // namespace
@@ -172,10 +172,10 @@ PageStructure::PageStructure(const DisplayList& page)
 
 std::string PageStructure::Begin(int element) const
 {
-    if (element == kArtifact) return " /Artifact BMC";
-    if (element == kFurniture) return " /Artifact << /Type /Pagination >> BDC";
-    return " " + std::string(elements_[static_cast<std::size_t>(element)].kind) + " << /MCID " +
-           std::to_string(stretches_.size()) + " >> BDC";
+    if (element == kArtifact) return "/Artifact BMC";
+    if (element == kFurniture) return "/Artifact<</Type/Pagination>>BDC";
+    return std::string(elements_[static_cast<std::size_t>(element)].kind) + "<</MCID " +
+           std::to_string(stretches_.size()) + ">>BDC";
 }
 
 void PageStructure::Keep(int element)
@@ -188,13 +188,13 @@ void PageStructure::Keep(int element)
 std::string PageStructure::AddTo(Objects& objects, int document, int page, int own) const
 {
     for (std::size_t at = 1; at < elements_.size(); ++at) objects.Reserve();  // numbered in a row behind the page's own
-    const std::string onPage = " /Pg " + Reference(page);
+    const std::string onPage = "/Pg " + Reference(page);
     for (std::size_t at = 0; at < elements_.size(); ++at) {
         const Element& element = elements_[at];
-        objects.Put(own + static_cast<int>(at), "<< /S " + std::string(element.kind) + " /P " +
+        objects.Put(own + static_cast<int>(at), "<</S" + std::string(element.kind) + "/P " +
                                                     Reference(at == 0 ? document : own + element.parent) +
                                                     (element.stretches.empty() ? "" : onPage) + element.about +
-                                                    KidsOf(element, own) + " >>");
+                                                    KidsOf(element, own) + ">>");
     }
     std::string stretches;
     for (const int element : stretches_) stretches += " " + Reference(own + element);

@@ -77,7 +77,7 @@ TEST_F(Overruns, AMassOfMillionsIsWiderThanItsCell)
         TableShape shape = Cells();
         shape.merged = {{0, 0, 1, 2}};
         const AsTable table(page, shape);
-        Print(900, 1000, "Mold No. One and Two");  // over both columns
+        Print(700, 1000, "Mold No. One and Two");  // in both columns
         Print(1400, 1210, "123456789.25 grams");
     }
     EXPECT_EQ(Sentences(), List{"“123456789.25 grams” is wider than its cell under “Density Determination”."});
