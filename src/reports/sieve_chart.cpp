@@ -239,14 +239,22 @@ void DrawCurve(const ChartPage& of)
     of.page.Polyline(curve, kBlue);
 }
 
+/// What of the curve was read; a fine soil has no D10.
 std::string CurveShown(const ChartPage& of)
 {
-    const auto size = [&](std::string_view control) {
-        return std::string(Trim(BehindEquals(TextOf(of.sheet, control))));
+    std::string read;
+    const auto add = [&](std::string_view label, std::string_view control, std::string_view unit) {
+        const std::string text = TextOf(of.sheet, control);
+        const std::string_view value = Trim(BehindEquals(text));
+        if (value.empty()) return;
+        read += (read.empty() ? "" : ", ") + std::string(label) + std::string(value) + std::string(unit);
     };
-    const std::string smallest = size("txtD10");
-    return Shows("Particle size distribution", smallest,
-                 "D10 " + smallest + " mm, D30 " + size("txtD30") + " mm, D60 " + size("txtD60") + " mm");
+    add("passing #4 ", "txtP4", " %");
+    add("passing #200 ", "txtP200", " %");
+    add("D10 ", "txtD10", " mm");
+    add("D30 ", "txtD30", " mm");
+    add("D60 ", "txtD60", " mm");
+    return Shows("Particle size distribution", read, read);
 }
 
 }  // namespace

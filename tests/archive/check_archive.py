@@ -63,7 +63,9 @@ class PrintedJob(unittest.TestCase):
         broken = self.folder / "broken.pdf"
         plain = self.folder / "plain.pdf"
         said("qpdf", "--qdf", "--object-streams=disable", self.tests[0], plain)
-        broken.write_bytes(plain.read_bytes().replace(b"/H1 << /MCID 1 >> BDC", b"/Span <<         >> BDC", 1))
+        whole = plain.read_bytes()
+        broken.write_bytes(whole.replace(b"/H1<</MCID 1>>BDC", b"/Span<<     >>BDC", 1))
+        self.assertNotEqual(broken.read_bytes(), whole)
         found = "\n".join(archived_file.faults(broken))
         self.assertIn("neither tagged nor an artifact", found)
         self.assertIn("not numbered in a row", found)
@@ -72,21 +74,23 @@ class PrintedJob(unittest.TestCase):
     def test_readers_find_nothing_to_complain_of(self):
         for path in [self.job, *self.tests]:
             self.assertIn("No syntax or stream encoding errors found", said("qpdf", "--check", path))
-            self.assertNotRegex(said("mutool", "draw", "-q", "-F", "text", "-o", os.devnull, path), "error|warning")
+            told = said("mutool", "draw", "-q", "-F", "text", "-o", os.devnull, path)
+            self.assertNotRegex(told.replace("warning: ICC support is not available", ""), "error|warning")
             self.assertNotIn("Error", said("pdfinfo", "-struct-text", path))
 
     def test_plots_say_their_results(self):
         told = "\n".join(self.figures(self.job))
         for shown in ("Compaction curve, top at [0-9.]+ %, [0-9.]+ g/cm³", "Flow curve, liquid limit [0-9.]+ %",
-                      "Calibration curve of the flask, ", r"Particle size distribution, D10 [0-9.]+ mm, D30",
+                      "Calibration curve of the flask, ", r"Particle size distribution, passing #4 [0-9.]+ %, passing #200 [0-9.]+ %, D10 [0-9.]+ mm, D30",
                       "Stress against penetration, CBR at 0.1 in. [0-9., ]+ %, at 0.2 in. [0-9., ]+ %",
                       "CBR against dry density, CBR [0-9.]+ % at 95 ?% of "):
             self.assertRegex(told, shown)
         self.assertNotIn("no result", told)
 
     def test_tables_are_read_row_by_row_behind_their_heads(self):
+        """Poppler 22 loses what stands behind a Thai letter with marks on the same line; the order is told by the rest."""
         text = said("pdfinfo", "-struct-text", next(path for path in self.tests if "_std_soil" in path.name))
-        order = ["Standard Compaction Test", "Client Name", "Number of Layer", "Water Content Determination", "Sample No.",
+        order = ["Client Name", "Number of Layer", "Water Content Determination", "Sample No.",
                  "Mass of Can + Wet Soil", "Density Determination", "Tested by", "Approved by"]
         places = [text.find(part) for part in order]
         self.assertNotIn(-1, places, text)
@@ -97,16 +101,24 @@ class PrintedJob(unittest.TestCase):
         self.assertLessEqual(self.job.stat().st_size, MOST_OF_A_JOB)
         self.assertLessEqual(sum(path.stat().st_size for path in self.tests), MOST_OF_ALL)
 
-    def test_an_archive_converts_them(self):
-        """Ghostscript up to 10.0 takes no letter beyond ASCII in a title: of those files the title alone is replaced."""
-        plain = self.folder / "plain.pdf"
-        for path in [self.job, *self.tests]:
-            title = said("pdfinfo", path).split("Title:", 1)[1].split("\n", 1)[0].strip()
-            converted = self.folder / "converted.pdf"
-            told = said("gs", "-dPDFA=2", "-dBATCH", "-dNOPAUSE", "-dQUIET", "-sDEVICE=pdfwrite",
-                        "-sColorConversionStrategy=RGB", "-dPDFACompatibilityPolicy=2", f"-sOutputFile={converted}",
-                        path) if title.isascii() else ""
-            self.assertEqual(told, "", path.name)
+    def converted(self, path, policy):
+        """What Ghostscript has to say, and whether what it makes is fit for archives."""
+        archive = self.folder / "converted.pdf"
+        archive.unlink(missing_ok=True)
+        told = said("gs", "-dPDFA=2", "-dBATCH", "-dNOPAUSE", "-dQUIET", "-sDEVICE=pdfwrite",
+                    "-sColorConversionStrategy=RGB", f"-dPDFACompatibilityPolicy={policy}", f"-sOutputFile={archive}", path)
+        return told, "pdfaid:part='2'" in said("pdfinfo", "-meta", archive).replace('"', "'")
+
+    def test_an_archive_converts_the_job(self):
+        self.assertEqual(self.converted(self.job, 2), ("", True))
+
+    def test_an_archive_converts_every_test_but_titles_in_thai(self):
+        """Ghostscript up to 10.0 takes no letter beyond ASCII in a title, and drops it; nothing else."""
+        for path in self.tests:
+            told, is_fit = self.converted(path, 1)
+            self.assertTrue(is_fit, path.name)
+            others = [line for line in told.splitlines() if "DOCINFO" not in line]
+            self.assertEqual(others, [], path.name)
 
 
 if __name__ == "__main__":
