@@ -191,10 +191,9 @@ std::string PageStructure::AddTo(Objects& objects, int document, int page, int o
     const std::string onPage = "/Pg " + Reference(page);
     for (std::size_t at = 0; at < elements_.size(); ++at) {
         const Element& element = elements_[at];
-        objects.Put(own + static_cast<int>(at), "<</S" + std::string(element.kind) + "/P " +
-                                                    Reference(at == 0 ? document : own + element.parent) +
-                                                    (element.stretches.empty() ? "" : onPage) + element.about +
-                                                    KidsOf(element, own) + ">>");
+        objects.Put(own + static_cast<int>(at),
+                    "<</S" + std::string(element.kind) + "/P " + Reference(at == 0 ? document : own + element.parent) +
+                        (element.stretches.empty() ? "" : onPage) + element.about + KidsOf(element, own) + ">>");
     }
     std::string stretches;
     for (const int element : stretches_) stretches += " " + Reference(own + element);
