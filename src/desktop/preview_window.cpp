@@ -21,6 +21,7 @@
 #include "desktop/qt_surroundings.h"
 #include "desktop/window_places.h"
 #include "desktop/windows.h"
+#include "drawing/overruns.h"
 #include "render/painter.h"
 
 namespace terravane {
@@ -119,10 +120,28 @@ PreviewWindow::PreviewWindow(Program& program, QtSurroundings& surroundings, For
     pages->addWidget(down, 0, 1);
     pages->addWidget(across, 1, 0);
     column->addLayout(pages, 1);
+    column->addWidget(MakeStatusLine());
     bindings_.push_back(Bind(preview.Get<ScrollBar>("HScroll1"), *across));
     bindings_.push_back(Bind(preview.Get<ScrollBar>("VScroll1"), *down));
     resize(1000, 680);
     RestorePlace(program, preview, *this);
+}
+
+/// Tells which texts of the page in view will be cut or run over others on paper; nothing is there where all fit.
+QLabel* PreviewWindow::MakeStatusLine()
+{
+    auto* status = new QLabel(this);
+    status->setObjectName("status");
+    status->setContentsMargins(8, 3, 8, 3);
+    status->setTextFormat(Qt::PlainText);
+    status->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    auto& page = form_.Get<PictureBox>("picView");
+    bindings_.push_back(page.Show([&page, status] {
+        const std::string told = StatusOf(OverrunsOf(*page.Image()));
+        status->setText(QString::fromStdString(told));
+        status->setVisible(!told.empty());
+    }));
+    return status;
 }
 
 void PreviewWindow::BuildBar(QToolBar& bar)

@@ -11,6 +11,7 @@
 #include "program/program.h"
 
 class QComboBox;
+class QLabel;
 
 namespace terravane {
 
@@ -46,6 +47,7 @@ class PreviewWindow : public QDialog {
   private:
     void BuildBar(class QToolBar& bar);
     QComboBox* MakeScaleBox();
+    QLabel* MakeStatusLine();
 
     Program& program_;
     QtSurroundings& surroundings_;

@@ -8,6 +8,7 @@
 #include <variant>
 #include <vector>
 
+#include "drawing/page_parts.h"
 #include "drawing/picture.h"
 
 namespace terravane {
@@ -120,10 +121,12 @@ using DrawnItem = std::variant<TextItem, LineItem, PolylineItem, BoxItem, FillIt
 
 /// One surface's content: its size in twips and what was drawn on it.
 /// label  of a page that is not numbered, "cover"; pages without one count from 1 behind it
+/// parts  what the items are to a reader, an inner part in front of the one around it
 struct DisplayList {
     double width = 0, height = 0;
     std::vector<DrawnItem> items;
     std::string label = {};
+    std::vector<PagePart> parts = {};
     bool operator==(const DisplayList&) const = default;
 };
 

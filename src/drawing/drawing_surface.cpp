@@ -103,16 +103,23 @@ double DrawingSurface::TextHeight(std::string_view) const
     return terravane::TextHeight(CurrentFont());
 }
 
+void DrawingSurface::Mark(PagePart part)
+{
+    part.last = items_.size();
+    if (part.last > part.first) parts_.push_back(std::move(part));
+}
+
 void DrawingSurface::Cls()
 {
     items_.clear();
+    parts_.clear();
     CurrentX = ScaleLeft;
     CurrentY = ScaleTop;
 }
 
 std::shared_ptr<const DisplayList> DrawingSurface::Image() const
 {
-    return std::make_shared<const DisplayList>(DisplayList{Width, Height, items_});
+    return std::make_shared<const DisplayList>(DisplayList{Width, Height, items_, {}, parts_});
 }
 
 Font DrawingSurface::CurrentFont() const

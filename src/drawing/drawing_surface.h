@@ -61,6 +61,9 @@ class DrawingSurface {
     double TextWidth(std::string_view text) const;
     double TextHeight(std::string_view text) const;
 
+    /// Says what the items from `part.first` on are, which were drawn last. src/drawing/scopes.h has it for a scope.
+    void Mark(PagePart part);
+
     /// Empties the surface and takes the current position to the left top; fonts and pens stay.
     void Cls();
 
@@ -73,6 +76,7 @@ class DrawingSurface {
     Pen CurrentPen(Colour colour) const { return {DrawWidth, DrawStyle, colour}; }
 
     std::vector<DrawnItem> items_;
+    std::vector<PagePart> parts_;
 };
 
 }  // namespace terravane

@@ -17,8 +17,10 @@
 #include <array>
 #include <cstdint>
 #include <cstdlib>
+#include <mutex>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include "runtime/runtime_error.h"
 
@@ -176,16 +178,37 @@ bool IsDrawable(PictureSize size)
            size.width * size.height <= kMostPixels;
 }
 
+/// The pictures that somebody holds. A job's pages read their logos anew, and a photograph as logo has megabytes.
+class PicturesInUse {
+  public:
+    /// The one that is the same, where there is one.
+    std::shared_ptr<const Picture> Share(Picture picture)
+    {
+        const std::scoped_lock lock(mutex_);
+        std::erase_if(pictures_, [](const auto& known) { return known.expired(); });
+        for (const auto& known : pictures_)
+            if (auto same = known.lock(); same && *same == picture) return same;
+        auto own = std::make_shared<const Picture>(std::move(picture));
+        pictures_.push_back(own);
+        return own;
+    }
+
+  private:
+    std::mutex mutex_;
+    std::vector<std::weak_ptr<const Picture>> pictures_;
+};
+
 }  // namespace
 
 std::shared_ptr<const Picture> ReadPicture(std::string name, Bytes bytes)
 {
+    static PicturesInUse pictures;
     const Header header(name, bytes);
     const Kind& kind = KindOf(header);
     const PictureSize size = kind.size(header);
     if (!IsDrawable(size)) header.Damaged();
-    return std::make_shared<const Picture>(Picture{std::move(name), kind.format, static_cast<int>(size.width),
-                                                   static_cast<int>(size.height), std::move(bytes), size.isUpright});
+    return pictures.Share({std::move(name), kind.format, static_cast<int>(size.width), static_cast<int>(size.height),
+                           std::move(bytes), size.isUpright});
 }
 
 std::shared_ptr<const Picture> LoadPicture(const FileSystem& files, const std::string& path)

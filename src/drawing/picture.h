@@ -23,7 +23,8 @@ struct Picture {
     bool operator==(const Picture&) const = default;
 };
 
-/// Reads a picture's header. Error 481 "Invalid picture" (the name in the description) for bytes of no known
+/// Reads a picture's header; a picture that somebody holds already is the same one, its bytes stand in memory once. May
+/// be called from several threads. Error 481 "Invalid picture" (the name in the description) for bytes of no known
 /// format, for a size of zero and for one above 100 million pixels.
 std::shared_ptr<const Picture> ReadPicture(std::string name, Bytes bytes);
 

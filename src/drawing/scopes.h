@@ -2,6 +2,8 @@
 /// it found it. So no routine draws otherwise because of what ran before it.
 #pragma once
 
+#include <exception>
+#include <string>
 #include <utility>
 
 #include "drawing/drawing_surface.h"
@@ -72,6 +74,53 @@ class [[nodiscard]] Filled {
   private:
     ForScope<bool> solid_;
     ForScope<Colour> colour_;
+};
+
+/// What is drawn in the scope is one part of the page. An error leaves it unmarked: the page is not shown then.
+class [[nodiscard]] AsPart {
+  public:
+    AsPart(DrawingSurface& surface, PagePart part) : surface_(surface), part_(std::move(part))
+    {
+        part_.first = surface.Items().size();
+    }
+    ~AsPart()
+    {
+        if (std::uncaught_exceptions() == failing_) surface_.Mark(std::move(part_));
+    }
+    AsPart(const AsPart&) = delete;
+    AsPart& operator=(const AsPart&) = delete;
+
+  private:
+    DrawingSurface& surface_;
+    PagePart part_;
+    int failing_ = std::uncaught_exceptions();
+};
+
+struct AsTitle : AsPart {
+    explicit AsTitle(DrawingSurface& surface) : AsPart(surface, {PartKind::Title}) {}
+};
+
+struct AsCaption : AsPart {
+    explicit AsCaption(DrawingSurface& surface) : AsPart(surface, {PartKind::Caption}) {}
+};
+
+struct AsLine : AsPart {
+    explicit AsLine(DrawingSurface& surface) : AsPart(surface, {PartKind::Line}) {}
+};
+
+struct AsFurniture : AsPart {
+    explicit AsFurniture(DrawingSurface& surface) : AsPart(surface, {PartKind::Furniture}) {}
+};
+
+/// shows  in words
+struct AsFigure : AsPart {
+    AsFigure(DrawingSurface& surface, std::string shows) : AsPart(surface, {PartKind::Figure, 0, 0, std::move(shows)})
+    {}
+};
+
+struct AsTable : AsPart {
+    AsTable(DrawingSurface& surface, TableShape shape) : AsPart(surface, {PartKind::Table, 0, 0, {}, std::move(shape)})
+    {}
 };
 
 }  // namespace terravane

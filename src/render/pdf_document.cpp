@@ -8,6 +8,7 @@
 #include "render/pdf_archive.h"
 #include "render/pdf_objects.h"
 #include "render/pdf_page.h"
+#include "render/pdf_structure.h"
 #include "runtime/runtime_error.h"
 
 namespace terravane {
@@ -24,12 +25,19 @@ void RequirePlaces(std::span<const DisplayList> pages, const PdfDocument& docume
         if (section.firstPage >= pages.size()) throw RuntimeError(error::kInvalidProcedureCall);
 }
 
-std::string PageText(const DisplayList& page, int tree, int content, int resources)
+/// The objects that a page refers to.
+struct PageObjects {
+    int tree, content, resources;
+};
+
+/// number  of the page in the document, from 0
+std::string PageText(const DisplayList& page, const PageObjects& objects, std::size_t number)
 {
-    std::string text = "<< /Type /Page /Parent " + Reference(tree) + " /MediaBox [0 0";
+    std::string text = "<< /Type /Page /Parent " + Reference(objects.tree) + " /MediaBox [0 0";
     pdf::AppendNumber(text, pdf::PaperPoints(page.width));
     pdf::AppendNumber(text, pdf::PaperPoints(page.height));
-    return text + "] /Contents " + Reference(content) + " /Resources " + Reference(resources) + " >>";
+    return text + "] /Contents " + Reference(objects.content) + " /Resources " + Reference(objects.resources) +
+           " /StructParents " + std::to_string(number) + " >>";
 }
 
 /// One document while it is put together.
@@ -41,9 +49,11 @@ class Assembly {
     {
         AddPages();
         const std::string bookmarks = AddBookmarks();
+        const std::string structure = pdf::StructureEntries(objects_, structures_, pageObjects_);
         const std::string description = pdf::Description(document_.title, document_.created);
         const std::string archive = pdf::ArchiveEntries(objects_, pages_, description);
-        const int catalog = objects_.Add("<< /Type /Catalog /Pages " + Reference(tree_) + bookmarks + archive + " >>");
+        const int catalog =
+            objects_.Add("<< /Type /Catalog /Pages " + Reference(tree_) + bookmarks + structure + archive + " >>");
         const std::string maker(pdf::kMaker);
         const std::string created = pdf::DateString(document_.created);
         const int information = objects_.Add("<< /Title " + pdf::TextString(document_.title) + " /Creator (" + maker +
@@ -56,14 +66,16 @@ class Assembly {
     {
         std::vector<int> contents;
         for (const DisplayList& page : pages_) {
-            const std::string content = pdf::Deflated(pdf::PageContent(page, used_), pdf::Packing::Quick);
+            structures_.emplace_back(page);
+            const std::string content =
+                pdf::Deflated(pdf::PageContent(page, used_, structures_.back()), pdf::Packing::Quick);
             contents.push_back(objects_.AddStream("/Filter /FlateDecode", content));
             identity_ += content;
         }
         const int resources = used_.AddTo(objects_);
         std::string kids;
         for (std::size_t at = 0; at < pages_.size(); ++at) {
-            pageObjects_.push_back(objects_.Add(PageText(pages_[at], tree_, contents[at], resources)));
+            pageObjects_.push_back(objects_.Add(PageText(pages_[at], {tree_, contents[at], resources}, at)));
             kids += " " + Reference(pageObjects_.back());
         }
         objects_.Put(tree_, "<< /Type /Pages /Count " + std::to_string(pages_.size()) + " /Kids [" + kids + " ] >>");
@@ -98,6 +110,7 @@ class Assembly {
     Objects objects_;
     int tree_ = objects_.Reserve();
     pdf::Resources used_;
+    std::vector<pdf::PageStructure> structures_;
     std::vector<int> pageObjects_;
     std::string identity_;
 };

@@ -68,6 +68,7 @@ class Face {
     void JoinSaraAm(std::vector<PlacedGlyph>& glyphs, std::size_t first) const;
     void SpellOut(std::u16string_view cluster, std::span<PlacedGlyph> glyphs) const;
     hb::Set GlyphsFor(const UsedGlyphs& used) const;
+    void AddGroupsOf(const UsedGlyphs& used, hb_set_t& glyphs) const;
     std::shared_ptr<const Program> PartOf(const hb_set_t& glyphs) const;
     Program ProgramOf(const hb_set_t& glyphs) const;
     std::string PackedToUnicode(const UsedGlyphs& used) const;

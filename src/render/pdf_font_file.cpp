@@ -1,7 +1,9 @@
 // A face as objects of a PDF file: Type0 font, its one descendant by glyph number, the descriptor, the outlines and
 // the table by which a text is copied out.
 #include <array>
+#include <bitset>
 #include <cmath>
+#include <string_view>
 
 #include <hb-ot.h>
 
@@ -11,9 +13,7 @@ namespace terravane::pdf {
 
 namespace {
 
-/// Characters of a laboratory's reports. A font with all of them is cut out and packed once a process and serves
-/// every document that uses many, in place of one for each document with those it uses. Of a face that draws a title or
-/// the labels of a plot a document has its few glyphs, and the digits, so that the next one's are the same.
+/// Characters of a laboratory's reports.
 struct Block {
     hb_codepoint_t first, last;
 };
@@ -23,6 +23,22 @@ constexpr std::array kUsual{
     Block{0xD7, 0xD7},     // times
     Block{0x0E01, 0x0E5B}  // Thai
 };
+
+/// A document that uses many characters of a face has the whole groups that it uses some of: a font for them is cut out
+/// and packed once a process and serves most documents, in place of one for each with just those it uses. What a report
+/// seldom has makes half of the font. Of a face that draws a title or the labels of a plot a document has its few
+/// glyphs, and the digits, so that the next one's are the same.
+enum Group : std::size_t { kPlain, kSigns, kSymbols, kThai, kRareThai, kOtherForms, kGroups };
+constexpr std::u16string_view kRareSigns = u"!\"#$&'*;<>?@[\\]_`{|}~";
+constexpr std::u16string_view kRareLetters = u"ฃฅฆฌฎฑฒฬฮฯฤฦๆ๏๚๛๐๑๒๓๔๕๖๗๘๙฿ๅ\u0E3A\u0E4E\u0E4D\u0E4A\u0E4B";
+
+constexpr Group GroupOf(char16_t character)
+{
+    if (character < 0x80) return kRareSigns.find(character) == kRareSigns.npos ? kPlain : kSigns;
+    if (character < 0x0E00) return kSymbols;
+    return kRareLetters.find(character) == kRareLetters.npos ? kThai : kRareThai;
+}
+
 constexpr std::size_t kFew = 64;        // glyphs
 constexpr std::size_t kMostParts = 30;  // of a face, remembered
 constexpr int kSymbolic = 4;            // glyphs are found by their number, not by a character
@@ -159,15 +175,28 @@ std::string Face::PackedToUnicode(const UsedGlyphs& used) const
     return packed;
 }
 
-/// The usual characters' glyphs and those used, or these alone with the digits where they are few.
+/// Those used, with the digits, and where they are many with the rest of their groups.
 hb::Set Face::GlyphsFor(const UsedGlyphs& used) const
 {
-    hb::Set glyphs(used.size() > kFew ? hb_set_copy(usual_.get()) : hb_set_create());
+    hb::Set glyphs(hb_set_create());
     hb_set_add(glyphs.get(), 0);
+    if (used.size() > kFew) AddGroupsOf(used, *glyphs);
     for (const auto& [glyph, character] : characters_)
         if (character >= u'0' && character <= u'9') hb_set_add(glyphs.get(), glyph);
     for (const auto& glyph : used) hb_set_add(glyphs.get(), glyph.first);
     return glyphs;
+}
+
+void Face::AddGroupsOf(const UsedGlyphs& used, hb_set_t& glyphs) const
+{
+    const auto groupOf = [this](GlyphId glyph) {
+        const auto own = characters_.find(glyph);
+        return own == characters_.end() ? kOtherForms : GroupOf(own->second);
+    };
+    std::bitset<kGroups> groups;
+    for (const auto& glyph : used) groups.set(groupOf(glyph.first));
+    for (hb_codepoint_t glyph = HB_SET_VALUE_INVALID; hb_set_next(usual_.get(), &glyph);)
+        if (groups[groupOf(static_cast<GlyphId>(glyph))]) hb_set_add(&glyphs, glyph);
 }
 
 std::shared_ptr<const Face::Program> Face::PartOf(const hb_set_t& glyphs) const

@@ -1,6 +1,7 @@
 // The operators used: q Q keep and restore, cm placing, w d J j width, dash, cap and join, RG rg ink and filling,
 // m l c re h paths, S f B their ink, W n clip, BT ET text, Do picture. All of a page is in points, y downwards: a
-// reader that draws with one ink takes wide lines in smaller units for hairlines.
+// reader that draws with one ink takes wide lines in smaller units for hairlines. BMC BDC EMC stand around what is one
+// to somebody who reads the page.
 #include "render/pdf_page.h"
 
 #include <algorithm>
@@ -53,15 +54,15 @@ class GlyphString {
             startX_ = glyph.x;
             startY_ = glyph.y;
         }
-        if (!isOpen_) out_ += " <";
+        if (!isOpen_) out_ += '(';
         isOpen_ = true;
-        AppendHexadecimal(out_, glyph.glyph);
+        AppendBytes(out_, glyph.glyph);
         nextX_ = glyph.x + glyph.step;
     }
 
     void Close()
     {
-        if (isOpen_) out_ += "> Tj";
+        if (isOpen_) out_ += ")Tj";
         isOpen_ = false;
     }
 
@@ -76,10 +77,16 @@ class PageWriter {
   public:
     explicit PageWriter(Resources& resources) : resources_(resources) {}
 
-    std::string Write(const DisplayList& page)
+    std::string Write(const DisplayList& page, PageStructure& structure)
     {
         Numbers({1, 0, 0, -1, 0, PaperPoints(page.height)}, "cm");
-        Draw(page);
+        width_ = page.width;
+        height_ = page.height;
+        for (std::size_t first = 0, last = 0; first < page.items.size(); first = last) {
+            const int element = structure.ElementOf(first);
+            while (last < page.items.size() && structure.ElementOf(last) == element) ++last;
+            WriteStretch(std::span(page.items).subspan(first, last - first), structure, element);
+        }
         return std::move(out_);
     }
 
@@ -172,8 +179,22 @@ class PageWriter {
     struct State {
         std::optional<Stroke> stroke;
         std::optional<Colour> fill;
+        const Face* face;
+        double size;
         double scale;
     };
+
+    /// Items of one element, marked so; nothing where none of them is seen.
+    void WriteStretch(std::span<const DrawnItem> items, PageStructure& structure, int element)
+    {
+        const std::size_t before = out_.size();
+        out_ += structure.Begin(element);
+        const std::size_t begun = out_.size();
+        for (const DrawnItem& item : items) std::visit(*this, item);
+        if (out_.size() == begun) return out_.resize(before);
+        structure.Keep(element);
+        out_ += " EMC";
+    }
 
     void Draw(const DisplayList& list)
     {
@@ -246,8 +267,14 @@ class PageWriter {
         const ShapedText glyphs = face.Shape(run.text);
         const double size = SubstituteFor(item.font.name).unitsPerPoint * item.font.size;
         FillWith(item.colour);
-        out_ += " BT " + resources_.NameOf(face, *glyphs);
-        Lengths({size}, "Tf");
+        const std::string& name = resources_.NameOf(face, *glyphs);
+        out_ += " BT";
+        if (face_ != &face || size_ != size) {
+            face_ = &face;
+            size_ = size;
+            out_ += name;
+            Lengths({size}, "Tf");
+        }
         PlaceText(item, x);
         WriteGlyphs(*glyphs, size * kPointsPerTwip);
         out_ += " ET";
@@ -284,7 +311,7 @@ class PageWriter {
     void WriteLetter(GlyphString& string, std::span<const PlacedGlyph> letter, double size)
     {
         string.Close();
-        out_ += " /Span << /ActualText " + TextString(letter.front().letter) + " >> BDC";
+        out_ += "/Span<</ActualText" + TextString(letter.front().letter) + ">>BDC";
         for (const PlacedGlyph& glyph : letter.first(letter.size() - 1)) string.Add(glyph);
         const PlacedGlyph& last = letter.back();
         double end = last.x + last.step;
@@ -312,7 +339,7 @@ class PageWriter {
         if (drawing.width <= 0 || drawing.height <= 0 || item.width <= 0 || item.height <= 0) return;
         const double right = std::ceil(item.x + item.width);
         const double bottom = std::ceil(item.y + item.height);
-        const State outside{stroke_, fill_, scale_};
+        const State outside{stroke_, fill_, face_, size_, scale_};
         const double sx = item.width / drawing.width;
         const double sy = item.height / drawing.height;
         out_ += " q";
@@ -327,6 +354,8 @@ class PageWriter {
         out_ += " Q";
         stroke_ = outside.stroke;
         fill_ = outside.fill;
+        face_ = outside.face;
+        size_ = outside.size;
         scale_ = outside.scale;
     }
 
@@ -334,6 +363,8 @@ class PageWriter {
     Resources& resources_;
     std::optional<Stroke> stroke_;
     std::optional<Colour> fill_;
+    const Face* face_ = nullptr;
+    double size_ = 0;                // of its letters, twips
     double scale_ = 1;               // twips of the page to one of the drawing, across
     double width_ = 0, height_ = 0;  // of the page or drawing being written
 };
@@ -385,9 +416,9 @@ double PaperPoints(double twips)
     return twips * kPointsPerTwip;
 }
 
-std::string PageContent(const DisplayList& page, Resources& resources)
+std::string PageContent(const DisplayList& page, Resources& resources, PageStructure& structure)
 {
-    return PageWriter(resources).Write(page);
+    return PageWriter(resources).Write(page, structure);
 }
 
 }  // namespace terravane::pdf

@@ -9,6 +9,7 @@
 #include "drawing/display_list.h"
 #include "render/pdf_faces.h"
 #include "render/pdf_pictures.h"
+#include "render/pdf_structure.h"
 
 namespace terravane::pdf {
 
@@ -41,8 +42,9 @@ class Resources {
 double PaperPoints(double twips);
 
 /// The operators that draw a list as PaintList draws it, on a page of its size. A curve's points that stand
-/// within kFlatness of the line through its others are left out.
-std::string PageContent(const DisplayList& page, Resources& resources);
+/// within kFlatness of the line through its others are left out. What is written is marked as the elements that it
+/// belongs to.
+std::string PageContent(const DisplayList& page, Resources& resources, PageStructure& structure);
 
 /// Twips on the page: 1/2880 inch, half a dot of a printer with 1200 dots to the inch being 1/2400.
 inline constexpr double kFlatness = 0.5;

@@ -3,6 +3,7 @@
 #include <array>
 #include <string>
 
+#include "drawing/scopes.h"
 #include "laboratory/atterberg.h"
 #include "reports/report_table.h"
 #include "sheets/atterberg/frmAtterberg.h"
@@ -13,6 +14,7 @@ namespace {
 
 constexpr double kPlotTop = 20.25;  // lines
 constexpr double kSummaryTop = 19.3;
+constexpr double kSummarySplit = 300;  // twips into the last column
 
 /// "Test No." stands where the compaction report's longer heading would be centred.
 constexpr std::string_view kHead = "Test No.", kHeadCentredAs = "Moisture Can No.";
@@ -60,7 +62,7 @@ struct AtterbergPage : ReportPage {
 void DrawSummaryBox(const AtterbergPage& of)
 {
     const PageLines y(of.page, of.y(kSummaryTop));
-    const double split = of.trials.Left(5) + 300;
+    const double split = of.trials.Left(5) + kSummarySplit;
     const RuledBox box(of.page, y, {of.trials.Left(4), of.trials.Left(6)}, 1, 5);
     box.Vertical(split);
     box.Thin();
@@ -69,7 +71,10 @@ void DrawSummaryBox(const AtterbergPage& of)
 
 void PrintSummary(const AtterbergPage& of)
 {
-    const double left = of.trials.Left(4);
+    const double left = of.trials.Left(4), split = of.trials.Left(5) + kSummarySplit;
+    const AsTable table(of.page, {.columns = {left, split, of.trials.Left(6)},
+                                  .rows = PageLines(of.page, of.y(kSummaryTop)).EdgesOf(1, kSummaryLines.size()),
+                                  .headColumns = 1});
     PrintCaption(of.page, left, of.y(kSummaryTop), "Summary of Test Results");
     for (const ReportField& line : kSummaryLines) {
         PrintFrom(of.page, left + kLabelInset, line.label);
@@ -87,7 +92,8 @@ void DrawAtterberg(const Printing& printing)
     for (const ReportTable& table : kTables) DrawTable(of, {WholeWidth(of.page), of.trials}, table);
     DrawSummaryBox(of);
     PrintSummary(of);
-    CopyPlot(of.page, sheet.picgraph1, sheet.picGraph, kLeft, of.y(kPlotTop));
+    CopyPlot(of.page, sheet.picgraph1, sheet.picGraph, {kLeft, of.y(kPlotTop)},
+             Shows("Flow curve", of.Text("txtLL"), "liquid limit " + of.Text("txtLL") + " %"));
 }
 
 }  // namespace terravane

@@ -143,6 +143,10 @@ void DrawSolution(const CbrPage& of)
     box.Verticals(of.solution, 1, kMolds);
     box.Thin();
     box.Rows(3, 2);
+    const AsTable table(of.page, {.columns = WithLabels(of.rightHalf, of.solution, kMolds),
+                                  .rows = of.y.EdgesOf(1, 4),
+                                  .headRows = 1,
+                                  .headColumns = 1});
     PrintSolutionHeads(of);
     PrintSolution(of, 2, "Number of Blows per Layer/Layers", BlowsOf(of.cbr));
     PrintSolution(of, 3, "CBR at 0.1 in. Penetration (%)", ResultsOf(of.cbr, result::At01));
@@ -187,6 +191,11 @@ void DrawMoldTable(const CbrPage& of, const MoldTable& table)
 {
     PrintCaption(of.page, kLeft, of.y(table.captionLine), table.caption);
     DrawMoldRules(of, table);
+    const AsTable part(of.page, {.columns = WithLabels(WholeWidth(of.page), of.molds, kColumns),
+                                 .rows = of.y.EdgesOf(table.Top(), table.grid.Rows()),
+                                 .headRows = 1,
+                                 .headColumns = 1,
+                                 .merged = {{0, 1, 1, kMolds}, {0, 1 + kMolds, 1, kMolds}}});
     PrintConditions(of, table.Top());
     for (int row = 1; row <= table.Rows(); ++row)
         PrintFrom(of.page, kLeft + kLabelInset, of.y(table.Top() + row), table.grid(row, 0));
@@ -257,10 +266,25 @@ void PrintSwellingHeads(const CbrPage& of)
         PrintCentred(of.page, of.swelling.Left(column), of.swelling.width, column % 2 == 1 ? "(mm)" : "(%)");
 }
 
+/// Date, time and elapsed time, then a mold's millimetres and percents.
+TableShape SwellingShape(const CbrPage& of)
+{
+    constexpr int kDates = 3, kHeads = 3;
+    TableShape shape{.columns = PageColumns{kLeft, kDateWidth}.EdgesOf(kDates - 1),
+                     .rows = of.y.EdgesOf(24, 8),
+                     .headRows = kHeads,
+                     .merged = {{0, 0, 1, kDates}, {1, 0, 2}, {1, 1, 2}, {1, 2, 2}}};
+    for (const double edge : of.swelling.EdgesOf(kColumns)) shape.columns.push_back(edge);
+    for (int mold = 0; mold < kMolds; ++mold)
+        for (const int row : {0, 1}) shape.merged.push_back({row, kDates + 2 * mold, 1, 2});
+    return shape;
+}
+
 void DrawSwelling(const CbrPage& of)
 {
     PrintCaption(of.page, kLeft, of.y(23), "Swelling Determination");
     DrawSwellingRules(of);
+    const AsTable table(of.page, SwellingShape(of));
     PrintSwellingHeads(of);
     const TextGrid& grid = of.cbr.MSHSwell;
     const int last = grid.Rows() - 1;

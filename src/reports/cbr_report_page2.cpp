@@ -5,6 +5,7 @@
 
 #include "reports/cbr_report.h"
 #include "reports/report_table.h"
+#include "runtime/text.h"
 #include "sheets/cbr/frmCBR.h"
 
 namespace terravane {
@@ -102,12 +103,43 @@ void PrintReadings(const CbrTable& of)
     PrintCells(of.page, of.y, of.columns, kHeadLines, grid, {0, grid.Rows() - 1, 0, kColumnsAcross - 1});
 }
 
+void PrintTable(const CbrTable& of)
+{
+    std::vector<double> rows = of.y.EdgesOf(kHeadLines, of.cbr.MSHPenetrate1.Rows());
+    rows.insert(rows.begin(), {of.y(0), of.y(1)});
+    TableShape shape{
+        .columns = of.columns.EdgesOf(kColumnsAcross), .rows = std::move(rows), .headRows = 2, .headColumns = 1};
+    for (int mold = 1; mold <= kMolds; ++mold) shape.merged.push_back({0, penetration::Dial(mold), 1, kGroup});
+    const AsTable table(of.page, std::move(shape));
+    PrintTableHeads(of);
+    PrintReadings(of);
+}
+
+std::string ListOf(const frmCBR& sheet, result::Row row)
+{
+    std::string list;
+    for (int mold = 1; mold <= kMolds; ++mold)
+        if (const std::string value(Trim(sheet.mshLPC(row, mold))); !value.empty())
+            list += (list.empty() ? "" : ", ") + value;
+    return list;
+}
+
+std::string StressesShown(const frmCBR& sheet)
+{
+    const std::string at01 = ListOf(sheet, result::At01);
+    return Shows("Stress against penetration", at01,
+                 "CBR at 0.1 in. " + at01 + " %, at 0.2 in. " + ListOf(sheet, result::At02) + " %");
+}
+
 void CopyCurves(const CbrTable& of)
 {
     const frmCBR& sheet = of.cbr;
     const double top = of.y(of.bottom) + kCurvesBelow;
-    CopyPlot(of.page, sheet.picGraph, sheet.picgraph1, kLeft, top);
-    CopyPlot(of.page, sheet.picGraph2, sheet.picGraph3, of.Right() - sheet.picGraph2.Width, top);
+    CopyPlot(of.page, sheet.picGraph, sheet.picgraph1, {kLeft, top}, StressesShown(sheet));
+    CopyPlot(
+        of.page, sheet.picGraph2, sheet.picGraph3, {of.Right() - sheet.picGraph2.Width, top},
+        Shows("CBR against dry density", sheet.txtCBR.Text(),
+              "CBR " + sheet.txtCBR.Text() + " % at " + sheet.cboCBR.Text() + " of " + sheet.txtCompaction.Text()));
 }
 
 void PrintValuesOf(const CbrTable& of, double x, int mold)
@@ -156,8 +188,7 @@ void DrawCbrPage2(const Printing& printing)
 {
     const CbrTable of(printing);
     DrawTableRules(of);
-    PrintTableHeads(of);
-    PrintReadings(of);
+    PrintTable(of);
     CopyCurves(of);
     PrintSummary(of);
 }

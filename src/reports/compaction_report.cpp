@@ -119,8 +119,10 @@ void DrawCompaction(const Printing& printing)
     DrawResultsBox(of);
     PrintResults(of);
     for (const ReportTable& table : kTables) DrawTable(of, {WholeWidth(of.page), of.samples}, table);
-    CopyPlot(of.page, of.sheet.Get<PictureBox>("picgraph1"), of.sheet.Get<PictureBox>("picGraph"), kLeft,
-             of.y(kPlotLine));
+    CopyPlot(of.page, of.sheet.Get<PictureBox>("picgraph1"), of.sheet.Get<PictureBox>("picGraph"),
+             {kLeft, of.y(kPlotLine)},
+             Shows("Compaction curve", of.Text("txtOMC"),
+                   "top at " + of.Text("txtOMC") + " %, " + of.Text("txtDmax") + " g/cm³"));
 }
 
 }  // namespace terravane

@@ -19,6 +19,7 @@ constexpr int kGap = 4;  // blank lines between the cover's parts
 
 void PaintLogo(const Printing& of)
 {
+    const AsFigure figure(of.page, "Logo of the organisation");
     const auto logo = LoadBrandPicture(of.sheet.program, "Image6", kCoverLogo);
     const double scale = kLogoWidth / logo->width;
     of.page.PaintPicture(logo, of.page.Width / 2 - kLogoWidth / 2, kLogoTop, kLogoWidth, logo->height * scale);
@@ -44,6 +45,7 @@ void PrintBlankLines(DrawingSurface& page, int count)
 
 void PrintTitle(const Printing& of)
 {
+    const AsTitle title(of.page);
     const TextSize size(of.page, kCoverTitleSize);
     of.page.CurrentY = kTitleTop;
     PrintBoldLine(of.page, of.report.test.names.cover);

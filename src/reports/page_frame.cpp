@@ -42,6 +42,7 @@ constexpr PerMedium<FrameDifferences> kDifferences{
 
 void DrawFooter(const Printing& of)
 {
+    const AsFurniture furniture(of.page);
     const TextSize size(of.page, kFooterSize);
     const std::string number = "Page " + std::to_string(of.number);
     of.page.CurrentY = of.page.ScaleHeight - kFooterHeight;
@@ -59,6 +60,7 @@ double BannerTop(DrawingSurface& page)
 /// Ends the line, below which the title box begins.
 void DrawBanner(const Printing& of)
 {
+    const AsFurniture furniture(of.page);
     of.page.CurrentY = BannerTop(of.page);
     const TextSize size(of.page, kBannerSize);
     const Italic italic(of.page);
@@ -105,6 +107,7 @@ void PrintNames(const Printing& of)
 
 void PrintTitles(const Printing& of)
 {
+    const AsTitle title(of.page);
     const laboratory::Names& names = of.titled.test.names;
     const PerMedium<std::string_view> thai{names.OnPaper(), names.OnPreview()};
     const double measured = of.page.TextWidth(thai.On(of.titled.isTitleCrossed ? TheOther(of.medium) : of.medium));
@@ -123,8 +126,12 @@ void DrawLogos(const Printing& of, const TitleBox& box)
     const double cell = LineHeight(of.page) * kLogoCellLines;
     const double rule = of.page.ScaleWidth - 630 - cell;
     of.page.Line(rule, box.top, rule, box.bottom);
-    of.page.PaintPicture(LoadBrandPicture(program, "Image2", kDepartmentLogo), of.page.ScaleWidth - 530 - cell,
-                         tops.departmentLogoTop, kDepartmentSide, kDepartmentSide);
+    {
+        const AsFigure figure(of.page, "Logo of the department");
+        of.page.PaintPicture(LoadBrandPicture(program, "Image2", kDepartmentLogo), of.page.ScaleWidth - 530 - cell,
+                             tops.departmentLogoTop, kDepartmentSide, kDepartmentSide);
+    }
+    const AsFigure figure(of.page, "Logo of the institute");
     of.page.PaintPicture(LoadBrandPicture(program, "Image1", kInstituteLogo), kInstituteLeft, tops.instituteLogoTop,
                          kInstituteSide, kInstituteSide);
 }

@@ -1,6 +1,9 @@
 #include "reports/report_page.h"
 
+#include <utility>
+
 #include "drawing/scopes.h"
+#include "runtime/text.h"
 #include "sheets/pattern/plot.h"
 
 namespace terravane {
@@ -48,6 +51,20 @@ Edges RightHalf(const DrawingSurface& page)
     return {Middle(page) + kHalfGap, RightEdge(page)};
 }
 
+std::vector<double> PageColumns::EdgesOf(int count) const
+{
+    std::vector<double> edges;
+    for (int column = 1; column <= count + 1; ++column) edges.push_back(Left(column));
+    return edges;
+}
+
+std::vector<double> PageLines::EdgesOf(double first, int count) const
+{
+    std::vector<double> edges;
+    for (int row = 0; row <= count; ++row) edges.push_back((*this)(first + row));
+    return edges;
+}
+
 PageColumns ColumnsBeside(double labelWidth, const Edges& edges, int count)
 {
     return {edges.left + labelWidth, (edges.Width() - labelWidth) / count};
@@ -84,16 +101,24 @@ void SetReportFont(DrawingSurface& page)
 
 void PrintCaption(DrawingSurface& page, double x, double y, std::string_view text)
 {
+    const AsCaption caption(page);
     const Bold bold(page);
     page.CurrentY = y;
     PrintLineFrom(page, x, text);
 }
 
-void CopyPlot(DrawingSurface& page, const PictureBox& frame, const PictureBox& plot, double x, double y)
+void CopyPlot(DrawingSurface& page, const PictureBox& frame, const PictureBox& plot, const DrawnPoint& at,
+              std::string shows)
 {
+    const AsFigure figure(page, std::move(shows));
     const Inset inset = InsetOf(plot, frame);
-    CopyBox(page, frame, x, y);
-    CopyBox(page, plot, x + inset.left, y + inset.top);
+    CopyBox(page, frame, at.x, at.y);
+    CopyBox(page, plot, at.x + inset.left, at.y + inset.top);
+}
+
+std::string Shows(std::string_view plot, std::string_view result, const std::string& read)
+{
+    return std::string(plot) + ", " + (Trim(result).empty() ? std::string("no result") : read);
 }
 
 }  // namespace terravane

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "controls/picture_box.h"
 #include "drawing/placed_text.h"
@@ -34,12 +35,13 @@ Edges WholeWidth(const DrawingSurface& page);
 Edges LeftHalf(const DrawingSurface& page);
 Edges RightHalf(const DrawingSurface& page);
 
-/// Equal columns side by side, counted from 1.
+/// Equal columns side by side, counted from 1. The edges of the first few stand behind one another.
 struct PageColumns {
     double left;
     double width;
 
     double Left(int column) const { return left + width * (column - 1); }
+    std::vector<double> EdgesOf(int count) const;
 };
 
 /// `count` columns on what the labels leave.
@@ -51,6 +53,8 @@ class PageLines {
     PageLines(const DrawingSurface& page, double top) : top_(top), height_(LineHeight(page)) {}
 
     double operator()(double lines) const { return top_ + height_ * lines; }
+    /// The edges of `count` rows, a line each, from the line `first` on.
+    std::vector<double> EdgesOf(double first, int count) const;
 
   private:
     double top_, height_;
@@ -104,6 +108,12 @@ void PrintCaption(DrawingSurface& page, double x, double y, std::string_view tex
 
 /// A sheet's plot, copied as it stands and not drawn anew: both boxes in their own sizes, the frame with its upper left
 /// corner at (x, y), the plot on top of it as far inside as on the sheet.
-void CopyPlot(DrawingSurface& page, const PictureBox& frame, const PictureBox& plot, double x, double y);
+/// shows  in words, with the result that is read from it
+void CopyPlot(DrawingSurface& page, const PictureBox& frame, const PictureBox& plot, const DrawnPoint& at,
+              std::string shows);
+
+/// "Compaction curve, top at 11.2 %": a plot's name and what is read from it; "Compaction curve, no result" where the
+/// text `result` is empty.
+std::string Shows(std::string_view plot, std::string_view result, const std::string& read);
 
 }  // namespace terravane

@@ -43,7 +43,25 @@ void PrintAverage(const ReportPage& of, const TablePlace& place, const ReportTab
     PrintCentred(of.page, columns.left, isAcross ? place.edges.right - columns.left : columns.width, text);
 }
 
+TableShape ShapeOf(const ReportPage& of, const TablePlace& place, const ReportTable& table)
+{
+    const int lines = static_cast<int>(table.Bottom() - table.Top());
+    TableShape shape{.columns = WithLabels(place.edges, place.columns, table.columns),
+                     .rows = of.y.EdgesOf(table.Top(), lines),
+                     .headRows = table.head.empty() ? 0 : 1,
+                     .headColumns = 1};
+    if (table.lastRow == LastRow::AverageAcross) shape.merged = {{lines - 1, 1, 1, table.columns}};
+    return shape;
+}
+
 }  // namespace
+
+std::vector<double> WithLabels(const Edges& edges, const PageColumns& columns, int count)
+{
+    std::vector<double> all = columns.EdgesOf(count);
+    all.insert(all.begin(), edges.left);
+    return all;
+}
 
 void DrawTable(const ReportPage& of, const TablePlace& place, const ReportTable& table)
 {
@@ -66,6 +84,7 @@ void PrintTable(const ReportPage& of, const TablePlace& place, const ReportTable
     const auto& grid = of.sheet.Get<TextGrid>(table.grid.control);
     const int lastRow = table.firstRow + table.Rows() - 1;
     const bool isAveraged = table.lastRow != LastRow::Cells;
+    const AsTable part(of.page, ShapeOf(of, place, table));
     if (!table.head.empty()) PrintHeadLine(of, place, table);
     of.page.CurrentY = of.y(table.FirstRow());
     for (const laboratory::Line& line : table.grid.lines.subspan(static_cast<std::size_t>(table.firstRow)))

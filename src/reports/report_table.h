@@ -4,6 +4,7 @@
 
 #include <span>
 #include <string_view>
+#include <vector>
 
 #include "controls/cell_editor.h"
 #include "controls/text_grid.h"
@@ -68,6 +69,9 @@ void DrawRules(const ReportPage& of, const TablePlace& place, const ReportTable&
 void PrintTable(const ReportPage& of, const TablePlace& place, const ReportTable& table);
 
 // What tables of other kinds are made of.
+
+/// The edges of the labels and of `count` columns beside them.
+std::vector<double> WithLabels(const Edges& edges, const PageColumns& columns, int count);
 
 /// A box and the rules in it, which reach from edge to edge unless they say more. Each rule is as thick as was said
 /// last; heights are lines of the page. The pen is the page's own again when the box is done.

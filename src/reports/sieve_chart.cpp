@@ -118,6 +118,7 @@ struct ChartPage : Printing {
 
 void PrintFooter(const ChartPage& of)
 {
+    const AsFurniture furniture(of.page);
     const TextSize size(of.page, kFooterSize);
     of.page.CurrentY = of.page.Height - 1000;
     PrintFrom(of.page, 1000, of.sheet.stbDes.Panel(1));
@@ -200,6 +201,7 @@ void PrintTitles(const ChartPage& of)
     const double middle = (of.left + of.right) / 2;
     const Bold bold(of.page);
     of.PrintOver(middle, of.bottom + 2 * LineHeight(of.page), "Grain Size(mm)");
+    const AsTitle title(of.page);
     of.PrintOver(middle, 700, "PATICLE SIZE DISTRIBUTION CURVE");
 }
 
@@ -237,6 +239,24 @@ void DrawCurve(const ChartPage& of)
     of.page.Polyline(curve, kBlue);
 }
 
+/// What of the curve was read; a fine soil has no D10.
+std::string CurveShown(const ChartPage& of)
+{
+    std::string read;
+    const auto add = [&](std::string_view label, std::string_view control, std::string_view unit) {
+        const std::string text = TextOf(of.sheet, control);
+        const std::string_view value = Trim(BehindEquals(text));
+        if (value.empty()) return;
+        read += (read.empty() ? "" : ", ") + std::string(label) + std::string(value) + std::string(unit);
+    };
+    add("passing #4 ", "txtP4", " %");
+    add("passing #200 ", "txtP200", " %");
+    add("D10 ", "txtD10", " mm");
+    add("D30 ", "txtD30", " mm");
+    add("D60 ", "txtD60", " mm");
+    return Shows("Particle size distribution", read, read);
+}
+
 }  // namespace
 
 void DrawSieveChart(const Printing& printing)
@@ -244,6 +264,7 @@ void DrawSieveChart(const Printing& printing)
     const ChartPage of(printing);
     SetReportFont(of.page);
     PrintFooter(of);
+    const AsFigure figure(of.page, CurveShown(of));
     const TextSize size(of.page, kChartSize);
     DrawSizeGrid(of);
     DrawPercentGrid(of);

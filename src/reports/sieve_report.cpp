@@ -144,6 +144,11 @@ void PrintTableHeads(const SievePage& of)
 void DrawSieveTable(const SievePage& of)
 {
     DrawTableRules(of);
+    std::vector<double> rows = of.y.EdgesOf(kBodyLine, kMostSieves);
+    rows.insert(rows.begin(), of.y(kTableTop));
+    const AsTable table(
+        of.page,
+        {.columns = of.columns.EdgesOf(sieve::kColumns), .rows = std::move(rows), .headRows = 1, .headColumns = 1});
     PrintTableHeads(of);
     PrintCells(of.page, of.y, of.columns, kBodyLine, of.sheet.Get<TextGrid>("MSHSieve"),
                {1, kMostSieves, sieve::Number, sieve::Passing});
@@ -175,6 +180,9 @@ void DrawGrainSizes(const SievePage& of)
     box.Thin();
     box.Rows(1);
     box.Verticals(of.columns, 2, static_cast<int>(kGrainSizes.size()));
+    const AsTable table(
+        of.page,
+        {.columns = of.columns.EdgesOf(static_cast<int>(kGrainSizes.size())), .rows = y.EdgesOf(0, 2), .headRows = 1});
     int column = 1;
     for (const ReportField& size : kGrainSizes) {
         const double left = of.columns.Left(column++);
@@ -203,6 +211,11 @@ void DrawSystem(const SievePage& of, const RuledBox& box, const PageLines& y, do
     const double split = kLeft + WholeWidth(of.page).Width() / 6 + 150;
     box.Rows(top + 1, kSystemLines - 1);
     box.Vertical(split, top + 1, top + kSystemLines);
+    const AsTable table(of.page, {.columns = {kLeft, split, of.BesideSignatures().right},
+                                  .rows = y.EdgesOf(top, kSystemLines),
+                                  .headRows = 1,
+                                  .headColumns = 1,
+                                  .merged = {{0, 0, 1, 2}}});
     PrintHeading(of.page, y(top), system.heading);
     for (const ReportField& row : system.rows) {
         PrintFrom(of.page, kLeft + kLabelInset, y(++top), row.label);

@@ -67,6 +67,12 @@ void DrawReadings(const GravityPage& of)
 {
     PrintCaption(of.page, kLeft, of.y(0), "Calibration Data");
     DrawReadingRules(of);
+    std::vector<double> rows = of.y.EdgesOf(3, kCalibrationReadings);
+    rows.insert(rows.begin(), of.y(1));
+    const AsTable table(of.page, {.columns = of.readings.EdgesOf(calibration::kColumns),
+                                  .rows = std::move(rows),
+                                  .headRows = 1,
+                                  .headColumns = 1});
     PrintReadingHeads(of);
     PrintCells(of.page, of.y, of.readings, 3, of.sheet.Get<TextGrid>("MSHCalibration"),
                {1, kCalibrationReadings, calibration::Number, calibration::Temperature});
@@ -94,7 +100,8 @@ void DrawSpecificGravity(const Printing& printing)
     const GravityPage of(printing);
     DrawReadings(of);
     PrintEquation(of);
-    CopyPlot(of.page, sheet.picGraph, sheet.picgraph1, of.Right() - sheet.picGraph.Width, of.y(1));
+    CopyPlot(of.page, sheet.picGraph, sheet.picgraph1, {of.Right() - sheet.picGraph.Width, of.y(1)},
+             Shows("Calibration curve of the flask", of.Text("txtFormula"), of.Text("txtFormula")));
     DrawTable(of, {{kLeft, of.trials.Left(kGravityTrials + 1)}, of.trials}, kTrials);
 }
 

@@ -102,6 +102,23 @@ class PrintedTable {
         }
     }
 
+    /// Where its cells lie, and which of them are merged.
+    TableShape Shape() const
+    {
+        TableShape shape{.headRows = summary::kHeadRows, .headColumns = summary::kSoil};
+        for (int column = 0; column <= summary::kColumns; ++column) shape.columns.push_back(Left(column));
+        for (int row = 0; row <= summary::kRows; ++row) shape.rows.push_back(Top(row));
+        for (int row = 0; row < summary::kRows; ++row) {
+            for (int column = 0; column < summary::kColumns; ++column) {
+                const CellArea area = grid_.AreaOf(row, column);
+                const bool isOwn = area.row == row && area.column == column;
+                if (isOwn && area.rows * area.columns > 1)
+                    shape.merged.push_back({row, column, area.rows, area.columns});
+            }
+        }
+        return shape;
+    }
+
   private:
     double Left(int column) const { return kMargin + third_ * kEdges[static_cast<std::size_t>(column)]; }
     double Width(int column, int columns) const { return Left(column + columns) - Left(column); }
@@ -146,7 +163,10 @@ void PrintMaker(DrawingSurface& page)
 
 void DrawBanner(const frmSummary& form, DrawingSurface& page)
 {
-    page.PaintPicture(form.imgLogo.Content(), kMargin, kLogoTop, kLogoSide, kLogoSide);
+    {
+        const AsFigure figure(page, "Logo of Terravane");
+        page.PaintPicture(form.imgLogo.Content(), kMargin, kLogoTop, kLogoSide, kLogoSide);
+    }
     PrintName(page, kThaiTop, kThaiColour, kThaiName);
     PrintName(page, kNameTop, kNameColour, kName);
     PrintVersion(page);
@@ -168,6 +188,7 @@ void PrintJob(const frmSummary& form, DrawingSurface& page)
 
 void PrintTitle(DrawingSurface& page)
 {
+    const AsTitle title(page);
     const Bold bold(page);
     const TextSize size(page, kTitleSize);
     page.CurrentY = kTitleTop;
@@ -177,6 +198,7 @@ void PrintTitle(DrawingSurface& page)
 /// Slanted and light, so that it reads as a note below the table.
 void PrintRemark(DrawingSurface& page)
 {
+    const AsLine line(page);
     const Regular regular(page);
     const Italic italic(page);
     const TextSize size(page, kRemarkSize);
@@ -190,6 +212,7 @@ void DrawTable(const frmSummary& form, DrawingSurface& page)
     const PrintedTable table(page, form.mshSum);
     table.DrawFrame();
     table.DrawRules();
+    const AsTable part(page, table.Shape());
     table.PrintHeads();
     table.PrintTestsAndCaptions();
     PrintRemark(page);

@@ -3,6 +3,7 @@
 
 #include <QComboBox>
 #include <QFile>
+#include <QLabel>
 #include <QScrollBar>
 #include <QToolButton>
 #include <QWheelEvent>
@@ -58,6 +59,32 @@ TEST(PreviewWindow, CtrlAndWheelWalkThroughTheThreeSteps)
     EXPECT_EQ(turn(-120), "50%");
     EXPECT_EQ(turn(-120), "50%");
     EXPECT_EQ(turn(120), "75%");
+}
+
+TEST(PreviewWindow, NothingIsToldOfAPageOnWhichAllFits)
+{
+    PreviewFixture running;
+    auto* status = running.Window("frmPreview")->findChild<QLabel*>("status");
+    ASSERT_TRUE(status);
+    EXPECT_EQ(status->text(), "");
+    EXPECT_TRUE(status->isHidden());
+}
+
+TEST(PreviewWindow, ALongProjectNameIsToldInTheStatusLine)
+{
+    DesktopFixture running;
+    running.MakeProject();
+    running.OpenSheet("mnuStd1");
+    Form& sheet = running.FormNamed("frmCompaction");
+    sheet.Get<TextBox>("txtProject")
+        .SetText("Bypass Road of the Northern Province, Section Four, Lot 12, " +
+                 std::string("from the river to the junction with the trunk road"));
+    sheet.Get<CommandButton>("cmdView").Press();
+    QCoreApplication::processEvents();
+    auto* status = running.Window("frmPreview")->findChild<QLabel*>("status");
+    ASSERT_TRUE(status);
+    EXPECT_TRUE(status->isVisible());
+    EXPECT_EQ(status->text().toStdString(), "“Bypass Road of the Northern Province, Se...” runs over “Date of Test”.");
 }
 
 TEST(PreviewWindow, ScrollingMovesThePageUp)

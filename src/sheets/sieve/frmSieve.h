@@ -2,6 +2,7 @@
 /// curve with its diameters, and the sample's place in two classification systems. Masses are in g, sizes in mm.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -176,9 +177,9 @@ struct frmSieve : TestSheet {
     void ClassifyUSCS();
     void ClassifyAASHTO();
     void PostClasses();
-    void DrawPlasticityChart();
+    void DrawPlasticityChart(const std::optional<Limits>& sample = std::nullopt);
     void DrawChartGrid();
-    void DrawZones();
+    void PrintZones();
     void MarkSample(const Limits& limits);
 };
 

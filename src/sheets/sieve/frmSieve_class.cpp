@@ -1,9 +1,13 @@
 // Classify: both systems, the plasticity chart with the sample's mark, and the posting.
 #include <array>
+#include <optional>
+#include <string>
+#include <vector>
 
 #include "runtime/numbers.h"
 #include "runtime/text.h"
 #include "sheets/pattern/plot.h"
+#include "sheets/pattern/plot_labels.h"
 #include "sheets/sieve/aashto.h"
 #include "sheets/sieve/frmSieve.h"
 #include "sheets/sieve/uscs.h"
@@ -85,8 +89,7 @@ void frmSieve::ClassifyUSCS()
     txtSuscs.SetText(symbol);
     txtNuscs.SetText(UscsName(symbol, sample));
     if (limits.PlasticityIndex() == 0) return;  // a non-plastic sample has no place on the chart
-    DrawPlasticityChart();
-    MarkSample(limits);
+    DrawPlasticityChart(limits);
 }
 
 /// A group without a typical name leaves the last one standing.
@@ -108,7 +111,8 @@ void frmSieve::PostClasses()
           {"AASHTO", txtSaash.Text()}});
 }
 
-void frmSieve::DrawPlasticityChart()
+/// A sample's mark goes before the texts of the zones, which stand clear of it.
+void frmSieve::DrawPlasticityChart(const std::optional<Limits>& sample)
 {
     picChart.Cls();
     picChart1.Cls();
@@ -121,7 +125,8 @@ void frmSieve::DrawPlasticityChart()
     picChart.Line(right, scale.Y(kTopOfALine), scale.X(LiquidLimitOnALine(4)), scale.Y(4), kBlue);
     for (const double index : {4.0, 7.0})
         picChart.Line(left, scale.Y(index), scale.X(LiquidLimitOnALine(index)), scale.Y(index), kBlue);
-    DrawZones();
+    if (sample) MarkSample(*sample);
+    PrintZones();
 }
 
 void frmSieve::DrawChartGrid()
@@ -139,14 +144,19 @@ void frmSieve::DrawChartGrid()
     }
 }
 
-void frmSieve::DrawZones()
+void frmSieve::PrintZones()
 {
     const ChartScale scale = ScaleOf(picChart);
+    std::vector<PlotLabel> labels;
     for (const Zone& zone : kZones) {
         const double above = zone.hangs ? kOverLetters : picChart.TextHeight(zone.text) / 2;
-        PrintAt(picChart, scale.X(zone.liquidLimit) - picChart.TextWidth(zone.text) / 2,
-                scale.Y(zone.plasticityIndex) - above, zone.text);
+        const DrawnPoint spot{scale.X(zone.liquidLimit), scale.Y(zone.plasticityIndex)};
+        labels.push_back({.text = std::string(zone.text),
+                          .at = spot,
+                          .wanted = {{spot.x - picChart.TextWidth(zone.text) / 2, spot.y - above}},
+                          .stays = true});
     }
+    PrintLabels(picChart, {0, 0, picChart.ScaleWidth, scale.height}, labels);
 }
 
 void frmSieve::MarkSample(const Limits& limits)

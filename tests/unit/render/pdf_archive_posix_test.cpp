@@ -154,7 +154,7 @@ TEST_F(ArchivedPdf, BringsAProfileWhosePrimariesMakeItsWhite)
 std::set<std::string> ThaiTextsOfTheProgram()
 {
     std::set<std::string> texts;
-    const QRegularExpression quoted("\"([^\"\\\\]*)\"");
+    const QRegularExpression quoted("\"([^\"\\\\\n]*)\"");
     for (const auto& file : std::filesystem::recursive_directory_iterator(std::string(kSourceFolder) + "/src")) {
         if (!file.is_regular_file()) continue;
         std::ostringstream source;

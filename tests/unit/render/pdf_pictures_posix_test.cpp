@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
+#include <cstdlib>
 #include <filesystem>
 #include <memory>
 #include <random>
@@ -43,6 +44,19 @@ class PicturesInPdf : public testing::Test {
         std::array<char, 4096> part;
         while (std::fgets(part.data(), static_cast<int>(part.size()), pipe.get())) text += part.data();
         return text;
+    }
+
+    /// The page as poppler draws it.
+    QImage Shown(const DisplayList& page, int dotsPerInch)
+    {
+        Listed(page);
+        const std::string picture = path_.string() + "_page";
+        const std::string command =
+            "pdftoppm -png -singlefile -r " + std::to_string(dotsPerInch) + " " + path_.string() + " " + picture;
+        EXPECT_EQ(std::system(command.c_str()), 0);
+        const QImage shown(QString::fromStdString(picture + ".png"));
+        std::filesystem::remove(picture + ".png");
+        return shown;
     }
 
   private:
@@ -151,6 +165,43 @@ TEST_F(PicturesInPdf, WithABrokenMarkAreTakenAsUpright)
     }
     file.resize(30);
     EXPECT_THROW(ReadPicture("logo", file), RuntimeError);
+}
+
+/// 16 by 16 dots in four inks, as programs for print write them, with 255 for no ink: on the left 0.9 cyan, 0.1 magenta
+/// and 0.1 yellow, on the right 0.9 magenta, 0.9 yellow and 0.1 black.
+constexpr std::string_view kFourInks =
+    "ffd8ffee000e41646f626500640000000000ffdb004300140e0f120f0d14121012171514181e32211e1c1c1e3d2c2e243249404c4b4740"
+    "4645505a736250556d5645466488656d777b8182814e608d978c7d96737e817cffc000140800100010044311004d11005911004b1100ff"
+    "c4001f0000010501010101010100000000000000000102030405060708090a0bffc400b5100002010303020403050504040000017d0102"
+    "0300041105122131410613516107227114328191a1082342b1c11552d1f02433627282090a161718191a25262728292a3435363738393a"
+    "434445464748494a535455565758595a636465666768696a737475767778797a838485868788898a92939495969798999aa2a3a4a5a6a7"
+    "a8a9aab2b3b4b5b6b7b8b9bac2c3c4c5c6c7c8c9cad2d3d4d5d6d7d8d9dae1e2e3e4e5e6e7e8e9eaf1f2f3f4f5f6f7f8f9faffda000e04"
+    "43004d0059004b00003f00e5aba9aea6bb3af5caf2daf2daab5e475ea55ea556abd72bcb6bcb6aad7fffd9";
+
+// No ink of cyan 0.1 leaves 0.9 of the light: 0.1, 0.9 and 0.9 of 255 on the left; 0.9, 0.1 · 0.9 and 0.1 · 0.9 on the
+// right. An archive's pages know three colours.
+TEST_F(PicturesInPdf, OfFourInksHaveTheirColours)
+{
+    const QByteArray file = QByteArray::fromHex(QByteArray(kFourInks.data(), kFourInks.size()));
+    const DisplayList page = PageWith(Bytes(file.begin(), file.end()));
+    EXPECT_TRUE(Lists(Listed(page), "   16    16  rgb     3   8  jpeg")) << Listed(page);
+    const QImage shown = Shown(page, 72);
+    const QColor left = shown.pixelColor(25 + 15, 25 + 31), right = shown.pixelColor(25 + 47, 25 + 31);
+    EXPECT_NEAR(left.red(), 26, 12);
+    EXPECT_NEAR(left.green(), 230, 12);
+    EXPECT_NEAR(left.blue(), 230, 12);
+    EXPECT_NEAR(right.red(), 230, 12);
+    EXPECT_NEAR(right.green(), 23, 12);
+    EXPECT_NEAR(right.blue(), 23, 12);
+}
+
+TEST_F(PicturesInPdf, ThatAreReadForEveryPageStandInMemoryOnce)
+{
+    const Bytes file = FileOf(Noise(40, 30), "jpeg");
+    const auto logo = ReadPicture("logo", file);
+    EXPECT_EQ(ReadPicture("logo", file), logo);
+    EXPECT_NE(ReadPicture("other", file), logo) << "Answers tell its name.";
+    EXPECT_NE(ReadPicture("logo", FileOf(Noise(41, 30), "jpeg")), logo);
 }
 
 TEST_F(PicturesInPdf, ADrawingsDotsBesideItAreNotWritten)

@@ -172,8 +172,25 @@ TEST_F(SieveClassify, TheChartHasItsLinesAndZones)
     EXPECT_NEAR(blue[3].y1, 3780, 1e-9);
     for (const auto* zone : {"CH or OH", "MH or OH", "CL or OL", "ML or OL", "CL - ML"})
         EXPECT_EQ(TextsOf(sheet.picChart.Items(), zone).size(), 1u) << zone;
+    EXPECT_EQ(TextOn(sheet.picChart.Items(), "CH or OH").y, 900 - sheet.picChart.TextHeight("") / 2);
     EXPECT_EQ(TextOn(sheet.picChart1.Items(), "Plasticity Index (%)").angle, 90);
     EXPECT_EQ(TextOn(sheet.picChart1.Items(), "Plasticity Index (%)").font, (Font{"Times New Roman", 14}));
+}
+
+// The spot of "CH or OH" is a liquid limit of 75 at an index of 55: 4500 across, 900 down.
+TEST_F(SieveClassify, ASampleThatLiesOnAZonesTextIsNotHidden)
+{
+    Classify("86", "74", "51", "21", "75", "20");
+    const auto& items = sheet.picChart.Items();
+    const auto marks = ItemsOf<CircleItem>(items);
+    ASSERT_EQ(marks.size(), 1u);
+    EXPECT_NEAR(marks[0].x, 4500, 1e-9);
+    EXPECT_NEAR(marks[0].y, 900, 1e-9);
+    const TextItem zone = TextOn(items, "CH or OH");
+    const double right = zone.x + TextWidth(zone.font, zone.text), bottom = zone.y + TextHeight(zone.font);
+    const bool isClear = zone.x > 4540 || right < 4460 || zone.y > 940 || bottom < 860;
+    EXPECT_TRUE(isClear) << zone.x << " " << zone.y;
+    EXPECT_EQ(TextOn(items, "MH or OH").y, 3300 - TextHeight(zone.font) / 2) << "The others stay on their spots.";
 }
 
 }  // namespace
