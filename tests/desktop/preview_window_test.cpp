@@ -25,6 +25,13 @@ struct PreviewFixture : DesktopFixture {
     }
     Form& Preview() { return FormNamed("frmPreview"); }
     PictureBox& Page() { return Preview().Get<PictureBox>("picPreview"); }
+    /// The bar at the right of the page.
+    QScrollBar& Down()
+    {
+        for (auto* bar : Window("frmPreview")->findChildren<QScrollBar*>(Qt::FindDirectChildrenOnly))
+            if (bar->orientation() == Qt::Vertical) return *bar;
+        throw std::logic_error("no scroll bar");
+    }
 };
 
 // A4 is 11906 by 16838 twips; half of it 5953 by 8419.
@@ -99,7 +106,7 @@ TEST(PreviewWindow, ScrollingMovesThePageUp)
 TEST(PreviewWindow, APressBesideTheScrollBarsThumbTurnsMostOfAScreen)
 {
     PreviewFixture running;
-    auto& view = *running.Window("frmPreview")->findChild<QScrollBar*>("VScroll1");
+    QScrollBar& view = running.Down();
     view.triggerAction(QAbstractSlider::SliderPageStepAdd);
     EXPECT_EQ(running.Page().Top, -std::min(3000, running.Preview().Get<ScrollBar>("VScroll1").Maximum()));
 }
@@ -108,7 +115,7 @@ TEST(PreviewWindow, AScrollBarWithNothingToScrollIsGrey)
 {
     PreviewFixture running;
     auto& bar = running.Preview().Get<ScrollBar>("VScroll1");
-    const auto& view = *running.Window("frmPreview")->findChild<QScrollBar*>("VScroll1");
+    const QScrollBar& view = running.Down();
     EXPECT_TRUE(view.isEnabled());
     bar.SetMaximum(0);
     EXPECT_FALSE(view.isEnabled());
