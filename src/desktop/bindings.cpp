@@ -18,6 +18,7 @@
 #include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
+#include <algorithm>
 
 #include "controls/form.h"
 #include "desktop/looks.h"
@@ -80,11 +81,14 @@ void ShowOrHide(QWidget& view, bool visible)
 }
 
 /// Line height of Thai is more than a font's own; Qt centres such a line by its height and lifts it by its ascent as
-/// well. The difference, to the pixel for a box as high as its font asks for.
+/// well. The difference, to the pixel for a box as high as its font asks for. Figures and Latin letters, most of what
+/// is loaded into a sheet, need no measuring.
 void AlignToBaseline(QLineEdit& edit, const QString& text)
 {
+    constexpr char16_t kLastLatin = 0xff;
+    const bool isLatin = std::ranges::all_of(text, [](QChar letter) { return letter.unicode() <= kLastLatin; });
     const QFontMetrics font = edit.fontMetrics();
-    const int lifted = (font.size(0, text).height() - font.height() - 1) / 2;
+    const int lifted = isLatin ? 0 : (font.size(0, text).height() - font.height() - 1) / 2;
     if (edit.textMargins().top() != lifted) edit.setTextMargins(0, lifted, 0, -lifted);
 }
 

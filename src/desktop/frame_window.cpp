@@ -206,7 +206,7 @@ void FrameWindow::BuildStrip(QWidget& content)
 SheetWindow* FrameWindow::OpenSheet() const
 {
     for (QMdiSubWindow* window : area_->subWindowList())
-        if (auto* sheet = dynamic_cast<SheetWindow*>(window); sheet && sheet->isEnabled()) return sheet;
+        if (auto* sheet = dynamic_cast<SheetWindow*>(window); sheet && !sheet->isHidden()) return sheet;
     return nullptr;
 }
 
@@ -266,7 +266,10 @@ QWidget* FrameWindow::ShowSheet(Form& sheet)
     window->showMaximized();
     window->widget()->show();
     window->resize(window->size().expandedTo(window->minimumSizeHint()));
-    QTimer::singleShot(0, window, [window] { window->FocusFirstEmpty(); });  // when it is loaded
+    QTimer::singleShot(0, window, [window, &sheet] {    // when it is loaded
+        window->setWindowTitle(ToQt(sheet.Caption()));  // Qt measures a title anew with every change of the window
+        window->FocusFirstEmpty();
+    });
     return window;
 }
 
@@ -279,7 +282,6 @@ void FrameWindow::closeEvent(QCloseEvent* event)
 
 SheetWindow::SheetWindow(Program& program, Form& sheet) : program_(program), form_(sheet), next_(sheet)
 {
-    setWindowTitle(ToQt(sheet.Caption()));
     for (QAction* action : systemMenu()->actions()) action->setShortcut({});  // Ctrl+W asks first
 }
 
@@ -303,6 +305,7 @@ void SheetWindow::Fill(QHBoxLayout& tools)
     view_ = new FormView(form_, LayoutOf(form_.Name()), content);
     view_->TypedIn = [this](const Control& control) { Typed(control); };
     view_->CommandPressed = [this](Control& command) { CommandPressed(command); };
+    view_->PageMade = [this] { ShowNext(); };
     column->addWidget(view_, 1);
     AddChip();
     auto* status = new QStatusBar(content);
@@ -371,7 +374,7 @@ void SheetWindow::ShowNext()
 {
     const CommandButton* next = next_.Find();
     for (CommandButton* command : ControlsOf<CommandButton>(form_)) {
-        auto* view = dynamic_cast<QPushButton*>(view_->ViewOf(*command));
+        auto* view = dynamic_cast<QPushButton*>(view_->MadeViewOf(*command));
         if (view && view->isDefault() != (command == next)) view->setDefault(command == next);
     }
 }

@@ -26,7 +26,8 @@ constexpr int kMostRowsUnscrolled = 20;
 constexpr int kLeastColumnWidth = 56;
 constexpr int kMostColumnWidth = 110;
 constexpr double kHeadTint = 0.06, kWorkedOutTint = 0.03, kHairline = 0.16;  // of the ink in the ground
-constexpr int kUnbroken = 4000;                                              // room for any title in one line
+constexpr std::size_t kMostSizesKept = 10000;
+constexpr int kUnbroken = 4000;  // room for any title in one line
 
 bool IsMerged(const TextGrid& grid, int column)
 {
@@ -61,6 +62,13 @@ QColor GroundOf(const TextGrid& grid, int row, int column, const QPalette& palet
 bool BeginsGroup(const TextGrid& grid, int row)
 {
     return row > 0 && IsMerged(grid, 0) && grid.AreaOf(row, 0).row == row;
+}
+
+/// What texts need in a font, for all grids of the program.
+TextSizes& SizesIn(const QFont& font)
+{
+    static std::map<QString, TextSizes> sizes;
+    return sizes[font.key()];
 }
 
 /// The editor of that kind that floats over the grid, if any.
@@ -285,10 +293,12 @@ void GridView::ShowEditors()
     selectRequestsSeen_ = editor_->SelectAllRequests();
 }
 
-/// Layouts ask for the same sizes many times over, and breaking texts into lines is slow.
+/// Layouts ask for the same sizes many times over, sheet after sheet, and breaking texts into lines is slow.
 QSize GridView::TextSize(const std::string& text, int room) const
 {
-    const auto [known, isNew] = textSizes_.try_emplace({text, room});
+    if (!textSizes_) textSizes_ = &SizesIn(font());
+    if (textSizes_->size() > kMostSizesKept) textSizes_->clear();
+    const auto [known, isNew] = textSizes_->try_emplace({text, room});
     if (isNew) {
         const auto shown = QString::fromStdString(text).trimmed();
         known->second = fontMetrics().boundingRect(QRect(0, 0, room, 1000), Qt::TextWordWrap, shown).size();
@@ -355,7 +365,7 @@ QSize GridView::sizeHint() const
 
 void GridView::changeEvent(QEvent* event)
 {
-    if (event->type() == QEvent::FontChange) textSizes_.clear();
+    if (event->type() == QEvent::FontChange) textSizes_ = nullptr;
     QTableView::changeEvent(event);
 }
 

@@ -19,6 +19,9 @@ namespace terravane {
 
 class GridModel;
 
+/// By text and the room in which its lines are broken, pixels.
+using TextSizes = std::map<std::pair<std::string, int>, QSize>;
+
 class GridView : public QTableView {
   public:
     GridView(TextGrid& grid, QWidget* parent);
@@ -88,7 +91,7 @@ class GridView : public QTableView {
     ListCellEditor* listEditor_;
     QComboBox* list_ = nullptr;
     int selectRequestsSeen_ = 0;
-    mutable std::map<std::pair<std::string, int>, QSize> textSizes_;  // by text and its room, in the view's font
+    mutable TextSizes* textSizes_ = nullptr;  // in the view's font
     Bindings bindings_;
 };
 
