@@ -40,6 +40,12 @@ auto SelectsWhenAsked(const Control& control, View& view)
     };
 }
 
+QString ShownText(const std::string& text)
+{
+    const auto whole = ToQt(text);
+    return whole.trimmed().isEmpty() ? QString() : whole;
+}
+
 void ShowList(QComboBox& view, const std::vector<std::string>& list)
 {
     QStringList items;
@@ -49,18 +55,6 @@ void ShowList(QComboBox& view, const std::vector<std::string>& list)
     if (items == present) return;
     view.clear();
     view.addItems(items);
-}
-
-/// The entry whose text stands in the box, or none: the arrow keys go on from there. What is being typed keeps its
-/// place.
-void ShowEntry(QComboBox& view, const std::string& text)
-{
-    const int entry = view.findText(ToQt(text), Qt::MatchExactly | Qt::MatchCaseSensitive);
-    if (entry == view.currentIndex()) return ShowText(*view.lineEdit(), text);
-    const int cursor = view.lineEdit()->cursorPosition();
-    view.setCurrentIndex(entry);
-    ShowText(*view.lineEdit(), text);
-    view.lineEdit()->setCursorPosition(cursor);
 }
 
 bool IsPlatforms(Colour colour)
@@ -92,6 +86,22 @@ void AlignToBaseline(QLineEdit& edit, const QString& text)
     if (edit.textMargins().top() != lifted) edit.setTextMargins(0, lifted, 0, -lifted);
 }
 
+/// The entry whose text stands in the box, or none: the arrow keys go on from there. What is being typed keeps its
+/// place.
+void ShowEntry(QComboBox& view, const std::string& text)
+{
+    const int entry = view.findText(ToQt(text), Qt::MatchExactly | Qt::MatchCaseSensitive);
+    if (entry == view.currentIndex()) return ShowText(*view.lineEdit(), text);
+    const int cursor = view.lineEdit()->cursorPosition();
+    {
+        const QSignalBlocker quiet(view.lineEdit());  // an index of none empties the box for a moment
+        view.setCurrentIndex(entry);
+    }
+    ShowText(*view.lineEdit(), text);
+    AlignToBaseline(*view.lineEdit(), view.lineEdit()->text());
+    view.lineEdit()->setCursorPosition(cursor);
+}
+
 /// With a box to type in. Qt would give it a completer, which costs more than the rest of the combo; where there is one
 /// already it makes none.
 void MakeEditable(QComboBox& view)
@@ -102,6 +112,7 @@ void MakeEditable(QComboBox& view)
     view.setLineEdit(box);
     view.setCompleter(nullptr);
     KeepAlignedToBaseline(*box);
+    box->setAccessibleName(view.accessibleName());
 }
 
 QIcon PictureOf(Icon icon)
@@ -152,9 +163,23 @@ void KeepAlignedToBaseline(QLineEdit& edit)
 
 void ShowText(QLineEdit& edit, const std::string& text)
 {
-    const auto whole = ToQt(text);
-    const auto shown = whole.trimmed().isEmpty() ? QString() : whole;
+    const auto shown = ShownText(text);
     if (shown != edit.text()) edit.setText(shown);
+}
+
+/// Such a text comes without the key's signal.
+void TakeTextsOfOthers(QLineEdit& edit, const TextControl& control)
+{
+    QObject::connect(&edit, &QLineEdit::textChanged, &edit, [&edit, &control] {
+        if (edit.text() != ShownText(control.Text())) emit edit.textEdited(edit.text());
+    });
+}
+
+void NameForEars(QWidget& view, const QString& name)
+{
+    view.setAccessibleName(name);
+    if (auto* combo = qobject_cast<QComboBox*>(&view); combo && combo->lineEdit())
+        combo->lineEdit()->setAccessibleName(name);
 }
 
 QString PlainCaption(const Control& control)
@@ -182,6 +207,7 @@ Subscription Bind(TextBox& box, QLineEdit& edit)
     KeepAlignedToBaseline(edit);
     QObject::connect(&edit, &QLineEdit::textEdited, &edit,  // the user's typing only, never setText
                      [&box](const QString& text) { box.Type(text.toStdString()); });
+    TakeTextsOfOthers(edit, box);
     return box.Show([&box, &edit, select = SelectsWhenAsked(box, edit)]() mutable {
         ShowText(edit, box.Text());
         edit.setReadOnly(box.Locked());
@@ -195,6 +221,7 @@ Subscription Bind(ComboBox& combo, QComboBox& view)
     view.setInsertPolicy(QComboBox::NoInsert);
     QObject::connect(view.lineEdit(), &QLineEdit::textEdited, &view,
                      [&combo](const QString& text) { combo.Type(text.toStdString()); });
+    TakeTextsOfOthers(*view.lineEdit(), combo);
     QObject::connect(&view, &QComboBox::activated, &view,
                      [&combo](int index) { combo.Choose(static_cast<std::size_t>(index)); });
     return combo.Show([&combo, &view, select = SelectsWhenAsked(combo, *view.lineEdit())]() mutable {

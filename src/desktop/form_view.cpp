@@ -174,7 +174,7 @@ QWidget* FormView::Make(const Place& place, QWidget& parent)
             return MakePicture(place, parent);
         case Place::Kind::Control: {
             QWidget* view = MakeControl(form_.Get<Control>(place.control), parent);
-            if (!place.text.empty()) view->setAccessibleName(ToQt(place.text));
+            if (!place.text.empty()) NameForEars(*view, ToQt(place.text));
             return view;
         }
         case Place::Kind::Space:
@@ -231,7 +231,7 @@ void FormView::AddFieldRow(QFormLayout& fields, const Place& place)
     auto* caption = MakeCaption(control, view, &parent);
     if (!place.text.empty()) {
         caption->setText(ToQt(place.text));
-        view->setAccessibleName(caption->text());
+        NameForEars(*view, caption->text());
     }
     fields.addRow(caption, view);
 }

@@ -81,8 +81,8 @@ FrameWindow::FrameWindow(Program& program, Journal& journal, Form& frame)
     column->addWidget(area_, 1);
     setCentralWidget(content);
     notices_ = new NoticeBar(
-        program.notices, [this](const NoticePlace& place) { LeadTo(program_, place); }, area_);
-    start_ = new StartPage(program, frame, area_);
+        program.notices, [this](const NoticePlace& place) { LeadTo(program_, place); }, content);
+    start_ = new StartPage(program, frame, content);
     area_->installEventFilter(this);
     BuildKeys();
     connect(this, &QWidget::windowTitleChanged, this, [this] { KeepTitle(); });
@@ -194,12 +194,14 @@ void FrameWindow::BuildStrip(QWidget& content)
     auto* view = new QLabel(&content);
     view->setFixedHeight(looks::kStripHeight);
     bindings_.push_back(BindFurniture(strip, *view));
-    bindings_.push_back(strip.Show([this, &strip, view] {
+    const auto tell = [this, &strip, view] {
         const bool isChosen = form_.Get<Toolbar>("tbrLab").Enabled();
         view->setToolTip(strip.ToolTip().empty() ? (isChosen ? tr("Project open") : tr("No project"))
                                                  : ToQt(strip.ToolTip()));
         view->setAccessibleName(view->toolTip());
-    }));
+    };
+    bindings_.push_back(strip.Show(tell));
+    bindings_.push_back(form_.Get<Toolbar>("tbrLab").Show(tell));
     content.layout()->addWidget(view);
 }
 
@@ -235,13 +237,14 @@ void FrameWindow::BuildKeys()
     });
 }
 
-/// Over the banner, so that no grid moves under the hand; the chip at its end stays in sight.
+/// The notices stand over the banner, so that no grid moves under the hand; the chip at its end stays in sight. In the
+/// area itself ears would hear the sheets alone.
 bool FrameWindow::eventFilter(QObject* watched, QEvent* event)
 {
     constexpr int kChipRoom = 148;
-    if (watched == area_ && event->type() == QEvent::Resize) {
-        notices_->setGeometry(0, 0, area_->width() - kChipRoom, looks::kBannerHeight);
-        start_->Settle();
+    if (watched == area_ && (event->type() == QEvent::Resize || event->type() == QEvent::Move)) {
+        notices_->setGeometry(area_->x(), area_->y(), area_->width() - kChipRoom, looks::kBannerHeight);
+        start_->Settle(area_->geometry());
     }
     return SettledWindow<QMainWindow>::eventFilter(watched, event);
 }

@@ -1,6 +1,7 @@
 #include "desktop/grid_view.h"
 
 #include <QAbstractTableModel>
+#include <QAccessible>
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QHeaderView>
@@ -10,6 +11,7 @@
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QStyledItemDelegate>
+#include <QTimer>
 #include <algorithm>
 
 #include "controls/visit_control.h"
@@ -240,6 +242,7 @@ void GridView::MakeEditorBox()
     box_->setProperty("isEditor", true);  // named when it stands over a cell
     box_->hide();
     connect(box_, &QLineEdit::textEdited, this, [this](const QString& text) { editor_->Type(text.toStdString()); });
+    TakeTextsOfOthers(*box_, *editor_);
     bindings_.push_back(editor_->Show([this] { ShowEditors(); }));
 }
 
@@ -260,8 +263,7 @@ void GridView::NameEditors()
     if (grid_.Row() >= grid_.Rows()) return;
     const QString words = ToQt(CellWords(grid_, grid_.Row(), grid_.Column()));
     for (QWidget* editor : {static_cast<QWidget*>(box_), static_cast<QWidget*>(list_)})
-        if (editor && editor->accessibleName() != words) editor->setAccessibleName(words);
-    if (list_) list_->lineEdit()->setAccessibleName(words);
+        if (editor && editor->accessibleName() != words) NameForEars(*editor, words);
 }
 
 /// Over the current cell, or hidden; false where it is hidden.
@@ -461,8 +463,10 @@ void GridView::focusInEvent(QFocusEvent* event)
 {
     QTableView::focusInEvent(event);
     viewport()->update();
+    if (QAccessible::isActive()) QTimer::singleShot(0, this, [this] { SpeakFocus(); });
     if (!editor_) return;
     const CellRange range = editor_->Range();
+    if (!CanBeOpened(grid_.Row(), grid_.Column())) grid_.Select(range.firstRow, range.firstColumn);
     if (event->reason() == Qt::TabFocusReason) grid_.PressMouse(MouseButton::Left, range.firstRow, range.firstColumn);
     if (event->reason() == Qt::BacktabFocusReason) ShowCell(range.lastRow, range.lastColumn);
 }
@@ -479,6 +483,13 @@ bool GridView::IsTyped(int row, int column) const
     return (holds(editor_) || holds(listEditor_)) && !grid_.IsCalculated(row, column);
 }
 
+/// Some cells open something else than the editor, a date its calendar: what a press does there is the form's.
+bool GridView::CanBeOpened(int row, int column) const
+{
+    const bool isPlain = row >= grid_.HeadRows() && !HoldsTitles(grid_, column) && !grid_.IsCalculated(row, column);
+    return IsTyped(row, column) || (editor_ && isPlain);
+}
+
 void GridView::ShowCell(int row, int column)
 {
     if (row < 0 || row >= grid_.Rows() || column < 0 || column >= grid_.Columns()) return;
@@ -487,6 +498,7 @@ void GridView::ShowCell(int row, int column)
     grid_.Select(row, column);
     setFocus(Qt::OtherFocusReason);
     if (model()) scrollTo(model_->index(row, column));
+    SpeakCurrent();
     viewport()->update();
 }
 
@@ -530,7 +542,7 @@ bool GridView::WalkByTab(bool isBack)
 
 bool GridView::OpenCurrent()
 {
-    if (!IsTyped(grid_.Row(), grid_.Column())) return false;
+    if (!CanBeOpened(grid_.Row(), grid_.Column())) return false;
     grid_.PressMouse(MouseButton::Left, grid_.Row(), grid_.Column());
     return true;
 }
@@ -539,14 +551,35 @@ bool GridView::OpenCurrent()
 void GridView::MoveCurrent(int down, int right)
 {
     int row = grid_.Row() + down, column = grid_.Column() + right;
-    while (row >= 0 && row < grid_.Rows() && column >= 0 && column < grid_.Columns() && !IsTyped(row, column)) {
+    while (row >= 0 && row < grid_.Rows() && column >= 0 && column < grid_.Columns() && !CanBeOpened(row, column)) {
         row += down;
         column += right;
     }
     if (row < 0 || row >= grid_.Rows() || column < 0 || column >= grid_.Columns()) return;
     grid_.Select(row, column);
     scrollTo(model_->index(row, column));
+    SpeakCurrent();
     viewport()->update();
+}
+
+/// When the grid has taken the focus Qt tells ears of the grid; by then it is a cell or its editor that has it.
+void GridView::SpeakFocus()
+{
+    for (QWidget* editor : {static_cast<QWidget*>(box_), static_cast<QWidget*>(list_)}) {
+        if (!editor || !editor->hasFocus()) continue;
+        QAccessibleEvent focus(editor, QAccessible::Focus);
+        return QAccessible::updateAccessibility(&focus);
+    }
+    if (hasFocus()) SpeakCurrent();
+}
+
+/// Qt tells ears of the cell that it takes for the current one.
+void GridView::SpeakCurrent()
+{
+    if (!model()) return;
+    const QModelIndex cell = model_->index(grid_.Row(), grid_.Column());
+    selectionModel()->setCurrentIndex({}, QItemSelectionModel::NoUpdate);
+    selectionModel()->setCurrentIndex(cell, QItemSelectionModel::NoUpdate);
 }
 
 /// With the grid's own focus, after Esc: arrows move the edge, what types a text or F2 or Enter opens the cell.

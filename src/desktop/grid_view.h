@@ -64,9 +64,12 @@ class GridView : public QTableView {
 
   private:
     bool IsTyped(int row, int column) const;
+    bool CanBeOpened(int row, int column) const;
     bool OpenCurrent();
     void MoveCurrent(int down, int right);
     void NameEditors();
+    void SpeakCurrent();
+    void SpeakFocus();
     int TitlesWidth() const;
     QSize SizeFor(int mostRows, int columnWidth) const;
     void AttachModel();

@@ -64,12 +64,12 @@ StartPage::StartPage(Program& program, Form& frame, QWidget* parent) : QWidget(p
     bindings_.push_back(form_.Get<Toolbar>("tbrLab").Show([this] { Follow(); }));
 }
 
-void StartPage::Settle()
+void StartPage::Settle(const QRect& room)
 {
+    room_ = room;
     layout()->activate();
     adjustSize();
-    const QSize room = parentWidget()->size();
-    move((room.width() - width()) / 2, (room.height() - height()) / 3);
+    move(room.left() + (room.width() - width()) / 2, room.top() + (room.height() - height()) / 3);
 }
 
 QPushButton* StartPage::Add(QVBoxLayout& column, const QString& name, const QString& text)
@@ -90,7 +90,7 @@ void StartPage::AddRecent(QVBoxLayout& column)
     bindings_.push_back(command.Show([this, &command] {
         recent_->setText(RecentWords(QFileInfo(ToQt(Printable(command.Caption())))));
         recent_->setVisible(command.Visible());
-        Settle();
+        Settle(room_);
     }));
 }
 
