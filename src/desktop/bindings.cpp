@@ -119,11 +119,11 @@ QIcon PictureOf(Icon icon)
 {
     switch (icon) {
         case Icon::Save:
-            return looks::StandardIcon(QStyle::SP_DialogSaveButton);
+            return looks::SignIcon(looks::Sign::Save);
         case Icon::Print:
-            return looks::StandardIcon(QStyle::SP_FileDialogDetailedView);
+            return looks::SignIcon(looks::Sign::Page);
         case Icon::Close:
-            return looks::StandardIcon(QStyle::SP_DialogCloseButton);
+            return looks::SignIcon(looks::Sign::Cross);
         case Icon::None:
             break;
     }

@@ -24,12 +24,14 @@
 #include "controls/text_controls.h"
 #include "controls/text_grid.h"
 #include "controls/visit_control.h"
+#include "desktop/appearance.h"
 #include "desktop/grid_view.h"
 #include "desktop/looks.h"
 #include "desktop/picture_view.h"
 #include "desktop/plot_view.h"
 #include "desktop/qt_text.h"
 #include "program/cell_words.h"
+#include "program/next_command.h"
 #include "render/decoded_pictures.h"
 
 namespace terravane {
@@ -320,9 +322,9 @@ QWidget* FormView::MakeResult(const Place& place, QWidget& parent)
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(2);
     QWidget* figure = MakeControl(box, *widget);
-    figure->setFont(looks::Scaled(figure->font(), looks::kFigureSize, true));
+    ScaleLetters(*figure, looks::kFigureSize, true);
     auto* caption = MakeCaption(box, figure, widget);
-    caption->setFont(looks::Scaled(caption->font(), looks::kCaptionSize));
+    ScaleLetters(*caption, looks::kCaptionSize);
     column->addWidget(caption);
     auto* row = new QHBoxLayout;
     row->setSpacing(looks::kGap);
@@ -338,7 +340,7 @@ QWidget* FormView::MakeBanner(const Place& place, QWidget& parent)
     auto& box = form_.Get<TextBox>(place.control);
     auto* banner = new QLabel(&parent);
     banner->setAlignment(Qt::AlignCenter);
-    banner->setFont(looks::Scaled(banner->font(), looks::kBannerSize, true));
+    ScaleLetters(*banner, looks::kBannerSize, true);
     banner->setMinimumHeight(looks::kBannerHeight);
     banner->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     bindings_.push_back(BindFurniture(box, *banner));
@@ -369,8 +371,28 @@ void FormView::NamePlots(const Place& page)
                 view->setAccessibleName(words.isEmpty() ? tr("Curve, no result yet")
                                                         : tr("Curve: ") + words.join(", "));
     };
+    TellWhatDraws(page, plots);
     for (const Place* result : results) bindings_.push_back(form_.Get<TextBox>(result->control).Show(name));
     name();
+}
+
+/// Of the commands on the page the one that comes last in the method's order.
+void FormView::TellWhatDraws(const Place& page, const std::vector<const Place*>& plots)
+{
+    const laboratory::Sheet* sheet = SheetOfForm(form_.Name());
+    if (!sheet || plots.empty()) return;
+    const auto names = PlacedControls(page);
+    std::string_view drawing;
+    for (const std::string_view command : sheet->commands)
+        if (std::ranges::find(names, command) != names.end()) drawing = command;
+    if (drawing.empty()) return;
+    const QString sentence = tr("%1 draws the curve here").arg(PlainCaption(form_.Get<Control>(drawing)));
+    for (const Place* plot : plots) {
+        auto* view = dynamic_cast<PlotView*>(MadeViewOf(form_.Get<Control>(plot->control)));
+        if (!view) continue;
+        view->WaitFor(sentence);
+        view->setAccessibleDescription(sentence);
+    }
 }
 
 QWidget* FormView::MakePlot(const Place& place, QWidget& parent)

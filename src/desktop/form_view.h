@@ -59,6 +59,7 @@ class FormView : public QWidget {
     QWidget* MakeResult(const Place& place, QWidget& parent);
     QWidget* MakeBanner(const Place& place, QWidget& parent);
     void NamePlots(const Place& page);
+    void TellWhatDraws(const Place& page, const std::vector<const Place*>& plots);
     QWidget* MakePlot(const Place& place, QWidget& parent);
     QWidget* MakePicture(const Place& place, QWidget& parent);
     QWidget* MakeGrid(class TextGrid& grid, QWidget& parent);

@@ -11,6 +11,7 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollArea>
 #include <QStatusBar>
 #include <QTimer>
 #include <QToolBar>
@@ -22,6 +23,7 @@
 #include "controls/choice_controls.h"
 #include "controls/furniture.h"
 #include "controls/visit_control.h"
+#include "desktop/appearance.h"
 #include "desktop/edit_menu.h"
 #include "desktop/history_panel.h"
 #include "desktop/keys.h"
@@ -124,6 +126,8 @@ void FrameWindow::BuildViewMenu()
     view->setObjectName("view");
     view->addAction(tr("&Notices"), this, [this] { ShowToldNotices(program_.notices, this); });
     view->addAction(tr("&Keys"), this, [this] { ShowKeys(this); });
+    view->addSeparator();
+    AddAppearance(program_, *view);
 }
 
 void FrameWindow::AddHistoryPanel(Journal& journal)
@@ -243,10 +247,18 @@ bool FrameWindow::eventFilter(QObject* watched, QEvent* event)
 {
     constexpr int kChipRoom = 148;
     if (watched == area_ && (event->type() == QEvent::Resize || event->type() == QEvent::Move)) {
-        notices_->setGeometry(area_->x(), area_->y(), area_->width() - kChipRoom, looks::kBannerHeight);
+        const int height = std::max(looks::kBannerHeight, fontMetrics().height() + looks::kGap);
+        notices_->setGeometry(area_->x(), area_->y(), area_->width() - kChipRoom, height);
         start_->Settle(area_->geometry());
     }
     return SettledWindow<QMainWindow>::eventFilter(watched, event);
+}
+
+/// The ground behind the sheets is no widget's own and does not follow by itself.
+void FrameWindow::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::PaletteChange && area_) area_->setBackground(palette().brush(QPalette::Mid));
+    SettledWindow<QMainWindow>::changeEvent(event);
 }
 
 void FrameWindow::resizeEvent(QResizeEvent* event)
@@ -305,11 +317,16 @@ void SheetWindow::Fill(QHBoxLayout& tools)
     bindings_.push_back(Bind(form_.Get<Toolbar>("tblMenu"), *bar_));
     bar_->setAccessibleName(tr("Sheet"));
     tools.addWidget(bar_);
-    view_ = new FormView(form_, LayoutOf(form_.Name()), content);
+    view_ = new FormView(form_, LayoutOf(form_.Name()));
     view_->TypedIn = [this](const Control& control) { Typed(control); };
     view_->CommandPressed = [this](Control& command) { CommandPressed(command); };
     view_->PageMade = [this] { ShowNext(); };
-    column->addWidget(view_, 1);
+    auto* room = new QScrollArea(content);  // for letters so large that not even what heads the sheet has room
+    room->setFrameShape(QFrame::NoFrame);
+    room->setWidgetResizable(true);
+    room->setFocusPolicy(Qt::NoFocus);
+    room->setWidget(view_);
+    column->addWidget(room, 1);
     AddChip();
     auto* status = new QStatusBar(content);
     status->setObjectName("stbDes");
@@ -344,7 +361,7 @@ void SheetWindow::AddChip()
     row->addWidget(chip);
     chip->setFrameShape(QFrame::Box);
     chip->setContentsMargins(looks::kGap, 1, looks::kGap, 1);  // the frame is drawn inside them
-    chip->setFixedHeight(looks::kBannerHeight - 12);
+    chip->setFixedHeight(std::max(looks::kBannerHeight - 12, chip->fontMetrics().height() + 4));
     bindings_.push_back(banner.Show([this, chip, view] {
         QTimer::singleShot(0, chip, [this, chip, view] {  // the banner is written before the material is chosen
             if (program_.CurrentMaterial == Material::None) return;

@@ -35,6 +35,7 @@ class FrameWindow : public SettledWindow<QMainWindow> {
 
   protected:
     void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -52,7 +53,7 @@ class FrameWindow : public SettledWindow<QMainWindow> {
     Program& program_;
     Form& form_;
     notes::NotesWatch watch_;
-    QMdiArea* area_;
+    QMdiArea* area_ = nullptr;
     QHBoxLayout* tools_ = nullptr;
     QLabel* project_ = nullptr;
     NoticeBar* notices_ = nullptr;

@@ -316,7 +316,7 @@ int GridView::CurrentWidth(int column) const
 
 int GridView::MinimumRowHeight(int row) const
 {
-    int height = looks::kGridRowHeight;
+    int height = std::max(looks::kGridRowHeight, fontMetrics().height() + looks::kGap);
     if (row >= grid_.HeadRows()) return height;
     for (int column = 0; column < grid_.Columns(); ++column) {
         height = std::max(height, TextSize(std::as_const(grid_)(row, column), CurrentWidth(column) - 4).height() + 8);

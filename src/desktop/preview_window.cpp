@@ -134,7 +134,7 @@ void PreviewWindow::BuildBar(QToolBar& bar)
     pdf->setText(tr("Save as PDF"));
     pdf->setAccessibleName(pdf->text());
     pdf->setObjectName("savePdf");
-    pdf->setIcon(looks::StandardIcon(QStyle::SP_DialogSaveButton));
+    pdf->setIcon(looks::SignIcon(looks::Sign::Save));
     pdf->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     connect(pdf, &QToolButton::clicked, this, [this] { SaveAsPdf(); });
     bar.addWidget(pdf);

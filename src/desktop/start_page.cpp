@@ -10,6 +10,7 @@
 #include <string>
 
 #include "app/mdiBack.h"
+#include "desktop/appearance.h"
 #include "desktop/looks.h"
 #include "desktop/qt_text.h"
 #include "runtime/machine.h"
@@ -44,7 +45,7 @@ QString RecentWords(const QFileInfo& file)
 StartPage::StartPage(Program& program, Form& frame, QWidget* parent) : QWidget(parent), program_(program), form_(frame)
 {
     setObjectName("startPage");
-    setFixedWidth(kWidth);
+    setMinimumWidth(kWidth);
     setAccessibleName(tr("Start"));
     auto* column = new QVBoxLayout(this);
     column->setSpacing(looks::kMargin);
@@ -56,7 +57,7 @@ StartPage::StartPage(Program& program, Form& frame, QWidget* parent) : QWidget(p
     for (const char* entry : {"mnuNew", "mnuOpen"}) {
         auto& command = form_.Get<MenuEntry>(entry);
         auto* button = Add(*column, QString("start_") + entry, ToQt(command.Caption()));
-        button->setFont(looks::Scaled(button->font(), looks::kFigureSize, true));
+        ScaleLetters(*button, looks::kFigureSize, true);
         connect(button, &QPushButton::clicked, this, [&command] { command.Press(); });
     }
     AddRecent(*column);

@@ -36,7 +36,7 @@ SPOKEN = {
     "txtSoil": "Sample", "cboTest": "Tested by", "cboCheck": "Checked by", "txtPosition": "Position",
     "txtDia": "Dia. of Mold (cm)", "txtHeight": "Ht. of Mold (cm)", "cboWt": "Wt. Hammer", "cboBlow": "Blows/Layer",
     "cboLayer": "No.Layers", "chkSatLine": "AV Line", "txtGs": "Gs",
-    "txtGsoil": "น้ำหนักดินแห้งเริ่มต้น", "txtDwp": "น้ำนหักดินหลังจากล้างน้ำ", "lstSieve": "Select Sieve Size",
+    "txtGsoil": "Dry Mass of Original Sample, (g)", "txtDwp": "Dry Mass after Washing , (g)", "lstSieve": "Select Sieve Size",
     "txtK": "K Constant", "txtWeight": "Surcharge",
     "optNo": "Dry", "optYes": "Wet", "optSoak": "Soaked",
     "cmdOK": "Accept", "cmdCal": "Calculate", "cmdOMC": "Compaction Curve", "cmdPlot": "Plot Graph",
@@ -50,6 +50,7 @@ SPOKEN = {
 }
 # The same word of a script is spoken otherwise on some sheets.
 SPOKEN_ON = {
+    ("Spe", "cmdgraph"): "Plot Graph Calibration",
     ("Den", "optStd"): "Standard Compaction", ("Den", "optMod"): "Modified Compaction",
     ("CBR", "optStd"): "Standard Proctor", ("CBR", "optMod"): "Modified Proctor",
 }
@@ -92,8 +93,10 @@ class Ears:
         while time.monotonic() < end:
             if (result := found()) is not None and result is not False:
                 return result
+            self.answer_boxes()
             self.listen()
-        sys.exit(f"{what} is not heard; the focus is on {self.focus_name()!r}")
+        shown = sorted({f"{thing.get_role_name()} {name}" for thing, name in self.walk() if name and self.is_shown(thing)})
+        sys.exit(f"{what} is not heard; the focus is on {self.focus_name()!r}; there are {shown}")
 
     def focus_name(self):
         try:
@@ -132,9 +135,10 @@ class Ears:
             return False
 
     def find(self, name, *roles, start=None):
-        plain = name.rstrip(" :")
+        """The first of the name that is in sight; of an entry in a list that is named, also one that scrolling shows."""
         for thing, heard in self.walk(start):
-            if heard.rstrip(" :") == plain and (not roles or thing.get_role_name() in roles) and self.is_shown(thing):
+            is_called = " ".join(heard.split()).rstrip(" :") == name
+            if is_called and (not roles or thing.get_role_name() in roles) and (start or self.is_shown(thing)):
                 return thing
         return None
 
@@ -149,6 +153,13 @@ class Ears:
         except self.errors():
             pass  # it opened something that asks
         self.listen(5 * TICK)
+
+    def answer_boxes(self):
+        """A box that says something is closed, as scripts do."""
+        while self.focus_name() == "OK":
+            self.focused = None
+            self.key(ENTER)
+            self.listen(10 * TICK)
 
     def key(self, code):
         self.atspi.generate_keyboard_event(code, None, self.atspi.KeySynthType.SYM)
@@ -185,6 +196,7 @@ class Technician:
     def do(self, line):
         word, *rest = shlex.split(line, comments=not line.startswith("select"))
         getattr(self, "do_" + word)(*rest)
+        self.ears.answer_boxes()
 
     def do_answer(self, name):
         self.answer = str(self.folder / name)
@@ -194,6 +206,7 @@ class Technician:
             return self.new_project()
         self.sheet, self.cells = name[3:6], {}
         test, material = TESTS[self.sheet], MATERIALS[name[6]]
+        self.ears.answer_boxes()
         self.walk_to(test)
         self.ears.key(SPACE)
         self.ears.key(DOWN)
@@ -237,7 +250,7 @@ class Technician:
 
     def do_click(self, control):
         self.bring(control)
-        thing = self.ears.place(self.spoken(control), "push button", "radio button")
+        thing = self.ears.place(self.spoken(control), "push button", "radio button", "check box")
         self.ears.press(thing, "Press" if thing.get_role_name() == "push button" else "Toggle")
 
     def do_check(self, control, _on):
@@ -263,14 +276,15 @@ class Technician:
         self.ears.wait("that the sheet is closed", lambda: self.ears.find("Exit Screen", "push button") is None)
 
     def bring(self, control):
-        """Turns the pages until the name is heard."""
+        """Turns the pages until the place is heard."""
         name = self.spoken(control)
-        if self.ears.find(name):
+        roles = ["table"] if control.startswith("MSH") else ["push button", "radio button", "check box", "text"]
+        if self.ears.find(name, *roles):
             return
         for tab in [thing for thing, _ in self.ears.walk() if thing.get_role_name() == "page tab"]:
             self.ears.press(tab)
             self.ears.listen(3 * TICK)
-            if self.ears.find(name):
+            if self.ears.find(name, *roles):
                 return
         sys.exit(f"no page has {name!r}")
 
@@ -324,7 +338,7 @@ class Technician:
                 return
             if self.in_any_table():
                 self.ears.key(ESCAPE)
-            self.ears.key(TAB); print("tab", self.ears.focus_name(), self.ears.focused.get_role_name(), flush=True)
+            self.ears.key(TAB)
         sys.exit(f"Tab does not lead to {self.spoken(control)}; the focus is on {self.ears.focus_name()!r}")
 
     def tables_around(self):
