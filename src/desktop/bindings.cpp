@@ -93,12 +93,8 @@ void ShowEntry(QComboBox& view, const std::string& text)
     const int entry = view.findText(ToQt(text), Qt::MatchExactly | Qt::MatchCaseSensitive);
     if (entry == view.currentIndex()) return ShowText(*view.lineEdit(), text);
     const int cursor = view.lineEdit()->cursorPosition();
-    {
-        const QSignalBlocker quiet(view.lineEdit());  // an index of none empties the box for a moment
-        view.setCurrentIndex(entry);
-    }
+    view.setCurrentIndex(entry);
     ShowText(*view.lineEdit(), text);
-    AlignToBaseline(*view.lineEdit(), view.lineEdit()->text());
     view.lineEdit()->setCursorPosition(cursor);
 }
 
@@ -225,9 +221,12 @@ Subscription Bind(ComboBox& combo, QComboBox& view)
     QObject::connect(&view, &QComboBox::activated, &view,
                      [&combo](int index) { combo.Choose(static_cast<std::size_t>(index)); });
     return combo.Show([&combo, &view, select = SelectsWhenAsked(combo, *view.lineEdit())]() mutable {
-        const QSignalBlocker quiet(view);
-        ShowList(view, combo.List());
-        ShowEntry(view, combo.Text());
+        {
+            const QSignalBlocker quiet(view), quietBox(view.lineEdit());  // entries pass through the box meanwhile
+            ShowList(view, combo.List());
+            ShowEntry(view, combo.Text());
+        }
+        AlignToBaseline(*view.lineEdit(), view.lineEdit()->text());
         select();
     });
 }

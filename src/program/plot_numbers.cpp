@@ -34,8 +34,9 @@ std::string LineOf(DrawnPoint point, const PlotAxes& axes)
 
 std::string ReadingText(double value, double neighbour)
 {
+    constexpr double kHair = 1e-6;  // of a decimal: a step of 0.001 shows three of them
     const double step = std::abs(neighbour - value);
-    const int decimals = step > 0 ? static_cast<int>(std::ceil(-std::log10(step))) : kMostDecimals;
+    const int decimals = step > 0 ? static_cast<int>(std::ceil(-std::log10(step) - kHair)) : kMostDecimals;
     return Decimals(value, std::clamp(decimals, 0, kMostDecimals));
 }
 

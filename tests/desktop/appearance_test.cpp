@@ -35,8 +35,8 @@ double Light(const QColor& colour)
 /// 1 to 21, as the guidelines for accessible contents count it.
 double Contrast(const QColor& one, const QColor& other)
 {
-    const auto [low, high] = std::minmax(Light(one), Light(other));
-    return (high + 0.05) / (low + 0.05);
+    const double first = Light(one), second = Light(other);
+    return (std::max(first, second) + 0.05) / (std::min(first, second) + 0.05);
 }
 
 class EveryPalette : public testing::TestWithParam<Colours> {};
@@ -47,6 +47,7 @@ TEST_P(EveryPalette, LettersStandOutFromTheirGround)
     const AppearanceKept kept;
     DesktopFixture running;
     UseColours(GetParam());
+    QCoreApplication::processEvents();
     const QPalette palette = QApplication::palette();
     const double least = GetParam() == Colours::HighContrast ? 12 : 7;
     EXPECT_GE(Contrast(palette.color(QPalette::Text), palette.color(QPalette::Base)), least);
@@ -91,6 +92,7 @@ TEST(Appearance, LettersGrowAtOnceAndLargerOnesStayLarger)
     const auto* box = running.Widget("frmCompaction", "txtDia");
     const double before = banner->font().pointSizeF(), plain = box->font().pointSizeF();
     UseTextSize(200);
+    QCoreApplication::processEvents();
     EXPECT_NEAR(banner->font().pointSizeF(), 2 * before, 0.01);
     EXPECT_NEAR(box->font().pointSizeF(), 2 * plain, 0.01);
 }
@@ -105,7 +107,10 @@ std::string CutIn(const QWidget& window)
         const bool holdsText =
             isText && widget->isVisible() && widget->height() > 0 && !widget->accessibleName().isEmpty();
         const auto* label = qobject_cast<QLabel*>(widget);
-        if (!holdsText || (label && label->text().isEmpty()) || widget->inherits("QToolBarExtension")) continue;
+        const auto* button = qobject_cast<QAbstractButton*>(widget);
+        if (!holdsText || (label && label->text().isEmpty()) || (button && button->text().isEmpty()) ||
+            widget->inherits("QToolBarExtension"))
+            continue;
         if (widget->height() < widget->fontMetrics().height())
             cut += widget->accessibleName().toStdString() + " (" + widget->objectName().toStdString() + ")\n";
     }

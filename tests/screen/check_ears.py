@@ -22,6 +22,7 @@ WHOLE = 280  # seconds, until the check tells where it stands and gives up
 SECONDS = 10  # until something that is not heard is given up
 REPLY = 1500  # milliseconds; what opens a dialog answers when the dialog is closed
 TICK = 0.01
+LATE = 0.6  # seconds, until a key that changed nothing is taken for one that changes nothing
 
 DOWN, UP, LEFT, RIGHT, ENTER, TAB, ESCAPE, HOME = 0xFF54, 0xFF52, 0xFF51, 0xFF53, 0xFF0D, 0xFF09, 0xFF1B, 0xFF50
 SPACE = 0x20
@@ -165,6 +166,13 @@ class Ears:
         self.atspi.generate_keyboard_event(code, None, self.atspi.KeySynthType.SYM)
         self.listen(TICK)
 
+    def move(self, code):
+        """A key that leads on: until something else is heard, or clearly nothing."""
+        before, end = self.focus_name(), time.monotonic() + LATE
+        self.key(code)
+        while self.focus_name() == before and time.monotonic() < end:
+            self.listen()
+
     def type(self, text):
         self.atspi.generate_keyboard_event(0, text, self.atspi.KeySynthType.STRING)
         self.listen(TICK)
@@ -209,9 +217,9 @@ class Technician:
         self.ears.answer_boxes()
         self.walk_to(test)
         self.ears.key(SPACE)
-        self.ears.key(DOWN)
+        self.ears.listen(10 * TICK)
         while self.ears.focus_name() != material:
-            self.ears.key(DOWN)
+            self.ears.move(DOWN)
         self.ears.key(ENTER)
         self.ears.place("Exit Screen", "push button")
         return None
@@ -223,7 +231,7 @@ class Technician:
                 return
             if self.ears.focus_name() in TESTS.values() and key == TAB:
                 continue
-            self.ears.key(key)
+            self.ears.move(key)
         sys.exit(f"the row of tests does not lead to {test}; the focus is on {self.ears.focus_name()!r}")
 
     def new_project(self):
@@ -323,9 +331,9 @@ class Technician:
             if here is None:
                 sys.exit(f"{self.ears.focus_name()!r} is no cell of {self.spoken(control)}")
             if here[0] != target[0]:
-                self.ears.key(DOWN if here[0] < target[0] else UP)
+                self.ears.move(DOWN if here[0] < target[0] else UP)
             else:
-                self.ears.key(RIGHT if here[1] < target[1] else LEFT)
+                self.ears.move(RIGHT if here[1] < target[1] else LEFT)
         sys.exit(f"the arrow keys do not lead to {named[target]!r}; the focus is on {self.ears.focus_name()!r}")
 
     def enter(self, control):
@@ -336,9 +344,10 @@ class Technician:
         for _ in range(60):
             if self.cell_in_focus(named) is not None and self.is_within(table):
                 return
-            if self.in_any_table():
-                self.ears.key(ESCAPE)
-            self.ears.key(TAB)
+            if self.in_any_table() and self.ears.focused.get_role_name() == "text":
+                self.ears.move(ESCAPE)
+                self.ears.listen(10 * TICK)
+            self.ears.move(TAB)
         sys.exit(f"Tab does not lead to {self.spoken(control)}; the focus is on {self.ears.focus_name()!r}")
 
     def tables_around(self):
@@ -367,8 +376,9 @@ class Technician:
         self.go(control, (int(row), int(column)))
         if self.ears.focused.get_role_name() != "text":
             self.ears.key(ENTER)
+            self.ears.wait("the editor", lambda: self.ears.focused.get_role_name() == "text")
         self.ears.type(text)
-        self.ears.key(ENTER)
+        self.ears.move(ENTER)
 
     def do_put(self, control, row, column, text):
         """A date: its cell opens the calendar's box."""
