@@ -45,9 +45,8 @@ INSTANTIATE_TEST_SUITE_P(Palettes, EveryPalette, testing::Values(Colours::Light,
 TEST_P(EveryPalette, LettersStandOutFromTheirGround)
 {
     const AppearanceKept kept;
+    UseColours(GetParam());  // Qt repaints open windows only while the application's own loop runs
     DesktopFixture running;
-    UseColours(GetParam());
-    QCoreApplication::processEvents();
     const QPalette palette = QApplication::palette();
     const double least = GetParam() == Colours::HighContrast ? 12 : 7;
     EXPECT_GE(Contrast(palette.color(QPalette::Text), palette.color(QPalette::Base)), least);

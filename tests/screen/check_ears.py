@@ -334,6 +334,9 @@ class Technician:
                 self.ears.move(DOWN if here[0] < target[0] else UP)
             else:
                 self.ears.move(RIGHT if here[1] < target[1] else LEFT)
+            if self.cell_in_focus(named) == here and self.ears.focused.get_role_name() == "text":
+                self.ears.move(ESCAPE)  # the editor does not go there, the grid may
+                self.ears.listen(10 * TICK)
         sys.exit(f"the arrow keys do not lead to {named[target]!r}; the focus is on {self.ears.focus_name()!r}")
 
     def enter(self, control):
