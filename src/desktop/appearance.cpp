@@ -54,8 +54,10 @@ QPalette PaletteOf(Colours colours)
             return PaletteOf({QColor(45, 45, 48), QColor(30, 30, 32), QColor(58, 58, 62), QColor(235, 235, 235),
                               QColor(150, 150, 150), QColor(90, 160, 240), Qt::black, QColor(90, 90, 94)});
         case Colours::HighContrast:
-            return PaletteOf({Qt::black, Qt::black, Qt::black, Qt::white, QColor(190, 190, 190), QColor(255, 255, 0),
-                              Qt::black, Qt::white});
+            // Boxes stand out from the ground by their own: the style draws edges darker than the ground, which here is
+            // black.
+            return PaletteOf({Qt::black, QColor(50, 50, 50), QColor(50, 50, 50), Qt::white, QColor(190, 190, 190),
+                              QColor(255, 255, 0), Qt::black, Qt::white});
         case Colours::Desktop:
             break;
     }
@@ -111,6 +113,11 @@ void UseTextSize(int percent)
 {
     QApplication::setFont(looks::Scaled(FirstFont(), percent / 100.0, FirstFont().bold()));
     for (QWidget* widget : QApplication::allWidgets()) Rescale(*widget);
+}
+
+double TextFactor()
+{
+    return QApplication::font().pointSizeF() / FirstFont().pointSizeF();
 }
 
 void ScaleLetters(QWidget& widget, double factor, bool bold)

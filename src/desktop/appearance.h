@@ -34,6 +34,9 @@ void UseColours(Colours colours);
 /// All letters take the size at once, in percent of what they had when the program was started.
 void UseTextSize(int percent);
 
+/// How much larger letters are than when the program was started.
+double TextFactor();
+
 /// Letters of a widget that are larger or bolder than the others, and stay so at every size.
 void ScaleLetters(QWidget& widget, double factor, bool bold = false);
 

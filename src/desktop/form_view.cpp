@@ -94,6 +94,21 @@ class PageRoom : public QScrollArea {
     bool fillsFrame_;
 };
 
+/// A list that never shows half a row.
+class WholeRowList : public QListWidget {
+  public:
+    using QListWidget::QListWidget;
+
+  protected:
+    void resizeEvent(QResizeEvent* event) override
+    {
+        QListWidget::resizeEvent(event);
+        const int row = sizeHintForRow(0), room = height() - 2 * frameWidth();
+        const int left = row > 0 ? room % row : 0;
+        if (viewportMargins().bottom() != left) setViewportMargins(0, 0, 0, left);
+    }
+};
+
 void Collect(const Place& place, Place::Kind kind, std::vector<const Place*>& into)
 {
     if (place.kind == kind) into.push_back(&place);
@@ -460,7 +475,7 @@ struct FormView::WidgetMaker {
     QWidget* operator()(CheckBox& check) const { return form.MakeBound<QCheckBox>(check, parent); }
     QWidget* operator()(ListBox& list) const
     {
-        QWidget* view = form.MakeBound<QListWidget>(list, parent);
+        QWidget* view = form.MakeBound<WholeRowList>(list, parent);
         view->setMinimumHeight(2 * looks::kGridRowHeight);
         return view;
     }

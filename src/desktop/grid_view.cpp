@@ -15,11 +15,26 @@
 #include <algorithm>
 
 #include "controls/visit_control.h"
+#include "desktop/appearance.h"
 #include "desktop/looks.h"
 #include "desktop/qt_text.h"
 #include "program/cell_words.h"
 
 namespace terravane {
+
+namespace {
+
+bool IsMerged(const TextGrid& grid, int column)
+{
+    return grid.MergeCells == Merging::Free && grid.MergeCol(column);
+}
+
+}  // namespace
+
+bool HoldsTitles(const TextGrid& grid, int column)
+{
+    return (column == 0 && grid.TitleColumns() > 0) || IsMerged(grid, column);
+}
 
 namespace {
 
@@ -31,14 +46,10 @@ constexpr double kHeadTint = 0.06, kWorkedOutTint = 0.03, kHairline = 0.16;  // 
 constexpr std::size_t kMostSizesKept = 10000;
 constexpr int kUnbroken = 4000;  // room for any title in one line
 
-bool IsMerged(const TextGrid& grid, int column)
+/// A width that is read at 100 percent, for the letters of today.
+int WithLetters(int pixels)
 {
-    return grid.MergeCells == Merging::Free && grid.MergeCol(column);
-}
-
-bool HoldsTitles(const TextGrid& grid, int column)
-{
-    return (column == 0 && grid.TitleColumns() > 0) || IsMerged(grid, column);
+    return static_cast<int>(pixels * TextFactor());
 }
 
 /// So much of the ink in the ground.
@@ -201,7 +212,7 @@ GridView::GridView(TextGrid& grid, QWidget* parent)
 {
     horizontalHeader()->hide();
     verticalHeader()->hide();
-    horizontalHeader()->setMinimumSectionSize(kLeastColumnWidth);
+    horizontalHeader()->setMinimumSectionSize(WithLetters(kLeastColumnWidth));
     setEditTriggers(NoEditTriggers);
     setSelectionMode(NoSelection);
     setTabKeyNavigation(false);
@@ -216,6 +227,11 @@ GridView::GridView(TextGrid& grid, QWidget* parent)
         ShowMerged();
         ShowEditors();
     }));
+}
+
+QModelIndex GridView::CellAt(int row, int column) const
+{
+    return model_->index(row, column);
 }
 
 /// Cells that merge stand as one, their text in its middle.
@@ -311,7 +327,8 @@ QSize GridView::TextSize(const std::string& text, int room) const
 /// Until the cells are there, of the width that new columns have.
 int GridView::CurrentWidth(int column) const
 {
-    return std::max(kLeastColumnWidth, model() ? columnWidth(column) : horizontalHeader()->defaultSectionSize());
+    return std::max(WithLetters(kLeastColumnWidth),
+                    model() ? columnWidth(column) : horizontalHeader()->defaultSectionSize());
 }
 
 int GridView::MinimumRowHeight(int row) const
@@ -337,7 +354,7 @@ int GridView::TitlesWidth() const
 {
     int width = 0;
     for (int column = 0; column < grid_.Columns(); ++column)
-        if (HoldsTitles(grid_, column)) width += std::max(kLeastColumnWidth, TitleWidth(column));
+        if (HoldsTitles(grid_, column)) width += std::max(WithLetters(kLeastColumnWidth), TitleWidth(column));
     return width;
 }
 
@@ -354,15 +371,16 @@ QSize GridView::SizeFor(int mostRows, int columnWidth) const
 
 QSize GridView::minimumSizeHint() const
 {
-    return IsWhole() ? SizeFor(kLeastRowsShown, kLeastColumnWidth) : SizeFor(4, kLeastColumnWidth);
+    return IsWhole() ? SizeFor(kLeastRowsShown, WithLetters(kLeastColumnWidth))
+                     : SizeFor(4, WithLetters(kLeastColumnWidth));
 }
 
 QSize GridView::sizeHint() const
 {
-    if (IsWhole()) return SizeFor(kMostRowsUnscrolled, kMostColumnWidth);
+    if (IsWhole()) return SizeFor(kMostRowsUnscrolled, WithLetters(kMostColumnWidth));
     double width = 0;
     for (int column = 0; column < grid_.Columns(); ++column) width += grid_.ColumnWidth(column) / looks::kTwipsPerPixel;
-    return SizeFor(grid_.Rows(), kLeastColumnWidth).expandedTo({static_cast<int>(width), 0});
+    return SizeFor(grid_.Rows(), WithLetters(kLeastColumnWidth)).expandedTo({static_cast<int>(width), 0});
 }
 
 void GridView::changeEvent(QEvent* event)
@@ -431,8 +449,8 @@ void GridView::DistributeWidth()
     int left = viewport()->width();
     for (int column = 0; column < grid_.Columns(); ++column) {
         const int asked = HoldsTitles(grid_, column) ? TitleWidth(column) : ColumnShare(column, left);
-        const int most = IsWhole() && !HoldsTitles(grid_, column) ? kMostColumnWidth : asked;
-        const int width = std::max(kLeastColumnWidth, std::min(asked, most));
+        const int most = IsWhole() && !HoldsTitles(grid_, column) ? WithLetters(kMostColumnWidth) : asked;
+        const int width = std::max(WithLetters(kLeastColumnWidth), std::min(asked, most));
         setColumnWidth(column, width);
         left -= width;
     }
@@ -448,173 +466,6 @@ void GridView::DistributeHeight()
     while (shown < rows && spare >= MinimumRowHeight(shown)) spare -= MinimumRowHeight(shown++);
     const int even = IsWhole() || shown == rows ? 0 : std::min(spare / std::max(1, shown), looks::kGridRowHeight / 2);
     for (int row = 0; row < rows; ++row) setRowHeight(row, MinimumRowHeight(row) + even);
-}
-
-void GridView::mousePressEvent(QMouseEvent* event)
-{
-    const QModelIndex cell = indexAt(event->pos());
-    if (!cell.isValid()) return;
-    if (event->button() == Qt::LeftButton) grid_.PressMouse(MouseButton::Left, cell.row(), cell.column());
-    if (event->button() == Qt::RightButton) grid_.PressMouse(MouseButton::Right, cell.row(), cell.column());
-}
-
-/// The Tab key enters a grid as a press on its first cell would, Shift+Tab as one on its last.
-void GridView::focusInEvent(QFocusEvent* event)
-{
-    QTableView::focusInEvent(event);
-    viewport()->update();
-    if (QAccessible::isActive()) QTimer::singleShot(0, this, [this] { SpeakFocus(); });
-    if (!editor_) return;
-    const CellRange range = editor_->Range();
-    if (!CanBeOpened(grid_.Row(), grid_.Column())) grid_.Select(range.firstRow, range.firstColumn);
-    if (event->reason() == Qt::TabFocusReason) grid_.PressMouse(MouseButton::Left, range.firstRow, range.firstColumn);
-    if (event->reason() == Qt::BacktabFocusReason) ShowCell(range.lastRow, range.lastColumn);
-}
-
-void GridView::focusOutEvent(QFocusEvent* event)
-{
-    QTableView::focusOutEvent(event);
-    viewport()->update();
-}
-
-bool GridView::IsTyped(int row, int column) const
-{
-    const auto holds = [&](const auto* editor) { return editor && editor->Range().Holds(row, column); };
-    return (holds(editor_) || holds(listEditor_)) && !grid_.IsCalculated(row, column);
-}
-
-/// Some cells open something else than the editor, a date its calendar: what a press does there is the form's.
-bool GridView::CanBeOpened(int row, int column) const
-{
-    const bool isPlain = row >= grid_.HeadRows() && !HoldsTitles(grid_, column) && !grid_.IsCalculated(row, column);
-    return IsTyped(row, column) || (editor_ && isPlain);
-}
-
-void GridView::ShowCell(int row, int column)
-{
-    if (row < 0 || row >= grid_.Rows() || column < 0 || column >= grid_.Columns()) return;
-    if (IsTyped(row, column)) return grid_.PressMouse(MouseButton::Left, row, column);
-    if (editor_) editor_->Hide();
-    grid_.Select(row, column);
-    setFocus(Qt::OtherFocusReason);
-    if (model()) scrollTo(model_->index(row, column));
-    SpeakCurrent();
-    viewport()->update();
-}
-
-bool GridView::OpenFirstEmpty()
-{
-    if (!editor_) return false;
-    const CellRange range = editor_->Range();
-    for (int column = range.firstColumn; column <= range.lastColumn; ++column) {
-        for (int row = range.firstRow; row <= range.lastRow; ++row) {
-            const std::string& text = std::as_const(grid_)(row, column);
-            if (!IsTyped(row, column) || !QString::fromStdString(text).trimmed().isEmpty()) continue;
-            grid_.PressMouse(MouseButton::Left, row, column);
-            return true;
-        }
-    }
-    return false;
-}
-
-/// Back is the way that Tab came, over what is worked out.
-bool GridView::WalkByTab(bool isBack)
-{
-    if (!editor_ || !editor_->Visible()) return false;
-    const int row = grid_.Row(), column = grid_.Column();
-    if (!isBack) {
-        editor_->PressKey(Key::Tab);
-    } else {
-        const CellRange range = editor_->Range();
-        int backRow = row, backColumn = column;
-        do {
-            if (--backColumn < range.firstColumn) {
-                backColumn = range.lastColumn;
-                --backRow;
-            }
-        } while (backRow >= range.firstRow && grid_.IsCalculated(backRow, backColumn));
-        if (backRow >= range.firstRow) grid_.PressMouse(MouseButton::Left, backRow, backColumn);
-    }
-    if (grid_.Row() != row || grid_.Column() != column) return true;
-    editor_->Hide();
-    return focusNextPrevChild(!isBack);
-}
-
-bool GridView::OpenCurrent()
-{
-    if (!CanBeOpened(grid_.Row(), grid_.Column())) return false;
-    grid_.PressMouse(MouseButton::Left, grid_.Row(), grid_.Column());
-    return true;
-}
-
-/// To the next typed cell that way.
-void GridView::MoveCurrent(int down, int right)
-{
-    int row = grid_.Row() + down, column = grid_.Column() + right;
-    while (row >= 0 && row < grid_.Rows() && column >= 0 && column < grid_.Columns() && !CanBeOpened(row, column)) {
-        row += down;
-        column += right;
-    }
-    if (row < 0 || row >= grid_.Rows() || column < 0 || column >= grid_.Columns()) return;
-    grid_.Select(row, column);
-    scrollTo(model_->index(row, column));
-    SpeakCurrent();
-    viewport()->update();
-}
-
-/// When the grid has taken the focus Qt tells ears of the grid; by then it is a cell or its editor that has it.
-void GridView::SpeakFocus()
-{
-    for (QWidget* editor : {static_cast<QWidget*>(box_), static_cast<QWidget*>(list_)}) {
-        if (!editor || !editor->hasFocus()) continue;
-        QAccessibleEvent focus(editor, QAccessible::Focus);
-        return QAccessible::updateAccessibility(&focus);
-    }
-    if (hasFocus()) SpeakCurrent();
-}
-
-/// Qt tells ears of the cell that it takes for the current one.
-void GridView::SpeakCurrent()
-{
-    if (!model()) return;
-    const QModelIndex cell = model_->index(grid_.Row(), grid_.Column());
-    selectionModel()->setCurrentIndex({}, QItemSelectionModel::NoUpdate);
-    selectionModel()->setCurrentIndex(cell, QItemSelectionModel::NoUpdate);
-}
-
-/// With the grid's own focus, after Esc: arrows move the edge, what types a text or F2 or Enter opens the cell.
-void GridView::keyPressEvent(QKeyEvent* event)
-{
-    switch (event->key()) {
-        case Qt::Key_Up:
-            return MoveCurrent(-1, 0);
-        case Qt::Key_Down:
-            return MoveCurrent(1, 0);
-        case Qt::Key_Left:
-            return MoveCurrent(0, -1);
-        case Qt::Key_Right:
-            return MoveCurrent(0, 1);
-        case Qt::Key_F2:
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-            OpenCurrent();
-            return;
-        default:
-            break;
-    }
-    const bool isText = !event->text().isEmpty() && event->text().front().isPrint() &&
-                        !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier));
-    if (!isText || !OpenCurrent()) return event->ignore();
-    if (QWidget* box = box_ && box_->isVisible() ? static_cast<QWidget*>(box_) : list_)
-        QCoreApplication::sendEvent(box, event);  // the text is selected whole: the key takes its place
-}
-
-void GridView::scrollContentsBy(int dx, int dy)
-{
-    QTableView::scrollContentsBy(dx, dy);
-    for (QWidget* editor : {static_cast<QWidget*>(box_), static_cast<QWidget*>(list_)}) {
-        if (editor && editor->isVisible()) editor->setGeometry(visualRect(model_->index(grid_.Row(), grid_.Column())));
-    }
 }
 
 }  // namespace terravane

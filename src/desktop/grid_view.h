@@ -22,6 +22,9 @@ class GridModel;
 /// By text and the room in which its lines are broken, pixels.
 using TextSizes = std::map<std::pair<std::string, int>, QSize>;
 
+/// Whether a column tells what its rows are, be it in merged groups.
+bool HoldsTitles(const TextGrid& grid, int column);
+
 class GridView : public QTableView {
   public:
     GridView(TextGrid& grid, QWidget* parent);
@@ -64,6 +67,7 @@ class GridView : public QTableView {
 
   private:
     bool IsTyped(int row, int column) const;
+    QModelIndex CellAt(int row, int column) const;
     bool CanBeOpened(int row, int column) const;
     bool OpenCurrent();
     void MoveCurrent(int down, int right);

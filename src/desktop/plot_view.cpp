@@ -118,10 +118,9 @@ void PlotView::paintEvent(QPaintEvent*)
 
 void PlotView::PaintWaiting(QPainter& painter) const
 {
-    const QRectF paper = Transform().mapRect(QRectF(0, 0, frame_.Width, frame_.Height));
     painter.setFont(looks::Scaled(font(), looks::kFigureSize));
     painter.setPen(Qt::black);
-    painter.drawText(paper.adjusted(looks::kMargin, 0, -looks::kMargin, 0), Qt::AlignCenter | Qt::TextWordWrap,
+    painter.drawText(PlotOnView().adjusted(looks::kMargin, 0, -looks::kMargin, 0), Qt::AlignCenter | Qt::TextWordWrap,
                      waiting_);
 }
 

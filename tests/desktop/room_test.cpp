@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTabWidget>
@@ -175,6 +176,18 @@ TEST_P(Room, NothingIsCutInASheetThatIsFilledWorkedOutOrFailed)
                                       .subject = form.Name() + ".cmdCal_Click"});
         ExpectPagesWhole(running, *test, "failed");
     }
+}
+
+TEST(Room, TheListOfSievesShowsTwelveAndNoHalfRow)
+{
+    DesktopFixture running;
+    running.MakeProject();
+    running.Window("mdiBack")->setFixedSize(kUsual);
+    running.OpenSheet("mnuSie1");
+    QTest::qWait(20);
+    const auto* list = running.Widget<QListWidget>("frmSieve", "lstSieve");
+    EXPECT_EQ(list->viewport()->height() % list->sizeHintForRow(0), 0);
+    EXPECT_GE(list->viewport()->height() / list->sizeHintForRow(0), 12);
 }
 
 TEST(Room, TheProjectAndTheMaterialAreAlwaysInSight)

@@ -134,11 +134,12 @@ void RoadPictures(DesktopFixture& running, const QString& folder)
 {
     ScriptOptions options;
     for (const auto& script : support::RoadScripts(kSourceFolder)) options.files.push_back(script.string());
-    QDir::setCurrent(running.home.path());
+    QDir(running.home.path()).mkdir("sample");  // another project stands beside it
+    QDir::setCurrent(running.home.path() + "/sample");
     std::istringstream nothing;
     std::ostringstream told;
     RunScripts(options, nothing, told, told);
-    running.surroundings.files.push_back(running.PathOf("TRVN_road.mdb"));
+    running.surroundings.files.push_back(running.PathOf("sample/TRVN_road.mdb"));
     running.PressMenu("mnuOpen");
     for (const laboratory::Description* test : laboratory::Tests()) {
         running.OpenSheet(std::string(test->menu) + "1");

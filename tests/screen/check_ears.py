@@ -300,11 +300,11 @@ class Technician:
         self.bring(control)
         named = [thing for thing, name in self.ears.walk()
                  if name == self.spoken(control) and thing.get_role_name() == "table" and self.ears.is_shown(thing)]
-        return max(named, key=lambda thing: thing.get_table_iface().get_n_rows())
+        return named[-1]  # the first of two is the heads of the other
 
-    def cell_names(self, control):
-        """What the cells are called, without their texts, by row and column."""
-        if control not in self.cells:
+    def cell_names(self, control, target):
+        """What the cells are called, without their texts, by row and column; read anew where rows were added."""
+        if control not in self.cells or target not in self.cells[control][1]:
             table = self.table(control)
             cells = table.get_table_iface()
             named = {}
@@ -322,8 +322,8 @@ class Technician:
 
     def go(self, control, target):
         """With the arrow keys, until the cell's own name is heard."""
-        _, named = self.cell_names(control)
-        self.enter(control)
+        _, named = self.cell_names(control, target)
+        self.enter(control, target)
         for _ in range(60):
             here = self.cell_in_focus(named)
             if here == target:
@@ -339,9 +339,9 @@ class Technician:
                 self.ears.listen(10 * TICK)
         sys.exit(f"the arrow keys do not lead to {named[target]!r}; the focus is on {self.ears.focus_name()!r}")
 
-    def enter(self, control):
+    def enter(self, control, target):
         """With Tab, until a cell of the table has the focus; Esc gives up the cell of another one."""
-        table, named = self.cell_names(control)
+        table, named = self.cell_names(control, target)
         if self.ears.focused is None:
             self.ears.focus(self.ears.place("Sample", "text"))
         for _ in range(60):
@@ -371,9 +371,10 @@ class Technician:
         return bool(self.tables_around())
 
     def is_within(self, table):
-        rows = table.get_table_iface().get_n_rows()
-        return any(one.get_name() == table.get_name() and one.get_table_iface().get_n_rows() == rows
-                   for one in self.tables_around())
+        return self.top(table) in [self.top(one) for one in self.tables_around()]
+
+    def top(self, thing):
+        return thing.get_component_iface().get_extents(self.ears.atspi.CoordType.SCREEN).y
 
     def do_type(self, control, row, column, text):
         self.go(control, (int(row), int(column)))
@@ -388,8 +389,17 @@ class Technician:
         self.go(control, (int(row), int(column)))
         self.ears.key(ENTER)
         self.ears.wait("the box of the date", lambda: self.ears.focused.get_role_name() == "spin button")
+        box, (day, month, year) = self.ears.focused, text.split("/")
         self.ears.key(HOME)
-        self.ears.type(text.replace("/", ""))
+        self.ears.type("/" + month)  # the stroke goes on to the month, two figures of it to the year
+        self.ears.type(year)
+        self.ears.key(HOME)
+        for _ in range(31):
+            shown = int(self.ears.text(box)[:2])
+            if shown == int(day):
+                break
+            self.ears.key(UP if shown < int(day) else DOWN)
+            self.ears.wait("another day", lambda was=shown: int(self.ears.text(box)[:2]) != was)
         self.ears.key(ENTER)
         self.ears.key(ESCAPE)
 
