@@ -22,6 +22,7 @@ WHOLE = 280  # seconds, until the check tells where it stands and gives up
 SECONDS = 10  # until something that is not heard is given up
 REPLY = 1500  # milliseconds; what opens a dialog answers when the dialog is closed
 TICK = 0.01
+PRESSED = 0.25  # seconds; Qt shows a press for a tenth of a second before it acts
 LATE = 0.6  # seconds, until a key that changed nothing is taken for one that changes nothing
 
 DOWN, UP, LEFT, RIGHT, ENTER, TAB, ESCAPE, HOME = 0xFF54, 0xFF52, 0xFF51, 0xFF53, 0xFF0D, 0xFF09, 0xFF1B, 0xFF50
@@ -153,7 +154,7 @@ class Ears:
             actions.do_action(words.index(word))
         except self.errors():
             pass  # it opened something that asks
-        self.listen(5 * TICK)
+        self.listen(PRESSED)
 
     def answer_boxes(self):
         """A box that says something is closed, as scripts do."""
