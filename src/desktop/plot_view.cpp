@@ -215,6 +215,14 @@ void PlotView::ShowWhole()
     update();
 }
 
+/// Ctrl+C is the curve's while it has the focus, not the Edit menu's.
+bool PlotView::event(QEvent* event)
+{
+    const bool isAsked = event->type() == QEvent::ShortcutOverride && IsPlotted();
+    if (isAsked && static_cast<QKeyEvent*>(event)->matches(QKeySequence::Copy)) event->accept();
+    return QWidget::event(event);
+}
+
 void PlotView::keyPressEvent(QKeyEvent* event)
 {
     if (!IsPlotted()) return QWidget::keyPressEvent(event);

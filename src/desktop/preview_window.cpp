@@ -115,6 +115,8 @@ PreviewWindow::PreviewWindow(Program& program, QtSurroundings& surroundings, For
     pages->setSpacing(0);
     auto* across = new QScrollBar(Qt::Horizontal, this);
     auto* down = new QScrollBar(Qt::Vertical, this);
+    across->setObjectName("HScroll1");
+    down->setObjectName("VScroll1");
     pages->addWidget(new PageView(preview, this), 0, 0);
     pages->addWidget(down, 0, 1);
     pages->addWidget(across, 1, 0);
