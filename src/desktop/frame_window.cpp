@@ -274,6 +274,7 @@ QWidget* FrameWindow::ShowSheet(Form& sheet)
     window->setWindowIcon(windowIcon());
     area_->addSubWindow(window);
     window->Fill(*tools_);
+    window->PageMade = [this, window] { MarkNotes(*window, watch_); };
     window->resize(window->sizeHint().boundedTo(area_->viewport()->size()).expandedTo(window->minimumSizeHint()));
     window->move(static_cast<int>(sheet.Left / looks::kTwipsPerPixel),
                  static_cast<int>(sheet.Top / looks::kTwipsPerPixel));
@@ -320,7 +321,10 @@ void SheetWindow::Fill(QHBoxLayout& tools)
     view_ = new FormView(form_, LayoutOf(form_.Name()));
     view_->TypedIn = [this](const Control& control) { Typed(control); };
     view_->CommandPressed = [this](Control& command) { CommandPressed(command); };
-    view_->PageMade = [this] { ShowNext(); };
+    view_->PageMade = [this] {
+        ShowNext();
+        if (PageMade) PageMade();
+    };
     auto* room = new QScrollArea(content);  // for letters so large that not even what heads the sheet has room
     room->setFrameShape(QFrame::NoFrame);
     room->setWidgetResizable(true);

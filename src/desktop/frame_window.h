@@ -4,6 +4,7 @@
 #include <QMainWindow>
 #include <QMdiSubWindow>
 #include <QPointer>
+#include <functional>
 
 #include "desktop/form_view.h"
 #include "desktop/windows.h"
@@ -73,6 +74,9 @@ class SheetWindow : public QMdiSubWindow {
     void Fill(QHBoxLayout& tools);
     /// Ends all traffic of the bar with the form, and takes it out of the row.
     void TakeBarAway();
+
+    /// A page of the sheet was made, which happens when it is first looked at.
+    std::function<void()> PageMade;
 
     void Save();
     /// Presses the command that is next, on its tab.
