@@ -48,10 +48,13 @@ SPOKEN = {
     "MSHSieve": "Percent Passing Determination", "MSHCalibration": "Flask Calibration",
     "MSHSpecific": "Specific Gravity Determination", "MSHWt": "Water Content Determination",
     "MSHDensity": "Dry Density Determination", "MSHCompaction": "Dry Density Determination",
+    "MSHWsand": "Mass of Sand in Cone", "MSHDsand": "Density of Sand", "MSHWsoil": "Mass of Wet Soil",
+    "MSHVolume": "Volume of Hole",
     "MSHWater": "Water Content Determination", "MSHSwell": "Swelling Data", "MSHPenetrate1": "Penetration Data",
 }
 # The same word of a script is spoken otherwise on some sheets.
 SPOKEN_ON = {
+    ("Den", "MSHWater"): "Water Content",
     ("Spe", "cmdgraph"): "Plot Graph Calibration",
     ("Den", "optStd"): "Standard Compaction", ("Den", "optMod"): "Modified Compaction",
     ("CBR", "optStd"): "Standard Proctor", ("CBR", "optMod"): "Modified Proctor",
