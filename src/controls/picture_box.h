@@ -2,11 +2,13 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <utility>
 
 #include "controls/control.h"
 #include "drawing/drawing_surface.h"
+#include "drawing/plot_axes.h"
 
 namespace terravane {
 
@@ -32,6 +34,9 @@ class PictureBox : public ControlKind<PictureBox>, public DrawingSurface {
     double Left, Top;  // twips, in the box's container
     /// The picture box that this one stands in; none where both stand in the same container.
     const PictureBox* Container = nullptr;
+
+    /// What the places of the plot mean; none where nothing is plotted yet. No drawing: it goes on no page.
+    std::optional<PlotAxes> Axes;
 
     /// Runs when the box's window gives it another size, in twips; empty where the size is fixed.
     std::function<void(double width, double height)> ViewResized;

@@ -18,6 +18,7 @@
 #include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
+#include <algorithm>
 
 #include "controls/form.h"
 #include "desktop/looks.h"
@@ -39,6 +40,12 @@ auto SelectsWhenAsked(const Control& control, View& view)
     };
 }
 
+QString ShownText(const std::string& text)
+{
+    const auto whole = ToQt(text);
+    return whole.trimmed().isEmpty() ? QString() : whole;
+}
+
 void ShowList(QComboBox& view, const std::vector<std::string>& list)
 {
     QStringList items;
@@ -48,18 +55,6 @@ void ShowList(QComboBox& view, const std::vector<std::string>& list)
     if (items == present) return;
     view.clear();
     view.addItems(items);
-}
-
-/// The entry whose text stands in the box, or none: the arrow keys go on from there. What is being typed keeps its
-/// place.
-void ShowEntry(QComboBox& view, const std::string& text)
-{
-    const int entry = view.findText(ToQt(text), Qt::MatchExactly | Qt::MatchCaseSensitive);
-    if (entry == view.currentIndex()) return ShowText(*view.lineEdit(), text);
-    const int cursor = view.lineEdit()->cursorPosition();
-    view.setCurrentIndex(entry);
-    ShowText(*view.lineEdit(), text);
-    view.lineEdit()->setCursorPosition(cursor);
 }
 
 bool IsPlatforms(Colour colour)
@@ -80,12 +75,27 @@ void ShowOrHide(QWidget& view, bool visible)
 }
 
 /// Line height of Thai is more than a font's own; Qt centres such a line by its height and lifts it by its ascent as
-/// well. The difference, to the pixel for a box as high as its font asks for.
+/// well. The difference, to the pixel for a box as high as its font asks for. Figures and Latin letters, most of what
+/// is loaded into a sheet, need no measuring.
 void AlignToBaseline(QLineEdit& edit, const QString& text)
 {
+    constexpr char16_t kLastLatin = 0xff;
+    const bool isLatin = std::ranges::all_of(text, [](QChar letter) { return letter.unicode() <= kLastLatin; });
     const QFontMetrics font = edit.fontMetrics();
-    const int lifted = (font.size(0, text).height() - font.height() - 1) / 2;
+    const int lifted = isLatin ? 0 : (font.size(0, text).height() - font.height() - 1) / 2;
     if (edit.textMargins().top() != lifted) edit.setTextMargins(0, lifted, 0, -lifted);
+}
+
+/// The entry whose text stands in the box, or none: the arrow keys go on from there. What is being typed keeps its
+/// place.
+void ShowEntry(QComboBox& view, const std::string& text)
+{
+    const int entry = view.findText(ToQt(text), Qt::MatchExactly | Qt::MatchCaseSensitive);
+    if (entry == view.currentIndex()) return ShowText(*view.lineEdit(), text);
+    const int cursor = view.lineEdit()->cursorPosition();
+    view.setCurrentIndex(entry);
+    ShowText(*view.lineEdit(), text);
+    view.lineEdit()->setCursorPosition(cursor);
 }
 
 /// With a box to type in. Qt would give it a completer, which costs more than the rest of the combo; where there is one
@@ -98,17 +108,18 @@ void MakeEditable(QComboBox& view)
     view.setLineEdit(box);
     view.setCompleter(nullptr);
     KeepAlignedToBaseline(*box);
+    box->setAccessibleName(view.accessibleName());
 }
 
 QIcon PictureOf(Icon icon)
 {
     switch (icon) {
         case Icon::Save:
-            return looks::StandardIcon(QStyle::SP_DialogSaveButton);
+            return looks::SignIcon(looks::Sign::Save);
         case Icon::Print:
-            return looks::StandardIcon(QStyle::SP_FileDialogDetailedView);
+            return looks::SignIcon(looks::Sign::Page);
         case Icon::Close:
-            return looks::StandardIcon(QStyle::SP_DialogCloseButton);
+            return looks::SignIcon(looks::Sign::Cross);
         case Icon::None:
             break;
     }
@@ -148,9 +159,23 @@ void KeepAlignedToBaseline(QLineEdit& edit)
 
 void ShowText(QLineEdit& edit, const std::string& text)
 {
-    const auto whole = ToQt(text);
-    const auto shown = whole.trimmed().isEmpty() ? QString() : whole;
+    const auto shown = ShownText(text);
     if (shown != edit.text()) edit.setText(shown);
+}
+
+/// Such a text comes without the key's signal.
+void TakeTextsOfOthers(QLineEdit& edit, const TextControl& control)
+{
+    QObject::connect(&edit, &QLineEdit::textChanged, &edit, [&edit, &control] {
+        if (edit.text() != ShownText(control.Text())) emit edit.textEdited(edit.text());
+    });
+}
+
+void NameForEars(QWidget& view, const QString& name)
+{
+    view.setAccessibleName(name);
+    if (auto* combo = qobject_cast<QComboBox*>(&view); combo && combo->lineEdit())
+        combo->lineEdit()->setAccessibleName(name);
 }
 
 QString PlainCaption(const Control& control)
@@ -178,6 +203,7 @@ Subscription Bind(TextBox& box, QLineEdit& edit)
     KeepAlignedToBaseline(edit);
     QObject::connect(&edit, &QLineEdit::textEdited, &edit,  // the user's typing only, never setText
                      [&box](const QString& text) { box.Type(text.toStdString()); });
+    TakeTextsOfOthers(edit, box);
     return box.Show([&box, &edit, select = SelectsWhenAsked(box, edit)]() mutable {
         ShowText(edit, box.Text());
         edit.setReadOnly(box.Locked());
@@ -191,12 +217,16 @@ Subscription Bind(ComboBox& combo, QComboBox& view)
     view.setInsertPolicy(QComboBox::NoInsert);
     QObject::connect(view.lineEdit(), &QLineEdit::textEdited, &view,
                      [&combo](const QString& text) { combo.Type(text.toStdString()); });
+    TakeTextsOfOthers(*view.lineEdit(), combo);
     QObject::connect(&view, &QComboBox::activated, &view,
                      [&combo](int index) { combo.Choose(static_cast<std::size_t>(index)); });
     return combo.Show([&combo, &view, select = SelectsWhenAsked(combo, *view.lineEdit())]() mutable {
-        const QSignalBlocker quiet(view);
-        ShowList(view, combo.List());
-        ShowEntry(view, combo.Text());
+        {
+            const QSignalBlocker quiet(view), quietBox(view.lineEdit());  // entries pass through the box meanwhile
+            ShowList(view, combo.List());
+            ShowEntry(view, combo.Text());
+        }
+        AlignToBaseline(*view.lineEdit(), view.lineEdit()->text());
         select();
     });
 }

@@ -46,6 +46,12 @@ using Bindings = std::vector<Subscription>;
 /// typed there begins without them.
 void ShowText(QLineEdit& edit, const std::string& text);
 
+/// Hands over what stands in the box and not in its control, too: a screen reader's or a dictation program's text.
+void TakeTextsOfOthers(QLineEdit& edit, const TextControl& control);
+
+/// Names a view for ears, with the box to type in that it may have.
+void NameForEars(QWidget& view, const QString& name);
+
 /// Thai texts stand on the line that Latin ones stand on.
 void KeepAlignedToBaseline(QLineEdit& edit);
 

@@ -21,8 +21,8 @@ void Dispose(QWidget& window)
         part->blockSignals(true);
         if (auto* view = dynamic_cast<FormView*>(part)) view->Unbind();
     }
-    window.hide();
-    window.setEnabled(false);
+    window.setWindowTitle({});  // which Qt would measure some more times
+    window.hide();              // and takes no key and no press from now on
     window.deleteLater();
 }
 

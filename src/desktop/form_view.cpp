@@ -5,7 +5,6 @@
 #include <QDateEdit>
 #include <QFormLayout>
 #include <QGroupBox>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -16,7 +15,6 @@
 #include <QTimer>
 #include <QVBoxLayout>
 #include <algorithm>
-#include <optional>
 
 #include "controls/cell_editor.h"
 #include "controls/choice_controls.h"
@@ -26,43 +24,21 @@
 #include "controls/text_controls.h"
 #include "controls/text_grid.h"
 #include "controls/visit_control.h"
+#include "desktop/appearance.h"
 #include "desktop/grid_view.h"
 #include "desktop/looks.h"
 #include "desktop/picture_view.h"
 #include "desktop/plot_view.h"
 #include "desktop/qt_text.h"
 #include "program/cell_words.h"
+#include "program/next_command.h"
 #include "render/decoded_pictures.h"
-#include "runtime/text.h"
 
 namespace terravane {
 
 namespace {
 
 constexpr int kImageSide = 96;  // pixels
-
-std::optional<Key> KeyOf(int key)
-{
-    switch (key) {
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-            return Key::Enter;
-        case Qt::Key_Escape:
-            return Key::Esc;
-        case Qt::Key_Up:
-            return Key::Up;
-        case Qt::Key_Down:
-            return Key::Down;
-        case Qt::Key_Left:
-            return Key::Left;
-        case Qt::Key_Right:
-            return Key::Right;
-        case Qt::Key_Tab:
-            return Key::Tab;
-        default:
-            return std::nullopt;
-    }
-}
 
 /// Its parts above each other where the height allows it, else beside each other: a screen of 720 lines shows two
 /// grids without scrolling, a taller one shows the trials in line.
@@ -99,19 +75,44 @@ class PairBox : public QWidget {
     QBoxLayout* box_;
 };
 
+/// A page of tabs; what a small screen has no room for scrolls. In a sheet, which fills its frame, its size is asked
+/// only when it is looked at: a page is measured box by box.
+class PageRoom : public QScrollArea {
+  public:
+    PageRoom(bool fillsFrame, QWidget* parent) : QScrollArea(parent), fillsFrame_(fillsFrame)
+    {
+        setFrameShape(QFrame::NoFrame);
+        setWidgetResizable(true);
+        viewport()->setAutoFillBackground(false);
+        setFocusPolicy(Qt::NoFocus);
+    }
+
+    QSize sizeHint() const override { return fillsFrame_ ? kSheetPage : QScrollArea::sizeHint(); }
+
+  private:
+    static constexpr QSize kSheetPage{960, 400};
+    bool fillsFrame_;
+};
+
+/// A list that never shows half a row.
+class WholeRowList : public QListWidget {
+  public:
+    using QListWidget::QListWidget;
+
+  protected:
+    void resizeEvent(QResizeEvent* event) override
+    {
+        QListWidget::resizeEvent(event);
+        const int row = sizeHintForRow(0), room = height() - 2 * frameWidth();
+        const int left = row > 0 ? room % row : 0;
+        if (viewportMargins().bottom() != left) setViewportMargins(0, 0, 0, left);
+    }
+};
+
 void Collect(const Place& place, Place::Kind kind, std::vector<const Place*>& into)
 {
     if (place.kind == kind) into.push_back(&place);
     for (const Place& part : place.parts) Collect(part, kind, into);
-}
-
-/// The wheel turns what has the focus, and over all else the page below it.
-bool IsWheelOverAnother(const QObject& watched, const QEvent& event)
-{
-    if (event.type() != QEvent::Wheel) return false;
-    const auto* box = qobject_cast<const QWidget*>(&watched);
-    const bool turns = qobject_cast<const QComboBox*>(box) || qobject_cast<const QDateEdit*>(box);
-    return turns && !box->hasFocus();
 }
 
 QLabel* MakeCaption(const Control& control, QWidget* buddy, QWidget* parent)
@@ -149,12 +150,20 @@ void FormView::Unbind()
     controls_.clear();
     frames_.clear();
     views_.clear();
+    pages_.clear();
 }
 
-QWidget* FormView::ViewOf(const Control& control) const
+QWidget* FormView::MadeViewOf(const Control& control) const
 {
     const auto found = views_.find(&control);
     return found == views_.end() ? nullptr : found->second;
+}
+
+QWidget* FormView::ViewOf(const Control& control)
+{
+    for (std::size_t page = 0; page < pages_.size(); ++page)
+        if (std::ranges::find(pages_[page].names, control.Name()) != pages_[page].names.end()) FillPage(page);
+    return MadeViewOf(control);
 }
 
 QWidget* FormView::Make(const Place& place, QWidget& parent)
@@ -182,7 +191,7 @@ QWidget* FormView::Make(const Place& place, QWidget& parent)
             return MakePicture(place, parent);
         case Place::Kind::Control: {
             QWidget* view = MakeControl(form_.Get<Control>(place.control), parent);
-            if (!place.text.empty()) view->setAccessibleName(ToQt(place.text));
+            if (!place.text.empty()) NameForEars(*view, ToQt(place.text));
             return view;
         }
         case Place::Kind::Space:
@@ -239,7 +248,7 @@ void FormView::AddFieldRow(QFormLayout& fields, const Place& place)
     auto* caption = MakeCaption(control, view, &parent);
     if (!place.text.empty()) {
         caption->setText(ToQt(place.text));
-        view->setAccessibleName(caption->text());
+        NameForEars(*view, caption->text());
     }
     fields.addRow(caption, view);
 }
@@ -270,25 +279,39 @@ QWidget* FormView::MakeTabs(const Place& place, QWidget& parent)
     auto& control = form_.Get<TabControl>(place.control);
     auto* tabs = new QTabWidget(&parent);
     for (std::size_t i = 0; i < place.parts.size(); ++i) {
-        auto* room = new QScrollArea(tabs);  // what a small screen has no room for scrolls
-        room->setFrameShape(QFrame::NoFrame);
-        room->setWidgetResizable(true);
-        room->viewport()->setAutoFillBackground(false);
-        room->setFocusPolicy(Qt::NoFocus);
+        auto* room = new PageRoom(form_.Window() == WindowKind::Sheet, tabs);
         tabs->addTab(room, QString::fromStdString(control.TabCaption(static_cast<int>(i))));
         auto* page = new QWidget(room);
         page->setAutoFillBackground(false);
         room->setWidget(page);
-        auto* box = new QVBoxLayout(page);
-        box->setContentsMargins(looks::kGap, looks::kGap, looks::kGap, looks::kGap);
-        box->addWidget(Make(place.parts[i], *page));
-        NamePlots(place.parts[i]);
+        pages_.push_back({&place.parts[i], page, PlacedControls(place.parts[i])});
+        const bool canWait = form_.Window() == WindowKind::Sheet && static_cast<int>(i) != control.Tab();
+        if (!canWait) FillPage(pages_.size() - 1);
     }
+    connect(tabs, &QTabWidget::currentChanged, this, [this, tabs](int tab) {
+        for (std::size_t page = 0; page < pages_.size(); ++page)
+            if (auto* room = tabs->widget(tab); room && room->isAncestorOf(pages_[page].page)) FillPage(page);
+    });
     bindings_.push_back(BindFurniture(control, *tabs));
     tabs->setAccessibleName(tr("Tabs"));
     bindings_.push_back(Bind(control, *tabs));
     Watch(control, *tabs);
     return tabs;
+}
+
+/// The page stands hidden meanwhile: what is made in sight is shown, and laid out, part by part.
+void FormView::FillPage(std::size_t number)
+{
+    auto& [place, page, names, isMade] = pages_[number];
+    if (isMade) return;
+    isMade = true;
+    page->hide();
+    auto* box = new QVBoxLayout(page);
+    box->setContentsMargins(looks::kGap, looks::kGap, looks::kGap, looks::kGap);
+    box->addWidget(Make(*place, *page));
+    NamePlots(*place);
+    page->show();
+    if (PageMade) PageMade();
 }
 
 QWidget* FormView::MakeField(const Place& place, QWidget& parent)
@@ -314,9 +337,9 @@ QWidget* FormView::MakeResult(const Place& place, QWidget& parent)
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(2);
     QWidget* figure = MakeControl(box, *widget);
-    figure->setFont(looks::Scaled(figure->font(), looks::kFigureSize, true));
+    ScaleLetters(*figure, looks::kFigureSize, true);
     auto* caption = MakeCaption(box, figure, widget);
-    caption->setFont(looks::Scaled(caption->font(), looks::kCaptionSize));
+    ScaleLetters(*caption, looks::kCaptionSize);
     column->addWidget(caption);
     auto* row = new QHBoxLayout;
     row->setSpacing(looks::kGap);
@@ -332,7 +355,7 @@ QWidget* FormView::MakeBanner(const Place& place, QWidget& parent)
     auto& box = form_.Get<TextBox>(place.control);
     auto* banner = new QLabel(&parent);
     banner->setAlignment(Qt::AlignCenter);
-    banner->setFont(looks::Scaled(banner->font(), looks::kBannerSize, true));
+    ScaleLetters(*banner, looks::kBannerSize, true);
     banner->setMinimumHeight(looks::kBannerHeight);
     banner->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     bindings_.push_back(BindFurniture(box, *banner));
@@ -359,12 +382,32 @@ void FormView::NamePlots(const Place& page)
             if (!text.isEmpty()) words << (PlainCaption(box) + " " + text + " " + ToQt(result->text)).trimmed();
         }
         for (const Place* plot : plots)
-            if (QWidget* view = ViewOf(form_.Get<Control>(plot->control)))
+            if (QWidget* view = MadeViewOf(form_.Get<Control>(plot->control)))
                 view->setAccessibleName(words.isEmpty() ? tr("Curve, no result yet")
                                                         : tr("Curve: ") + words.join(", "));
     };
+    TellWhatDraws(page, plots);
     for (const Place* result : results) bindings_.push_back(form_.Get<TextBox>(result->control).Show(name));
     name();
+}
+
+/// Of the commands on the page the one that comes last in the method's order.
+void FormView::TellWhatDraws(const Place& page, const std::vector<const Place*>& plots)
+{
+    const laboratory::Sheet* sheet = SheetOfForm(form_.Name());
+    if (!sheet || plots.empty()) return;
+    const auto names = PlacedControls(page);
+    std::string_view drawing;
+    for (const std::string_view command : sheet->commands)
+        if (std::ranges::find(names, command) != names.end()) drawing = command;
+    if (drawing.empty()) return;
+    const QString sentence = tr("%1 draws the curve here").arg(PlainCaption(form_.Get<Control>(drawing)));
+    for (const Place* plot : plots) {
+        auto* view = dynamic_cast<PlotView*>(MadeViewOf(form_.Get<Control>(plot->control)));
+        if (!view) continue;
+        view->WaitFor(sentence);
+        view->setAccessibleDescription(sentence);
+    }
 }
 
 QWidget* FormView::MakePlot(const Place& place, QWidget& parent)
@@ -432,7 +475,7 @@ struct FormView::WidgetMaker {
     QWidget* operator()(CheckBox& check) const { return form.MakeBound<QCheckBox>(check, parent); }
     QWidget* operator()(ListBox& list) const
     {
-        QWidget* view = form.MakeBound<QListWidget>(list, parent);
+        QWidget* view = form.MakeBound<WholeRowList>(list, parent);
         view->setMinimumHeight(2 * looks::kGridRowHeight);
         return view;
     }
@@ -464,136 +507,6 @@ QWidget* FormView::MakeGrid(TextGrid& grid, QWidget& parent)
     if (view->EditorBox()) Watch(*view->Editor(), *view->EditorBox());
     if (view->EditorList()) Watch(*view->ListEditor(), *view->EditorList());
     return view;
-}
-
-void FormView::Watch(Control& control, QWidget& view)
-{
-    views_[&control] = &view;
-    // A combo's and a date's own box takes the keys in their stead.
-    for (auto* box : view.findChildren<QLineEdit*>(Qt::FindDirectChildrenOnly)) {
-        controls_[box] = &control;
-        box->installEventFilter(this);
-    }
-    controls_[&view] = &control;
-    view.installEventFilter(this);
-    view.setMouseTracking(true);
-    ListenForTyping(control, view);
-    if (view.focusPolicy() == Qt::WheelFocus) view.setFocusPolicy(Qt::StrongFocus);
-}
-
-void FormView::ListenForTyping(const Control& control, QWidget& view)
-{
-    const auto tell = [this, &control] {
-        if (TypedIn) TypedIn(control);
-    };
-    for (auto* box : view.findChildren<QLineEdit*>(Qt::FindDirectChildrenOnly))
-        connect(box, &QLineEdit::textEdited, this, tell);
-    if (auto* box = qobject_cast<QLineEdit*>(&view)) connect(box, &QLineEdit::textEdited, this, tell);
-    if (auto* combo = qobject_cast<QComboBox*>(&view)) connect(combo, &QComboBox::activated, this, tell);
-    if (auto* date = qobject_cast<QDateEdit*>(&view)) connect(date, &QDateEdit::userDateChanged, this, tell);
-    auto* button = qobject_cast<QAbstractButton*>(&view);
-    if (button && button->isCheckable()) connect(button, &QAbstractButton::clicked, this, tell);
-}
-
-/// What the shell makes of a key before the form is asked: Enter presses a button, Tab leads through a grid and out of
-/// it.
-bool FormView::TakesKey(QObject& watched, Control& control, QKeyEvent& press)
-{
-    const bool isEnter = press.key() == Qt::Key_Return || press.key() == Qt::Key_Enter;
-    if (auto* button = qobject_cast<QPushButton*>(&watched); button && isEnter) {
-        button->click();
-        return true;
-    }
-    const bool isBack = press.key() == Qt::Key_Backtab;
-    if (press.key() != Qt::Key_Tab && !isBack) return false;
-    auto* grid = qobject_cast<QWidget*>(&watched);
-    while (grid && !dynamic_cast<GridView*>(grid)) grid = grid->parentWidget();
-    auto* view = dynamic_cast<GridView*>(grid);
-    return view && &control != &view->Grid() && view->WalkByTab(isBack);
-}
-
-bool FormView::eventFilter(QObject* watched, QEvent* event)
-{
-    if (IsWheelOverAnother(*watched, *event)) {
-        event->ignore();
-        return true;
-    }
-    if (event->type() == QEvent::MouseButtonPress) PressFrame(*watched);
-    const auto found = controls_.find(watched);
-    if (found == controls_.end()) return false;
-    Control& control = *found->second;
-    if (event->type() == QEvent::FocusIn) control.SetFocus();
-    if (event->type() == QEvent::Enter && control.MouseMove) control.MouseMove();
-    if (event->type() == QEvent::Leave && control.MouseMove && control.MouseLeave) control.MouseLeave();
-    if (event->type() != QEvent::KeyPress) return false;
-    auto* press = static_cast<QKeyEvent*>(event);
-    if (TakesKey(*watched, control, *press)) return true;
-    const bool isShortcut = press->modifiers() & (Qt::ControlModifier | Qt::AltModifier);
-    const auto key = isShortcut ? std::nullopt : KeyOf(press->key());
-    return key && control.PressKey(*key);
-}
-
-/// A press that no control in a frame takes is the frame's.
-void FormView::PressFrame(const QObject& watched)
-{
-    if (const auto found = frames_.find(&watched); found != frames_.end()) found->second->Press();
-}
-
-void FormView::BringToFront(const Control& control)
-{
-    QWidget* view = ViewOf(control);
-    for (TabControl* tabs : ControlsOf<TabControl>(form_)) {
-        auto* pages = view ? dynamic_cast<QTabWidget*>(ViewOf(*tabs)) : nullptr;
-        for (int tab = 0; pages && tab < pages->count(); ++tab)
-            if (pages->widget(tab)->isAncestorOf(view) && tabs->TabEnabled(tab)) tabs->SetTab(tab);
-    }
-}
-
-void FormView::LeadTo(const NoticePlace& place)
-{
-    Control* control = form_.Find(place.control);
-    if (!control) return;
-    BringToFront(*control);
-    QWidget* view = ViewOf(*control);
-    if (!view) return;
-    window()->activateWindow();
-    if (auto* grid = dynamic_cast<GridView*>(view); grid && place.IsCell())
-        return grid->ShowCell(place.row, place.column);
-    view->setFocus(Qt::OtherFocusReason);
-    if (auto* box = qobject_cast<QLineEdit*>(view)) box->selectAll();
-}
-
-bool FormView::IsInFront(const Control& control) const
-{
-    const QWidget* view = ViewOf(control);
-    return view && view->isVisible() && view->isEnabled() && control.Visible() && control.Enabled();
-}
-
-bool FormView::FocusIfEmpty(Control& control)
-{
-    if (!IsInFront(control)) return false;
-    if (auto* grid = dynamic_cast<GridView*>(ViewOf(control))) return grid->OpenFirstEmpty();
-    auto* box = dynamic_cast<TextControl*>(&control);
-    const bool isBanner = qobject_cast<QLabel*>(ViewOf(control)) != nullptr;
-    if (!box || box->Locked() || isBanner || !Trim(box->Text()).empty()) return false;
-    ViewOf(control)->setFocus(Qt::OtherFocusReason);
-    return true;
-}
-
-void FormView::FocusFirstEmpty()
-{
-    for (const std::string& name : placed_) {
-        Control* control = form_.Find(name);
-        if (control && FocusIfEmpty(*control)) return;
-    }
-}
-
-void FormView::FollowFocus()
-{
-    Control* active = form_.ActiveControl();
-    QWidget* view = active ? ViewOf(*active) : nullptr;
-    if (!view || !view->isVisible() || view->isAncestorOf(focusWidget()) || view->hasFocus()) return;
-    view->setFocus(Qt::OtherFocusReason);
 }
 
 }  // namespace terravane

@@ -35,8 +35,12 @@ class FormView : public QWidget {
     /// Stands the focus in the first typed place that is empty, in the order of the layout; of a grid trial by trial.
     void FocusFirstEmpty();
 
-    /// The widget of a control; nullptr where it has no place.
-    QWidget* ViewOf(const Control& control) const;
+    /// The widget of a control, whose page is made if it was not; nullptr where it has no place.
+    QWidget* ViewOf(const Control& control);
+    /// The same; nullptr also where it stands on a page that was not looked at yet.
+    QWidget* MadeViewOf(const Control& control) const;
+    /// A page of tabs was made: a sheet makes one when it is first looked at, and opens the sooner.
+    std::function<void()> PageMade;
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -50,10 +54,12 @@ class FormView : public QWidget {
     QWidget* MakePair(const Place& place, QWidget& parent);
     QWidget* MakeGroup(const Place& place, QWidget& parent);
     QWidget* MakeTabs(const Place& place, QWidget& parent);
+    void FillPage(std::size_t number);
     QWidget* MakeField(const Place& place, QWidget& parent);
     QWidget* MakeResult(const Place& place, QWidget& parent);
     QWidget* MakeBanner(const Place& place, QWidget& parent);
     void NamePlots(const Place& page);
+    void TellWhatDraws(const Place& page, const std::vector<const Place*>& plots);
     QWidget* MakePlot(const Place& place, QWidget& parent);
     QWidget* MakePicture(const Place& place, QWidget& parent);
     QWidget* MakeGrid(class TextGrid& grid, QWidget& parent);
@@ -73,7 +79,16 @@ class FormView : public QWidget {
     void PressFrame(const QObject& watched);
     void FollowFocus();
 
+    /// A page of tabs; the place is the layout's, which outlives every window.
+    struct Page {
+        const Place* place;
+        QWidget* page;
+        std::vector<std::string> names;  // of the controls on it
+        bool isMade = false;
+    };
+
     Form& form_;
+    std::vector<Page> pages_;
     std::unordered_map<const Control*, QWidget*> views_;
     std::unordered_map<const QObject*, Control*> controls_;
     std::unordered_map<const QObject*, Frame*> frames_;  // that hear a press

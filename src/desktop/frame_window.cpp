@@ -11,6 +11,7 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollArea>
 #include <QStatusBar>
 #include <QTimer>
 #include <QToolBar>
@@ -22,6 +23,7 @@
 #include "controls/choice_controls.h"
 #include "controls/furniture.h"
 #include "controls/visit_control.h"
+#include "desktop/appearance.h"
 #include "desktop/edit_menu.h"
 #include "desktop/history_panel.h"
 #include "desktop/keys.h"
@@ -81,8 +83,8 @@ FrameWindow::FrameWindow(Program& program, Journal& journal, Form& frame)
     column->addWidget(area_, 1);
     setCentralWidget(content);
     notices_ = new NoticeBar(
-        program.notices, [this](const NoticePlace& place) { LeadTo(program_, place); }, area_);
-    start_ = new StartPage(program, frame, area_);
+        program.notices, [this](const NoticePlace& place) { LeadTo(program_, place); }, content);
+    start_ = new StartPage(program, frame, content);
     area_->installEventFilter(this);
     BuildKeys();
     connect(this, &QWidget::windowTitleChanged, this, [this] { KeepTitle(); });
@@ -124,6 +126,8 @@ void FrameWindow::BuildViewMenu()
     view->setObjectName("view");
     view->addAction(tr("&Notices"), this, [this] { ShowToldNotices(program_.notices, this); });
     view->addAction(tr("&Keys"), this, [this] { ShowKeys(this); });
+    view->addSeparator();
+    AddAppearance(program_, *view);
 }
 
 void FrameWindow::AddHistoryPanel(Journal& journal)
@@ -194,19 +198,21 @@ void FrameWindow::BuildStrip(QWidget& content)
     auto* view = new QLabel(&content);
     view->setFixedHeight(looks::kStripHeight);
     bindings_.push_back(BindFurniture(strip, *view));
-    bindings_.push_back(strip.Show([this, &strip, view] {
+    const auto tell = [this, &strip, view] {
         const bool isChosen = form_.Get<Toolbar>("tbrLab").Enabled();
         view->setToolTip(strip.ToolTip().empty() ? (isChosen ? tr("Project open") : tr("No project"))
                                                  : ToQt(strip.ToolTip()));
         view->setAccessibleName(view->toolTip());
-    }));
+    };
+    bindings_.push_back(strip.Show(tell));
+    bindings_.push_back(form_.Get<Toolbar>("tbrLab").Show(tell));
     content.layout()->addWidget(view);
 }
 
 SheetWindow* FrameWindow::OpenSheet() const
 {
     for (QMdiSubWindow* window : area_->subWindowList())
-        if (auto* sheet = dynamic_cast<SheetWindow*>(window); sheet && sheet->isEnabled()) return sheet;
+        if (auto* sheet = dynamic_cast<SheetWindow*>(window); sheet && !sheet->isHidden()) return sheet;
     return nullptr;
 }
 
@@ -235,15 +241,24 @@ void FrameWindow::BuildKeys()
     });
 }
 
-/// Over the banner, so that no grid moves under the hand; the chip at its end stays in sight.
+/// The notices stand over the banner, so that no grid moves under the hand; the chip at its end stays in sight. In the
+/// area itself ears would hear the sheets alone.
 bool FrameWindow::eventFilter(QObject* watched, QEvent* event)
 {
     constexpr int kChipRoom = 148;
-    if (watched == area_ && event->type() == QEvent::Resize) {
-        notices_->setGeometry(0, 0, area_->width() - kChipRoom, looks::kBannerHeight);
-        start_->Settle();
+    if (watched == area_ && (event->type() == QEvent::Resize || event->type() == QEvent::Move)) {
+        const int height = std::max(looks::kBannerHeight, fontMetrics().height() + looks::kGap);
+        notices_->setGeometry(area_->x(), area_->y(), area_->width() - kChipRoom, height);
+        start_->Settle(area_->geometry());
     }
     return SettledWindow<QMainWindow>::eventFilter(watched, event);
+}
+
+/// The ground behind the sheets is no widget's own and does not follow by itself.
+void FrameWindow::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::PaletteChange && area_) area_->setBackground(palette().brush(QPalette::Mid));
+    SettledWindow<QMainWindow>::changeEvent(event);
 }
 
 void FrameWindow::resizeEvent(QResizeEvent* event)
@@ -259,6 +274,7 @@ QWidget* FrameWindow::ShowSheet(Form& sheet)
     window->setWindowIcon(windowIcon());
     area_->addSubWindow(window);
     window->Fill(*tools_);
+    window->PageMade = [this, window] { MarkNotes(*window, watch_); };
     window->resize(window->sizeHint().boundedTo(area_->viewport()->size()).expandedTo(window->minimumSizeHint()));
     window->move(static_cast<int>(sheet.Left / looks::kTwipsPerPixel),
                  static_cast<int>(sheet.Top / looks::kTwipsPerPixel));
@@ -266,7 +282,10 @@ QWidget* FrameWindow::ShowSheet(Form& sheet)
     window->showMaximized();
     window->widget()->show();
     window->resize(window->size().expandedTo(window->minimumSizeHint()));
-    QTimer::singleShot(0, window, [window] { window->FocusFirstEmpty(); });  // when it is loaded
+    QTimer::singleShot(0, window, [window, &sheet] {    // when it is loaded
+        window->setWindowTitle(ToQt(sheet.Caption()));  // Qt measures a title anew with every change of the window
+        window->FocusFirstEmpty();
+    });
     return window;
 }
 
@@ -279,7 +298,6 @@ void FrameWindow::closeEvent(QCloseEvent* event)
 
 SheetWindow::SheetWindow(Program& program, Form& sheet) : program_(program), form_(sheet), next_(sheet)
 {
-    setWindowTitle(ToQt(sheet.Caption()));
     for (QAction* action : systemMenu()->actions()) action->setShortcut({});  // Ctrl+W asks first
 }
 
@@ -300,10 +318,19 @@ void SheetWindow::Fill(QHBoxLayout& tools)
     bindings_.push_back(Bind(form_.Get<Toolbar>("tblMenu"), *bar_));
     bar_->setAccessibleName(tr("Sheet"));
     tools.addWidget(bar_);
-    view_ = new FormView(form_, LayoutOf(form_.Name()), content);
+    view_ = new FormView(form_, LayoutOf(form_.Name()));
     view_->TypedIn = [this](const Control& control) { Typed(control); };
     view_->CommandPressed = [this](Control& command) { CommandPressed(command); };
-    column->addWidget(view_, 1);
+    view_->PageMade = [this] {
+        ShowNext();
+        if (PageMade) PageMade();
+    };
+    auto* room = new QScrollArea(content);  // for letters so large that not even what heads the sheet has room
+    room->setFrameShape(QFrame::NoFrame);
+    room->setWidgetResizable(true);
+    room->setFocusPolicy(Qt::NoFocus);
+    room->setWidget(view_);
+    column->addWidget(room, 1);
     AddChip();
     auto* status = new QStatusBar(content);
     status->setObjectName("stbDes");
@@ -338,7 +365,7 @@ void SheetWindow::AddChip()
     row->addWidget(chip);
     chip->setFrameShape(QFrame::Box);
     chip->setContentsMargins(looks::kGap, 1, looks::kGap, 1);  // the frame is drawn inside them
-    chip->setFixedHeight(looks::kBannerHeight - 12);
+    chip->setFixedHeight(std::max(looks::kBannerHeight - 12, chip->fontMetrics().height() + 4));
     bindings_.push_back(banner.Show([this, chip, view] {
         QTimer::singleShot(0, chip, [this, chip, view] {  // the banner is written before the material is chosen
             if (program_.CurrentMaterial == Material::None) return;
@@ -371,7 +398,7 @@ void SheetWindow::ShowNext()
 {
     const CommandButton* next = next_.Find();
     for (CommandButton* command : ControlsOf<CommandButton>(form_)) {
-        auto* view = dynamic_cast<QPushButton*>(view_->ViewOf(*command));
+        auto* view = dynamic_cast<QPushButton*>(view_->MadeViewOf(*command));
         if (view && view->isDefault() != (command == next)) view->setDefault(command == next);
     }
 }

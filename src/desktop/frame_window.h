@@ -4,6 +4,7 @@
 #include <QMainWindow>
 #include <QMdiSubWindow>
 #include <QPointer>
+#include <functional>
 
 #include "desktop/form_view.h"
 #include "desktop/windows.h"
@@ -35,6 +36,7 @@ class FrameWindow : public SettledWindow<QMainWindow> {
 
   protected:
     void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -52,7 +54,7 @@ class FrameWindow : public SettledWindow<QMainWindow> {
     Program& program_;
     Form& form_;
     notes::NotesWatch watch_;
-    QMdiArea* area_;
+    QMdiArea* area_ = nullptr;
     QHBoxLayout* tools_ = nullptr;
     QLabel* project_ = nullptr;
     NoticeBar* notices_ = nullptr;
@@ -72,6 +74,9 @@ class SheetWindow : public QMdiSubWindow {
     void Fill(QHBoxLayout& tools);
     /// Ends all traffic of the bar with the form, and takes it out of the row.
     void TakeBarAway();
+
+    /// A page of the sheet was made, which happens when it is first looked at.
+    std::function<void()> PageMade;
 
     void Save();
     /// Presses the command that is next, on its tab.

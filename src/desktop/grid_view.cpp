@@ -1,6 +1,7 @@
 #include "desktop/grid_view.h"
 
 #include <QAbstractTableModel>
+#include <QAccessible>
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QHeaderView>
@@ -10,9 +11,11 @@
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QStyledItemDelegate>
+#include <QTimer>
 #include <algorithm>
 
 #include "controls/visit_control.h"
+#include "desktop/appearance.h"
 #include "desktop/looks.h"
 #include "desktop/qt_text.h"
 #include "program/cell_words.h"
@@ -21,21 +24,32 @@ namespace terravane {
 
 namespace {
 
-constexpr int kLeastRowsShown = 12;
-constexpr int kMostRowsUnscrolled = 20;
-constexpr int kLeastColumnWidth = 56;
-constexpr int kMostColumnWidth = 110;
-constexpr double kHeadTint = 0.06, kWorkedOutTint = 0.03, kHairline = 0.16;  // of the ink in the ground
-constexpr int kUnbroken = 4000;                                              // room for any title in one line
-
 bool IsMerged(const TextGrid& grid, int column)
 {
     return grid.MergeCells == Merging::Free && grid.MergeCol(column);
 }
 
+}  // namespace
+
 bool HoldsTitles(const TextGrid& grid, int column)
 {
     return (column == 0 && grid.TitleColumns() > 0) || IsMerged(grid, column);
+}
+
+namespace {
+
+constexpr int kLeastRowsShown = 12;
+constexpr int kMostRowsUnscrolled = 20;
+constexpr int kLeastColumnWidth = 56;
+constexpr int kMostColumnWidth = 110;
+constexpr double kHeadTint = 0.06, kWorkedOutTint = 0.03, kHairline = 0.16;  // of the ink in the ground
+constexpr std::size_t kMostSizesKept = 10000;
+constexpr int kUnbroken = 4000;  // room for any title in one line
+
+/// A width that is read at 100 percent, for the letters of today.
+int WithLetters(int pixels)
+{
+    return static_cast<int>(pixels * TextFactor());
 }
 
 /// So much of the ink in the ground.
@@ -61,6 +75,13 @@ QColor GroundOf(const TextGrid& grid, int row, int column, const QPalette& palet
 bool BeginsGroup(const TextGrid& grid, int row)
 {
     return row > 0 && IsMerged(grid, 0) && grid.AreaOf(row, 0).row == row;
+}
+
+/// What texts need in a font, for all grids of the program.
+TextSizes& SizesIn(const QFont& font)
+{
+    static std::map<QString, TextSizes> sizes;
+    return sizes[font.key()];
 }
 
 /// The editor of that kind that floats over the grid, if any.
@@ -191,7 +212,7 @@ GridView::GridView(TextGrid& grid, QWidget* parent)
 {
     horizontalHeader()->hide();
     verticalHeader()->hide();
-    horizontalHeader()->setMinimumSectionSize(kLeastColumnWidth);
+    horizontalHeader()->setMinimumSectionSize(WithLetters(kLeastColumnWidth));
     setEditTriggers(NoEditTriggers);
     setSelectionMode(NoSelection);
     setTabKeyNavigation(false);
@@ -206,6 +227,11 @@ GridView::GridView(TextGrid& grid, QWidget* parent)
         ShowMerged();
         ShowEditors();
     }));
+}
+
+QModelIndex GridView::CellAt(int row, int column) const
+{
+    return model_->index(row, column);
 }
 
 /// Cells that merge stand as one, their text in its middle.
@@ -232,6 +258,7 @@ void GridView::MakeEditorBox()
     box_->setProperty("isEditor", true);  // named when it stands over a cell
     box_->hide();
     connect(box_, &QLineEdit::textEdited, this, [this](const QString& text) { editor_->Type(text.toStdString()); });
+    TakeTextsOfOthers(*box_, *editor_);
     bindings_.push_back(editor_->Show([this] { ShowEditors(); }));
 }
 
@@ -252,8 +279,7 @@ void GridView::NameEditors()
     if (grid_.Row() >= grid_.Rows()) return;
     const QString words = ToQt(CellWords(grid_, grid_.Row(), grid_.Column()));
     for (QWidget* editor : {static_cast<QWidget*>(box_), static_cast<QWidget*>(list_)})
-        if (editor && editor->accessibleName() != words) editor->setAccessibleName(words);
-    if (list_) list_->lineEdit()->setAccessibleName(words);
+        if (editor && editor->accessibleName() != words) NameForEars(*editor, words);
 }
 
 /// Over the current cell, or hidden; false where it is hidden.
@@ -285,10 +311,12 @@ void GridView::ShowEditors()
     selectRequestsSeen_ = editor_->SelectAllRequests();
 }
 
-/// Layouts ask for the same sizes many times over, and breaking texts into lines is slow.
+/// Layouts ask for the same sizes many times over, sheet after sheet, and breaking texts into lines is slow.
 QSize GridView::TextSize(const std::string& text, int room) const
 {
-    const auto [known, isNew] = textSizes_.try_emplace({text, room});
+    if (!textSizes_) textSizes_ = &SizesIn(font());
+    if (textSizes_->size() > kMostSizesKept) textSizes_->clear();
+    const auto [known, isNew] = textSizes_->try_emplace({text, room});
     if (isNew) {
         const auto shown = QString::fromStdString(text).trimmed();
         known->second = fontMetrics().boundingRect(QRect(0, 0, room, 1000), Qt::TextWordWrap, shown).size();
@@ -299,12 +327,13 @@ QSize GridView::TextSize(const std::string& text, int room) const
 /// Until the cells are there, of the width that new columns have.
 int GridView::CurrentWidth(int column) const
 {
-    return std::max(kLeastColumnWidth, model() ? columnWidth(column) : horizontalHeader()->defaultSectionSize());
+    return std::max(WithLetters(kLeastColumnWidth),
+                    model() ? columnWidth(column) : horizontalHeader()->defaultSectionSize());
 }
 
 int GridView::MinimumRowHeight(int row) const
 {
-    int height = looks::kGridRowHeight;
+    int height = std::max(looks::kGridRowHeight, fontMetrics().height() + looks::kGap);
     if (row >= grid_.HeadRows()) return height;
     for (int column = 0; column < grid_.Columns(); ++column) {
         height = std::max(height, TextSize(std::as_const(grid_)(row, column), CurrentWidth(column) - 4).height() + 8);
@@ -325,7 +354,7 @@ int GridView::TitlesWidth() const
 {
     int width = 0;
     for (int column = 0; column < grid_.Columns(); ++column)
-        if (HoldsTitles(grid_, column)) width += std::max(kLeastColumnWidth, TitleWidth(column));
+        if (HoldsTitles(grid_, column)) width += std::max(WithLetters(kLeastColumnWidth), TitleWidth(column));
     return width;
 }
 
@@ -342,20 +371,21 @@ QSize GridView::SizeFor(int mostRows, int columnWidth) const
 
 QSize GridView::minimumSizeHint() const
 {
-    return IsWhole() ? SizeFor(kLeastRowsShown, kLeastColumnWidth) : SizeFor(4, kLeastColumnWidth);
+    return IsWhole() ? SizeFor(kLeastRowsShown, WithLetters(kLeastColumnWidth))
+                     : SizeFor(4, WithLetters(kLeastColumnWidth));
 }
 
 QSize GridView::sizeHint() const
 {
-    if (IsWhole()) return SizeFor(kMostRowsUnscrolled, kMostColumnWidth);
+    if (IsWhole()) return SizeFor(kMostRowsUnscrolled, WithLetters(kMostColumnWidth));
     double width = 0;
     for (int column = 0; column < grid_.Columns(); ++column) width += grid_.ColumnWidth(column) / looks::kTwipsPerPixel;
-    return SizeFor(grid_.Rows(), kLeastColumnWidth).expandedTo({static_cast<int>(width), 0});
+    return SizeFor(grid_.Rows(), WithLetters(kLeastColumnWidth)).expandedTo({static_cast<int>(width), 0});
 }
 
 void GridView::changeEvent(QEvent* event)
 {
-    if (event->type() == QEvent::FontChange) textSizes_.clear();
+    if (event->type() == QEvent::FontChange) textSizes_ = nullptr;
     QTableView::changeEvent(event);
 }
 
@@ -419,8 +449,8 @@ void GridView::DistributeWidth()
     int left = viewport()->width();
     for (int column = 0; column < grid_.Columns(); ++column) {
         const int asked = HoldsTitles(grid_, column) ? TitleWidth(column) : ColumnShare(column, left);
-        const int most = IsWhole() && !HoldsTitles(grid_, column) ? kMostColumnWidth : asked;
-        const int width = std::max(kLeastColumnWidth, std::min(asked, most));
+        const int most = IsWhole() && !HoldsTitles(grid_, column) ? WithLetters(kMostColumnWidth) : asked;
+        const int width = std::max(WithLetters(kLeastColumnWidth), std::min(asked, most));
         setColumnWidth(column, width);
         left -= width;
     }
@@ -436,142 +466,6 @@ void GridView::DistributeHeight()
     while (shown < rows && spare >= MinimumRowHeight(shown)) spare -= MinimumRowHeight(shown++);
     const int even = IsWhole() || shown == rows ? 0 : std::min(spare / std::max(1, shown), looks::kGridRowHeight / 2);
     for (int row = 0; row < rows; ++row) setRowHeight(row, MinimumRowHeight(row) + even);
-}
-
-void GridView::mousePressEvent(QMouseEvent* event)
-{
-    const QModelIndex cell = indexAt(event->pos());
-    if (!cell.isValid()) return;
-    if (event->button() == Qt::LeftButton) grid_.PressMouse(MouseButton::Left, cell.row(), cell.column());
-    if (event->button() == Qt::RightButton) grid_.PressMouse(MouseButton::Right, cell.row(), cell.column());
-}
-
-/// The Tab key enters a grid as a press on its first cell would, Shift+Tab as one on its last.
-void GridView::focusInEvent(QFocusEvent* event)
-{
-    QTableView::focusInEvent(event);
-    viewport()->update();
-    if (!editor_) return;
-    const CellRange range = editor_->Range();
-    if (event->reason() == Qt::TabFocusReason) grid_.PressMouse(MouseButton::Left, range.firstRow, range.firstColumn);
-    if (event->reason() == Qt::BacktabFocusReason) ShowCell(range.lastRow, range.lastColumn);
-}
-
-void GridView::focusOutEvent(QFocusEvent* event)
-{
-    QTableView::focusOutEvent(event);
-    viewport()->update();
-}
-
-bool GridView::IsTyped(int row, int column) const
-{
-    const auto holds = [&](const auto* editor) { return editor && editor->Range().Holds(row, column); };
-    return (holds(editor_) || holds(listEditor_)) && !grid_.IsCalculated(row, column);
-}
-
-void GridView::ShowCell(int row, int column)
-{
-    if (row < 0 || row >= grid_.Rows() || column < 0 || column >= grid_.Columns()) return;
-    if (IsTyped(row, column)) return grid_.PressMouse(MouseButton::Left, row, column);
-    if (editor_) editor_->Hide();
-    grid_.Select(row, column);
-    setFocus(Qt::OtherFocusReason);
-    if (model()) scrollTo(model_->index(row, column));
-    viewport()->update();
-}
-
-bool GridView::OpenFirstEmpty()
-{
-    if (!editor_) return false;
-    const CellRange range = editor_->Range();
-    for (int column = range.firstColumn; column <= range.lastColumn; ++column) {
-        for (int row = range.firstRow; row <= range.lastRow; ++row) {
-            const std::string& text = std::as_const(grid_)(row, column);
-            if (!IsTyped(row, column) || !QString::fromStdString(text).trimmed().isEmpty()) continue;
-            grid_.PressMouse(MouseButton::Left, row, column);
-            return true;
-        }
-    }
-    return false;
-}
-
-/// Back is the way that Tab came, over what is worked out.
-bool GridView::WalkByTab(bool isBack)
-{
-    if (!editor_ || !editor_->Visible()) return false;
-    const int row = grid_.Row(), column = grid_.Column();
-    if (!isBack) {
-        editor_->PressKey(Key::Tab);
-    } else {
-        const CellRange range = editor_->Range();
-        int backRow = row, backColumn = column;
-        do {
-            if (--backColumn < range.firstColumn) {
-                backColumn = range.lastColumn;
-                --backRow;
-            }
-        } while (backRow >= range.firstRow && grid_.IsCalculated(backRow, backColumn));
-        if (backRow >= range.firstRow) grid_.PressMouse(MouseButton::Left, backRow, backColumn);
-    }
-    if (grid_.Row() != row || grid_.Column() != column) return true;
-    editor_->Hide();
-    return focusNextPrevChild(!isBack);
-}
-
-bool GridView::OpenCurrent()
-{
-    if (!IsTyped(grid_.Row(), grid_.Column())) return false;
-    grid_.PressMouse(MouseButton::Left, grid_.Row(), grid_.Column());
-    return true;
-}
-
-/// To the next typed cell that way.
-void GridView::MoveCurrent(int down, int right)
-{
-    int row = grid_.Row() + down, column = grid_.Column() + right;
-    while (row >= 0 && row < grid_.Rows() && column >= 0 && column < grid_.Columns() && !IsTyped(row, column)) {
-        row += down;
-        column += right;
-    }
-    if (row < 0 || row >= grid_.Rows() || column < 0 || column >= grid_.Columns()) return;
-    grid_.Select(row, column);
-    scrollTo(model_->index(row, column));
-    viewport()->update();
-}
-
-/// With the grid's own focus, after Esc: arrows move the edge, what types a text or F2 or Enter opens the cell.
-void GridView::keyPressEvent(QKeyEvent* event)
-{
-    switch (event->key()) {
-        case Qt::Key_Up:
-            return MoveCurrent(-1, 0);
-        case Qt::Key_Down:
-            return MoveCurrent(1, 0);
-        case Qt::Key_Left:
-            return MoveCurrent(0, -1);
-        case Qt::Key_Right:
-            return MoveCurrent(0, 1);
-        case Qt::Key_F2:
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-            OpenCurrent();
-            return;
-        default:
-            break;
-    }
-    const bool isText = !event->text().isEmpty() && event->text().front().isPrint() &&
-                        !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier));
-    if (!isText || !OpenCurrent()) return event->ignore();
-    if (QWidget* box = box_ && box_->isVisible() ? static_cast<QWidget*>(box_) : list_)
-        QCoreApplication::sendEvent(box, event);  // the text is selected whole: the key takes its place
-}
-
-void GridView::scrollContentsBy(int dx, int dy)
-{
-    QTableView::scrollContentsBy(dx, dy);
-    for (QWidget* editor : {static_cast<QWidget*>(box_), static_cast<QWidget*>(list_)}) {
-        if (editor && editor->isVisible()) editor->setGeometry(visualRect(model_->index(grid_.Row(), grid_.Column())));
-    }
 }
 
 }  // namespace terravane

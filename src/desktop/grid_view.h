@@ -19,6 +19,12 @@ namespace terravane {
 
 class GridModel;
 
+/// By text and the room in which its lines are broken, pixels.
+using TextSizes = std::map<std::pair<std::string, int>, QSize>;
+
+/// Whether a column tells what its rows are, be it in merged groups.
+bool HoldsTitles(const TextGrid& grid, int column);
+
 class GridView : public QTableView {
   public:
     GridView(TextGrid& grid, QWidget* parent);
@@ -61,9 +67,13 @@ class GridView : public QTableView {
 
   private:
     bool IsTyped(int row, int column) const;
+    QModelIndex CellAt(int row, int column) const;
+    bool CanBeOpened(int row, int column) const;
     bool OpenCurrent();
     void MoveCurrent(int down, int right);
     void NameEditors();
+    void SpeakCurrent();
+    void SpeakFocus();
     int TitlesWidth() const;
     QSize SizeFor(int mostRows, int columnWidth) const;
     void AttachModel();
@@ -88,7 +98,7 @@ class GridView : public QTableView {
     ListCellEditor* listEditor_;
     QComboBox* list_ = nullptr;
     int selectRequestsSeen_ = 0;
-    mutable std::map<std::pair<std::string, int>, QSize> textSizes_;  // by text and its room, in the view's font
+    mutable TextSizes* textSizes_ = nullptr;  // in the view's font
     Bindings bindings_;
 };
 

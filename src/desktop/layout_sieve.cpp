@@ -12,7 +12,7 @@ Place MassesTab()
     return Row({
         Column({Group("FraWt",
                       {Row({One("optNo"), One("optYes"), Space()}), Fields({"txtGsoil", "txtDwp", "txtWl", "txtErr"})}),
-                Group("Frame10", {One("lstSieve", 1), Row({Space(), One("cmdSieve")})}, 1)},
+                Group("Frame10", {Row({One("lstSieve", 1), Column({Space(), One("cmdSieve")})}, 1)}, 1)},
                2),
         Column({Group("FraWt1", {One("MSHSieve", 1)}, 1), Row({Space(), One("cmdCal"), One("cmdView")})}, 4),
     });

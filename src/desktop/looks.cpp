@@ -2,7 +2,9 @@
 
 #include <QApplication>
 #include <QFontDatabase>
+#include <QIconEngine>
 #include <QPainter>
+#include <QPainterPath>
 #include <QPalette>
 #include <QPixmap>
 #include <QVariant>
@@ -55,6 +57,72 @@ QIcon CachedIcon(const QByteArray& name, const Make& make)
     qApp->setProperty(name, icon);
     return icon;
 }
+
+/// Lines on a field of 16 by 16.
+QPainterPath LinesOf(Sign sign)
+{
+    QPainterPath lines;
+    switch (sign) {
+        case Sign::Save:  // an arrow into a tray
+            lines.moveTo(8, 2);
+            lines.lineTo(8, 10);
+            lines.moveTo(4.5, 6.5);
+            lines.lineTo(8, 10);
+            lines.lineTo(11.5, 6.5);
+            lines.moveTo(2.5, 10);
+            lines.lineTo(2.5, 13.5);
+            lines.lineTo(13.5, 13.5);
+            lines.lineTo(13.5, 10);
+            break;
+        case Sign::Page:  // with three lines of text
+            lines.addRect(3.5, 2, 9, 12);
+            for (const double y : {5.0, 8.0, 11.0}) {
+                lines.moveTo(5.5, y);
+                lines.lineTo(10.5, y);
+            }
+            break;
+        case Sign::Cross:
+            lines.moveTo(3.5, 3.5);
+            lines.lineTo(12.5, 12.5);
+            lines.moveTo(12.5, 3.5);
+            lines.lineTo(3.5, 12.5);
+            break;
+    }
+    return lines;
+}
+
+class SignEngine : public QIconEngine {
+  public:
+    explicit SignEngine(Sign sign) : sign_(sign) {}
+
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override
+    {
+        constexpr double kField = 16, kPen = 1.6;
+        const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
+        painter->save();
+        painter->setRenderHint(QPainter::Antialiasing);
+        painter->translate(rect.topLeft());
+        painter->scale(rect.width() / kField, rect.height() / kField);
+        painter->setPen(QPen(QApplication::palette().color(group, QPalette::ButtonText), kPen, Qt::SolidLine,
+                             Qt::RoundCap, Qt::RoundJoin));
+        painter->drawPath(LinesOf(sign_));
+        painter->restore();
+    }
+
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override
+    {
+        QPixmap pixmap(size);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        paint(&painter, QRect(QPoint(0, 0), size), mode, state);
+        return pixmap;
+    }
+
+    QIconEngine* clone() const override { return new SignEngine(sign_); }
+
+  private:
+    Sign sign_;
+};
 
 QIcon PaintMark()
 {
@@ -133,6 +201,12 @@ DisplayList ProgramMark()
 QIcon ProgramIcon()
 {
     return CachedIcon("programIcon", PaintMark);
+}
+
+QIcon SignIcon(Sign sign)
+{
+    return CachedIcon("sign" + QByteArray::number(static_cast<int>(sign)),
+                      [sign] { return QIcon(new SignEngine(sign)); });
 }
 
 QIcon StandardIcon(QStyle::StandardPixmap which)

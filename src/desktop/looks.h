@@ -39,7 +39,10 @@ QFont Scaled(QFont font, double factor, bool bold = false);
 void SetGround(QWidget& widget, const QColor& ground);
 /// The program's own mark.
 QIcon ProgramIcon();
-/// One of the platform's.
+/// What stands on the tools, drawn in the palette's ink, whichever palette that is at the time.
+enum class Sign { Save, Page, Cross };
+QIcon SignIcon(Sign sign);
+/// One of the platform's, in its own colours.
 QIcon StandardIcon(QStyle::StandardPixmap which);
 /// The mark as a drawing, in twips: a compaction curve over a soil profile.
 DisplayList ProgramMark();

@@ -3,6 +3,7 @@
 
 #include "app/form_makers.h"
 #include "app/mdiBack.h"
+#include "desktop/appearance.h"
 #include "desktop/desktop.h"
 #include "desktop/looks.h"
 #include "desktop/qt_surroundings.h"
@@ -24,7 +25,7 @@ std::string ApplicationPath(const terravane::FileSystem& files)
 /// The splash; a project that the desktop or the command line names goes straight to the frame.
 void ShowFirstForm(terravane::Program& program, const QStringList& arguments)
 {
-    if (arguments.size() < 2) {
+    if (arguments.size() < 2 || arguments.at(1).startsWith("--")) {
         program.Show("frmTitle");
         return;
     }
@@ -52,6 +53,7 @@ int main(int argc, char** argv)
         WriteFirstContent(files, program.BrandFolderNow());
         WriteGuide(files, ShareFolder().append(kGuideFile), program.BrandFolderNow());
     });
+    RestoreAppearance(program, QCoreApplication::arguments());
     Desktop desktop(program, surroundings);
     desktop.KeepDrafts(WithMark(DataFolder()) + "Drafts");
     program.Run("Start", [&] { ShowFirstForm(program, QCoreApplication::arguments()); });

@@ -78,7 +78,7 @@ NoticeBar::NoticeBar(Notices& notices, std::function<void(const NoticePlace&)> l
     sentence_->setTextFormat(Qt::PlainText);
     sentence_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     cross_->setObjectName("noticeClose");
-    cross_->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
+    cross_->setIcon(looks::SignIcon(looks::Sign::Cross));
     cross_->setAutoRaise(true);
     cross_->setToolTip(tr("Close this notice"));
     cross_->setAccessibleName(cross_->toolTip());

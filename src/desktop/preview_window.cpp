@@ -116,6 +116,8 @@ PreviewWindow::PreviewWindow(Program& program, QtSurroundings& surroundings, For
     pages->setSpacing(0);
     auto* across = new QScrollBar(Qt::Horizontal, this);
     auto* down = new QScrollBar(Qt::Vertical, this);
+    across->setObjectName("HScroll1");
+    down->setObjectName("VScroll1");
     pages->addWidget(new PageView(preview, this), 0, 0);
     pages->addWidget(down, 0, 1);
     pages->addWidget(across, 1, 0);
@@ -153,7 +155,7 @@ void PreviewWindow::BuildBar(QToolBar& bar)
     pdf->setText(tr("Save as PDF"));
     pdf->setAccessibleName(pdf->text());
     pdf->setObjectName("savePdf");
-    pdf->setIcon(looks::StandardIcon(QStyle::SP_DialogSaveButton));
+    pdf->setIcon(looks::SignIcon(looks::Sign::Save));
     pdf->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     connect(pdf, &QToolButton::clicked, this, [this] { SaveAsPdf(); });
     bar.addWidget(pdf);

@@ -10,6 +10,7 @@
 #include <string>
 
 #include "app/mdiBack.h"
+#include "desktop/appearance.h"
 #include "desktop/looks.h"
 #include "desktop/qt_text.h"
 #include "runtime/machine.h"
@@ -44,7 +45,7 @@ QString RecentWords(const QFileInfo& file)
 StartPage::StartPage(Program& program, Form& frame, QWidget* parent) : QWidget(parent), program_(program), form_(frame)
 {
     setObjectName("startPage");
-    setFixedWidth(kWidth);
+    setMinimumWidth(kWidth);
     setAccessibleName(tr("Start"));
     auto* column = new QVBoxLayout(this);
     column->setSpacing(looks::kMargin);
@@ -56,7 +57,7 @@ StartPage::StartPage(Program& program, Form& frame, QWidget* parent) : QWidget(p
     for (const char* entry : {"mnuNew", "mnuOpen"}) {
         auto& command = form_.Get<MenuEntry>(entry);
         auto* button = Add(*column, QString("start_") + entry, ToQt(command.Caption()));
-        button->setFont(looks::Scaled(button->font(), looks::kFigureSize, true));
+        ScaleLetters(*button, looks::kFigureSize, true);
         connect(button, &QPushButton::clicked, this, [&command] { command.Press(); });
     }
     AddRecent(*column);
@@ -64,12 +65,12 @@ StartPage::StartPage(Program& program, Form& frame, QWidget* parent) : QWidget(p
     bindings_.push_back(form_.Get<Toolbar>("tbrLab").Show([this] { Follow(); }));
 }
 
-void StartPage::Settle()
+void StartPage::Settle(const QRect& room)
 {
+    room_ = room;
     layout()->activate();
     adjustSize();
-    const QSize room = parentWidget()->size();
-    move((room.width() - width()) / 2, (room.height() - height()) / 3);
+    move(room.left() + (room.width() - width()) / 2, room.top() + (room.height() - height()) / 3);
 }
 
 QPushButton* StartPage::Add(QVBoxLayout& column, const QString& name, const QString& text)
@@ -90,7 +91,7 @@ void StartPage::AddRecent(QVBoxLayout& column)
     bindings_.push_back(command.Show([this, &command] {
         recent_->setText(RecentWords(QFileInfo(ToQt(Printable(command.Caption())))));
         recent_->setVisible(command.Visible());
-        Settle();
+        Settle(room_);
     }));
 }
 

@@ -16,8 +16,8 @@ class StartPage : public QWidget {
   public:
     StartPage(Program& program, Form& frame, QWidget* parent);
 
-    /// Stands the page in the upper middle of its parent, as high as it has to be.
-    void Settle();
+    /// Stands the page in the upper middle of a room of its parent, as high as it has to be.
+    void Settle(const QRect& room);
 
   private:
     QPushButton* Add(QVBoxLayout& column, const QString& name, const QString& text);
@@ -28,6 +28,7 @@ class StartPage : public QWidget {
     Program& program_;
     Form& form_;
     QPushButton* recent_ = nullptr;
+    QRect room_;
     Bindings bindings_;
 };
 

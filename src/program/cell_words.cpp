@@ -30,14 +30,37 @@ std::string PlainWords(std::string_view caption)
     return std::string(Trim(words));
 }
 
-std::string ColumnWords(const TextGrid& grid, int column)
+namespace {
+
+/// The texts at the head of a column.
+std::string HeadWords(const TextGrid& grid, int column)
 {
     std::string words;
     for (int row = 0; row < grid.HeadRows() && row < grid.Rows(); ++row) {
         const std::string head = PlainWords(grid(row, column));
         if (!head.empty()) words.append(words.empty() ? "" : " ").append(head);
     }
-    if (!IsNumberOrNothing(words)) return words;
+    return words;
+}
+
+/// Of columns with one head the second is called by a 2; nothing where the head is the only one.
+std::string NumberAmongLike(const TextGrid& grid, int column, const std::string& head)
+{
+    int before = 0, all = 0;
+    for (int other = grid.TitleColumns(); other < grid.Columns(); ++other) {
+        if (HeadWords(grid, other) != head) continue;
+        ++all;
+        before += other < column ? 1 : 0;
+    }
+    return all > 1 && column >= grid.TitleColumns() ? " " + std::to_string(before + 1) : std::string();
+}
+
+}  // namespace
+
+std::string ColumnWords(const TextGrid& grid, int column)
+{
+    const std::string words = HeadWords(grid, column);
+    if (!IsNumberOrNothing(words)) return words + NumberAmongLike(grid, column, words);
     return "trial " + (words.empty() ? std::to_string(column - grid.TitleColumns() + 1) : words);
 }
 

@@ -7,7 +7,8 @@
 
 namespace terravane {
 
-/// The texts at the head of a column, or "trial 3" where the column has a number or nothing there.
+/// The texts at the head of a column, "Before Soaking 2" where several have the same, or "trial 3" where the column has
+/// a number or nothing there.
 std::string ColumnWords(const TextGrid& grid, int column);
 
 /// The text in front of a row, or "row 3" where nothing or a number stands there.

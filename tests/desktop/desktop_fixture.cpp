@@ -1,5 +1,6 @@
 #include "desktop/desktop_fixture.h"
 
+#include "desktop/form_view.h"
 #include "render/pdf.h"
 
 namespace terravane {
@@ -37,6 +38,13 @@ DesktopFixture::DesktopFixture() : surroundings(disk), program(surroundings, dis
     desktop = std::make_unique<Desktop>(program, surroundings);
     program.Run("Start", [this] { program.Show("mdiBack"); });
     (void)QTest::qWaitForWindowExposed(Window("mdiBack"));
+}
+
+void DesktopFixture::MakePageOf(const std::string& form, const std::string& control) const
+{
+    const Control* shown = FormNamed(form).Find(control);
+    for (QObject* part : Window(form)->findChildren<QObject*>())
+        if (auto* view = dynamic_cast<FormView*>(part); view && shown) view->ViewOf(*shown);
 }
 
 void DesktopFixture::MakeProject(const std::string& name)

@@ -72,12 +72,14 @@ struct DesktopFixture {
     std::string PathOf(const std::string& name) const { return (home.path() + "/").toStdString() + name; }
     Form& FormNamed(const std::string& name) const { return *program.Loaded(name); }
     QWidget* Window(const std::string& form) const { return desktop->WindowOf(FormNamed(form)); }
-    /// The widget that shows a control of a form.
+    /// The widget that shows a control of a form, also on a page that was not looked at yet.
     template <class T = QWidget>
     T* Widget(const std::string& form, const std::string& control) const
     {
+        MakePageOf(form, control);
         return Window(form)->findChild<T*>(QString::fromStdString(control));
     }
+    void MakePageOf(const std::string& form, const std::string& control) const;
     void PressMenu(const std::string& entry) { FormNamed("mdiBack").Get<MenuEntry>(entry).Press(); }
 
     /// A new project with its General Data accepted.

@@ -48,6 +48,76 @@ TEST(Eyes, EveryPlaceThatTakesTheFocusIsHeardByWordsOfTheSheet)
     }
 }
 
+/// Everything that is heard below a thing, and where by the names on the way.
+void Listen(QAccessibleInterface& thing, const QString& way, const std::set<QString>& inCode, std::string& wrong)
+{
+    for (int i = 0; i < thing.childCount(); ++i) {
+        QAccessibleInterface* part = thing.child(i);
+        if (!part) continue;
+        const QString name = part->text(QAccessible::Name), words = part->text(QAccessible::Description);
+        for (const QString& heard : {name, words})
+            if (inCode.contains(heard) || heard.startsWith("qt_")) wrong += (way + " / " + heard).toStdString() + "\n";
+        if (!part->tableCellInterface()) Listen(*part, way + " / " + name, inCode, wrong);
+    }
+}
+
+TEST(Eyes, NoNameOfProgrammersIsHeardInAnyWindow)
+{
+    DesktopFixture running;
+    std::set<QString> inCode;
+    const auto listenTo = [&](const std::string& form) {
+        inCode.merge(NamesInCode(running.FormNamed(form)));
+        inCode.insert(QString::fromStdString(form));
+        std::string wrong;
+        Listen(*QAccessible::queryAccessibleInterface(running.Window(form)), QString::fromStdString(form), inCode,
+               wrong);
+        EXPECT_EQ(wrong, "");
+    };
+    listenTo("mdiBack");
+    running.MakeProject();
+    for (const laboratory::Description* test : laboratory::Tests()) {
+        running.OpenSheet(std::string(test->menu) + "1");
+        Form& form = *running.program.ShownForms().back().form;
+        auto& tabs = form.Get<TabControl>("SSTData");
+        for (int tab = 0; tab < tabs.Count(); ++tab) {
+            tabs.SetTabEnabled(tab, true);
+            tabs.SetTab(tab);
+            listenTo(form.Name());
+        }
+    }
+    for (const auto& [entry, form] :
+         {std::pair{"mnuSum", "frmSummary"}, {"mnuLogoT", "frmPreferences"}, {"mnuAbout", "frmAbout"}}) {
+        running.PressMenu(entry);
+        listenTo(form);
+        running.program.Unload(form);
+    }
+}
+
+TEST(Eyes, ATextThatAScreenReaderWritesIsTaken)
+{
+    DesktopFixture running;
+    running.MakeProject();
+    running.OpenSheet("mnuStd1");
+    Form& sheet = running.FormNamed("frmCompaction");
+    for (const char* control : {"txtDia", "cboTest"}) {
+        auto* view = running.Widget("frmCompaction", control);
+        auto* box = qobject_cast<QLineEdit*>(view) ? view : view->findChild<QLineEdit*>();
+        QAccessible::queryAccessibleInterface(box)->setText(QAccessible::Value, "10.16");
+        EXPECT_EQ(sheet.Get<TextControl>(control).Text(), "10.16") << control;
+    }
+}
+
+TEST(Eyes, ColumnsWithOneHeadAreHeardApart)
+{
+    DesktopFixture running;
+    running.MakeProject();
+    running.OpenSheet("mnuCBR1");
+    auto* grid = running.Widget<QTableView>("frmCBR", "MSHWater");
+    QAccessibleTableInterface* table = QAccessible::queryAccessibleInterface(grid)->tableInterface();
+    EXPECT_EQ(table->columnDescription(2).toStdString(), "Before Soaking 2");
+    EXPECT_EQ(table->columnDescription(4).toStdString(), "After Soaking 1");
+}
+
 TEST(Eyes, ACellIsHeardByRowTrialTextAndKind)
 {
     DesktopFixture running;

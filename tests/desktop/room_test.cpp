@@ -3,12 +3,15 @@
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QDateEdit>
+#include <QDir>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTabWidget>
 #include <QTableView>
+#include <sstream>
 
 #include <gtest/gtest.h>
 
@@ -16,6 +19,9 @@
 #include "desktop/desktop_fixture.h"
 #include "desktop/grid_view.h"
 #include "laboratory/tests.h"
+#include "script/script_program.h"
+#include "source_folder.h"
+#include "support/road_project.h"
 
 namespace terravane {
 namespace {
@@ -121,6 +127,67 @@ TEST_P(Room, NoControlIsCutOrLiesOnAnother)
         }
         ExpectWhole(*running.Widget<QWidget>(form.Name(), "fraGeneral"), std::string(test->key) + ", General Data");
     }
+}
+
+/// The pages of the sheet that is open, one by one.
+void ExpectPagesWhole(DesktopFixture& running, const laboratory::Description& test, const std::string& state)
+{
+    Form& form = *running.program.ShownForms().back().form;
+    auto& tabs = form.Get<TabControl>("SSTData");
+    auto* view = static_cast<QTabWidget*>(running.Widget(form.Name(), "SSTData"));
+    for (int tab = 0; tab < tabs.Count(); ++tab) {
+        tabs.SetTabEnabled(tab, true);
+        tabs.SetTab(tab);
+        QTest::qWait(10);
+        auto& page = *static_cast<QScrollArea*>(view->currentWidget());
+        ExpectWhole(*page.widget(), std::string(test.key) + ", " + tabs.TabCaption(tab) + ", " + state);
+    }
+}
+
+/// The sample's project, typed by its scripts and opened as a user opens a file.
+void OpenSample(DesktopFixture& running)
+{
+    ScriptOptions options;
+    for (const auto& script : support::RoadScripts(kSourceFolder)) options.files.push_back(script.string());
+    const QString before = QDir::currentPath();
+    QDir::setCurrent(running.home.path());
+    std::istringstream nothing;
+    std::ostringstream told;
+    RunScripts(options, nothing, told, told);
+    QDir::setCurrent(before);
+    running.surroundings.files.push_back(running.PathOf("TRVN_road.mdb"));
+    running.PressMenu("mnuOpen");
+}
+
+TEST_P(Room, NothingIsCutInASheetThatIsFilledWorkedOutOrFailed)
+{
+    DesktopFixture running;
+    OpenSample(running);
+    running.Window("mdiBack")->setFixedSize(GetParam());
+    for (const laboratory::Description* test : laboratory::Tests()) {
+        running.OpenSheet(std::string(test->menu) + "1");
+        Form& form = *running.program.ShownForms().back().form;
+        ExpectPagesWhole(running, *test, "filled");
+        for (const std::string_view command : test->sheet.commands) form.Get<CommandButton>(command).Press();
+        ExpectPagesWhole(running, *test, "worked out");
+        running.program.notices.Tell({.kind = NoticeKind::Failure,
+                                      .sentence = std::string(200, 'W'),
+                                      .place = {form.Name(), "SSTData"},
+                                      .subject = form.Name() + ".cmdCal_Click"});
+        ExpectPagesWhole(running, *test, "failed");
+    }
+}
+
+TEST(Room, TheListOfSievesShowsTwelveAndNoHalfRow)
+{
+    DesktopFixture running;
+    running.MakeProject();
+    running.Window("mdiBack")->setFixedSize(kUsual);
+    running.OpenSheet("mnuSie1");
+    QTest::qWait(20);
+    const auto* list = running.Widget<QListWidget>("frmSieve", "lstSieve");
+    EXPECT_EQ(list->viewport()->height() % list->sizeHintForRow(0), 0);
+    EXPECT_GE(list->viewport()->height() / list->sizeHintForRow(0), 12);
 }
 
 TEST(Room, TheProjectAndTheMaterialAreAlwaysInSight)

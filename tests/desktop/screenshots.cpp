@@ -1,13 +1,19 @@
-// Pictures of every window in its states, to be looked at: screenshots FOLDER. The size of the screen and the scale are
-// the platform's (Xvfb, QT_SCALE_FACTOR); tools/screenshots runs it at each.
+// Pictures of every window in its states, to be looked at: screenshots FOLDER [--palette KEY] [--text PERCENT]. The
+// size of the screen and the scale are the platform's (Xvfb, QT_SCALE_FACTOR); tools/screenshots runs it at each.
+#include <QDir>
 #include <QPushButton>
 #include <QScreen>
 #include <QToolButton>
 #include <cstdio>
+#include <sstream>
 #include <utility>
 
+#include "desktop/appearance.h"
 #include "desktop/desktop_fixture.h"
 #include "laboratory/tests.h"
+#include "script/script_program.h"
+#include "source_folder.h"
+#include "support/road_project.h"
 
 namespace {
 
@@ -123,6 +129,33 @@ void EmptySheetPictures(DesktopFixture& running, const QString& folder)
     }
 }
 
+/// Every sheet and tab of the sample's soil, as it is loaded and when all its commands were pressed.
+void RoadPictures(DesktopFixture& running, const QString& folder)
+{
+    ScriptOptions options;
+    for (const auto& script : support::RoadScripts(kSourceFolder)) options.files.push_back(script.string());
+    QDir(running.home.path()).mkdir("sample");  // another project stands beside it
+    QDir::setCurrent(running.home.path() + "/sample");
+    std::istringstream nothing;
+    std::ostringstream told;
+    RunScripts(options, nothing, told, told);
+    running.surroundings.files.push_back(running.PathOf("sample/TRVN_road.mdb"));
+    running.PressMenu("mnuOpen");
+    for (const laboratory::Description* test : laboratory::Tests()) {
+        running.OpenSheet(std::string(test->menu) + "1");
+        Form& sheet = *running.program.ShownForms().back().form;
+        auto& tabs = sheet.Get<TabControl>("SSTData");
+        for (const char* state : {"loaded", "calculated"}) {
+            for (int tab = 0; tab < tabs.Count(); ++tab) {
+                tabs.SetTabEnabled(tab, true);
+                tabs.SetTab(tab);
+                Keep(folder, (std::string(test->key) + "_" + std::to_string(tab) + "_" + state).c_str());
+            }
+            for (const std::string_view command : test->sheet.commands) sheet.Get<CommandButton>(command).Press();
+        }
+    }
+}
+
 /// The bar after a command that failed, over the sheet that keeps what was typed.
 void ErrorPicture(DesktopFixture& running, const QString& folder)
 {
@@ -146,6 +179,7 @@ int main(int argc, char** argv)
     if (argc < 2) return 2;
     const QString folder = argv[1];
     DesktopFixture running;
+    RestoreAppearance(running.program, QApplication::arguments());
     FillScreen(running.Window("mdiBack"));
     Keep(folder, "frame_new");
     running.surroundings.files.push_back(running.PathOf("road.mdb"));
@@ -165,6 +199,7 @@ int main(int argc, char** argv)
     EmptySheetPictures(running, folder);
     ResultsPictures(running, folder);
     PreferencesPictures(running, folder);
+    RoadPictures(running, folder);
     running.PressMenu("mnuAbout");
     Keep(folder, "about");
     return 0;

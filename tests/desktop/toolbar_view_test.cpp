@@ -37,9 +37,9 @@ TEST(ToolbarView, ShowsTheIconThatTheControlTellsWhateverTheCaptionSays)
         if (!button->text().isEmpty()) icons.push_back(button->icon());
     ASSERT_EQ(icons.size(), 4U);
     EXPECT_TRUE(icons[0].isNull()) << "A caption that begins with \"Save\" is no icon.";
-    EXPECT_EQ(KeyOf(icons[1]), KeyOf(looks::StandardIcon(QStyle::SP_DialogSaveButton)));
-    EXPECT_EQ(KeyOf(icons[2]), KeyOf(looks::StandardIcon(QStyle::SP_FileDialogDetailedView)));
-    EXPECT_EQ(KeyOf(icons[3]), KeyOf(looks::StandardIcon(QStyle::SP_DialogCloseButton)));
+    EXPECT_EQ(KeyOf(icons[1]), KeyOf(looks::SignIcon(looks::Sign::Save)));
+    EXPECT_EQ(KeyOf(icons[2]), KeyOf(looks::SignIcon(looks::Sign::Page)));
+    EXPECT_EQ(KeyOf(icons[3]), KeyOf(looks::SignIcon(looks::Sign::Cross)));
 }
 
 }  // namespace

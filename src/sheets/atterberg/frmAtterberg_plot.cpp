@@ -58,6 +58,7 @@ void frmAtterberg::cmdPlot_Click()
 
     const StraightLine curve = FitFlowCurve();
     DrawFlowCurve(scale, curve);
+    TellAxes(picGraph, scale, kAxes, {kFewestBlows, kMostBlows, true}, {0, kTen});
     DrawLimit(scale, curve.At(DecimalLogarithm(kLimitBlows)));
     ReadLimits(curve);
     PostLimits();

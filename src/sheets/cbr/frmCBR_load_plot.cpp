@@ -84,6 +84,7 @@ void frmCBR::DrawLoadAxes(const LoadScale& scale)
     stresses_.clear();
     DrawRisingAxis(picGraph, picgraph1, scale.stress, GridOfLoads());
     DrawPenetrationTicks(scale);
+    TellAxes(picgraph1, scale, kAxes, {0, kTickDistance}, {0, scale.stress.step});
     DrawKey(picGraph, (picgraph1.Top - picGraph.TextHeight("M")) / 2, kKey);
 }
 

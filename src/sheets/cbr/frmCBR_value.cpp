@@ -167,6 +167,7 @@ void frmCBR::DrawDensityAxes(const DensityScale& scale)
     ClearPlot(picGraph2, picGraph3, kValueAxes);
     DrawRisingAxis(picGraph2, picGraph3, scale.ratio, WithinMargins(picGraph3));
     DrawDensityTicks(scale);
+    TellAxes(picGraph3, scale, kValueAxes, {scale.first, scale.last}, {0, scale.ratio.step});
     DrawKey(picGraph2, (picGraph3.Top - picGraph2.TextHeight("M")) / 2, kValueKey);
 }
 

@@ -64,6 +64,8 @@ void frmCompaction::cmdOMC_Click()
     DrawTicks(scale);
 
     const CompactionPeak peak = optInt.Value() ? DrawSpline(scale) : DrawFit(scale, points);
+    TellAxes(picGraph, scale, kAxes, {scale.firstWater, scale.firstWater + 1},
+             {scale.lowestDensity, scale.TickDensity(1)});
     txtOMC.SetText(Shown(laboratory::kOptimumMoisture.is, peak.water));
     txtDmax.SetText(Shown(laboratory::kMaximumDryDensity.is, peak.density));
     DrawGuideLines(picGraph, scale.X(peak.water), scale.Y(peak.density), scale.height);

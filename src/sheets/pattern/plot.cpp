@@ -111,6 +111,7 @@ void ClearPlot(PictureBox& frame, PictureBox& plot, const AxisTitles& titles)
 {
     frame.Cls();
     plot.Cls();
+    plot.Axes.reset();
     PrintAxisTitles(frame, plot, titles);
 }
 

@@ -2,8 +2,10 @@
 /// scale: how a reading maps to the plot is the sheet's. Lengths are twips.
 #pragma once
 
+#include <cmath>
 #include <optional>
 #include <span>
+#include <string>
 #include <string_view>
 #include <utility>
 
@@ -109,6 +111,24 @@ void DrawOutline(PictureBox& frame, const PictureBox& plot);
 
 /// Error 7 for a curve or an axis of more than kMostSteps steps.
 void RefuseEndless(double steps);
+
+/// Two values of an axis, by which a view finds the others.
+struct AxisSample {
+    double first, last;
+    bool isLogarithmic = false;
+};
+
+/// Tells views what the places of the plot mean, by the scale that the sheet draws with. A scale without a range tells
+/// nothing.
+template <class Scale>
+void TellAxes(PictureBox& plot, const Scale& scale, const AxisTitles& titles, AxisSample across, AxisSample upwards)
+{
+    const auto x = AxisThrough(std::string(titles.below), across.first, scale.X(across.first), across.last,
+                               scale.X(across.last), across.isLogarithmic);
+    const auto y = AxisThrough(std::string(titles.beside), upwards.first, scale.Y(upwards.first), upwards.last,
+                               scale.Y(upwards.last), upwards.isLogarithmic);
+    if (std::isfinite(x.perTwip) && std::isfinite(y.perTwip)) plot.Axes = {x, y};
+}
 
 /// Does something when its scope ends, however it ends: what stands over the curves is drawn last, also where a command
 /// failed half way and shows what it came to.

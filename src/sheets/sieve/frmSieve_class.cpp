@@ -116,6 +116,7 @@ void frmSieve::DrawPlasticityChart(const std::optional<Limits>& sample)
 {
     picChart.Cls();
     picChart1.Cls();
+    picChart.Axes.reset();
     PrintAxisTitles(picChart1, picChart, {"Liquid Limit (%)", "Plasticity Index (%)", kAxisSize, kChartTitleLeft});
     DrawOutline(picChart1, picChart);
     DrawChartGrid();
@@ -162,6 +163,7 @@ void frmSieve::PrintZones()
 void frmSieve::MarkSample(const Limits& limits)
 {
     const ChartScale scale = ScaleOf(picChart);
+    TellAxes(picChart, scale, {"Liquid Limit (%)", "Plasticity Index (%)"}, {0, 100}, {0, 10});
     picChart.FillSolid = true;
     picChart.FillColor = kBlack;
     picChart.Circle(scale.X(limits.liquid), scale.Y(limits.PlasticityIndex()), kSampleRadius);

@@ -64,6 +64,7 @@ void frmSieve::DrawGrainSizeGrid()
     picGraph.Cls();
     picgraph1.Cls();
     ShownCurve = nullptr;
+    picGraph.Axes.reset();
     PrintAxisTitles(picgraph1, picGraph, {kSizeTitle, kPassingTitle, kAxisSize, kTitleLeft});
     DrawOutline(picgraph1, picGraph);
     const GrainSizeScale scale = Scale();
@@ -112,6 +113,7 @@ void frmSieve::MarkPoints()
 {
     const GrainSizeScale scale = Scale();
     picGraph.ForeColor = kBlue;
+    TellAxes(picGraph, scale, {kSizeTitle, kPassingTitle}, {1, 10, true}, {0, 100});
     picGraph.FillSolid = true;
     picGraph.FillColor = kPointColour;
     for (int row = 1; row <= kMostSieves; ++row) {

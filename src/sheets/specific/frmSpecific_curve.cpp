@@ -86,6 +86,8 @@ void frmSpecific::PlotCalibration()
     txtR.SetText(" " + Format(curve_.determination, kDeterminationMask));
     DrawCurve(scale, readings);
     DrawReadings(scale, readings);
+    TellAxes(picgraph1, scale, kAxes, {scale.temperature.low, scale.temperature.high},
+             {scale.mass.low, scale.mass.high});
 }
 
 /// The first row without a mass ends them.
