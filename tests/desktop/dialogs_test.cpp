@@ -3,7 +3,9 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPrinterInfo>
+#include <QPushButton>
 #include <QTimer>
 
 #include <gtest/gtest.h>
@@ -55,6 +57,20 @@ TEST_F(Dialogs, ANewProjectTypedWithoutAnEndingIsAnMdbFile)
 {
     EXPECT_EQ(NewFile("road"), PathOf("road.mdb"));
     EXPECT_EQ(NewFile("road.mdb"), PathOf("road.mdb"));
+}
+
+TEST_F(Dialogs, AQuestionIsAnsweredByTheButtonThatIsPressed)
+{
+    const auto answer = [this](MessageButtons buttons, QMessageBox::StandardButton pressed) {
+        QTimer::singleShot(kLook, [pressed] {
+            qobject_cast<QMessageBox*>(QApplication::activeModalWidget())->button(pressed)->click();
+        });
+        return surroundings.Show({.text = "Replace?", .buttons = buttons});
+    };
+    EXPECT_EQ(answer(MessageButtons::YesNo, QMessageBox::Yes), MessageAnswer::Yes);
+    EXPECT_EQ(answer(MessageButtons::YesNo, QMessageBox::No), MessageAnswer::No);
+    EXPECT_EQ(answer(MessageButtons::OkCancel, QMessageBox::Ok), MessageAnswer::Ok);
+    EXPECT_EQ(answer(MessageButtons::OkCancel, QMessageBox::Cancel), MessageAnswer::Cancel);
 }
 
 TEST_F(Dialogs, WhereNoPrinterIsThePagesGoIntoAPdf)

@@ -110,6 +110,29 @@ TEST(FrameWindow, KeepsItsTitleWhenASheetFillsIt)
     EXPECT_EQ(running.Window("frmCompaction")->windowTitle(), "Compaction Test");
 }
 
+TEST(FrameWindow, EnterAcceptsGeneralDataFromEachOfItsBoxes)
+{
+    DesktopFixture running;
+    running.surroundings.files = {running.PathOf("road.mdb")};
+    running.PressMenu("mnuNew");
+    auto* location = running.Widget<QLineEdit>("frmProject", "txtLocation");
+    location->setFocus();
+    QTest::keyClick(location, Qt::Key_Return);
+    EXPECT_FALSE(running.program.Loaded("frmProject"));
+}
+
+TEST(FrameWindow, TheFileMenuHasNoEmptyLine)
+{
+    DesktopFixture running;
+    const auto shown = [&running](const char* entry) {
+        return running.Window("mdiBack")->findChild<QAction*>(entry)->isVisible();
+    };
+    EXPECT_TRUE(shown("mnuOpen"));
+    EXPECT_FALSE(shown("mnuRecent")) << "No file was opened yet.";
+    running.MakeProject();
+    EXPECT_TRUE(shown("mnuRecent"));
+}
+
 TEST(FrameWindow, EscapeClosesGeneralDataOnlyWhileNothingIsTyped)
 {
     DesktopFixture running;

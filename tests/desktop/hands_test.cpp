@@ -163,6 +163,30 @@ TEST_F(Hands, AfterEscADigitOrF2OrEnterOpensTheCell)
     EXPECT_TRUE(grid->EditorBox()->isVisible());
 }
 
+TEST_F(Hands, ACellsBoxGoesWhenAnotherPlaceTakesTheFocus)
+{
+    Open("mnuStd1");
+    GridView* grid = Grid("MSHWt");
+    grid->Grid().PressMouse(MouseButton::Left, 2, 3);
+    ASSERT_TRUE(grid->EditorBox()->isVisible());
+    running.Widget("frmCompaction", "txtDia")->setFocus();
+    EXPECT_FALSE(grid->EditorBox()->isVisible());
+}
+
+TEST_F(Hands, AKeyWithControlLeavesTheCellOpen)
+{
+    Open("mnuStd1");
+    GridView* grid = Grid("MSHWt");
+    grid->Grid().PressMouse(MouseButton::Left, 2, 3);
+    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Return, Qt::Key_Escape}) {
+        keys.Press(key, Qt::ControlModifier);
+        EXPECT_EQ(grid->Grid().Row(), 2);
+        EXPECT_TRUE(grid->EditorBox()->isVisible());
+    }
+    keys.Press(Qt::Key_Down);
+    EXPECT_EQ(grid->Grid().Row(), 3);
+}
+
 TEST_F(Hands, EnterPressesTheButtonThatHasTheFocus)
 {
     Open("mnuStd1");

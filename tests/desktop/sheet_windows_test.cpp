@@ -1,11 +1,15 @@
 // Every sheet's window, worked with keys and mouse: the readings of the sheet's report script are typed into the cells
 // and boxes on the screen, the buttons are clicked, and the results are those that the script gets without a window.
+#include <QAction>
+#include <QDateEdit>
 #include <QFile>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QRadioButton>
 #include <QScrollBar>
+#include <QStatusBar>
 #include <QTabWidget>
 #include <QToolButton>
 #include <algorithm>
@@ -14,6 +18,7 @@
 
 #include <gtest/gtest.h>
 
+#include "controls/picture_box.h"
 #include "desktop/desktop_fixture.h"
 #include "desktop/grid_view.h"
 #include "laboratory/tests.h"
@@ -199,6 +204,43 @@ TEST(TextBoxes, ThaiStandsOnTheLineOfLatin)
     EXPECT_EQ(LowestInk(*box), latin) << "The Thai letter stands higher or lower than the Latin one.";
 }
 
+TEST(SheetWindow, ADateStandsWithItsDayFirst)
+{
+    DesktopFixture running;
+    running.MakeProject();
+    running.OpenSheet("mnuStd1");
+    EXPECT_EQ(running.Widget<QDateEdit>("frmCompaction", "DTPDate")->text(), "21/11/2026");
+}
+
+TEST(SheetWindow, TheTimeStandsInTheStatusLineFromTheStart)
+{
+    DesktopFixture running;
+    running.MakeProject();
+    running.OpenSheet("mnuStd1");
+    const auto panels = running.Widget<QStatusBar>("frmCompaction", "stbDes")->findChildren<QLabel*>();
+    EXPECT_EQ(panels.back()->text(), "12 : 00 : 00");
+}
+
+// The frame of the tick labels is painted up to its axis, 900 twips from its left, the plot over its whole.
+TEST(CompactionWindow, TheCurveBeginsAtItsAxis)
+{
+    DesktopFixture running;
+    running.MakeProject();
+    running.OpenSheet("mnuStd1");
+    auto& frame = running.FormNamed("frmCompaction").Get<PictureBox>("picgraph1");
+    auto& plot = running.FormNamed("frmCompaction").Get<PictureBox>("picGraph");
+    frame.FilledBox(0, 0, 900, frame.Height, {0, 0, 255});
+    plot.FilledBox(0, 0, plot.Width, plot.Height, {255, 0, 0});
+    const QImage seen = running.Widget("frmCompaction", "picGraph")->grab().toImage();
+    const auto is = [&seen](int x, QRgb colour) { return seen.pixel(x, seen.height() / 2) == colour; };
+    int axis = seen.width() - 1, curve = 0;  // the last column before the axis, the first of the plot
+    while (axis > 0 && !is(axis, 0xFF0000FF)) --axis;
+    while (curve < seen.width() && !is(curve, 0xFFFF0000)) ++curve;
+    EXPECT_GT(axis, 0);
+    EXPECT_GE(curve, axis);
+    EXPECT_LE(curve - axis, 2) << "Smoothing leaves one column of both.";
+}
+
 /// A choice that renames a frame shows in its window.
 TEST(DensityWindow, TheSummaryNamesTheChosenCompactionTest)
 {
@@ -209,6 +251,18 @@ TEST(DensityWindow, TheSummaryNamesTheChosenCompactionTest)
     EXPECT_EQ(frame->title().toStdString(), "Summary");
     Hands(running, "frmDensity").Do({"click", "optMod"});
     EXPECT_EQ(frame->title().toStdString(), "Summary (Percent Compaction for Modified Compaction)");
+}
+
+TEST(DensityWindow, UndoneTheFirstChoiceLeavesNeitherTestChosen)
+{
+    DesktopFixture running;
+    running.MakeProject();
+    running.OpenSheet("mnuDen1");
+    Hands(running, "frmDensity").Do({"click", "optMod"});
+    const auto* choice = running.Widget<QRadioButton>("frmDensity", "optMod");
+    ASSERT_TRUE(choice->isChecked());
+    running.Window("mdiBack")->findChild<QAction*>("undo")->trigger();
+    EXPECT_FALSE(choice->isChecked());
 }
 
 TEST(CbrWindow, TheRingConstantHasItsUnitBehindIt)
