@@ -226,6 +226,15 @@ class Stale(Batch):
         report("--post", "-o", self.folder / "out", self.job)
         self.assertIn("all results follow", report("--check", self.job))
 
+    def test_post_keeps_a_result_that_the_readings_give_no_more(self):
+        self.script("answer TRVN_job.mdb\nmenu mnuOpen\nmenu mnuSpe1\ntype MSHSpecific 1 1 0\ntool tblMenu 1\n")
+        report("--csv", self.folder / "before.csv", "--as-saved", self.job)
+        report("--post", "-o", self.folder / "out", "--tests", "spc", self.job)
+        report("--csv", self.folder / "posted.csv", "--as-saved", self.job)
+        before, posted = (rows(self.folder / name)[0]["sum_Gs"] for name in ("before.csv", "posted.csv"))
+        self.assertNotEqual(before, "")
+        self.assertEqual(posted, before)
+
     def test_a_read_only_project_is_not_posted_to_but_printed(self):
         self.edit("tool tblMenu 1")
         self.job.chmod(0o444)

@@ -26,7 +26,7 @@ TEST(PlainNumber, HasPlainDigitsAndNoSeparatorsWhereItIsANumber)
     EXPECT_EQ(PlainNumber("-12,345,678"), "-12345678");
     EXPECT_EQ(PlainNumber("๑,๔๘๔"), "1484");
     EXPECT_EQ(PlainNumber("1\u00A0484"), "1484");
-    for (const char* other : {"กม. ๑๒", "1,5", "1,48", "12,3456", "1,234 567", ",123", "B-7", ""})
+    for (const char* other : {"กม. ๑๒", "1,5", "1,48", "1234,567", "12,3456", "1,234 567", ",123", "B-7", ""})
         EXPECT_EQ(PlainNumber(other), other);
 }
 
@@ -66,6 +66,16 @@ TEST(Paste, OfABlockThatDoesNotFitChangesNothingAndSaysWhy)
         EXPECT_EQ(bench.program->notices.Current()->kind, NoticeKind::Attention);
     }
     EXPECT_EQ(bench.journal->Undoable(), 0u);
+}
+
+TEST(Paste, TakesATextThatFillsItsColumn)
+{
+    JournalBench bench;
+    bench.Open();
+    auto& grid = bench.Sheet().Get<TextGrid>("MSHWt");
+    EXPECT_EQ(bench.journal->Paste(grid, 1, 1, "CAN-1").misfit, "");
+    EXPECT_EQ(bench.Cell("MSHWt", 1, 1), "CAN-1");
+    EXPECT_NE(bench.journal->Paste(grid, 1, 1, "CAN-12").misfit, "");
 }
 
 // Behind the texts of a spreadsheet come empty columns and rows.

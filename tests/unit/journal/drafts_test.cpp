@@ -129,6 +129,17 @@ TEST(Drafts, GoAwayAfterThirtyDays)
     EXPECT_EQ(bench.Drafts(), DraftBench::Strings{});
 }
 
+TEST(Drafts, OfAnotherDayAreOfferedWithIt)
+{
+    DraftBench bench;
+    bench.Open();
+    bench.Type("txtSoil", "Red");
+    bench.ask.now += std::chrono::days(1);
+    bench.Open();
+    ASSERT_TRUE(bench.Offer());
+    EXPECT_EQ(bench.Offer()->sentence, "Readings of 2026-11-21 12:00 were typed here and not saved.");
+}
+
 TEST(Drafts, ThatCantBeWrittenCostNoSheet)
 {
     DraftBench bench;

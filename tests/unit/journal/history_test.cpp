@@ -149,6 +149,20 @@ TEST(History, MendsATornLineAndTheLinesThatAreMissing)
     }
 }
 
+TEST(History, TellsOfATornLineOnce)
+{
+    HistoryBench bench;
+    bench.Open();
+    bench.Type("MSHWt", 2, 1, "85.3");
+    bench.Save();
+    bench.Write(bench.Text() + "torn");
+    for (const char* text : {"86", "87"}) {
+        bench.Type("MSHWt", 2, 1, text);
+        bench.Save();
+    }
+    EXPECT_EQ(std::ranges::count(bench.Read().lines, LineKind::Mended, &HistoryLine::kind), 1);
+}
+
 // Whatever step of a save and of its history fails, the next save leaves both whole and in step.
 TEST(History, OutlivesEveryStepThatFails)
 {

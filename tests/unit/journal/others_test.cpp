@@ -74,6 +74,18 @@ TEST(AnotherHand, IsNamedTextByTextWhereASaveReplacedIt)
     EXPECT_FALSE(bench.Told("Another hand"));
 }
 
+TEST(AnotherHand, IsNamedByThreeTextsAndTheNumberOfTheOthers)
+{
+    OthersBench bench;
+    bench.ByOthers("UPDATE STDSOIL Set std_wcanw='99',std_wcand='88',std_wcan='77',std_can='X' Where std_ID =' 1'");
+    bench.Save();
+    ASSERT_TRUE(bench.Told("Saved over another hand"));
+    const Notice& told = *bench.Told("Saved over another hand");
+    EXPECT_EQ(std::ranges::count(told.sentence, ';'), 3) << told.sentence;
+    EXPECT_TRUE(told.sentence.ends_with("; and 1 more.")) << told.sentence;
+    EXPECT_EQ(std::ranges::count(told.details, '\n'), 4) << told.details;
+}
+
 TEST(AnotherHand, IsNotOurOwn)
 {
     OthersBench bench;

@@ -109,6 +109,21 @@ TEST(Undo, BeginsAnewWithEverySheet)
     EXPECT_EQ(bench.journal->Undoable(), 0u);
 }
 
+TEST(Undo, ChangesNothingUnderAPreview)
+{
+    JournalBench bench;
+    bench.Open();
+    bench.Type("MSHWt", 2, 1, "85.3");
+    Form& sheet = bench.Sheet();
+    sheet.Get<CommandButton>("cmdView").SetEnabled(true);
+    bench.Press("cmdView");
+    ASSERT_TRUE(bench.program->Loaded("frmPreview"));
+    EXPECT_FALSE(bench.journal->Undo());
+    EXPECT_EQ(bench.Cell("MSHWt", 2, 1), "85.30");
+    bench.program->Unload("frmPreview");
+    EXPECT_TRUE(bench.journal->Undo());
+}
+
 TEST(Undo, ShowsInTheEditorWhatStandsInItsCellAgain)
 {
     JournalBench bench;

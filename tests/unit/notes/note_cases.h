@@ -156,6 +156,12 @@ inline std::vector<NoteCase> NoteCases()
          "MSHSieve 1 4",
          "194",
          "194.1"},
+        {"sieve.overloaded",
+         SieSoil,
+         {{"MSHSieve 1 0", "#4"}, {"MSHSieve 1 4", "200"}},
+         "MSHSieve 1 1",
+         "4.75",
+         "4.74"},
         // 2.5 * 4.75 * 0.0277 * 1000 = 328.9 g
         {"sieve.overloaded-coarse",
          SieSoil,
@@ -359,6 +365,13 @@ inline std::vector<NoteCase> NoteCases()
          "sql",
          "UPDATE CBRSOIL Set cbr_mcan='A1',cbr_wcan='20.05' Where cbr_ID=' 2'",
          "UPDATE CBRSOIL Set cbr_mcan='A1',cbr_wcan='20.06' Where cbr_ID=' 2'"},
+        // What the file keeps of the open sheet itself is what is being corrected.
+        {"water.two-tares",
+         StdSoil,
+         {{"MSHWt 1 1", "A1"}, {"MSHWt 4 1", "20"}},
+         "sql",
+         "UPDATE STDSOIL Set std_can='A1',std_wcan='30' Where std_ID=' 1'",
+         "UPDATE MODSOIL Set mod_can='A1',mod_wcan='30' Where mod_ID=' 1'"},
 
         {"text.read-otherwise", StdSoil, {}, "MSHWt 2 1", "45.5", "45,5"},
         {"text.read-otherwise", AttSoil, {}, "MSHLL 1 2", " 25 ", "๒๕"},
@@ -377,6 +390,12 @@ inline std::vector<NoteCase> NoteCases()
          "MSHSwell 4 0",
          "20/11/2026",
          "19/11/2026"},
+        {"dates.soaking-backwards",
+         CBRSoil,
+         {{"MSHSwell 3 0", "10/11/2026"}, {"MSHSwell 4 0", "20/11/2026"}},
+         "MSHSwell 5 0",
+         "20/11/2026",
+         "15/11/2026"},
     };
 }
 

@@ -35,6 +35,18 @@ TEST(NotesWatch, LooksAnewBehindEveryCommand)
     EXPECT_TRUE(watch.On("MSHDensity", 3, 1).empty());
 }
 
+TEST(NotesWatch, TellsTheWorstOfACellFirst)
+{
+    OpenSheet open(terravane::Test::SpcSoil);
+    NotesWatch watch(open.TheProgram());
+    open.Put("MSHSpecific 10 1", "3.60");
+    open.Sheet().RunEvent("frmSpecific.cmdCal_Click", [] {});
+    const auto told = watch.On("MSHSpecific", 10, 1);
+    ASSERT_EQ(told.size(), 2u);
+    EXPECT_EQ(told[0]->note.level, Level::Impossible);
+    EXPECT_EQ(told[1]->note.level, Level::Doubtful);
+}
+
 TEST(NotesWatch, TellsDoubtsWhenThePageIsLookedAt)
 {
     OpenSheet open(terravane::Test::StdSoil);
