@@ -34,7 +34,9 @@ def said(*command, folder=None):
     return told
 
 
-class PrintedJob(unittest.TestCase):
+class Job(unittest.TestCase):
+    """The samples' project, printed."""
+
     @classmethod
     def setUpClass(cls):
         cls.folder = pathlib.Path(tempfile.mkdtemp(prefix="terravane_archive_"))
@@ -54,6 +56,8 @@ class PrintedJob(unittest.TestCase):
         return [element["/Alt"].removeprefix("u:") for kind, element in archived_file.elements(path)
                 if kind == "/Figure"]
 
+
+class Tags(Job):
     def test_every_file_keeps_the_rules_of_tagged_files(self):
         for path in [self.job, *self.tests]:
             self.assertEqual(archived_file.faults(path), [], path.name)
@@ -70,13 +74,6 @@ class PrintedJob(unittest.TestCase):
         self.assertIn("neither tagged nor an artifact", found)
         self.assertIn("not numbered in a row", found)
         self.assertIn("which is not there", found)
-
-    def test_readers_find_nothing_to_complain_of(self):
-        for path in [self.job, *self.tests]:
-            self.assertIn("No syntax or stream encoding errors found", said("qpdf", "--check", path))
-            told = said("mutool", "draw", "-q", "-F", "text", "-o", os.devnull, path)
-            self.assertNotRegex(told.replace("warning: ICC support is not available", ""), "error|warning")
-            self.assertNotIn("Error", said("pdfinfo", "-struct-text", path))
 
     def test_plots_say_their_results(self):
         told = "\n".join(self.figures(self.job))
@@ -100,6 +97,17 @@ class PrintedJob(unittest.TestCase):
     def test_a_job_is_small(self):
         self.assertLessEqual(self.job.stat().st_size, MOST_OF_A_JOB)
         self.assertLessEqual(sum(path.stat().st_size for path in self.tests), MOST_OF_ALL)
+
+
+class Readers(Job):
+    """Other programs: too long for every day."""
+
+    def test_readers_find_nothing_to_complain_of(self):
+        for path in [self.job, *self.tests]:
+            self.assertIn("No syntax or stream encoding errors found", said("qpdf", "--check", path))
+            told = said("mutool", "draw", "-q", "-F", "text", "-o", os.devnull, path)
+            self.assertNotRegex(told.replace("warning: ICC support is not available", ""), "error|warning")
+            self.assertNotIn("Error", said("pdfinfo", "-struct-text", path))
 
     def converted(self, path, policy):
         """What Ghostscript has to say, and whether what it makes is fit for archives."""
