@@ -227,11 +227,13 @@ TEST(CompactionWindow, TheCurveBeginsAtItsAxis)
     DesktopFixture running;
     running.MakeProject();
     running.OpenSheet("mnuStd1");
+    auto& view = *running.Widget("frmCompaction", "picGraph");
     auto& frame = running.FormNamed("frmCompaction").Get<PictureBox>("picgraph1");
     auto& plot = running.FormNamed("frmCompaction").Get<PictureBox>("picGraph");
     frame.FilledBox(0, 0, 900, frame.Height, {0, 0, 255});
+    plot.Axes.emplace();  // a curve that waits for its readings is shown pale
     plot.FilledBox(0, 0, plot.Width, plot.Height, {255, 0, 0});
-    const QImage seen = running.Widget("frmCompaction", "picGraph")->grab().toImage();
+    const QImage seen = view.grab().toImage();
     const auto is = [&seen](int x, QRgb colour) { return seen.pixel(x, seen.height() / 2) == colour; };
     int axis = seen.width() - 1, curve = 0;  // the last column before the axis, the first of the plot
     while (axis > 0 && !is(axis, 0xFF0000FF)) --axis;
