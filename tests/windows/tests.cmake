@@ -1,8 +1,9 @@
 # The tests that ./test-windows runs: all of each layer, pages and properties, and the windows. What needs programs or
 # calls of the other system stays there.
-foreach(layer runtime laboratory numeric drawing controls jet program store journal sheets reports results app script batch render)
+foreach(layer runtime laboratory numeric drawing controls jet program store sheets reports results app script batch render)
   terravane_tests(${layer}_tests unit/${layer} LINKS terravane_${layer})
 endforeach()
+terravane_tests(journal_tests unit/journal LINKS terravane_app terravane_journal)
 terravane_tests(notes_tests unit/notes LINKS terravane_notes terravane_script)
 terravane_tests(page_tests pages LINKS terravane_script)
 terravane_tests(property_tests properties LINKS terravane_app terravane_journal)
