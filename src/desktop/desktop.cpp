@@ -32,6 +32,7 @@ Desktop::Desktop(Program& program, QtSurroundings& surroundings)
     : program_(program),
       surroundings_(surroundings),
       journal_(program),
+      watch_(program),
       following_(program.ShowForms([this] { Follow(); }))
 {
     journal_.KeepHistory();
@@ -117,7 +118,7 @@ QWidget* Desktop::MakeWindow(const Program::ShownForm& shown)
     switch (form.Window()) {
         case WindowKind::Frame:
             surroundings_.LeaveFailuresToNotices();
-            return new FrameWindow(program_, journal_, form);
+            return new FrameWindow(program_, journal_, watch_, form);
         case WindowKind::Splash:
             return new SplashWindow(form);
         case WindowKind::Preview:

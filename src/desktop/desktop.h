@@ -9,6 +9,7 @@
 #include "desktop/qt_surroundings.h"
 #include "desktop/windows.h"
 #include "journal/journal.h"
+#include "notes/notes_watch.h"
 #include "program/program.h"
 
 namespace terravane {
@@ -38,6 +39,7 @@ class Desktop {
     Program& program_;
     QtSurroundings& surroundings_;
     Journal journal_;
+    notes::NotesWatch watch_;  // outlives its windows, which go when their events are over
     QTimer syncing_;
     std::map<const Form*, QPointer<QWidget>> windows_;
     Subscription following_;

@@ -56,8 +56,8 @@ QFrame* MakeRule(QWidget* parent)
 
 }  // namespace
 
-FrameWindow::FrameWindow(Program& program, Journal& journal, Form& frame)
-    : program_(program), form_(frame), watch_(program)
+FrameWindow::FrameWindow(Program& program, Journal& journal, notes::NotesWatch& watch, Form& frame)
+    : program_(program), form_(frame), watch_(watch)
 {
     setWindowTitle(ToQt(frame.Caption()));
     setWindowIcon(looks::ProgramIcon());

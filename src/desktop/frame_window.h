@@ -27,7 +27,7 @@ class StartPage;
 
 class FrameWindow : public SettledWindow<QMainWindow> {
   public:
-    FrameWindow(Program& program, Journal& journal, Form& frame);
+    FrameWindow(Program& program, Journal& journal, notes::NotesWatch& watch, Form& frame);
 
     /// Puts a sheet into the area.
     QWidget* ShowSheet(Form& sheet);
@@ -53,7 +53,7 @@ class FrameWindow : public SettledWindow<QMainWindow> {
 
     Program& program_;
     Form& form_;
-    notes::NotesWatch watch_;
+    notes::NotesWatch& watch_;
     QMdiArea* area_ = nullptr;
     QHBoxLayout* tools_ = nullptr;
     QLabel* project_ = nullptr;

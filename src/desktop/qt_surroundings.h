@@ -28,7 +28,7 @@ class QtSurroundings : public Surroundings {
     void End() override;
 
     /// The next print command asks for a PDF file in place of a printer.
-    void PrintIntoFileNext() { intoFile_ = true; }
+    virtual void PrintIntoFileNext() { intoFile_ = true; }
 
     /// From here on windows show what the program's notices say of a failure.
     void LeaveFailuresToNotices() { failuresAreNotices_ = true; }

@@ -48,12 +48,14 @@ class AnsweringSurroundings : public QtSurroundings {
     }
 
     std::optional<PrintTarget> AskPrinter() override;
+    void PrintIntoFileNext() override { isForFile = true; }
     Moment Now() const override { return MakeMoment(2026, 11, 21, 12); }
     void OpenDocument(const std::string& path) override { opened = path; }
     void Fail(const std::string&, const RuntimeError& error) override { failures.push_back(error); }
     void End() override { ended = true; }
 
     std::string opened;
+    bool isForFile = false;  // whether the next print was meant for a file, printer or not
 
   private:
     FileSystem& disk_;

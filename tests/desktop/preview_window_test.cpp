@@ -121,6 +121,15 @@ TEST(PreviewWindow, AScrollBarWithNothingToScrollIsGrey)
     EXPECT_FALSE(view.isEnabled());
 }
 
+TEST(PreviewWindow, SaveAsPdfAsksForAFileAlsoWhereThereIsAPrinter)
+{
+    PreviewFixture running;
+    running.Preview().Get<Toolbar>("Toolbar1").Press(1);
+    EXPECT_FALSE(running.surroundings.isForFile);
+    running.Window("frmPreview")->findChild<QToolButton*>("savePdf")->click();
+    EXPECT_TRUE(running.surroundings.isForFile);
+}
+
 TEST(PreviewWindow, ACancelledPrintDialogPrintsNothing)
 {
     PreviewFixture running;

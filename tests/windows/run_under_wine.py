@@ -20,7 +20,7 @@ import time
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent.parent
 TODAY = "2026-11-21"
-UNIT_SECONDS = 300
+UNIT_SECONDS = 1200  # windows open slowly under wine
 CALL_SECONDS = 60
 MANY = 2000  # projects of the large folder
 KILLS = 20
